@@ -1,0 +1,76 @@
+#include "diagram/diversity_curve.h"
+
+#include <cmath>
+#include <string>
+
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "windows/main_window.h"
+
+std::int16_t TaxaSeen;
+std::int16_t DiversityLength;
+std::vector<std::int16_t> DiversityCurve;
+
+namespace {
+constexpr Colour kCurve{255, 0, 0};
+constexpr Colour kAxis{100, 100, 100};
+constexpr double kLongestCurve = 32767;  // past it the curve stands still, and counting goes on
+
+void RecordPoint() {
+    TaxaSeen = 0;
+    for (int slot = 1; slot <= kSlots; ++slot)
+        if (Val(frmMain.Text2[slot].Text()) != 0) ++TaxaSeen;
+    const double total = Val(frmMain.Text3[0].Text());
+    if (std::abs(total) <= kLongestCurve) DiversityLength = ToInteger(total);
+    if (DiversityLength < 0) return;  // reverse counts alone: there is nothing to hold
+    DiversityCurve.resize(static_cast<std::size_t>(DiversityLength) + 1);
+    DiversityCurve[0] = 0;
+    // The first count after a start or a change of sample has not passed the old-sample test yet: it leaves a gap.
+    if (!WarnOldSample) DiversityCurve[DiversityLength] = ToInteger(TaxaSeen * 10);
+}
+
+// The data fill the right and upper part, both axes from 0 to ten times their largest value; the rest is room for the labels.
+void SetScale() {
+    PictureBox& picture = frmMain.Picture2;
+    if (TaxaSeen > 0) {
+        picture.SetScaleTop(TaxaSeen * 11.7);
+        picture.SetScaleHeight(TaxaSeen * -14.0);
+    }
+    if (DiversityLength > 0) {
+        picture.SetScaleLeft(DiversityLength * -1.2);
+        picture.SetScaleWidth(DiversityLength * 12.0);
+    }
+}
+
+void DrawLabels() {
+    const double taxa = TaxaSeen;
+    const double total = DiversityLength;
+    const std::string taxa_text = NumberText(taxa);
+    const std::string total_text = NumberText(total);
+    const auto digits = [](const std::string& text) { return static_cast<double>(Length(text)); };
+    const auto print = [](double x, double y, const std::string& text) { frmMain.Picture2.Print(x, y, 7, text, kAxis); };
+    print(0, taxa * -0.2, "0");
+    print((9.9 - 0.2 * digits(total_text)) * total, taxa * -0.2, total_text);
+    print(total * -0.43, taxa * 0.9, "0");
+    print((-0.35 - 0.33 * digits(taxa_text)) * total, taxa * 10.9, taxa_text);
+}
+
+void DrawCurve() {
+    PictureBox& picture = frmMain.Picture2;
+    picture.Clear();
+    if (frmMain.Text3[0].Text() == "1") DiversityCurve[1] = 10;
+    for (int n = 1; n <= DiversityLength; ++n)
+        if (DiversityCurve[n] != 0 && DiversityCurve[n - 1] != 0)
+            picture.Line(10.0 * (n - 1), DiversityCurve[n - 1], 10.0 * n, DiversityCurve[n], kCurve);
+    picture.Line(0, 0, 10.0 * DiversityLength, 0, kAxis);
+    picture.Line(0, 0, 0, 10.0 * TaxaSeen, kAxis);
+    DrawLabels();
+}
+}  // namespace
+
+void DrawDiversityCurve() {
+    RecordPoint();
+    SetScale();
+    DrawCurve();
+}

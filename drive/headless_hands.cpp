@@ -1,0 +1,160 @@
+#include "drive/headless_hands.h"
+
+#include "events/program.h"
+#include "platform/run_event.h"
+#include "platform/text.h"
+#include "platform/user.h"
+
+namespace {
+
+constexpr int kBackspace = 8;
+constexpr int kEnter = 13;
+constexpr int kDelete = 46;
+
+Control* FocusNow() {
+    return ActiveWindow() ? ActiveWindow()->Focus() : nullptr;
+}
+
+void BreakLine(Control& box) {
+    if (const auto* text_box = dynamic_cast<TextBox*>(&box); text_box && text_box->multiline) InsertText(box, "\r\n");
+}
+
+void TypeInto(Control& box, int code, const std::string& character) {
+    if (code == kBackspace)
+        DeleteBackward(box);
+    else if (code == kDelete)
+        DeleteForward(box);
+    else if (code == kEnter)
+        BreakLine(box);
+    else if (!character.empty())
+        InsertText(box, character);
+}
+
+void SelectAll(Control& box) {
+    const int all = static_cast<int>(Length(box.State().text));
+    if (auto* text_box = dynamic_cast<TextBox*>(&box)) text_box->Select(0, all);
+    if (auto* combo_box = dynamic_cast<ComboBox*>(&box)) combo_box->Select(0, all);
+}
+
+Mouse AtCorner(const Control& control, MouseButton button) {
+    if (const auto* picture = dynamic_cast<const PictureBox*>(&control)) return {button, picture->ScaleLeft(), picture->ScaleTop()};
+    return {button, 0, 0};
+}
+
+}  // namespace
+
+void HeadlessHands::Run(const std::function<void()>& event) {
+    if (!has_ended_()) RunEvent(event);
+}
+
+void HeadlessHands::Start() {
+    Run(StartProgram);
+}
+
+void HeadlessHands::KeyDown(int code) {
+    Run([&] { PressKey(code); });
+}
+
+void HeadlessHands::KeyUp(int code) {
+    Run([&] { ReleaseKey(code); });
+}
+
+void HeadlessHands::Press(int code, const std::string& character) {
+    KeyDown(code);
+    Run([&] {
+        if (Control* const box = FocusNow()) TypeInto(*box, code, character);
+    });
+    KeyUp(code);
+}
+
+void HeadlessHands::FocusBox(Control& box) {
+    Click(box);
+}
+
+void HeadlessHands::SetBox(Control& box, const std::string& text) {
+    FocusBox(box);
+    Run([&] {
+        if (FocusNow() != &box || !CanReach(box)) return;
+        SelectAll(box);
+        InsertText(box, text);
+    });
+}
+
+void HeadlessHands::Paste(const std::string& text) {
+    Run([&] {
+        if (Control* const box = FocusNow()) InsertText(*box, text);
+    });
+}
+
+void HeadlessHands::Click(Control& control) {
+    Run([&] {
+        if (control.kind() != Kind::MenuItem) {
+            PressMouse(control, AtCorner(control, MouseButton::Left));
+            ReleaseMouse(control, AtCorner(control, MouseButton::Left));
+        }
+        FinishClick(control);
+    });
+}
+
+void HeadlessHands::DoubleClick(Control& control) {
+    Click(control);
+    Run([&] {
+        if (CanReach(control)) control.DoubleClick.Raise();
+    });
+}
+
+void HeadlessHands::RightClick(Control& control) {
+    MouseDown(control, MouseButton::Right, AtCorner(control, MouseButton::Right).x, AtCorner(control, MouseButton::Right).y);
+    MouseUp(control, MouseButton::Right, AtCorner(control, MouseButton::Right).x, AtCorner(control, MouseButton::Right).y);
+}
+
+void HeadlessHands::Choose(ComboBox& box, int item) {
+    Run([&] { ChooseItem(box, item); });
+}
+
+void HeadlessHands::PressTab(TabControl& tabs, int tab) {
+    Run([&] { ::PressTab(tabs, tab); });
+}
+
+void HeadlessHands::Slide(RangeControl& range, int value) {
+    Run([&] { SlideTo(range, value); });
+}
+
+void HeadlessHands::Spin(UpDown& arrows, bool up) {
+    Run([&] { ::Spin(arrows, up); });
+}
+
+void HeadlessHands::MouseDown(Control& control, MouseButton button, double x, double y) {
+    held_ = button;
+    Run([&] { PressMouse(control, {button, x, y}); });
+}
+
+void HeadlessHands::MouseUp(Control& control, MouseButton button, double x, double y) {
+    held_ = MouseButton::None;
+    Run([&] { ReleaseMouse(control, {button, x, y}); });
+}
+
+void HeadlessHands::MouseMove(Control& control, double x, double y) {
+    Run([&] { MoveMouse(control, {held_, x, y}); });
+}
+
+void HeadlessHands::MouseDownOnWindow(Window& window, MouseButton button, double x, double y) {
+    held_ = button;
+    Run([&] { PressMouseOnWindow(window, {button, x, y}); });
+}
+
+void HeadlessHands::MouseUpOnWindow(Window&, MouseButton, double, double) {
+    held_ = MouseButton::None;  // windows answer no release
+}
+
+void HeadlessHands::MouseMoveOverWindow(Window& window, double x, double y) {
+    Run([&] { ::MoveMouseOverWindow(window, {held_, x, y}); });
+}
+
+void HeadlessHands::Resize(Window& window, int width, int height) {
+    Run([&] { ResizeWindow(window, width, height); });
+}
+
+void HeadlessHands::Close(Window& window) {
+    Run([&] { CloseWindow(window); });
+}

@@ -1,0 +1,47 @@
+#include "drive/key_code.h"
+
+#include <optional>
+
+#include "drive/fault.h"
+#include "drive/words.h"
+#include "session/sheet_state.h"
+
+namespace drive {
+
+namespace {
+
+struct NamedRow {
+    const char* word;
+    int row;
+};
+constexpr NamedRow kNamedRows[] = {{"@shift1", 46}, {"@shift2", 47}, {"@undo", 49}, {"@save", 50}};
+constexpr int kHighestCode = 32767;
+
+std::optional<int> RowOf(const std::string& word) {
+    for (const NamedRow& named : kNamedRows)
+        if (word == named.word) return named.row;
+    const auto key = AsWhole(word.substr(1));
+    if (!key || *key < 1 || *key > kKeys) return std::nullopt;
+    return key;
+}
+
+int HeldCode(const std::string& word) {
+    const auto row = RowOf(word);
+    if (!row) throw ScriptFault("unknown key " + word + " (known: @1 to @45, @shift1, @shift2, @undo, @save)");
+    const double code = KeySettings[*row][1].Number();
+    if (code < 1 || code > kHighestCode) throw ScriptFault("the program holds no key settings that give " + word + " a code");
+    return static_cast<int>(code);
+}
+
+}  // namespace
+
+int KeyCode(const std::string& word) {
+    if (word.starts_with('@')) return HeldCode(word);
+    if (word.size() == 1 && word[0] >= 'A' && word[0] <= 'Z') return word[0];
+    const auto code = AsWhole(word);
+    if (!code || *code < 1 || *code > kHighestCode)
+        throw ScriptFault("unknown key " + word + " (a decimal code, a capital letter or @...)");
+    return *code;
+}
+
+}  // namespace drive

@@ -1,0 +1,30 @@
+// What a NAME of a script stands for: a window, a control, a property of one of them, or a shared variable.
+//
+//     frmMain    frmMain.Title    frmMain.Text1(7)    frmMain.Combo2.List(0)    Counts(5,1)
+#pragma once
+#include <optional>
+#include <string>
+
+#include "drive/fault.h"
+#include "platform/control.h"
+#include "platform/window.h"
+
+namespace drive {
+
+// Each raises ScriptFault, with a sentence, for a name that stands for nothing of the kind.
+std::string ValueOf(const std::string& name);
+Window& WindowOf(const std::string& name);
+Control& ControlOf(const std::string& name);
+bool IsWindowName(const std::string& name);
+
+// A control of one kind: "PictureBox".
+template <class T>
+T& ControlOf(const std::string& name, const char* kind) {
+    auto* const control = dynamic_cast<T*>(&ControlOf(name));
+    if (!control) throw ScriptFault(name + " is not a " + kind);
+    return *control;
+}
+
+std::string FullName(const Control& control);  // "frmMain.Text1(7)"
+
+}  // namespace drive

@@ -1,0 +1,6 @@
+// Joins the events of each window to their procedures: here a reader finds every way in.
+#pragma once
+
+void JoinMainEvents();
+void JoinNextEvents();
+void JoinInitialEvents();

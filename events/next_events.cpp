@@ -1,0 +1,42 @@
+#include "events/join.h"
+#include "files/next_sample.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "taxa/quotation_guard.h"
+#include "windows/next_window.h"
+
+namespace {
+void JoinNote() {
+    TextBox& note = frmNext.Text2;
+    note.GotFocus.Calls([&note] {
+        note.SetSelStart(static_cast<int>(Length(note.Text())));
+        EnterGuardedBox();
+    });
+    note.KeyDown.Calls(NoteEditKey);
+    note.Change.Calls([&note] { RefuseQuotationMark(note); });
+    note.DoubleClick.Calls(AddSample);  // a short cut for OK
+}
+
+void JoinParam(TextBox& value) {
+    value.GotFocus.Calls([&value] {
+        if (value.Text() == kEmpty) value.SetText("");
+        EnterGuardedBox();
+    });
+    value.LostFocus.Calls([&value] {
+        if (value.Text().empty()) value.SetText(kEmpty);
+    });
+    value.KeyDown.Calls(NoteEditKey);
+    value.Change.Calls([&value] { RefuseQuotationMark(value); });
+}
+}  // namespace
+
+void JoinNextEvents() {
+    frmNext.Loaded.Calls(LoadNextWindow);
+    frmNext.Activated.Calls(BringNextToFront);
+    frmNext.FrameClosed.Calls(CloseNextByFrame);
+    frmNext.Command4.Click.Calls(ShowSampleFields);
+    frmNext.Command1.Click.Calls(AcceptSample);
+    frmNext.Command3.Click.Calls(CancelSample);
+    JoinNote();
+    for (int p = 1; p <= kParams; ++p) JoinParam(frmNext.Text3[p]);
+}

@@ -1,0 +1,11 @@
+#include "events/program.h"
+
+#include "events/join.h"
+#include "windows/next_window.h"
+
+void StartProgram() {
+    JoinMainEvents();
+    JoinNextEvents();
+    JoinInitialEvents();
+    frmNext.Show();
+}

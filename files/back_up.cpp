@@ -1,0 +1,43 @@
+#include "files/back_up.h"
+
+#include <string>
+
+#include "files/sheet_rows.h"
+#include "platform/failure.h"
+#include "session/sheet_state.h"
+
+namespace {
+constexpr std::int16_t kMaster = 99;
+constexpr std::int16_t kRing = 10;
+
+std::string BackUpPath() {
+    const std::string name =
+        BackupSlot == kMaster ? "Master_back_up.csv" : "Auto_back_up_(" + std::to_string(BackupSlot) + ").csv";
+    return ProgramFile("References/Back up files/") + name;
+}
+
+// A back-up ends after the notes: its sums would only be read by a spreadsheet.
+void WriteBackUp() {
+    const auto file = services.files->OpenForWriting(BackUpPath());
+    CellWriter cells(*file);
+    StampHeader("Backed up (dd/mm/yyyy):");
+    WriteHeaderRows(cells);
+    for (int row = 1; row <= kSlots; ++row) WriteTaxonRow(cells, row, [](int slot, int sample) { return Any(Counts[slot][sample]); });
+    FillEmptyParams();
+    FillEmptyNotes();
+    WriteParamRows(cells);
+    WriteNoteRow(cells);
+    cells.Close();
+}
+}  // namespace
+
+void BackUpSheet() {
+    if (BackupSlot != kMaster) BackupSlot = static_cast<std::int16_t>((BackupSlot + 1) % kRing);
+    try {
+        TakeShownSample();
+        WriteBackUp();
+    } catch (const Failure&) {
+        return;
+    }
+    if (BackupSlot == kMaster) BackupSlot = -1;
+}

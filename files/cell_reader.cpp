@@ -1,0 +1,64 @@
+#include "files/cell_reader.h"
+
+#include <algorithm>
+
+#include "platform/failure.h"
+#include "platform/text.h"
+
+namespace {
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+bool IsLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
+bool IsSeparator(char c) {
+    return c == ',' || IsLineEnd(c);
+}
+
+std::size_t LengthOfBareCell(std::string_view rest) {
+    std::size_t length = 0;
+    while (length < rest.size() && !IsSeparator(rest[length])) ++length;
+    return length;
+}
+
+}  // namespace
+
+bool CellReader::AtEnd() {
+    SkipToCell();
+    return at_ == text_.size() && !after_comma_;
+}
+
+Any CellReader::Next() {
+    const Cell cell = Take();
+    if (!cell.quoted)
+        if (const auto number = AsNumber(cell.text)) return *number;
+    return cell.text;
+}
+
+std::string CellReader::NextText() {
+    return std::string(Take().text);
+}
+
+CellReader::Cell CellReader::Take() {
+    if (AtEnd()) throw Failure(kInputPastEnd);
+    const std::string_view rest = std::string_view(text_).substr(at_);
+    const bool quoted = rest.starts_with('"');
+    const std::string_view cell = quoted ? rest.substr(1, rest.find('"', 1) - 1) : rest.substr(0, LengthOfBareCell(rest));
+    at_ = std::min(at_ + cell.size() + (quoted ? 2 : 0), text_.size());  // a text that is never closed has one mark only
+    PassSeparator();
+    return {cell, quoted};
+}
+
+// Blanks, and before the first cell of a line also the ends of empty lines.
+void CellReader::SkipToCell() {
+    while (at_ < text_.size() && (IsBlank(text_[at_]) || (!after_comma_ && IsLineEnd(text_[at_])))) ++at_;
+}
+
+// After a closing quote another cell may follow with no separator between.
+void CellReader::PassSeparator() {
+    while (at_ < text_.size() && IsBlank(text_[at_])) ++at_;
+    after_comma_ = at_ < text_.size() && text_[at_] == ',';
+    if (at_ < text_.size() && IsSeparator(text_[at_])) ++at_;
+}

@@ -1,0 +1,47 @@
+#include "files/move_sample_column.h"
+
+#include <algorithm>
+
+#include "diagram/percentages.h"
+#include "platform/number.h"
+#include "session/sheet_state.h"
+#include "windows/main_window.h"
+
+namespace {
+// Turns the columns MoveFrom..MoveTo of one row by one place.
+template <class T>
+void MoveInRow(T* row) {
+    if (MoveFrom < MoveTo)
+        std::rotate(row + MoveFrom, row + MoveFrom + 1, row + MoveTo + 1);
+    else
+        std::rotate(row + MoveTo, row + MoveFrom, row + MoveFrom + 1);
+}
+
+// The moved count passes through a Single, as it always has: past 16,777,216 grains it loses digits.
+void MoveCounts(int slot) {
+    Counts[slot][MoveFrom] = ToLong(static_cast<float>(Counts[slot][MoveFrom]));
+    MoveInRow(Counts[slot]);
+}
+
+void RefillSampleList() {
+    ComboBox& list = frmMain.Combo2;
+    const std::string shown = CurrentSample == MoveTo ? SampleTable[2][MoveTo].Text() : list.Text();
+    list.Clear();
+    for (int sample = 1; sample <= SampleCount; ++sample) list.AddItem(SampleTable[2][sample].Text());
+    list.SetText(shown);
+}
+}  // namespace
+
+void MoveSampleColumn() {
+    if (MoveFrom == MoveTo) return;
+    for (const int row : {1, 2}) MoveInRow(SampleTable[row]);
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        MoveCounts(slot);
+        MoveInRow(SamplePercent[slot]);
+    }
+    for (int p = 1; p <= kParams; ++p) MoveInRow(ParamValues[p]);
+    MoveInRow(SampleNotes);
+    if (CurrentSample == MoveFrom) CurrentSample = MoveTo;
+    frmMain.Command5[0].SetEnabled(true);
+    RefillSampleList();
+}

@@ -1,0 +1,247 @@
+#include "files/next_sample.h"
+
+#include <algorithm>
+#include <string>
+
+#include "files/move_sample_column.h"
+#include "files/snapshot.h"
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/history.h"
+#include "session/sample_on_show.h"
+#include "session/sheet_state.h"
+#include "session/stamps.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+constexpr double kUnnamedValue = -9999;
+
+bool IsNameTaken(const std::string& name) {
+    for (int sample = 1; sample <= SampleCount; ++sample)
+        if (SampleTable[2][sample] == std::string_view(name)) return true;
+    return false;
+}
+
+// A fresh sheet has a first sample that waits for its name; every later one gets a column.
+void MakeColumn() {
+    MaxSerial = LargestSerial();
+    if (SampleTable[2][1] == kUnnamedValue) return;
+    ++SampleCount;
+    ++MaxSerial;
+    CurrentSample = SampleCount;
+}
+
+// The name as it ends up in the sheet; an empty one becomes "4: ---".
+std::string NameNewSample() {
+    frmMain.Text1[0].SetText("");
+    if (frmNext.Text1.Text().empty()) frmNext.Text1.SetText(std::to_string(SampleCount) + ": " + kEmpty);
+    const std::string name = frmNext.Text1.Text();
+    frmMain.Text1[0].SetText(name);
+    AddHistoryLine("(New sample: " + name + ")");
+    frmMain.Combo2.AddItem(name);
+    frmMain.Combo2.SetText(name);
+    SampleTable[1][SampleCount] = MaxSerial;
+    SampleTable[2][SampleCount] = name;
+    return name;
+}
+
+// The snapshot now has the new column, all zero.
+void SnapshotWithNewColumn() {
+    CountsAtOpen.resize(SampleCount + 1);
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        CountsAtOpen[SampleCount][slot] = 0;
+        for (int sample = 1; sample < SampleCount; ++sample) CountsAtOpen[sample][slot] = Counts[slot][sample];
+    }
+    for (int p = 1; p <= kParams; ++p) {
+        ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
+        for (int sample = 1; sample <= SampleCount; ++sample) ParamValuesAtOpen[p][sample] = ParamValues[p][sample];
+    }
+}
+
+void EmptyCountCells() {
+    for (int slot = 0; slot <= kSlots; ++slot) {
+        frmMain.Text2[slot].SetBold(false);
+        frmMain.Text1[slot].SetBold(false);
+        frmMain.Text2[slot].SetText("0");
+        Counts[slot][SampleCount] = 0;  // a column of an earlier sheet may have left its counts
+    }
+}
+
+void TakeNoteAndParams() {
+    SampleNotes[SampleCount] = frmNext.Text2.Text();
+    frmMain.Text4.SetText(SampleNotes[SampleCount]);
+    for (int p = 1; p <= kParams; ++p) {
+        frmMain.Label10[p].SetCaption(frmNext.Label3[p].Caption());
+        const std::string& value = frmNext.Text3[p].Text();
+        frmMain.Text5[p].SetText(value.empty() ? kEmpty : value);
+        ParamValues[p][SampleCount] = frmMain.Text5[p].Text();
+    }
+}
+
+void ShowZeroTotals() {
+    AllTotal = 0;
+    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    for (TextBox& total : frmMain.Text3) total.SetText("0");
+}
+
+// Where the new name belongs among numeric names in order.
+std::int16_t PlaceByValue(double value) {
+    for (std::int16_t sample = 1; sample < SampleCount; ++sample)
+        if (SampleTable[2][sample].Number() > value) return sample;
+    return SampleCount;
+}
+
+void MoveIntoOrder(const std::string& name) {
+    if (SampleNamesAreText) return;
+    MoveFrom = SampleCount;
+    MoveTo = PlaceByValue(Val(name));
+    MoveSampleColumn();
+}
+
+void ShowStartFace() {
+    frmNext.Frame1.SetVisible(false);
+    frmNext.Label1.SetCaption("Name of the first sample: ");
+    frmNext.Command2.SetVisible(true);
+    frmNext.Command3.SetVisible(false);
+    frmNext.SetSize(kNextWidth, kStartFaceHeight);
+}
+
+void PutOkBelowSampleFace() {
+    frmNext.Command1.SetPlace(kOkLeft, kSampleFaceHeight + 130);
+}
+
+void ShowSampleFace() {
+    frmNext.Frame1.SetPlace(0, 0);
+    frmNext.Frame1.SetWidth(kNextWidth);
+    frmNext.Frame1.SetBorder(false);
+    frmNext.Frame1.SetVisible(true);
+    PutOkBelowSampleFace();
+    frmNext.Command3.SetTop(frmNext.Command1.Top());
+    frmNext.SetSize(kNextWidth, kSampleFaceHeight + kOkRowHeight);
+    frmNext.Label1.SetCaption("Name of the next sample: ");
+    frmNext.Command2.SetVisible(false);
+    frmNext.Command3.SetVisible(true);
+}
+
+void ShowRenameButtons(bool visible) {
+    for (int p = 1; p <= kParams; ++p) frmNext.Command5[p].SetVisible(visible);
+}
+
+void GiveMainWindowBack() {
+    frmMain.SetEnabled(true);
+    frmMain.Show();
+}
+}  // namespace
+
+std::int16_t LargestSerial() {
+    constexpr double kNone = -9999;
+    double largest = kNone;
+    for (int sample = 1; sample <= SampleCount; ++sample) largest = std::max(largest, SampleTable[1][sample].Number());
+    return largest == kNone ? std::int16_t{0} : ToInteger(largest);
+}
+
+void LoadNextWindow() {
+    frmNext.Text2.SetText("Created: " + NoteStamp() + "\r\nNote: ");
+    if (SampleCount >= 1)
+        ShowSampleFace();
+    else
+        ShowStartFace();
+    frmMain.Load();
+    for (int p = 1; p <= kParams; ++p) {
+        frmNext.Label3[p].SetCaption(frmMain.Label10[p].Caption());
+        frmNext.Text3[p].SetText(kEmpty);
+    }
+    frmMain.SetEnabled(false);
+    if (KeyboardKnown != 0) {
+        frmMain.Show();
+    } else {
+        frmMain.Hide();
+        frmNext.Hide();
+        KeyboardKnown = 1;
+    }
+}
+
+void BringNextToFront() {
+    frmMain.SetEnabled(false);
+    if (SampleCount > 1) frmNext.Text1.SetFocus();
+}
+
+void ShowSampleFields() {
+    frmNext.SetSize(kNextWidth, kStartFaceHeight + kSampleFaceHeight + kOkRowHeight);
+    frmNext.Command4.SetVisible(false);
+    frmNext.Frame1.SetVisible(true);
+    frmNext.Text1.SetFocus();
+}
+
+void NextFile() {
+    if (SampleCount == kSampleLimit) {
+        services.messages->Show(
+            {"Format regulation", "Sample number reached 250. Please create new data sheet.", Icon::Information, Buttons::Ok});
+        return;
+    }
+    frmNext.Show();
+}
+
+void NextFromButton() {
+    SnapshotSheet();
+    if (SampleCount != kSampleLimit) {
+        frmNext.Load();
+        PutOkBelowSampleFace();
+        frmNext.Command3.SetVisible(true);
+        frmNext.Command4.SetVisible(false);
+        frmNext.Frame2.SetVisible(false);
+    }
+    NextFile();
+    if (frmNext.IsLoaded()) ShowRenameButtons(false);
+}
+
+void NextFromMenu() {
+    SnapshotSheet();
+    NextFile();
+}
+
+void AddSample() {
+    if (IsNameTaken(frmNext.Text1.Text())) {
+        services.messages->Show({"Error!", "The sample name is already used. Choose another name.", Icon::Exclamation, Buttons::Ok});
+        return;
+    }
+    if (!IsPlainNumber(frmNext.Text1.Text())) SampleNamesAreText = true;
+    MakeColumn();
+    const std::string name = NameNewSample();
+    SnapshotWithNewColumn();
+    EmptyCountCells();
+    TakeNoteAndParams();
+    frmNext.Unload();
+    GiveMainWindowBack();
+    CurrentSample = SampleCount;
+    ShowSerial();
+    ShowZeroTotals();
+    LogShownLineAgain();  // the new sample stands twice in the log and once in the list
+    MoveIntoOrder(name);
+}
+
+void AcceptSample() {
+    AddSample();
+    if (frmNext.IsLoaded()) {  // the name was refused
+        ShowRenameButtons(true);
+        frmNext.Frame2.SetVisible(true);
+    }
+    frmMain.SetEnabled(true);
+}
+
+void CancelSample() {
+    ShowRenameButtons(true);
+    frmNext.Frame2.SetVisible(true);
+    frmMain.SetEnabled(true);
+    frmNext.Hide();
+}
+
+void CloseNextByFrame() {
+    if (frmNext.Command3.Visible()) {
+        CancelSample();
+        return;
+    }
+    frmNext.Unload();
+    GiveMainWindowBack();
+}

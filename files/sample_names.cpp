@@ -1,0 +1,10 @@
+#include "files/sample_names.h"
+
+#include "platform/text.h"
+#include "session/sheet_state.h"
+
+void CheckSampleNames() {
+    SampleNamesAreText = false;
+    for (int sample = 1; sample <= SampleCount && !SampleNamesAreText; ++sample)
+        SampleNamesAreText = !IsPlainNumber(SampleTable[2][sample].Text());
+}

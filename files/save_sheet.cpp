@@ -1,0 +1,186 @@
+#include "files/save_sheet.h"
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "diagram/percentages.h"
+#include "files/busy.h"
+#include "files/sheet_base_name.h"
+#include "files/sheet_rows.h"
+#include "files/snapshot.h"
+#include "platform/failure.h"
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/history.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "session/stamps.h"
+#include "windows/main_window.h"
+
+namespace {
+constexpr double kNoBasisPercent = 9999;
+
+bool IsPercentTable(std::int16_t mode) {
+    return mode >= kSavePercentAll;
+}
+
+// The sums of each sample: [0] all, [1] subtotal 1, [2] subtotal 2; of 16 bits each.
+using SubtotalSums = std::array<std::vector<std::int16_t>, 3>;
+
+SubtotalSums SumSamples() {
+    SubtotalSums sums;
+    for (auto& row : sums) row.resize(SampleCount + 1);
+    for (int sample = 1; sample <= SampleCount; ++sample)
+        for (int slot = 1; slot <= kSlots; ++slot) {
+            const double count = Counts[slot][sample];
+            sums[0][sample] = ToInteger(sums[0][sample] + count);
+            sums[1][sample] = ToInteger(sums[1][sample] + count * TaxonTable[slot][2].Number());
+            sums[2][sample] = ToInteger(sums[2][sample] + count * TaxonTable[slot][3].Number());
+        }
+    return sums;
+}
+
+// "/core_(14.11.2026).csv" of "/core.csv", on that day.
+std::string NameOfCopy() {
+    const std::string date = services.clock->DateText();
+    return Left(SheetPath, Length(SheetPath) - 4) + "_(" + Left(date, 2) + "." + Mid(date, 4, 2) + "." + Right(date, 4) + ").csv";
+}
+
+// The file that the save goes to; empty if the user cancels the dialog.
+std::string ChooseTarget(std::int16_t mode) {
+    CommonDialog& dialog = frmMain.CommonDialog1;
+    if (mode == kSaveCopy) dialog.FileName = NameOfCopy();
+    if (mode == kSaveAs || mode == kSaveCopy || IsPercentTable(mode)) return dialog.AskForSaving() ? dialog.FileName : "";
+    SnapshotSheet();
+    return SheetPath;
+}
+
+// Only the first Save as of a session moves the sheet; later ones write their file and leave the sheet where it is.
+void AdoptPath(const std::string& path) {
+    SheetPath = path;
+    frmMain.SetTitle("Marlbrook 2.7 - [" + SheetBaseName(SheetPath) + "]");
+    SaveAsPending = false;
+}
+
+Any CountOf(int slot, int sample) {
+    return Counts[slot][sample];
+}
+
+Any PercentOf(int slot, int sample) {
+    const float percent = SamplePercent[slot][sample] * 100;
+    return RoundHalfEven(percent, 4);
+}
+
+void WriteTaxonRows(CellWriter& cells, std::int16_t mode) {
+    for (int row = 1; row <= kSlots; ++row) {
+        WriteTaxonRow(cells, row, IsPercentTable(mode) ? PercentOf : CountOf);
+        frmMain.ProgressBar1.SetValue(row);
+    }
+}
+
+// One line at the end of the note tells the last save: a later one takes its place, unless something was written after it.
+void StampNote() {
+    constexpr std::size_t kStampLength = 33;
+    const std::string note = frmMain.Text4.Text();
+    const std::string stamp = "Last saved: " + NoteStamp();
+    if (Left(Right(note, kStampLength), 10) == "Last saved")
+        frmMain.Text4.SetText(Left(note, Length(note) - std::min(Length(note), kStampLength)) + stamp);
+    else
+        frmMain.Text4.SetText(note + "\r\n" + stamp);
+}
+
+// A sum of a percentage table: the basis itself, or its share of the basis.
+Any ShareOfBasis(std::int16_t sum, std::int16_t basis_sum, bool is_basis) {
+    if (is_basis) return "100 (n=" + std::to_string(sum) + ")";
+    if (basis_sum == 0) return kNoBasisPercent;
+    return RoundHalfEven(static_cast<double>(sum) / basis_sum * 100, 4);
+}
+
+void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
+    const Any labels[3] = {"All total", SheetHeader[12], SheetHeader[13]};
+    const int basis = mode - kSavePercentAll;
+    for (const int which : {1, 2, 0}) {
+        WriteLabels(cells, labels[which]);
+        for (int sample = 1; sample <= SampleCount; ++sample)
+            cells.Write(IsPercentTable(mode) ? ShareOfBasis(sums[which][sample], sums[basis][sample], which == basis) : sums[which][sample]);
+        cells.EndRow();
+    }
+}
+
+void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
+    StampHeader("Last saved (dd/mm/yyyy):");
+    WriteHeaderRows(cells);
+    frmMain.Command5[0].SetEnabled(false);
+    if (IsPercentTable(mode))
+        for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
+    WriteTaxonRows(cells, mode);
+    FillEmptyParams();
+    WriteParamRows(cells);
+    StampNote();
+    FillEmptyNotes();
+    if (!IsPercentTable(mode)) WriteNoteRow(cells);
+    WriteSumRows(cells, mode, sums);
+}
+
+void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& sums) {
+    const auto file = services.files->OpenForWriting(path);
+    if (mode == kSaveAs && SaveAsPending) AdoptPath(path);
+    CellWriter cells(*file);
+    WriteRows(cells, mode, sums);
+    cells.Close();
+}
+
+void TellSaved() {
+    TemplateOpened = false;
+    PlayIfOn(WaveSave);
+    frmMain.Command5[1].SetEnabled(true);
+    frmMain.mnuNext.SetEnabled(true);
+    AddHistoryLine("(Save)");
+    frmMain.mnuSaveCopy.SetEnabled(true);
+}
+
+void TellFailed() {
+    services.sounds->Beep();
+    SaveOutcome = 2;
+    services.messages->Show({"Error", "The file is being used by another software. Please close the file and try again.", Icon::Exclamation,
+                             Buttons::Ok});
+}
+}  // namespace
+
+void SaveSheet(std::int16_t mode) {
+    const Busy busy(kSlots);
+    const SubtotalSums sums = SumSamples();
+    if (SheetPath.empty() && !IsPercentTable(mode)) mode = kSaveAs;
+    TakeShownSample();
+    const std::string path = ChooseTarget(mode);
+    if (path.empty()) {
+        SaveOutcome = 2;
+        return;
+    }
+    try {
+        WriteFile(path, mode, sums);
+        TellSaved();
+        if (mode == kSave && !AmendMode) frmMain.Text99.SetFocus();
+    } catch (const Failure&) {
+        TellFailed();
+    }
+}
+
+void SaveFromMenu() {
+    SnapshotSheet();
+    SaveSheet(SheetClean ? kSaveClean : kSave);
+    if (!AmendMode) frmMain.Text99.SetFocus();
+}
+
+void SaveFromButton() {
+    SnapshotSheet();
+    SaveSheet(kSave);
+}
+
+void SavePercentTable(int basis) {
+    frmMain.Option1[basis].SetValue(true);
+    SaveSheet(static_cast<std::int16_t>(kSavePercentAll + basis));
+    AlarmArmed = true;
+}

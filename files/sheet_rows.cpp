@@ -1,0 +1,75 @@
+#include "files/sheet_rows.h"
+
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "session/stamps.h"
+#include "windows/main_window.h"
+
+void StampHeader(const char* label) {
+    SheetHeader[6] = SheetPath;
+    SheetHeader[7] = label;
+    SheetHeader[8] = FileStamp();
+}
+
+void WriteHeaderRows(CellWriter& cells) {
+    for (int i = 6; i <= 9; ++i) cells.Write(SheetHeader[i]);
+    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(SampleTable[1][sample]);
+    cells.EndRow();
+    for (int i = 11; i <= 14; ++i) cells.Write(SheetHeader[i]);
+    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(SampleTable[2][sample]);
+    cells.EndRow();
+}
+
+void WriteTaxonRow(CellWriter& cells, int row, const std::function<Any(int slot, int sample)>& value) {
+    const int slot = KeyIndex[row];
+    for (int field = 1; field <= 4; ++field) cells.Write(TaxonTable[slot][field]);
+    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(value(slot, sample));
+    cells.EndRow();
+}
+
+void WriteParamRows(CellWriter& cells) {
+    for (int p = 1; p <= kParams; ++p) {
+        for (int i = 1; i <= 3; ++i) cells.Write(ParamHeader[p][i]);
+        cells.Write(WithoutTrailingColon(ParamHeader[p][4]));
+        for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(ParamValues[p][sample]);
+        cells.EndRow();
+    }
+}
+
+void WriteNoteRow(CellWriter& cells) {
+    for (int i = 1; i <= 4; ++i) cells.Write(SheetFooter[i]);
+    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(SampleNotes[sample]);
+    cells.EndRow();
+}
+
+void WriteLabels(CellWriter& cells, const Any& label) {
+    for (int i = 0; i < 3; ++i) cells.Write(kEmpty);
+    cells.Write(label);
+}
+
+void NameUntitledParams() {
+    for (int p = 1; p <= kParams; ++p) {
+        for (int i = 1; i <= 3; ++i)
+            if (ParamHeader[p][i].empty()) ParamHeader[p][i] = kEmpty;
+        ParamHeader[p][4] = frmMain.Label10[p].Caption();
+        if (ParamHeader[p][4].empty()) ParamHeader[p][4] = "Additional info-" + std::to_string(p);
+    }
+}
+
+void FillEmptyParams() {
+    NameUntitledParams();
+    for (int p = 1; p <= kParams; ++p)
+        for (int sample = 1; sample <= SampleCount; ++sample)
+            if (ParamValues[p][sample] == "") ParamValues[p][sample] = kEmpty;
+}
+
+void FillEmptyNotes() {
+    for (int sample = 1; sample <= SampleCount; ++sample)
+        if (SampleNotes[sample].empty()) SampleNotes[sample] = kEmpty;
+}
+
+void TakeShownSample() {
+    SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
+    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
+}

@@ -1,0 +1,28 @@
+// The rows that all files of the sheet share, for a sheet of N samples:
+//
+//     "/home/ann/Mere.csv","Last saved (dd/mm/yyyy):","14/11/2026_(10:11:12)","Serial No.",1,2
+//     "Key index","Trees","Herbs","Sample name","12.5","15.0"
+//     1,1,0,"Pinus",40,12                                        135 rows: key index, subtotal flags, name, a value a sample
+//     "---","---","---","Depth of core","14 m","16 m"            6 rows of Additional info
+//     "---","---","---","Note: ","Created: ...","Created: ..."   notes, with line breaks inside the quotes
+//
+// Taxa stand in the order of the file's rows, not of the slots: a sheet sorted in a spreadsheet keeps its order and its keys.
+#pragma once
+#include <functional>
+#include <string>
+
+#include "files/cell_writer.h"
+#include "platform/any.h"
+
+void StampHeader(const char* label);                 // SheetHeader[6..8]: path, "Last saved (dd/mm/yyyy):" or the like, date and time
+void WriteHeaderRows(CellWriter& cells);
+void WriteTaxonRow(CellWriter& cells, int row, const std::function<Any(int slot, int sample)>& value);
+void WriteParamRows(CellWriter& cells);
+void WriteNoteRow(CellWriter& cells);
+void WriteLabels(CellWriter& cells, const Any& label);  // the four label cells of a row that belongs to no taxon
+
+void NameUntitledParams();   // ParamHeader takes the captions on the screen; no cell of the labels stays empty
+void FillEmptyParams();      // the same, and no value stays empty: "---"
+void FillEmptyNotes();
+
+void TakeShownSample();      // the name and the counts on the screen go into the arrays, as the column of CurrentSample

@@ -1,0 +1,105 @@
+#include "keys/first_run.h"
+
+#include <string>
+
+#include "keys/key_settings.h"
+#include "platform/services.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "windows/initial_window.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+constexpr int kFirstRow = 51;  // of the named keys in the key settings
+constexpr double kUnknownCode = 999;
+
+Any& CodeOf(int key) {
+    return KeySettings[kFirstRow + key][1];
+}
+
+bool KeyboardWasKnown() {
+    for (int key = 0; key < kNamedKeys; ++key)
+        if (CodeOf(key) == 0 || CodeOf(key) == kUnknownCode) return false;
+    return true;
+}
+
+bool HoldsCode(TextBox& box) {
+    if (Left(box.Text(), 1) == " ") box.SetText(Mid(box.Text(), 2, Length(box.Text())));
+    return Val(box.Text()) != 0 && IsPlainNumber(box.Text());
+}
+
+bool AllBoxesHoldCodes() {
+    for (TextBox& box : frmInitial.Text1)
+        if (!HoldsCode(box)) return false;
+    return true;
+}
+
+void FocusOk() {
+    if (frmInitial.Command1.Enabled()) frmInitial.Command1.SetFocus();
+}
+
+void FocusNext(int key) {
+    TextBox& next = frmInitial.Text1[key + 1];
+    if (!next.Text().empty()) {
+        FocusOk();
+        return;
+    }
+    next.SetEnabled(true);
+    frmInitial.Label4[key + 1].SetEnabled(true);
+    next.SetFocus();
+}
+
+void LeaveToProgram() {
+    const bool first_run = frmInitial.AllKnown == 0;
+    frmInitial.AllKnown = 1;
+    if (!first_run) frmMain.SetEnabled(true);
+    frmInitial.Unload();
+    frmMain.Show();
+    if (first_run) frmNext.Show();
+}
+}  // namespace
+
+void LoadInitialWindow() {
+    frmInitial.AllKnown = KeyboardWasKnown() ? 1 : 0;
+    const bool known = frmInitial.AllKnown == 1;
+    for (int key = 0; key < kNamedKeys; ++key) {
+        const bool usable = known || key == 0;  // a first run goes down the boxes one by one
+        frmInitial.Text1[key].SetText(known ? CodeOf(key).Text() : "");
+        frmInitial.Text1[key].SetEnabled(usable);
+        frmInitial.Label4[key].SetEnabled(usable);
+    }
+    frmInitial.Command1.SetEnabled(known);
+}
+
+void EmptyNamedKey(int key) {
+    frmInitial.Text1[key].SetText("");
+}
+
+void TakeNamedKey(int key, int code) {
+    frmInitial.Text1[key].SetText(std::to_string(code));
+    if (key < kNamedKeys - 1) {
+        FocusNext(key);
+    } else {
+        frmInitial.Command1.SetEnabled(true);
+        frmInitial.Command1.SetFocus();
+    }
+}
+
+void AcceptNamedKeys() {
+    if (!AllBoxesHoldCodes()) {
+        services.messages->Show({"Error", "Please fill all boxes.", Icon::None, Buttons::Ok});
+        return;
+    }
+    for (int key = 0; key < kNamedKeys; ++key) CodeOf(key) = Val(frmInitial.Text1[key].Text());
+    WriteKeySettings();
+    PlayIfOn(WaveSave);
+    LeaveToProgram();
+}
+
+void CloseInitialByFrame() {
+    frmInitial.Unload();
+    frmMain.SetEnabled(true);
+    frmMain.Show();
+}

@@ -1,0 +1,21 @@
+// The key settings file: which key counts, which place of the pad it lies at, and what the named keys of this keyboard send. 63 rows of
+// three cells, definition, key code, key number:
+//
+//     "Key","Code","Number"
+//     "q",81,1
+//     ";",186,"46"
+//     "Shift",16,"-"
+//
+// Rows 1..45 counter keys, 46 and 48 Shift-1, 47 Shift-2, 49 Undo, 50 Save, 51..62 the named keys. A code of 0 or 999 in one of the
+// last twelve says that the keyboard has not been recognised.
+#pragma once
+
+// Reads the file into KeySettings, derives the codes of the shift and undo keys, places the cells and tells KeyboardKnown. Raises
+// "File error", "Input past end of file", or "Subscript out of range" for a key number outside 1..135; KeyboardKnown is then 0.
+void ReadKeySettings();
+
+void WriteKeySettings();  // all rows as held; raises "File error"
+
+// The cells of bank 0 lie where field 2 of their place's row says; those of the other banks stay where they are. Raises "Subscript
+// out of range" for a key number outside 1..135.
+void PlaceKeyCells();

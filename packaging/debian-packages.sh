@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# The Debian and Ubuntu packages that Marlbrook needs, in this one place. Installs those that are missing, as root or with sudo:
+#     packaging/debian-packages.sh build    what building and running take
+#     packaging/debian-packages.sh test     that, and what the tests take
+set -euo pipefail
+
+for_build=(
+    g++ cmake ninja-build ccache
+    qt6-base-dev    # windows, drawing, and the plug-ins for X11, for no screen and for JPEG
+    qt6-svg-dev     # the drawn pictures
+    qt6-wayland     # desktops without X11
+    libsdl2-mixer-dev
+    fonts-dejavu-core
+)
+for_test=(
+    libgtest-dev libbenchmark-dev
+    xvfb openbox xdotool x11-xkb-utils    # the real window, with real keys on several layouts
+    imagemagick
+)
+
+Fail() {
+    echo "debian-packages.sh: $*" >&2
+    exit 1
+}
+
+Missing() {  # those of the named packages that are not installed
+    local installed package
+    installed=$(dpkg-query --show --showformat '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null || true)
+    for package in "$@"; do
+        grep -qxF "$package installed" <<<"$installed" || echo "$package"
+    done
+}
+
+AptGet() {
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get --quiet --yes -o DPkg::Lock::Timeout=300 "$@"
+}
+
+case "${1:-}" in
+    build) wanted=("${for_build[@]}") ;;
+    test) wanted=("${for_build[@]}" "${for_test[@]}") ;;
+    *) Fail "say build or test" ;;
+esac
+
+if ! command -v apt-get >/dev/null; then
+    echo "debian-packages.sh: no apt-get here, so nothing is installed; needed are: ${wanted[*]}" >&2
+    exit 0
+fi
+mapfile -t missing < <(Missing "${wanted[@]}")
+[ "${#missing[@]}" -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" != 0 ]; then
+    command -v sudo >/dev/null || Fail "needs root or sudo to install ${missing[*]}"
+    as_root=(sudo)
+    [ -t 0 ] || as_root+=(-n)  # nobody there to type a password
+fi
+
+echo "Installing ${missing[*]}"
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+AptGet update >"$log" 2>&1 || true  # one broken source need not matter: the next step tells
+if ! AptGet install --no-install-recommends "${missing[@]}" >>"$log" 2>&1; then
+    reason=$(grep -E '^(E|sudo): ' "$log" | tail -n 1 || true)
+    Fail "cannot install ${missing[*]}: ${reason:-$(tail -n 1 "$log")}"
+fi

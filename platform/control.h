@@ -1,0 +1,166 @@
+// What all controls share. A control is data: it holds its properties and raises its events; it draws nothing. A view, if a platform
+// binds one, is told of each change and shows it.
+//
+// Setting a property to the value it has does nothing. All places are in twips (a fifteenth of a pixel at 100 %), in the container's
+// own coordinates.
+#pragma once
+#include <string>
+#include <vector>
+
+#include "platform/colour.h"
+#include "platform/event.h"
+
+class Window;
+class Control;
+
+enum class Kind {
+    TextBox,
+    Label,
+    Button,
+    OptionButton,
+    CheckBox,
+    ComboBox,
+    Frame,
+    TabControl,
+    PictureBox,
+    ProgressBar,
+    Slider,
+    ScrollBar,
+    UpDown,
+    StatusBar,
+    MenuItem,
+};
+
+enum class Property { Text, Caption, Value, Range, Items, Caret, Enabled, Visible, Checked, Font, Colours, Place, ToolTip, Drawing };
+
+enum class MouseButton { None, Left, Right };
+
+struct Mouse {
+    MouseButton button = MouseButton::None;  // of a move: the button held
+    double x = 0;                            // in the scale of a picture, else in twips of the control
+    double y = 0;
+};
+
+struct Box {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+class ControlView {
+public:
+    virtual ~ControlView() = default;
+    virtual void Changed(Property property) = 0;
+};
+
+// The properties of every kind in one plain record, so that the design state of a control can be kept and come back as a whole.
+struct Properties {
+    Box box;
+    bool enabled = true;
+    bool visible = true;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    double font_size = 9;  // in points
+    Colour back = kFormColour;
+    Colour fore = kBlack;
+    std::string tool_tip;
+    std::string text;  // the text of a box, the caption of all else
+    int caret = 0;     // characters before it
+    int value = 0;     // also: the tab in front, 1 of a selected option, a ticked box or a checked menu item
+    int minimum = 0;
+    int maximum = 100;
+    int small_change = 1;
+    int large_change = 10;
+    std::vector<std::string> items;  // of a list; the captions of tabs
+};
+
+class Control {
+public:
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    Kind kind() const { return kind_; }
+
+    // Set once, when the window takes the control up.
+    std::string name;              // "Text1"
+    int index = -1;                // -1: not of a control array
+    Window* window = nullptr;
+    Control* container = nullptr;  // nullptr: the window itself
+    int page = -1;                 // the tab of the container it lies on; -1: on all
+    bool tab_stop = true;          // whether Tab can bring the focus here
+    std::string accessible_name;   // what a screen reader says for it
+
+    Event<> Click;
+    Event<> DoubleClick;
+    Event<> Change;
+    Event<> GotFocus;
+    Event<> LostFocus;
+    Event<int> KeyDown;  // virtual-key number
+    Event<int> KeyUp;
+    Event<Mouse> MouseDown;
+    Event<Mouse> MouseMove;
+    Event<Mouse> MouseUp;
+
+    int Left() const { return now_.box.left; }
+    int Top() const { return now_.box.top; }
+    int Width() const { return now_.box.width; }
+    int Height() const { return now_.box.height; }
+    bool Enabled() const { return now_.enabled; }
+    bool Visible() const { return now_.visible; }
+    bool Bold() const { return now_.bold; }
+    bool Italic() const { return now_.italic; }
+    bool Underline() const { return now_.underline; }
+    double FontSize() const { return now_.font_size; }
+    Colour BackColor() const { return now_.back; }
+    Colour ForeColor() const { return now_.fore; }
+    const std::string& ToolTip() const { return now_.tool_tip; }
+
+    void SetLeft(int left) { Assign(now_.box.left, left, Property::Place); }
+    void SetTop(int top) { Assign(now_.box.top, top, Property::Place); }
+    void SetWidth(int width) { Assign(now_.box.width, width, Property::Place); }
+    void SetHeight(int height) { Assign(now_.box.height, height, Property::Place); }
+    void SetPlace(int left, int top);
+    void SetEnabled(bool enabled) { Assign(now_.enabled, enabled, Property::Enabled); }
+    void SetVisible(bool visible) { Assign(now_.visible, visible, Property::Visible); }
+    void SetBold(bool bold) { Assign(now_.bold, bold, Property::Font); }
+    void SetItalic(bool italic) { Assign(now_.italic, italic, Property::Font); }
+    void SetUnderline(bool underline) { Assign(now_.underline, underline, Property::Font); }
+    void SetFontSize(double points) { Assign(now_.font_size, points, Property::Font); }
+    void SetBackColor(Colour colour) { Assign(now_.back, colour, Property::Colours); }
+    void SetForeColor(Colour colour) { Assign(now_.fore, colour, Property::Colours); }
+    void SetToolTip(const std::string& text) { Assign(now_.tool_tip, text, Property::ToolTip); }
+
+    // Every property as it is now: for a platform and for the driver, which read all kinds alike.
+    const Properties& State() const { return now_; }
+
+    // Makes this control the one with the focus in its window; nothing if it or what contains it is hidden or disabled.
+    void SetFocus();
+
+    void BindView(ControlView* view) { view_ = view; }
+    void KeepDesign() { design_ = now_; }
+    virtual void ReturnToDesign();
+
+protected:
+    explicit Control(Kind kind) : kind_(kind) {}
+
+    template <class T>
+    bool Assign(T& property, const T& value, Property changed) {
+        if (property == value) return false;
+        property = value;
+        Tell(changed);
+        return true;
+    }
+    void Tell(Property changed) const {
+        if (view_) view_->Changed(changed);
+    }
+
+    Properties now_;
+
+private:
+    Kind kind_;
+    Properties design_;
+    ControlView* view_ = nullptr;
+};

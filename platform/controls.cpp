@@ -1,0 +1,135 @@
+#include "platform/controls.h"
+
+#include <algorithm>
+
+#include "platform/text.h"
+#include "platform/window.h"
+
+namespace {
+int WithinText(const std::string& text, int characters) {
+    return std::clamp(characters, 0, static_cast<int>(Length(text)));
+}
+}  // namespace
+
+void TextBox::SetText(const std::string& text) {
+    if (text == now_.text) return;
+    now_.text = text;
+    now_.caret = 0;
+    selected_ = 0;
+    Tell(Property::Text);
+    Change.Raise();
+}
+
+void TextBox::Enter(const std::string& text, int caret) {
+    selected_ = 0;
+    now_.caret = WithinText(text, caret);
+    Tell(Property::Caret);
+    if (text == now_.text) return;
+    now_.text = text;
+    Tell(Property::Text);
+    Change.Raise();
+}
+
+void TextBox::SetSelStart(int characters) {
+    selected_ = 0;
+    Assign(now_.caret, WithinText(now_.text, characters), Property::Caret);
+}
+
+void TextBox::Select(int start, int length) {
+    now_.caret = WithinText(now_.text, start);
+    selected_ = WithinText(now_.text, now_.caret + length) - now_.caret;
+}
+
+void Label::SetCaption(const std::string& caption) {
+    if (Assign(now_.text, caption, Property::Caption)) Change.Raise();
+}
+
+void OptionButton::SetValue(bool selected) {
+    if (selected == Value()) return;
+    if (selected) {
+        for (Control* sibling : window->Controls())
+            if (sibling != this && sibling->kind() == Kind::OptionButton && sibling->container == container)
+                static_cast<OptionButton*>(sibling)->SetValue(false);
+    }
+    Assign(now_.value, selected ? 1 : 0, Property::Value);
+    if (selected) Click.Raise();
+}
+
+void CheckBox::SetValue(int value) {
+    if (Assign(now_.value, value, Property::Value)) Click.Raise();
+}
+
+void ComboBox::SetText(const std::string& text) {
+    if (text == now_.text) return;
+    now_.text = text;
+    now_.caret = 0;
+    selected_ = 0;
+    Tell(Property::Text);
+    Change.Raise();
+}
+
+void ComboBox::Enter(const std::string& text, int caret) {
+    selected_ = 0;
+    now_.caret = WithinText(text, caret);
+    Tell(Property::Caret);
+    if (text == now_.text) return;
+    now_.text = text;
+    Tell(Property::Text);
+    Change.Raise();
+    Edited.Raise();
+}
+
+void ComboBox::SetSelStart(int characters) {
+    selected_ = 0;
+    Assign(now_.caret, WithinText(now_.text, characters), Property::Caret);
+}
+
+void ComboBox::Select(int start, int length) {
+    now_.caret = WithinText(now_.text, start);
+    selected_ = WithinText(now_.text, now_.caret + length) - now_.caret;
+}
+
+void ComboBox::AddItem(const std::string& item) {
+    now_.items.push_back(item);
+    Tell(Property::Items);
+}
+
+void ComboBox::Clear() {
+    if (now_.items.empty() && now_.text.empty()) return;
+    now_.items.clear();
+    now_.text.clear();
+    now_.caret = 0;
+    Tell(Property::Items);
+    Tell(Property::Text);
+}
+
+void ComboBox::Choose(int item) {
+    if (item < 0 || item >= ListCount()) return;
+    now_.caret = 0;
+    Assign(now_.text, now_.items[item], Property::Text);
+    Click.Raise();
+}
+
+void TabControl::SetTab(int tab) {
+    if (Assign(now_.value, tab, Property::Value)) Change.Raise();
+}
+
+void ProgressBar::SetRange(int minimum, int maximum) {
+    Assign(now_.minimum, minimum, Property::Range);
+    Assign(now_.maximum, maximum, Property::Range);
+}
+
+void RangeControl::SetValue(int value) {
+    if (Assign(now_.value, std::clamp(value, now_.minimum, std::max(now_.minimum, now_.maximum)), Property::Value)) Change.Raise();
+}
+
+void RangeControl::SetRange(int minimum, int maximum) {
+    Assign(now_.minimum, minimum, Property::Range);
+    Assign(now_.maximum, maximum, Property::Range);
+    Assign(now_.value, std::clamp(now_.value, minimum, std::max(minimum, maximum)), Property::Value);
+}
+
+void RangeControl::SetSteps(int small_change, int large_change) {
+    Assign(now_.small_change, small_change, Property::Range);
+    Assign(now_.large_change, large_change, Property::Range);
+}

@@ -1,0 +1,167 @@
+// The kinds of control. Each adds to Control the properties that it alone has, under the names that procedures use.
+#pragma once
+#include <string>
+#include <vector>
+
+#include "platform/control.h"
+
+class TextBox : public Control {
+public:
+    TextBox() : Control(Kind::TextBox) { now_.back = kWhite; }
+
+    bool multiline = false;     // set once, with the design
+    bool centred = false;
+    bool takes_text = true;     // false: it can hold the focus, but what is typed lands nowhere
+
+    const std::string& Text() const { return now_.text; }
+    // The program sets the text: the caret goes to its front, and Change is raised before SetText returns.
+    void SetText(const std::string& text);
+    // The user typed or pasted: the text as it now stands, the caret behind what was put in. Raises Change.
+    void Enter(const std::string& text, int caret);
+
+    int SelStart() const { return now_.caret; }  // characters before the caret
+    void SetSelStart(int characters);
+    int SelLength() const { return selected_; }  // characters selected behind the caret, by the user alone
+    void Select(int start, int length);
+
+private:
+    int selected_ = 0;
+};
+
+class Label : public Control {
+public:
+    Label() : Control(Kind::Label) {}
+    const std::string& Caption() const { return now_.text; }
+    void SetCaption(const std::string& caption);  // raises Change
+    bool centred = false;
+    bool right_aligned = false;
+};
+
+class Button : public Control {
+public:
+    Button() : Control(Kind::Button) {}
+    const std::string& Caption() const { return now_.text; }
+    void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
+};
+
+// One of the options that stand in the same container is selected at a time.
+class OptionButton : public Control {
+public:
+    OptionButton() : Control(Kind::OptionButton) {}
+    const std::string& Caption() const { return now_.text; }
+    void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
+    bool Value() const { return now_.value != 0; }
+    void SetValue(bool selected);  // True takes the selection from its siblings, then raises Click
+};
+
+class CheckBox : public Control {
+public:
+    CheckBox() : Control(Kind::CheckBox) {}
+    const std::string& Caption() const { return now_.text; }
+    void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
+    int Value() const { return now_.value; }
+    void SetValue(int value);  // 0 or 1; raises Click
+};
+
+class ComboBox : public Control {
+public:
+    ComboBox() : Control(Kind::ComboBox) { now_.back = kWhite; }
+
+    Event<> Edited;  // the user typed into the text box; Change is raised as well
+
+    const std::string& Text() const { return now_.text; }
+    void SetText(const std::string& text);  // raises Change
+    void Enter(const std::string& text, int caret);
+    int SelStart() const { return now_.caret; }
+    void SetSelStart(int characters);
+    int SelLength() const { return selected_; }
+    void Select(int start, int length);
+
+    const std::vector<std::string>& List() const { return now_.items; }
+    int ListCount() const { return static_cast<int>(now_.items.size()); }
+    void AddItem(const std::string& item);
+    void Clear();                  // the list and the text, with no event
+    void Choose(int item);         // the user picks an item: the text takes it, Click is raised even if it shows already
+
+private:
+    int selected_ = 0;
+};
+
+class Frame : public Control {
+public:
+    Frame() : Control(Kind::Frame) { now_.value = 1; }
+    const std::string& Caption() const { return now_.text; }
+    void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
+    bool Border() const { return now_.value != 0; }  // without it the caption is not shown either
+    void SetBorder(bool border) { Assign(now_.value, border ? 1 : 0, Property::Value); }
+};
+
+class TabControl : public Control {
+public:
+    TabControl() : Control(Kind::TabControl) {}
+    int Tab() const { return now_.value; }
+    void SetTab(int tab);  // raises Change
+    const std::vector<std::string>& TabCaptions() const { return now_.items; }
+    void SetTabCaptions(const std::vector<std::string>& captions) { Assign(now_.items, captions, Property::Items); }
+};
+
+class ProgressBar : public Control {
+public:
+    ProgressBar() : Control(Kind::ProgressBar) {}
+    int Value() const { return now_.value; }
+    int Min() const { return now_.minimum; }
+    int Max() const { return now_.maximum; }
+    void SetValue(int value) { Assign(now_.value, value, Property::Value); }  // past the maximum the bar is just full
+    void SetRange(int minimum, int maximum);
+};
+
+// A value between two ends, moved by the user or the program; raises Change. Scroll is raised while the user drags.
+class RangeControl : public Control {
+public:
+    Event<> Scroll;
+    int Value() const { return now_.value; }
+    int Min() const { return now_.minimum; }
+    int Max() const { return now_.maximum; }
+    int SmallChange() const { return now_.small_change; }
+    int LargeChange() const { return now_.large_change; }
+    void SetValue(int value);                     // kept within the ends
+    void SetRange(int minimum, int maximum);      // a value outside is brought back without an event
+    void SetSteps(int small_change, int large_change);
+
+protected:
+    using Control::Control;
+};
+
+class Slider : public RangeControl {
+public:
+    Slider() : RangeControl(Kind::Slider) {}
+    bool vertical = false;
+};
+
+class ScrollBar : public RangeControl {
+public:
+    ScrollBar() : RangeControl(Kind::ScrollBar) {}
+};
+
+class UpDown : public Control {
+public:
+    UpDown() : Control(Kind::UpDown) {}
+    Event<> UpClick;
+    Event<> DownClick;
+};
+
+class StatusBar : public Control {
+public:
+    StatusBar() : Control(Kind::StatusBar) {}
+};
+
+// An item of a menu bar or popup. Its container is the menu it stands in. Clicking an item first raises Click of the menus on its way.
+class MenuItem : public Control {
+public:
+    MenuItem() : Control(Kind::MenuItem) {}
+    const std::string& Caption() const { return now_.text; }  // "&" stands before the access key, "-" alone is a separator
+    void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
+    bool Checked() const { return now_.value != 0; }
+    void SetChecked(bool checked) { Assign(now_.value, checked ? 1 : 0, Property::Checked); }
+    char control_letter = 0;  // 'S' for Ctrl+S; 0: none
+};

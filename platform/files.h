@@ -1,0 +1,22 @@
+// The service that opens files. All reading and writing of the program goes through it, so that a test can lock a file or fill a disk.
+#pragma once
+#include <memory>
+#include <string>
+#include <string_view>
+
+// A file opened for writing. Nothing of its old content is gone before Replace.
+class OutputFile {
+public:
+    virtual ~OutputFile() = default;
+    // Cuts the file, writes the bytes in one go, has them flushed to the disk and closes it. Raises "File error" when the disk takes
+    // no more; what it took stays in the file.
+    virtual void Replace(std::string_view bytes) = 0;
+};
+
+class Files {
+public:
+    virtual ~Files() = default;
+    // Paths are UTF-8; `/` and `\` both separate folders where the system's own separator is `/`.
+    virtual std::string ReadAll(const std::string& path) = 0;                              // raises "File error" if it cannot be opened
+    virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;       // makes the file if there is none; "File error"
+};

@@ -1,0 +1,55 @@
+#include "platform/headless/disk_files.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "platform/failure.h"
+
+namespace {
+
+class DiskOutputFile : public OutputFile {
+public:
+    explicit DiskOutputFile(std::filesystem::path path) : path_(std::move(path)) {
+        stream_.open(path_, std::ios::binary | std::ios::in | std::ios::out);                           // leaves the content as it is
+        if (!stream_.is_open()) stream_.open(path_, std::ios::binary | std::ios::out | std::ios::app);  // makes the file
+        if (!stream_.is_open()) throw Failure(kFileError);
+    }
+
+    void Replace(std::string_view bytes) override {
+        std::error_code error;
+        std::filesystem::resize_file(path_, 0, error);
+        stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        stream_.close();
+        if (error || stream_.fail()) throw Failure(kFileError);
+    }
+
+private:
+    std::filesystem::path path_;
+    std::fstream stream_;
+};
+
+}  // namespace
+
+std::string DiskFiles::ReadAll(const std::string& path) {
+    const std::filesystem::path file = DiskPath(path);
+    std::error_code error;
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream || std::filesystem::is_directory(file, error)) throw Failure(kFileError);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+std::unique_ptr<OutputFile> DiskFiles::OpenForWriting(const std::string& path) {
+    return std::make_unique<DiskOutputFile>(DiskPath(path));
+}
+
+std::filesystem::path DiskPath(const std::string& utf8) {
+    std::u8string text(utf8.begin(), utf8.end());
+    std::replace(text.begin(), text.end(), u8'\\', u8'/');
+    return std::filesystem::path(text);
+}
+
+std::string PathText(const std::filesystem::path& path) {
+    const std::u8string text = path.generic_u8string();
+    return {text.begin(), text.end()};
+}

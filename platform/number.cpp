@@ -1,0 +1,50 @@
+#include "platform/number.h"
+
+#include <cassert>
+#include <cmath>
+#include <limits>
+
+#include "platform/failure.h"
+
+namespace {
+
+constexpr double kAllWhole = 4503599627370496.0;  // 2^52: a double from here on has no fraction
+
+// std::nearbyint rounds half to even: nothing in the program sets another way of rounding.
+template <class T>
+T ToWhole(double number) {
+    const double whole = std::nearbyint(number);
+    const bool fits = whole >= std::numeric_limits<T>::min() && whole <= std::numeric_limits<T>::max();  // not so for what is no number
+    if (!fits) throw Failure(kOverflow);
+    return static_cast<T>(whole);
+}
+
+double PowerOfTen(int exponent) {
+    double power = 1;
+    for (; exponent > 0; --exponent) power *= 10;
+    return power;
+}
+
+}  // namespace
+
+std::int16_t ToInteger(double number) {
+    return ToWhole<std::int16_t>(number);
+}
+
+std::int32_t ToLong(double number) {
+    return ToWhole<std::int32_t>(number);
+}
+
+float ToSingle(double number) {
+    const float single = static_cast<float>(number);
+    if (!std::isfinite(single)) throw Failure(kOverflow);
+    return single;
+}
+
+double RoundHalfEven(double number, int decimals) {
+    assert(decimals >= 0 && decimals <= 15);
+    if (!std::isfinite(number)) throw Failure(kOverflow);
+    const double power = PowerOfTen(decimals);  // exact, so that the quotient is the double nearest to the decimal
+    const double scaled = number * power;
+    return std::abs(scaled) < kAllWhole ? std::nearbyint(scaled) / power : number;
+}

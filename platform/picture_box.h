@@ -1,0 +1,67 @@
+// A picture as a display list: lines, filled rectangles, circles and texts in a scale that the program sets. What has been made
+// persistent stays while overlays come and go. Tests read the list; a platform paints it at the resolution of the screen.
+#pragma once
+#include <string>
+#include <vector>
+
+#include "platform/control.h"
+
+struct DrawOperation {
+    enum class Shape { Line, Rectangle, Circle, Text, Name };
+    Shape shape = Shape::Line;
+    // Fractions of the picture's width and height, from its upper left corner, so that what is drawn stays where it is when the scale
+    // changes. Of a Name: pixels.
+    double x1 = 0, y1 = 0;
+    double x2 = 0, y2 = 0;  // Line and Rectangle alone
+    double radius = 0;      // Circle: a fraction of the width; round on the screen
+    double size = 0;        // Text: points
+    bool italic = false;    // Name: reads upward, as the names of taxa do
+    Colour rim;             // the colour of a line, a circle's rim, a text
+    Colour fill;            // Rectangle and Circle alone
+    std::string text;
+};
+
+class PictureBox : public Control {
+public:
+    PictureBox() : Control(Kind::PictureBox) { now_.back = kWhite; }
+
+    std::string image;  // a drawing that the program brings along, shown under all else; set once, with the design
+
+    double ScaleLeft() const { return scale_left_; }
+    double ScaleTop() const { return scale_top_; }
+    double ScaleWidth() const { return scale_width_; }    // not 0; negative: x grows to the left
+    double ScaleHeight() const { return scale_height_; }  // not 0; negative: y grows upward
+    void SetScaleLeft(double left) { scale_left_ = left; }
+    void SetScaleTop(double top) { scale_top_ = top; }
+    void SetScaleWidth(double width) { scale_width_ = width; }
+    void SetScaleHeight(double height) { scale_height_ = height; }
+
+    // All in the scale of the moment. A filled rectangle over the whole scale area drops what lies under it.
+    void Line(double x1, double y1, double x2, double y2, Colour colour);
+    void FilledRectangle(double x1, double y1, double x2, double y2, Colour fill);
+    void Circle(double x, double y, double radius, Colour rim, Colour fill);
+    void Print(double x, double y, double points, const std::string& text, Colour colour);  // (x, y): its upper left corner
+    void Name(double x, double y, bool italic, const std::string& text);                     // in pixels
+
+    void Clear();         // everything
+    void ClearOverlay();  // what was drawn since Persist
+    void Persist();       // all that is drawn now becomes the persistent image
+
+    const std::vector<DrawOperation>& Operations() const { return operations_; }
+    std::size_t PersistentCount() const { return persistent_; }  // the first so many operations are the persistent image
+    bool IsPersistent() const { return is_persistent_; }
+    int PersistentVersion() const { return version_; }           // grows whenever the persistent image changes
+
+    void ReturnToDesign() override;
+
+private:
+    void Add(DrawOperation operation);
+    double FractionX(double x) const { return (x - scale_left_) / scale_width_; }
+    double FractionY(double y) const { return (y - scale_top_) / scale_height_; }
+
+    double scale_left_ = 0, scale_top_ = 0, scale_width_ = 1, scale_height_ = 1;
+    std::vector<DrawOperation> operations_;
+    std::size_t persistent_ = 0;
+    bool is_persistent_ = false;
+    int version_ = 0;
+};

@@ -1,0 +1,28 @@
+#include "platform/services.h"
+
+#include "platform/user.h"
+
+Services services;
+int MousePointer = kPointerDefault;
+
+namespace {
+constexpr const char* kSheetFilter = "DataFile(*.csv)|*.csv";
+}
+
+std::string ProgramFile(const std::string& parts) {
+    return services.host->Folder() + "/" + parts;
+}
+
+bool CommonDialog::Ask(FileQuestion::Kind kind) {
+    const FileQuestion question{kind, kSheetFilter, FileName, kind == FileQuestion::Kind::Save};
+    const auto path = services.dialogs->Ask(question);
+    if (path) FileName = *path;
+    return path.has_value();
+}
+
+bool CommonDialog::AskForSaving() {
+    return Ask(FileQuestion::Kind::Save);
+}
+bool CommonDialog::AskForOpening() {
+    return Ask(FileQuestion::Kind::Open);
+}

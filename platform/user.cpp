@@ -1,0 +1,251 @@
+#include "platform/user.h"
+
+#include "platform/services.h"
+#include "platform/text.h"
+
+namespace {
+MenuItem* open_popup = nullptr;
+Control* pressed = nullptr;  // the control that the mouse went down on
+
+bool TakesFocus(Kind kind) {
+    switch (kind) {
+        case Kind::TextBox:
+        case Kind::Button:
+        case Kind::OptionButton:
+        case Kind::CheckBox:
+        case Kind::ComboBox:
+        case Kind::Slider:
+        case Kind::TabControl:
+        case Kind::PictureBox:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool IsOnFrontTab(const Control& control) {
+    return control.page < 0 || static_cast<const TabControl*>(control.container)->Tab() == control.page;
+}
+
+// An item inside a popup needs no place on the bar; all others need every menu on their way to be there.
+bool MenuIsUsable(const MenuItem& item) {
+    for (const Control* menu = &item; menu; menu = menu->container) {
+        if (!menu->Enabled()) return false;
+        if (menu == open_popup && menu != &item) return true;
+        if (!menu->Visible()) return false;
+    }
+    return true;
+}
+
+void OpenMenusOnTheWay(const Control* menu) {
+    if (!menu || menu == open_popup) return;
+    OpenMenusOnTheWay(menu->container);
+    menu->Click.Raise();
+}
+
+void ClickMenuItem(MenuItem& item) {
+    OpenMenusOnTheWay(item.container);
+    if (!CanReach(item)) return;  // opening its menu may have switched it off
+    open_popup = nullptr;
+    item.Click.Raise();
+}
+
+bool HasKeyFocus(const Control& control) {
+    return control.window == ActiveWindow() && control.window->Focus() == &control && CanReach(control);
+}
+
+struct Edit {
+    std::string text;
+    int caret;
+    int selected;
+};
+
+Edit EditOf(const Control& box) {
+    if (box.kind() == Kind::ComboBox) {
+        const auto& combo = static_cast<const ComboBox&>(box);
+        return {combo.Text(), combo.SelStart(), combo.SelLength()};
+    }
+    const auto& text_box = static_cast<const TextBox&>(box);
+    return {text_box.Text(), text_box.SelStart(), text_box.SelLength()};
+}
+
+bool TakesText(const Control& control) {
+    if (control.kind() == Kind::TextBox) return static_cast<const TextBox&>(control).takes_text;
+    return control.kind() == Kind::ComboBox;
+}
+
+// Puts `text` in place of the `count` characters after the first `start`.
+void Replace(Control& box, int start, int count, const std::string& text) {
+    const std::string old = EditOf(box).text;
+    const std::size_t from = ByteOffset(old, static_cast<std::size_t>(start));
+    const std::size_t to = ByteOffset(old, static_cast<std::size_t>(start + count));
+    EnterText(box, old.substr(0, from) + text + old.substr(to), start + static_cast<int>(Length(text)));
+}
+}  // namespace
+
+bool IsUsable(const Control& control) {
+    if (control.kind() == Kind::MenuItem) return MenuIsUsable(static_cast<const MenuItem&>(control));
+    for (const Control* inner = &control; inner; inner = inner->container)
+        if (!inner->Visible() || !inner->Enabled() || !IsOnFrontTab(*inner)) return false;
+    return true;
+}
+
+bool CanReach(const Control& control) {
+    const Window& window = *control.window;
+    return window.IsLoaded() && window.Visible() && window.Enabled() && IsUsable(control);
+}
+
+void OpenPopup(MenuItem& menu) {
+    open_popup = &menu;
+    services.popups->Open(menu);
+}
+
+void PressKey(int code) {
+    Window* const window = ActiveWindow();
+    if (!window) return;
+    if (window->key_preview) window->KeyDown.Raise(code);
+    if (window != ActiveWindow()) return;
+    if (Control* focus = window->Focus(); focus && CanReach(*focus)) focus->KeyDown.Raise(code);
+}
+
+void ReleaseKey(int code) {
+    Window* const window = ActiveWindow();
+    if (!window) return;
+    if (window->key_preview) window->KeyUp.Raise(code);
+    if (window != ActiveWindow()) return;
+    if (Control* focus = window->Focus(); focus && CanReach(*focus)) focus->KeyUp.Raise(code);
+}
+
+void PressMouse(Control& control, Mouse mouse) {
+    if (!CanReach(control)) return;
+    pressed = &control;
+    if (TakesFocus(control.kind())) control.SetFocus();
+    control.MouseDown.Raise(mouse);
+}
+
+void MoveMouse(Control& control, Mouse mouse) {
+    if (CanReach(control) || &control == pressed) control.MouseMove.Raise(mouse);
+}
+
+void ReleaseMouse(Control& control, Mouse mouse) {
+    if (&control != pressed) return;
+    pressed = nullptr;
+    if (control.window->IsLoaded()) control.MouseUp.Raise(mouse);
+}
+
+void MoveMouseOverWindow(Window& window, Mouse mouse) {
+    if (window.Visible() && window.Enabled()) window.MouseMove.Raise(mouse);
+}
+
+void PressMouseOnWindow(Window& window, Mouse mouse) {
+    if (window.Visible() && window.Enabled()) window.MouseDown.Raise(mouse);
+}
+
+void FinishClick(Control& control) {
+    if (!CanReach(control)) return;
+    switch (control.kind()) {
+        case Kind::OptionButton:
+            static_cast<OptionButton&>(control).SetValue(true);
+            return;
+        case Kind::CheckBox: {
+            auto& box = static_cast<CheckBox&>(control);
+            box.SetValue(box.Value() ? 0 : 1);
+            return;
+        }
+        case Kind::MenuItem:
+            ClickMenuItem(static_cast<MenuItem&>(control));
+            return;
+        case Kind::ComboBox:  // its Click is the choice of an item
+            return;
+        default:
+            control.Click.Raise();
+    }
+}
+
+void ClickControl(Control& control) {
+    if (!CanReach(control)) return;
+    if (control.kind() != Kind::MenuItem) {
+        const Mouse mouse{MouseButton::Left, 0, 0};
+        PressMouse(control, mouse);
+        ReleaseMouse(control, mouse);
+    }
+    FinishClick(control);
+}
+
+void DoubleClickControl(Control& control) {
+    if (!CanReach(control)) return;
+    ClickControl(control);
+    if (CanReach(control)) control.DoubleClick.Raise();
+}
+
+void EnterText(Control& box, const std::string& text, int caret) {
+    if (!HasKeyFocus(box) || !TakesText(box)) return;
+    if (box.kind() == Kind::ComboBox)
+        static_cast<ComboBox&>(box).Enter(text, caret);
+    else
+        static_cast<TextBox&>(box).Enter(text, caret);
+}
+
+void InsertText(Control& box, const std::string& text) {
+    if (!TakesText(box)) return;
+    const Edit edit = EditOf(box);
+    Replace(box, edit.caret, edit.selected, text);
+}
+
+void DeleteBackward(Control& box) {
+    if (!TakesText(box)) return;
+    const Edit edit = EditOf(box);
+    if (edit.selected > 0)
+        Replace(box, edit.caret, edit.selected, "");
+    else if (edit.caret > 0)
+        Replace(box, edit.caret - 1, 1, "");
+}
+
+void DeleteForward(Control& box) {
+    if (!TakesText(box)) return;
+    const Edit edit = EditOf(box);
+    if (edit.selected > 0)
+        Replace(box, edit.caret, edit.selected, "");
+    else if (edit.caret < static_cast<int>(Length(edit.text)))
+        Replace(box, edit.caret, 1, "");
+}
+
+void ChooseItem(ComboBox& box, int item) {
+    if (!CanReach(box)) return;
+    const Mouse mouse{MouseButton::Left, 0, 0};
+    PressMouse(box, mouse);
+    ReleaseMouse(box, mouse);
+    box.Choose(item);
+}
+
+void PressTab(TabControl& tabs, int tab) {
+    if (!CanReach(tabs)) return;
+    const Mouse mouse{MouseButton::Left, 0, 0};
+    PressMouse(tabs, mouse);
+    tabs.SetTab(tab);
+    ReleaseMouse(tabs, mouse);
+}
+
+void SlideTo(RangeControl& range, int value) {
+    if (!CanReach(range)) return;
+    if (TakesFocus(range.kind())) range.SetFocus();
+    range.SetValue(value);
+}
+
+void Spin(UpDown& arrows, bool up) {
+    if (!CanReach(arrows)) return;
+    (up ? arrows.UpClick : arrows.DownClick).Raise();
+}
+
+void ResizeWindow(Window& window, int width, int height) {
+    if (!window.Visible() || !window.Enabled()) return;
+    window.TakeSize(width, height);
+}
+
+void CloseWindow(Window& window) {
+    if (!window.Visible() || !window.Enabled()) return;
+    if (window.FrameClosed.IsJoined())
+        window.FrameClosed.Raise();
+    else
+        window.Unload();
+}

@@ -1,0 +1,42 @@
+// What a user does, told to the windows. The headless platform calls it from a script, a toolkit from its widgets, so both raise the
+// same events in the same order. Something that a user could not reach is passed over in silence.
+#pragma once
+#include "platform/controls.h"
+#include "platform/picture_box.h"
+#include "platform/window.h"
+
+// Its window is loaded, shown and enabled, it and what contains it are visible and enabled, and it lies on the tab in front. An item
+// of a menu that is hidden from the bar can be reached while its popup is open.
+bool CanReach(const Control& control);
+bool IsUsable(const Control& control);  // the same but for the state of its window
+
+// Opens a popup menu at the pointer; its items can be reached until one is clicked.
+void OpenPopup(MenuItem& menu);
+
+// In the active window: the window's own handler first, if it previews keys, then that of the control with the focus.
+void PressKey(int code);
+void ReleaseKey(int code);
+
+// A button goes down on a control, moves over it, comes up. Press moves the focus first, if the kind takes it.
+void PressMouse(Control& control, Mouse mouse);
+void MoveMouse(Control& control, Mouse mouse);
+void ReleaseMouse(Control& control, Mouse mouse);  // reaches the control that was pressed even if it has been disabled meanwhile
+void MoveMouseOverWindow(Window& window, Mouse mouse);
+void PressMouseOnWindow(Window& window, Mouse mouse);
+
+void ClickControl(Control& control);  // a press and release of the left button, and what the kind does at a click
+void FinishClick(Control& control);   // only what the kind does at a click, after its press and release
+void DoubleClickControl(Control& control);
+
+// Text is put in at the caret of a text box or combo box, in place of what is selected: one change.
+void InsertText(Control& box, const std::string& text);
+void DeleteBackward(Control& box);
+void DeleteForward(Control& box);
+void EnterText(Control& box, const std::string& text, int caret);  // the whole text as it stands after an edit
+
+void ChooseItem(ComboBox& box, int item);
+void PressTab(TabControl& tabs, int tab);
+void SlideTo(RangeControl& range, int value);
+void Spin(UpDown& arrows, bool up);
+void ResizeWindow(Window& window, int width, int height);
+void CloseWindow(Window& window);  // by its frame

@@ -1,0 +1,171 @@
+#include "platform/window.h"
+
+#include <algorithm>
+
+#include "platform/user.h"
+
+namespace {
+// The windows are globals that take themselves up before main: the list must be there first.
+std::vector<Window*>& Register() {
+    static std::vector<Window*> windows;
+    return windows;
+}
+
+std::vector<Window*> shown;  // from the back to the front
+Window* active = nullptr;
+WindowView* window_view = nullptr;
+
+void Tell(Window& window, WindowProperty property) {
+    if (window_view) window_view->Changed(window, property);
+}
+
+Window* Foremost() {
+    for (auto window = shown.rbegin(); window != shown.rend(); ++window)
+        if ((*window)->Enabled()) return *window;
+    return nullptr;
+}
+}  // namespace
+
+const std::vector<Window*>& AllWindows() {
+    return Register();
+}
+const std::vector<Window*>& ShownWindows() {
+    return shown;
+}
+Window* ActiveWindow() {
+    return active;
+}
+void BindWindowView(WindowView* view) {
+    window_view = view;
+}
+
+// The box left behind loses the focus, and has it again when its window comes back to the front.
+void ChangeActiveWindow() {
+    Window* const next = Foremost();
+    if (next == active) return;
+    Window* const left = active;
+    active = next;
+    if (left) left->LeaveFocus();
+    if (active != next || !next) return;  // a procedure has brought up another window meanwhile
+    next->EnterFocus();
+    if (active == next) next->Activated.Raise();
+}
+
+Window::Window(const char* window_name, const char* title, int width, int height)
+    : name(window_name), title_(title), design_title_(title), place_{0, 0, width, height}, design_place_(place_) {
+    Register().push_back(this);
+}
+
+void Window::Add(Control& control, const char* control_name, int index, Control* container, Box box) {
+    control.name = control_name;
+    control.index = index;
+    control.window = this;
+    control.container = container;
+    control.SetPlace(box.left, box.top);
+    control.SetWidth(box.width);
+    control.SetHeight(box.height);
+    controls_.push_back(&control);
+}
+
+void Window::KeepDesign() {
+    for (Control* control : controls_) control->KeepDesign();
+}
+
+Control* Window::Find(const std::string& control_name, int index) const {
+    for (Control* control : controls_)
+        if (control->index == index && control->name == control_name) return control;
+    return nullptr;
+}
+
+void Window::Load() {
+    if (loaded_) return;
+    loaded_ = true;
+    Loaded.Raise();
+}
+
+void Window::Show() {
+    stays_hidden_ = false;
+    Load();
+    if (stays_hidden_) return;
+    std::erase(shown, this);
+    shown.push_back(this);
+    visible_ = true;
+    Tell(*this, WindowProperty::Shown);
+    ChangeActiveWindow();
+}
+
+void Window::Hide() {
+    stays_hidden_ = true;
+    if (!visible_) return;
+    visible_ = false;
+    std::erase(shown, this);
+    Tell(*this, WindowProperty::Shown);
+    ChangeActiveWindow();
+}
+
+void Window::Unload() {
+    if (!loaded_) return;
+    Unloading.Raise();
+    focus_ = nullptr;
+    Hide();
+    loaded_ = false;
+    enabled_ = true;
+    title_ = design_title_;
+    place_ = design_place_;
+    Tell(*this, WindowProperty::Title);
+    Tell(*this, WindowProperty::Enabled);
+    Tell(*this, WindowProperty::Place);
+    for (Control* control : controls_) control->ReturnToDesign();
+    ForgetMembers();
+}
+
+void Window::SetEnabled(bool enabled) {
+    if (enabled == enabled_) return;
+    enabled_ = enabled;
+    Tell(*this, WindowProperty::Enabled);
+    ChangeActiveWindow();
+}
+
+void Window::SetTitle(const std::string& title) {
+    if (title == title_) return;
+    title_ = title;
+    Tell(*this, WindowProperty::Title);
+}
+
+void Window::SetSize(int width, int height) {
+    if (width != place_.width || height != place_.height) TakeSize(width, height);
+}
+
+void Window::TakeSize(int width, int height) {
+    place_.width = width;
+    place_.height = height;
+    Tell(*this, WindowProperty::Place);
+    Resized.Raise();
+}
+
+void Window::SetPlace(int left, int top) {
+    if (left == place_.left && top == place_.top) return;
+    place_.left = left;
+    place_.top = top;
+    Tell(*this, WindowProperty::Place);
+}
+
+void Window::SetFocus(Control& control) {
+    if (focus_ == &control) return;
+    if (this == active) LeaveFocus();
+    focus_ = &control;
+    Tell(*this, WindowProperty::Focus);
+    if (this == active) EnterFocus();
+}
+
+void Window::LeaveFocus() {
+    if (focus_) focus_->LostFocus.Raise();
+}
+
+void Window::EnterFocus() {
+    if (!focus_ && first_focus_ && IsUsable(*first_focus_)) {
+        focus_ = first_focus_;
+        Tell(*this, WindowProperty::Focus);
+    }
+    if (focus_) focus_->GotFocus.Raise();
+}

@@ -1,0 +1,33 @@
+#include "session/alarm.h"
+
+#include <cmath>
+
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "windows/main_window.h"
+
+namespace {
+bool IsFullHundred(double total) {
+    return std::fmod(total, 100) == 0;
+}
+}  // namespace
+
+bool AlarmDueAfterCount() {
+    bool due = false;
+    for (int i = 0; i < 3; ++i) {
+        const double total = Val(frmMain.Text3[i].Text());
+        if (!frmMain.Option1[i].Value() || total == 0) continue;
+        if (IsFullHundred(total))
+            due = true;
+        else if (IsFullHundred(total + 1))
+            AlarmArmed = true;
+    }
+    return due;
+}
+
+bool AlarmDueAfterUndo() {
+    bool due = false;
+    for (int i = 0; i < 3; ++i)
+        if (IsFullHundred(Val(frmMain.Text3[i].Text()) - 1) && frmMain.Option1[i].Value()) due = true;
+    return due;
+}

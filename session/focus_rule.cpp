@@ -1,0 +1,41 @@
+#include "session/focus_rule.h"
+
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "windows/main_window.h"
+
+namespace {
+int held_tab = 0;
+}
+
+void ReturnFocus() {
+    if (!AmendMode) frmMain.Text99.SetFocus();
+}
+
+void ReturnFocusOnMove() {
+    if (!DiagramOpen) ReturnFocus();
+}
+
+void EnterBox(Mouse) {
+    const bool counting = !AmendMode && !DiagramOpen;
+    MousePointer = counting ? kPointerArrow : kPointerIBeam;
+    if (counting) frmMain.Text99.SetFocus();
+}
+
+void PressInBox(int, Mouse) {
+    ReturnFocus();
+}
+
+void PressInCountBox(int slot, Mouse mouse) {
+    CountAtMouseDown = static_cast<float>(Val(frmMain.Text2[slot].Text()));
+    PressInBox(slot, mouse);
+}
+
+void HoldTab() {
+    held_tab = frmMain.SSTab1.Tab();
+}
+
+void ReturnTab() {
+    if (!AmendMode) frmMain.SSTab1.SetTab(held_tab);
+    frmMain.Text99.SetFocus();
+}

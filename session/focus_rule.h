@@ -1,0 +1,12 @@
+// While counting, the keyboard belongs to the counter: whatever the mouse does, the focus goes back to Text99.
+#pragma once
+#include "platform/control.h"
+
+void ReturnFocus();              // unless in Modify mode
+void ReturnFocusOnMove();        // the same, and not while a diagram is open beside the window
+void EnterBox(Mouse mouse);      // the mouse moves over a box: the pointer says whether it can be typed in
+void PressInBox(int slot, Mouse mouse);       // Text1
+void PressInCountBox(int slot, Mouse mouse);  // Text2
+
+void HoldTab();     // a press on the tabs: while counting, the mouse cannot change the bank
+void ReturnTab();

@@ -1,0 +1,15 @@
+#include "session/highlight.h"
+
+#include "session/sheet_state.h"
+#include "windows/main_window.h"
+
+void PaintCell(int slot, Colour colour) {
+    frmMain.Text1[slot].SetBackColor(colour);
+    frmMain.Text2[slot].SetBackColor(colour);
+}
+
+void MoveHighlight(int slot, Colour colour) {
+    PaintCell(LastSlot, kWhite);
+    PaintCell(slot, colour);
+    LastSlot = static_cast<std::int16_t>(slot);
+}

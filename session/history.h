@@ -1,0 +1,8 @@
+// The history: one line for every count and every event of a session. Combo1 lists the lines and shows the newest; HistoryLog holds
+// them for "Save history".
+#pragma once
+#include <string>
+
+void AddHistoryLine(const std::string& line);  // raises "Overflow" past 32767 lines
+void LogShownLineAgain();                      // the line that Combo1 shows goes into HistoryLog once more, not into the list
+std::string SlotAndName(int slot);             // "12: Pinus", as the cells say at this moment

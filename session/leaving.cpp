@@ -1,0 +1,110 @@
+#include "session/leaving.h"
+
+#include <algorithm>
+#include <string>
+
+#include "files/save_sheet.h"
+#include "files/sheet_base_name.h"
+#include "files/snapshot.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+#include "session/history.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "session/totals.h"
+#include "windows/diagram_window.h"
+#include "windows/initial_window.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+constexpr int kForgottenUndos = 101;
+
+bool Confirm(const std::string& text) {
+    return services.messages->Show({"Caution!", text, Icon::None, Buttons::YesNo}) == Answer::Yes;
+}
+
+void RestoreSlot(int slot) {
+    frmMain.Text2[slot].SetBold(false);
+    frmMain.Text1[slot].SetBold(false);
+    const int samples = std::min<int>(SampleCount, static_cast<int>(CountsAtOpen.size()) - 1);
+    if (CurrentSample <= samples) ShowCountOf(slot, CountsAtOpen[CurrentSample][slot]);
+    frmMain.Text1[slot].SetText(TaxonTableAtOpen[slot][4].Text());
+    for (int field = 1; field <= 4; ++field) TaxonTable[slot][field] = TaxonTableAtOpen[slot][field];
+    for (int sample = 1; sample <= samples; ++sample) Counts[slot][sample] = CountsAtOpen[sample][slot];
+}
+
+void RestoreParams() {
+    for (int p = 1; p <= kParams; ++p) {
+        const std::string value = ParamValuesAtOpen[p][CurrentSample].Text();
+        frmMain.Text5[p].SetText(value.empty() ? kEmpty : value);
+        frmMain.Label10[p].SetCaption(ParamValuesAtOpen[p][0].Text());
+    }
+}
+
+std::string ClosingQuestion() {
+    const std::string name = Length(SheetPath) < 4 ? "Untitled" : SheetBaseName(SheetPath);
+    return "Do you want to save the changes you made to '" + name + ".csv'?";
+}
+
+// An answer of Cancel, like a failed save, has never kept the program open: all that it does is not to save.
+void AskAndEnd() {
+    SaveOutcome = 1;
+    if (frmMain.Command5[0].Enabled()) {
+        const Message question{"Marlbrook", ClosingQuestion(), Icon::None, Buttons::YesNoCancel};
+        if (services.messages->Show(question) == Answer::Yes) SaveSheet(SheetClean ? kSaveClean : kSave);
+    }
+    if (SaveOutcome != 2) SoundOn = false;
+    UnloadAll();
+    services.host->End();
+}
+}  // namespace
+
+void RestoreSheet() {
+    for (int slot = 1; slot <= kSlots; ++slot) RestoreSlot(slot);
+    RestoreParams();
+    RecountTotals(CurrentSample);
+}
+
+void AbortCount() {
+    PlayIfOn(WaveError);
+    if (AllTotal != 0) {
+        if (Confirm("This action will abort all inputs after last saving. Do you proceed?")) {
+            RestoreSheet();
+            AddHistoryLine("(Reset)");
+            for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][1] = 0;
+            frmMain.Command2[0].SetEnabled(false);
+        } else {
+            frmMain.Command2[0].SetEnabled(true);
+        }
+    }
+    if (!AmendMode) frmMain.Text99.SetFocus();
+}
+
+void QuitProgram() {
+    PlayIfOn(WaveError);
+    if (!Confirm("This action will abort current data. Do you proceed?")) return;
+    RestoreSheet();
+    SoundOn = false;
+    UnloadAll();
+    services.host->End();
+}
+
+void CloseMainWindow() {
+    try {
+        AskAndEnd();
+    } catch (const Failure&) {
+        // The program stays open: whatever failed, nothing is lost.
+    }
+}
+
+void UnloadAll() {
+    frmDiagram.Unload();
+    frmInitial.Unload();
+    frmNext.Unload();
+}
+
+void CheckIfReallyEnd() {
+    SnapshotSheet();
+    SaveSheet(kSave);
+}

@@ -1,0 +1,10 @@
+// Three ways out of a counting run: Reset goes back to the last saved state and stays, Quit leaves without saving, closing the window
+// leaves after asking.
+#pragma once
+
+void RestoreSheet();     // counts, names, flags and Additional info of the snapshot; samples added since keep their counts
+void AbortCount();       // Reset
+void QuitProgram();
+void CloseMainWindow();  // by its frame
+void UnloadAll();        // every other window
+void CheckIfReallyEnd(); // a snapshot and a plain save

@@ -1,0 +1,51 @@
+#include "session/percent_display.h"
+
+#include "diagram/percentages.h"
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "session/totals.h"
+#include "windows/main_window.h"
+
+namespace {
+std::int16_t WholeNumber(const TextBox& box) {
+    return ToInteger(Val(box.Text()));
+}
+
+// A product of two Singles, rounded as one, ties to even.
+double ToOneDecimal(float value) {
+    return RoundHalfEven(value, 1);
+}
+
+void ParkCells() {
+    for (int slot = 0; slot <= kSlots; ++slot) frmMain.HeldCounts[slot] = WholeNumber(frmMain.Text2[slot]);
+    for (int i = 0; i < 3; ++i) frmMain.HeldTotals[i] = WholeNumber(frmMain.Text3[i]);
+}
+
+// The totals turn into percentages only where the sum kept for sample 136 is not 0, whatever sample is on show. On smaller sheets
+// they stay as they are, and analysts are used to it.
+void ShowTotalsInPercent() {
+    constexpr int kTestedSample = kSlots + 1;
+    if (Counts[0][kTestedSample] == 0) return;
+    for (TextBox& total : frmMain.Text3)
+        total.SetText(NumberText(RoundHalfEven(Val(total.Text()) * 100 / Counts[0][CurrentSample], 1)));
+}
+}  // namespace
+
+void ShowPercentages() {
+    ParkCells();
+    SamplePercentages(CurrentSample);
+    frmMain.KeysEnabled = false;
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        const float share = SamplePercent[slot][CurrentSample];
+        ShowCountOf(slot, share == kNoBasis ? 0 : ToOneDecimal(share * 100));
+    }
+    ShowTotalsInPercent();
+}
+
+void HidePercentages() {
+    for (int slot = 0; slot <= kSlots; ++slot) ShowCountOf(slot, frmMain.HeldCounts[slot]);
+    for (int i = 0; i < 3; ++i) frmMain.Text3[i].SetText(NumberText(frmMain.HeldTotals[i]));
+    frmMain.KeysEnabled = true;
+    frmMain.Text99.SetFocus();
+}

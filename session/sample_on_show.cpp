@@ -1,0 +1,16 @@
+#include "session/sample_on_show.h"
+
+#include <string>
+
+#include "session/sheet_state.h"
+#include "windows/main_window.h"
+
+void ShowSerial() {
+    frmMain.Label4.SetCaption(SampleTable[1][CurrentSample].Text() + "/" + std::to_string(MaxSerial));
+}
+
+void ShowSampleName() {
+    const std::string name = SampleTable[2][CurrentSample].Text();
+    frmMain.Text1[0].SetText(name);
+    frmMain.Combo2.SetText(name);
+}

@@ -1,0 +1,4 @@
+#pragma once
+#include "platform/services.h"
+
+void PlayIfOn(const Wave& wave);  // silent while SoundOn is False

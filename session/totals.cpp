@@ -1,0 +1,73 @@
+#include "session/totals.h"
+
+#include <string>
+
+#include "diagram/diversity_curve.h"
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "windows/main_window.h"
+
+namespace {
+void AddToTotals(int slot, double count) {
+    for (const int flag : {2, 3})  // Subtotal-1, Subtotal-2
+        if (TaxonTable[slot][flag] == 1) TaxonTable[0][flag] = TaxonTable[0][flag].Number() + count;
+    AllTotal = ToLong(AllTotal + count);  // a whole number: rounded at each addition, not once at the end
+}
+
+void ShowBold(int slot, bool bold) {
+    frmMain.Text2[slot].SetBold(bold);
+    frmMain.Text1[slot].SetBold(bold);
+}
+
+// A name that was wiped out is an empty slot.
+void RestoreBlankName(int slot) {
+    const std::string& name = frmMain.Text1[slot].Text();
+    if (name == "-" || name == "--" || name.empty() || name == " " || name == "  ") frmMain.Text1[slot].SetText(kEmpty);
+}
+}  // namespace
+
+void RecountTotals(std::int16_t sample) {
+    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    AllTotal = 0;
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        AddToTotals(slot, Val(frmMain.Text2[slot].Text()));
+        ShowBold(slot, Counts[slot][sample] != 0);
+        RestoreBlankName(slot);
+    }
+    frmMain.Text3[0].SetText(NumberText(AllTotal));  // its change enables Next sample and draws the curve
+    frmMain.Text3[1].SetText(TaxonTable[0][2].Text());
+    frmMain.Text3[2].SetText(TaxonTable[0][3].Text());
+}
+
+void TakeChangedTotal() {
+    const std::string& total = frmMain.Text3[0].Text();
+    if (Val(total) != 0) {
+        frmMain.Command5[1].SetEnabled(true);
+        frmMain.mnuNext.SetEnabled(true);
+    }
+    if (total == "0")
+        frmMain.Picture2.Clear();
+    else
+        DrawDiversityCurve();
+}
+
+void ChooseBasis(int option) {
+    for (int slot = 1; slot <= kSlots; ++slot)
+        frmMain.Text1[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
+    AlarmArmed = true;
+}
+
+void ShowCountOf(int slot, double count) {
+    frmMain.Text2[slot].SetText(NumberText(count));
+}
+
+void ShowCountsOfSample() {
+    for (int slot = 1; slot <= kSlots; ++slot) ShowCountOf(slot, Counts[slot][CurrentSample]);
+}
+
+void OfferDiagram() {
+    if (SampleCount < 2) return;
+    for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
+        style->SetEnabled(true);
+}

@@ -1,0 +1,13 @@
+// The totals of the sample on show, summed afresh from the count cells at every key: they cannot drift from what the analyst sees.
+#pragma once
+#include <cstdint>
+
+// Sums the cells of slots 1..135 into AllTotal and TaxonTable[0][2..3], shows the sums in frmMain.Text3[0..2], sets a cell bold where
+// Counts (one count behind its cell) is not 0. `sample`: 1..SampleCount. Raises "Overflow" past 32 bits; Text3 then keeps the old sums.
+void RecountTotals(std::int16_t sample);
+
+void TakeChangedTotal();                 // Text3[0] has changed: a sample with a count can be followed by the next, and the curve is drawn
+void ChooseBasis(int option);            // Option1[option] was selected: underlines the members of its subtotal, arms the alarm
+void ShowCountOf(int slot, double count);  // puts the count into its cell
+void ShowCountsOfSample();               // all cells take the counts of CurrentSample
+void OfferDiagram();                     // Label4 has changed: two samples make a diagram

@@ -1,0 +1,58 @@
+#include "session/undo.h"
+
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/alarm.h"
+#include "session/highlight.h"
+#include "session/history.h"
+#include "session/sample_on_show.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "session/totals.h"
+#include "windows/main_window.h"
+
+namespace {
+constexpr Colour kUndone{255, 255, 135};  // paler than a count's
+
+void GoToSampleOf(std::int16_t sample) {
+    if (sample == CurrentSample) return;
+    CurrentSample = sample;
+    ShowSampleName();
+    ShowCountsOfSample();
+    RecountTotals(CurrentSample);
+    AddHistoryLine("(Change sample: " + frmMain.Combo2.Text() + ")");
+    ShowSerial();
+}
+
+void TakeBack(int slot, int direction) {
+    ShowCountOf(slot, Val(frmMain.Text2[slot].Text()) - direction);
+    Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
+}
+
+void PopUndoList() {
+    std::memmove(&UndoList[0], &UndoList[1], sizeof(UndoList[0]) * kUndoDepth);
+    UndoList[kUndoDepth][0] = UndoList[kUndoDepth][1] = 0;
+}
+
+void UndoNewest() {
+    const int slot = std::abs(UndoList[0][1]);
+    const int direction = UndoList[0][1] < 0 ? -1 : 1;
+    GoToSampleOf(UndoList[0][0]);
+    const bool alarm_due = AlarmDueAfterUndo();
+    TakeBack(slot, direction);
+    PlayIfOn(alarm_due ? WaveAlarm : WaveUndo);
+    MoveHighlight(slot, kUndone);
+    PopUndoList();
+    AddHistoryLine((direction < 0 ? "(Undo-amend) " : "(Undo) ") + SlotAndName(slot));
+}
+}  // namespace
+
+void Undo() {
+    if (UndoList[0][1] != 0) UndoNewest();
+    RecountTotals(CurrentSample);
+    if (UndoList[0][1] == 0) frmMain.mnuUndo.SetEnabled(false);
+    AlarmArmed = true;
+}

@@ -1,0 +1,89 @@
+#include "taxa/cells.h"
+
+#include <cmath>
+#include <string>
+
+#include "platform/failure.h"
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/sample_on_show.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "session/totals.h"
+#include "taxa/quotation_guard.h"
+#include "windows/main_window.h"
+
+namespace {
+bool IsWholeNumber(const std::string& text) {
+    return text == NumberText(std::trunc(Val(text)));
+}
+
+void RefuseCount(TextBox& box) {
+    PlayIfOn(WaveError);
+    services.messages->Show({"Error", "Please input digit(s).", Icon::Exclamation, Buttons::Ok});
+    box.SetText(SingleText(CountAtMouseDown));
+}
+
+void StoreCount(int slot) {
+    TextBox& box = frmMain.Text2[slot];
+    if (AmendMode) {
+        if (!IsWholeNumber(box.Text())) {
+            RefuseCount(box);
+            return;
+        }
+        Counts[slot][CurrentSample] = ToLong(Val(box.Text()));
+        SampleUntouched = false;
+        RecountTotals(CurrentSample);
+    }
+    Counts[slot][CurrentSample] = ToLong(Val(box.Text()));
+    if (!IsWholeNumber(box.Text())) RefuseCount(box);
+}
+}  // namespace
+
+void TakeSampleName() {
+    frmMain.Combo2.SetText(frmMain.Text1[0].Text());
+    ShowSerial();
+    if (AmendMode) SampleTable[2][CurrentSample] = frmMain.Text1[0].Text();
+}
+
+void TakeTaxonName(int slot) {
+    RefuseQuotationMark(frmMain.Text1[slot]);
+    TaxonTable[slot][4] = frmMain.Text1[slot].Text();
+}
+
+void TakeCount(int slot) {
+    if (frmMain.ChangingSample || !frmMain.KeysEnabled) return;
+    try {
+        StoreCount(slot);
+    } catch (const Failure&) {
+        // A count beyond 32 bits: the array keeps the last one that it could hold.
+    }
+}
+
+void TakeNote() {
+    RefuseQuotationMark(frmMain.Text4);
+    SampleNotes[CurrentSample] = frmMain.Text4.Text();
+    SheetClean = false;
+}
+
+void TakeParam(int p) {
+    RefuseQuotationMark(frmMain.Text5[p]);
+    ParamValues[p][CurrentSample] = frmMain.Text5[p].Text();
+    SheetClean = false;
+    frmMain.mnuNew.SetEnabled(true);
+    frmMain.Label8.SetCaption(frmMain.Text5[p].Text());
+}
+
+void EndWithColon(int p) {
+    Label& label = frmMain.Label10[p];
+    if (Right(label.Caption(), 1) != ":") label.SetCaption(label.Caption() + ":");
+}
+
+void RenameSampleOnShow() {
+    SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
+    frmMain.Text4.SetText(SampleNotes[CurrentSample]);
+    WarnOldSample = true;
+    frmMain.Text99.SetEnabled(true);
+    frmMain.Command5[0].SetEnabled(true);
+    frmMain.mnuSave.SetEnabled(true);
+}

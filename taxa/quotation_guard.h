@@ -1,0 +1,8 @@
+// A quoted cell of a file cannot hold a double quotation mark, so a key that could have typed one is refused in every box whose text
+// is stored.
+#pragma once
+#include "platform/controls.h"
+
+void EnterGuardedBox();                      // the box gets the focus
+void NoteEditKey(int code);                  // a key goes down in it
+void RefuseQuotationMark(TextBox& box);      // its text has changed: beep, message, and the character before the caret is cut out

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds Marlbrook and runs its tests:
+#     ./test.sh            everything
+#     ./test.sh --quick    the unit tests and the scripts without windows
+# Unit tests and scripts without windows run under the address and undefined-behaviour sanitizers; whatever shows windows runs in the
+# release build, as users get it. The last line is "N passed, N failed"; the status is 0 if nothing failed.
+set -euo pipefail
+top=$(dirname "$(readlink -f "$0")")
+cd "$top"
+. tests/tally.sh
+
+Fail() {
+    echo "test.sh: $*" >&2
+    exit 1
+}
+
+UnitTests() {  # in the words of the other runs
+    local status=0 ran ok
+    timeout 600 build/sanitize/bin/unit_tests --gtest_brief=1 >build/unit_tests.log 2>&1 || status=$?
+    ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran.*/\1/p' build/unit_tests.log)
+    ok=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}.*/\1/p' build/unit_tests.log)
+    [ "$status" = 0 ] || cat build/unit_tests.log
+    [ -n "$ran" ] && echo "${ok:-0} passed, $((ran - ${ok:-0})) failed"
+    return "$status"
+}
+
+Demo() {  # what run.sh does where there is no display
+    if env -u DISPLAY -u WAYLAND_DISPLAY ./run.sh >build/demo.log 2>&1; then
+        echo "1 passed, 0 failed"
+    else
+        tail -n 30 build/demo.log
+        echo "0 passed, 1 failed"
+    fi
+}
+
+presets=(sanitize release)
+case "${1:-}" in
+    "") ;;
+    --quick) presets=(sanitize) ;;
+    *) Fail "unknown option $1; there is --quick" ;;
+esac
+
+packaging/debian-packages.sh test  # it and the next say themselves what went wrong
+packaging/build.sh "${presets[@]}"
+
+export ASAN_OPTIONS=${ASAN_OPTIONS:-exitcode=99} UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
+Tally "Unit tests" UnitTests
+Tally "Scripts" tests/run_scripts.sh build/sanitize/bin/marlbrook-drive tests/scripts
+if [ "${1:-}" != --quick ]; then
+    Tally "Scripts on windows" tests/run_scripts.sh build/release/bin/marlbrook-drive --windows tests/scripts
+    Tally "Demonstration" Demo
+    if [ -x tests/windows/run_all.sh ]; then Tally "The real window" tests/windows/run_all.sh; fi
+fi
+echo "== All tests"
+TallyEnd
