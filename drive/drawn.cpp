@@ -122,7 +122,7 @@ std::vector<std::string> PictureLines(const PictureBox& picture) {
         if (picture.IsPersistent() && place == picture.PersistentCount()) lines.push_back("persist");
         if (place == operations.size()) break;
         std::string line = KindName(operations[place].shape);
-        for (const Field& field : FieldsOf(picture, operations[place])) line += " " + FieldText(field);
+        for (const Field& field : FieldsOf(picture, operations[place])) line.append(" ").append(FieldText(field));
         lines.push_back(std::move(line));
     }
     return lines;

@@ -28,9 +28,9 @@ std::optional<int> RowOf(const std::string& word) {
 int HeldCode(const std::string& word) {
     const auto row = RowOf(word);
     if (!row) throw ScriptFault("unknown key " + word + " (known: @1 to @45, @shift1, @shift2, @undo, @save)");
-    const double code = KeySettings[*row][1].Number();
-    if (code < 1 || code > kHighestCode) throw ScriptFault("the program holds no key settings that give " + word + " a code");
-    return static_cast<int>(code);
+    const Any& code = KeySettings[*row][1];
+    if (code.Text().empty()) throw ScriptFault("the program holds no key settings yet that give " + word + " a code");
+    return static_cast<int>(code.Number());
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "drive/names.h"
 #include "drive/us_keyboard.h"
 #include "drive/words.h"
+#include "platform/text.h"
 #include "platform/user.h"
 
 namespace drive {
@@ -68,7 +69,9 @@ void PressKeys(Stage& stage, const Command& command) {
 
 void PressWithCharacter(Stage& stage, const Command& command) {
     const int code = KeyCode(command.words[1]);
-    stage.Act([&] { stage.hands.Press(code, command.words[2]); });
+    const std::string& character = command.words[2];
+    if (Length(character) > 1) throw ScriptFault("a key types one character or none: use type for " + Quoted(character));
+    stage.Act([&] { stage.hands.Press(code, character); });
 }
 
 void TypeText(Stage& stage, const Command& command) {

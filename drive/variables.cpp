@@ -4,10 +4,14 @@
 #include <map>
 #include <utility>
 
+#include "diagram/diversity_curve.h"
+#include "diagram/percentages.h"
 #include "drive/fault.h"
 #include "drive/values.h"
 #include "platform/services.h"
 #include "session/sheet_state.h"
+#include "windows/initial_window.h"
+#include "windows/main_window.h"
 
 namespace drive {
 
@@ -130,6 +134,24 @@ const std::map<std::string, Variable>& Variables() {
         {"SampleNamesAreText", Of(SampleNamesAreText)},
         {"FileVersion", Of(FileVersion)},
         {"MousePointer", Of(MousePointer)},
+        // The diagram and the taxa curve
+        {"SamplePercent", Of(SamplePercent)},
+        {"SampleRank", Of(SampleRank)},
+        {"SampleAtRank", Of(SampleAtRank)},
+        {"ColumnOffset", Of(ColumnOffset)},
+        {"ColumnGap", Of(ColumnGap)},
+        {"LastColumnMax", Of(LastColumnMax)},
+        {"DiagramNames", Of(DiagramNames)},
+        {"TaxaSeen", Of(TaxaSeen)},
+        {"DiversityLength", Of(DiversityLength)},
+        {"DiversityCurve", Of(DiversityCurve)},
+        // Members of windows
+        {"FormLoaded", Of(frmMain.FormLoaded)},
+        {"ChangingSample", Of(frmMain.ChangingSample)},
+        {"KeysEnabled", Of(frmMain.KeysEnabled)},
+        {"HeldCounts", Of(frmMain.HeldCounts)},
+        {"HeldTotals", Of(frmMain.HeldTotals)},
+        {"AllKnown", Of(frmInitial.AllKnown)},
     };
     return variables;
 }

@@ -21,9 +21,9 @@ constexpr char32_t kWindows1252[32] = {
 // How many bytes the character has that begins with `lead`; 0 if none begins so.
 std::size_t BytesOfCharacter(unsigned char lead) {
     if (lead < 0x80) return 1;
-    if (lead >= 0xC2 && lead < 0xE0) return 2;
+    if (lead >= 0xC0 && lead < 0xE0) return 2;
     if (lead >= 0xE0 && lead < 0xF0) return 3;
-    if (lead >= 0xF0 && lead < 0xF5) return 4;
+    if (lead >= 0xF0 && lead < 0xF8) return 4;
     return 0;
 }
 

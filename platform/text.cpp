@@ -137,8 +137,8 @@ std::string NumberText(double number) {
     if (std::abs(number) < kSixteenDigits && number == std::trunc(number))
         return {buffer, std::to_chars(buffer, std::end(buffer), static_cast<std::int64_t>(number)).ptr};
     const auto shortest = std::to_chars(buffer, buffer + kMaxDigits, number, std::chars_format::fixed);
-    if (shortest.ec == std::errc()) return {buffer, shortest.ptr};
-    // It may have 17 digits and show how the number was reckoned: 0.1 + 0.2 is to be 0.3.
+    if (shortest.ec == std::errc()) return {buffer, shortest.ptr};  // there is room for 15 digits, not for more
+    // The shortest text may have 17 digits and show how the number was reckoned: 0.1 + 0.2 is to be 0.3.
     const auto rounded = std::to_chars(buffer, std::end(buffer), number, std::chars_format::scientific, kMaxDigits - 1);
     return WithoutExponent({buffer, rounded.ptr});
 }

@@ -14,3 +14,8 @@ void ShowSampleName() {
     frmMain.Text1[0].SetText(name);
     frmMain.Combo2.SetText(name);
 }
+
+void ShowNoteAndParams() {
+    frmMain.Text4.SetText(SampleNotes[CurrentSample]);
+    for (int p = 1; p <= kParams; ++p) frmMain.Text5[p].SetText(ParamValues[p][CurrentSample].Text());
+}

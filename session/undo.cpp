@@ -25,6 +25,7 @@ void GoToSampleOf(std::int16_t sample) {
     RecountTotals(CurrentSample);
     AddHistoryLine("(Change sample: " + frmMain.Combo2.Text() + ")");
     ShowSerial();
+    ShowNoteAndParams();  // a save stamps the note that is on show
 }
 
 void TakeBack(int slot, int direction) {

@@ -83,7 +83,7 @@ TEST(EncodingTest, ATextWhoseBytesWouldBeTakenForUtf8StaysInUtf8) {
 
 TEST(EncodingTest, UtfIsKnownByItsOneRightForm) {
     for (const char32_t character : {0x80, 0x7FF, 0x800, 0xD7FF, 0xE000, 0xFFFD, 0xFFFF, 0x10000, 0x10FFFF})
-        EXPECT_EQ(DecodeFile("x" + Utf8(character)), "x" + Utf8(character)) << Hex(Utf8(character));
+        EXPECT_EQ(DecodeFile(Utf8(character)), Utf8(character)) << Hex(Utf8(character));
     const std::string malformed[] = {
         "\x80",
         "\xBF",
@@ -109,10 +109,18 @@ TEST(EncodingTest, UtfIsKnownByItsOneRightForm) {
         "\xC3\xA9\xE9",
     };
     for (const std::string& bytes : malformed) {
-        const std::string text = DecodeFile("x" + bytes);
-        EXPECT_EQ(Length(text), bytes.size() + 1) << Hex(bytes);
-        EXPECT_EQ(EncodeFile(text), "x" + bytes) << Hex(bytes);
+        const std::string text = DecodeFile(bytes);
+        EXPECT_EQ(Length(text), bytes.size()) << Hex(bytes);
+        EXPECT_EQ(EncodeFile(text), bytes) << Hex(bytes);
     }
+}
+
+TEST(EncodingTest, NothingIsReadBeyondTheEnd) {
+    const std::string_view euro = "\xE2\x82\xAC";
+    EXPECT_EQ(DecodeFile(euro), "€");
+    EXPECT_EQ(DecodeFile(euro.substr(0, 2)), "â‚");
+    EXPECT_EQ(DecodeFile(euro.substr(0, 1)), "â");
+    EXPECT_EQ(EncodeFile(euro.substr(0, 2)), "\xE2\x82");
 }
 
 TEST(EncodingTest, AMarkAtTheHeadIsPassedOver) {

@@ -1,0 +1,70 @@
+#include "files/exports.h"
+
+#include <functional>
+#include <string>
+
+#include "files/busy.h"
+#include "files/cell_writer.h"
+#include "files/sheet_rows.h"
+#include "platform/failure.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "session/stamps.h"
+#include "windows/main_window.h"
+
+namespace {
+// Asks where to, then writes what `write` has to say.
+void Export(const std::function<void(CellWriter&)>& write) {
+    if (!frmMain.CommonDialog1.AskForSaving()) return;
+    try {
+        const auto file = services.files->OpenForWriting(frmMain.CommonDialog1.FileName);
+        CellWriter cells(*file);
+        write(cells);
+        cells.Close();
+    } catch (const Failure&) {
+        return;
+    }
+}
+
+void WriteLabelRow(CellWriter& cells, const Any& label) {
+    WriteLabels(cells, label);
+    cells.EndRow();
+}
+
+void GiveFocusBack() {
+    if (!AmendMode) frmMain.Text99.SetFocus();
+}
+}  // namespace
+
+void CreateTemplate() {
+    const Busy busy(kSlots);
+    Export([](CellWriter& cells) {
+        StampHeader("Last saved (dd/mm/yyyy):");
+        WriteHeaderLabels(cells);
+        for (int row = 1; row <= kSlots; ++row) {
+            WriteTaxonLabels(cells, row);
+            cells.EndRow();
+            frmMain.ProgressBar1.SetValue(row);
+        }
+        NameUntitledParams();
+        WriteParamLabels(cells);
+        WriteNoteLabels(cells);
+        for (const Any& label : {SheetHeader[12], SheetHeader[13], Any("All total")}) WriteLabelRow(cells, label);
+        GiveFocusBack();
+    }, &WaveSave);
+}
+
+void SaveHistory() {
+    const Busy busy(HistoryCount);
+    frmMain.CommonDialog1.FileName = ProgramFile("References/History.csv");
+    Export([](CellWriter& cells) {
+        for (int i = 0; i <= HistoryCount; ++i) {
+            frmMain.ProgressBar1.SetValue(i);
+            cells.Write(HistoryLog[i]);
+            cells.EndRow();
+        }
+        cells.Write(NoteStamp());
+        cells.EndRow();
+    });
+    GiveFocusBack();
+}

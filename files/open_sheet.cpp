@@ -1,0 +1,215 @@
+#include "files/open_sheet.h"
+
+#include <algorithm>
+#include <string>
+
+#include "diagram/diversity_curve.h"
+#include "files/back_up.h"
+#include "files/read_sheet.h"
+#include "files/sample_names.h"
+#include "files/sheet_base_name.h"
+#include "files/snapshot.h"
+#include "keys/key_settings.h"
+#include "platform/encoding.h"
+#include "platform/failure.h"
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/history.h"
+#include "session/italics.h"
+#include "session/leaving.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "session/start_up.h"
+#include "session/totals.h"
+#include "windows/diagram_window.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+#include "windows/site_name_window.h"
+
+namespace {
+constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter title gives its first 15 characters all the same
+
+void CloseDiagram() {
+    frmDiagram.Unload();
+    DiagramOpen = false;
+}
+
+// False: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
+bool MayReplaceSheet() {
+    if (SheetClean) return true;
+    if (Val(frmMain.Text3[0].Text()) > 0) PlayIfOn(WaveError);
+    const bool has_sample = frmMain.Label4.Caption() != "1/0";
+    if (has_sample) PlayIfOn(WaveError);
+    if (!has_sample && AllTotal == 0) return true;
+    const Message question{"Caution!", "This action will abort current data. Do you proceed?", Icon::None, Buttons::YesNo};
+    if (services.messages->Show(question) != Answer::Yes) return false;
+    RestoreSheet();
+    CloseDiagram();
+    return true;
+}
+
+void ClearCounts() {
+    for (auto& row : Counts) std::fill(row, row + SampleCount + 1, 0);
+}
+
+// A file without samples is a template: the sheet gets its one column, which frmSiteName will name.
+void MakeColumnOfTemplate() {
+    TemplateOpened = SampleCount == 0;
+    if (!TemplateOpened) return;
+    SampleCount = CurrentSample = 1;
+    frmMain.Label4.SetCaption("1/1");
+    SampleTable[1][1] = 1;
+    SampleTable[2][1] = frmMain.Text1[0].Text();
+}
+
+void CancelOpen() {
+    SheetClean = true;
+    SampleUntouched = false;
+    MakeColumnOfTemplate();
+    frmMain.ProgressBar1.SetValue(0);
+    frmMain.ProgressBar1.SetVisible(false);
+}
+
+// The key index that two rows have in common, the first met going down; 0 if each has its own.
+int RepeatedKeyIndex() {
+    for (int row = 2; row <= kSlots; ++row)
+        if (std::find(&KeyIndex[1], &KeyIndex[row], KeyIndex[row]) != &KeyIndex[row]) return KeyIndex[row];
+    return 0;
+}
+
+void StartAfresh(int key_index) {
+    PlayIfOn(WaveError);
+    services.messages->Show({"Error", "Same key index (" + std::to_string(key_index) + ") is being used more than once.",
+                             Icon::Exclamation, Buttons::Ok});
+    InitialiseSheet();
+    RecountTotals(CurrentSample);
+}
+
+// The curve knows nothing of how the counts of the file were made: it only has room for them.
+void BeginCurve() {
+    constexpr double kLongestCurve = 32767;
+    frmMain.Picture2.Clear();
+    const double total = Val(frmMain.Text3[0].Text());
+    if (total < 0 || total > kLongestCurve) return;
+    DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
+    DiversityCurve[0] = ToInteger(total);
+}
+
+void ForgetUndos() {
+    for (auto& entry : UndoList) {
+        entry[0] = 1;
+        entry[1] = 0;
+    }
+}
+
+void ShowParams() {
+    if (FileVersion != 2) return;
+    for (int p = 1; p <= kParams; ++p) {
+        frmMain.Label10[p].SetCaption(ParamHeader[p][4]);  // ends in one colon, the label sees to it
+        frmMain.Text5[p].SetText(ParamValues[p][SampleCount].Text());
+    }
+}
+
+void ShowOpenedSheet() {
+    RecountTotals(CurrentSample);
+    frmMain.Text4.SetText(SampleNotes[SampleCount]);
+    frmMain.Command5[1].SetEnabled(true);
+    frmMain.mnuNext.SetEnabled(true);
+    frmMain.Command5[0].SetEnabled(false);
+    frmMain.mnuSave.SetEnabled(false);
+    frmMain.ProgressBar1.SetValue(0);
+    frmMain.ProgressBar1.SetVisible(false);
+    frmMain.Option1[0].SetValue(true);
+    for (int slot = 1; slot <= kSlots; ++slot) frmMain.Text1[slot].SetUnderline(false);
+    ShowParams();
+}
+
+void HandOver() {
+    BackUpSheet();
+    ApplyItalics();
+    frmNext.Unload();
+    CheckSampleNames();
+    SheetClean = true;
+    SampleUntouched = false;
+    if (TemplateOpened) {
+        frmSiteName.Show();
+        return;
+    }
+    frmMain.SetEnabled(true);
+    frmMain.Show();
+}
+
+// False: a key index repeats, and the session has started afresh.
+bool ReadTaxa(CellReader& cells) {
+    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    AllTotal = 0;
+    for (TextBox& total : frmMain.Text3) total.SetText("0");
+    ReadTaxonRows(cells);
+    const int repeated = RepeatedKeyIndex();
+    if (repeated != 0) StartAfresh(repeated);
+    return repeated == 0;
+}
+
+void ReadRest(CellReader& cells) {
+    if (FileVersion > 1) ReadParamRows(cells);
+    if (TemplateOpened) {
+        frmSiteName.Load();
+        for (int p = 1; p <= kParams; ++p) frmSiteName.Label3[p].SetCaption(ParamHeader[p][4]);
+    }
+    ReadNotes(cells);
+}
+
+// False: the session has started afresh, for a reason that the user was told.
+bool ReadFile(const std::string& path) {
+    CellReader cells(DecodeFile(services.files->ReadAll(path)));
+    CloseDiagram();
+    SheetPath = path;
+    frmMain.ProgressBar1.SetVisible(true);
+    ClearCounts();
+    frmMain.SetTitle(Left(frmMain.Title(), kLongTitleLength) + " - [" + SheetBaseName(path) + "]");
+    ReadFirstRow(cells);
+    ReadSampleNames(cells);
+    if (!ReadTaxa(cells)) return false;
+    RecountTotals(CurrentSample);
+    MakeColumnOfTemplate();
+    ReadRest(cells);
+    return true;
+}
+
+void FinishOpening() {
+    PlaceKeyCells();
+    SnapshotSheet();
+    BeginCurve();
+    ForgetUndos();
+    AddHistoryLine("(Open) " + SheetPath);
+    ShowOpenedSheet();
+    HandOver();
+}
+
+// False: cancelled, or the file could not be read to its end.
+bool ReadChosenFile() {
+    try {
+        if (!frmMain.CommonDialog1.AskForOpening() || !ReadFile(frmMain.CommonDialog1.FileName)) return false;
+        FinishOpening();
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+}  // namespace
+
+void OpenSheet() {
+    if (!MayReplaceSheet()) {
+        CancelOpen();
+        return;
+    }
+    SampleUntouched = true;
+    frmMain.ProgressBar1.SetRange(0, kSlots);
+    if (!ReadChosenFile()) CancelOpen();
+}
+
+void OpenSheetFromButton() {
+    OpenSheet();
+    ApplyItalics();
+    CheckSampleNames();
+}

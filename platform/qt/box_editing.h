@@ -1,0 +1,20 @@
+// What the editors of text boxes and combo boxes have in common: how they tell the program, and how they look.
+#pragma once
+#include <QPainter>
+#include <QPalette>
+#include <QWidget>
+
+#include "platform/qt/fitted_text.h"
+#include "platform/qt/model_view.h"
+
+// The user has changed the text: the program hears it as a whole, with the caret (in units of `shown`). The view shows what became of it.
+void TellText(Control& box, ModelView& view, const QString& shown, int caret);
+void TellSelection(Control& box, const QString& shown, int start, int length);  // in units of `shown`
+
+bool HoldsFocus(const Control& box);         // of the active window
+void PrepareEditor(QWidget& editor, const Control& box);
+QPalette EditorPalette(const Control& box);
+
+// A box that does not hold the keyboard shows its whole text.
+void PaintAtRest(QPainter& painter, const QRectF& room, const Control& box, const QFont& font, double factor, FittedText& fitted, int most_lines);
+void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus);

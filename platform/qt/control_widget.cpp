@@ -1,0 +1,119 @@
+#include "platform/qt/control_widget.h"
+
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/scaling.h"
+#include "platform/qt/window_widget.h"
+#include "platform/user.h"
+
+namespace {
+MouseButton ButtonOf(Qt::MouseButtons buttons) {
+    if (buttons & Qt::LeftButton) return MouseButton::Left;
+    if (buttons & Qt::RightButton) return MouseButton::Right;
+    return MouseButton::None;
+}
+}  // namespace
+
+QWidget* ControlWidget::OwnerGround() const {
+    return owner_ ? owner_->Ground(control_.page) : window_.Ground();
+}
+
+// The program says where the focus is: no widget takes it by itself.
+void ControlWidget::Adopt(QWidget* widget) {
+    widget_ = widget;
+    widget_->setFocusPolicy(Qt::NoFocus);
+    widget_->setContextMenuPolicy(Qt::PreventContextMenu);
+    if (!control_.accessible_name.empty()) widget_->setAccessibleName(ToQt(control_.accessible_name));
+    WatchMouse(widget_);
+}
+
+void ControlWidget::WatchMouse(QWidget* widget) {
+    widget->setMouseTracking(true);
+    widget->installEventFilter(this);
+}
+
+double ControlWidget::Factor() const {
+    return window_.Factor();
+}
+
+QFont ControlWidget::Font() const {
+    return ControlFont(control_.State(), Factor());
+}
+
+void ControlWidget::Show(Changes changes) {
+    if (changes.Has(Property::Place)) {
+        const QPoint origin = owner_ ? owner_->GroundOrigin(control_.page) : QPoint();
+        widget_->setGeometry(Scaled(control_.State().box, Factor()).translated(-origin));
+    }
+    if (changes.Has(Property::Enabled)) widget_->setEnabled(control_.Enabled());
+    if (changes.Has(Property::ToolTip)) widget_->setToolTip(ToQt(control_.ToolTip()));
+    ShowContent(changes);
+    widget_->update();
+    if (changes.Has(Property::Visible)) widget_->setVisible(control_.Visible());
+}
+
+Mouse ControlWidget::MouseAt(MouseButton button, QPointF at) const {
+    return {button, at.x() / Factor(), at.y() / Factor()};
+}
+
+void ControlWidget::Press(const Mouse& mouse, QPointF) {
+    PressMouse(control_, mouse);
+}
+
+void ControlWidget::Release(const Mouse& mouse, bool clicks) {
+    ReleaseMouse(control_, mouse);
+    if (clicks) FinishClick(control_);
+}
+
+// The mouse on a control that cannot be used goes to what lies below it.
+bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::MouseButtonRelease:
+            break;
+        default:
+            return QObject::eventFilter(watched, event);
+    }
+    const auto& mouse = *static_cast<const QMouseEvent*>(event);
+    const auto* const part = static_cast<const QWidget*>(watched);
+    const QPointF at = part == widget_ ? mouse.position() : part->mapTo(widget_, mouse.position());
+    if (event->type() == QEvent::MouseButtonRelease) return TakeRelease(mouse, at);
+    if (event->type() == QEvent::MouseMove) return (control_.Enabled() || pressed_ != MouseButton::None) && TakeMove(mouse, at);
+    return control_.Enabled() && TakePress(mouse, at);
+}
+
+// The second press of a double click is no press of its own where the double click is answered; elsewhere it is one like the first.
+bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
+    const MouseButton button = ButtonOf(event.button());
+    if (button == MouseButton::None) return !PassesMouse();
+    if (event.type() == QEvent::MouseButtonDblClick && button == MouseButton::Left && control_.DoubleClick.IsJoined()) {
+        TheRenderer().Run([this] { FinishDoubleClick(control_); });
+        return !PassesMouse();
+    }
+    pressed_ = button;
+    if (button == MouseButton::Left) ShowPressed(true);
+    TheRenderer().Run([&] { Press(MouseAt(button, at), at); });
+    return !PassesMouse();
+}
+
+bool ControlWidget::TakeMove(const QMouseEvent& event, QPointF at) {
+    const MouseButton held = ButtonOf(event.buttons());
+    if (held == MouseButton::None && pressed_ != MouseButton::None) {  // the release went elsewhere
+        pressed_ = MouseButton::None;
+        ShowPressed(false);
+    }
+    TheRenderer().Run([&] { MoveMouse(control_, MouseAt(held, at)); });
+    return held == MouseButton::None || !PassesMouse();
+}
+
+bool ControlWidget::TakeRelease(const QMouseEvent& event, QPointF at) {
+    const MouseButton button = ButtonOf(event.button());
+    if (button == MouseButton::None || button != pressed_) return !PassesMouse();
+    pressed_ = MouseButton::None;
+    ShowPressed(false);
+    const bool clicks = button == MouseButton::Left && QRectF(widget_->rect()).contains(at);
+    TheRenderer().Run([&] { Release(MouseAt(button, at), clicks); });
+    return !PassesMouse();
+}

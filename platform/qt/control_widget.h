@@ -1,0 +1,74 @@
+// A control on the screen: the widget that shows it, and the mouse on it. One class below this one for each kind of control.
+#pragma once
+#include <QMouseEvent>
+#include <QObject>
+#include <QPainter>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "platform/qt/model_view.h"
+
+class WindowWidget;
+
+class ControlWidget : public QObject, public ModelView {
+public:
+    // Makes the view for the kind of the control, on a ground that belongs to `owner` (nullptr: the window's own).
+    static std::unique_ptr<ControlWidget> Make(Control& control, WindowWidget& window, ControlWidget* owner);
+
+    Control& control() const { return control_; }
+    QWidget* Widget() const { return widget_; }
+    virtual QWidget* Ground(int /*page*/) { return widget_; }  // where the controls lie that this one contains
+    virtual QPoint GroundOrigin(int /*page*/) const { return {}; }  // its corner within the widget
+    virtual QWidget* FocusWidget() { return widget_; }            // what takes the keyboard while the control has the focus
+    // A key that the program has seen and not used up, while the control has the focus. True: the control used it.
+    virtual bool TakeKey(QKeyEvent& /*key*/) { return false; }
+    void Rescale() { Show(Changes::All()); }
+
+protected:
+    ControlWidget(Control& control, WindowWidget& window, ControlWidget* owner) : ModelView(control), control_(control), window_(window), owner_(owner) {}
+
+    QWidget* OwnerGround() const;
+    void Adopt(QWidget* widget);        // the control's widget; its mouse is told to the program
+    void WatchMouse(QWidget* widget);   // of a part of it
+    double Factor() const;
+    QFont Font() const;
+    void Show(Changes changes) override;  // what all kinds have in common
+    virtual void ShowContent(Changes changes) = 0;
+
+    // What the kind does at a press, besides its events; at the widget's own coordinates.
+    virtual void Press(const Mouse& mouse, QPointF at);
+    virtual void Release(const Mouse& mouse, bool clicks);
+    virtual bool PassesMouse() const { return false; }  // the widget itself answers the mouse too
+    virtual void ShowPressed(bool /*pressed*/) {}
+    virtual Mouse MouseAt(MouseButton button, QPointF at) const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool TakePress(const QMouseEvent& event, QPointF at);
+    bool TakeMove(const QMouseEvent& event, QPointF at);
+    bool TakeRelease(const QMouseEvent& event, QPointF at);
+
+    Control& control_;
+    WindowWidget& window_;
+    ControlWidget* owner_;
+    QWidget* widget_ = nullptr;
+    MouseButton pressed_ = MouseButton::None;
+};
+
+// A widget that a function paints.
+template <class Base>
+class Painted : public Base {
+public:
+    Painted(QWidget* parent, std::function<void(QPainter&)> paint) : Base(parent), paint_(std::move(paint)) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        paint_(painter);
+    }
+
+private:
+    std::function<void(QPainter&)> paint_;
+};

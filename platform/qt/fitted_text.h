@@ -1,0 +1,34 @@
+// A text that is made to fit its box, so that no name is ever cut off: in one line, by a font down to seven tenths of its size; else
+// broken on several lines (at a blank or hyphen, or anywhere in a word too long for a line) with the largest font that fits. Where
+// two lines fit at full size, lines are broken before the font shrinks.
+#pragma once
+#include <QFont>
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+class FittedText {
+public:
+    // Paints in the painter's pen. The layout is kept for the next time that nothing has changed.
+    void Paint(QPainter& painter, const QRectF& room, const QString& text, const QFont& font, Qt::Alignment alignment, int most_lines);
+
+private:
+    struct Question {
+        QString text;
+        QFont font;
+        QSizeF room;
+        int most_lines = 0;
+        bool operator==(const Question&) const = default;
+    };
+    struct Layout {
+        QStringList lines;
+        QFont font;
+        double pitch = 0;  // from line to line
+    };
+    static Layout Fit(const Question& question);
+    static bool FitLines(const Question& question, int pixels, int most_lines, Layout& layout);
+
+    Question question_;
+    Layout layout_;
+};

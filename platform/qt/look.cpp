@@ -1,0 +1,102 @@
+#include "platform/qt/look.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <algorithm>
+
+namespace {
+constexpr int kTwipsPerPoint = 20;
+constexpr double kPlainPoints = 9;
+
+class Look : public QProxyStyle {
+public:
+    Look() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
+        switch (hint) {
+            case SH_MenuBar_AltKeyNavigation:  // Alt can be a counter key
+                return 0;
+            case SH_ToolTip_WakeUpDelay:
+                return 400;
+            default:
+                return QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    }
+};
+
+QPalette LightPalette() {
+    QPalette palette;
+    const auto set = [&palette](QPalette::ColorRole role, QColor colour) { palette.setColor(role, colour); };
+    set(QPalette::Window, ToQt(kFormColour));
+    set(QPalette::WindowText, Qt::black);
+    set(QPalette::Base, Qt::white);
+    set(QPalette::AlternateBase, QColor(0xf4, 0xf6, 0xf8));
+    set(QPalette::Text, Qt::black);
+    set(QPalette::PlaceholderText, kRestingWords);
+    set(QPalette::Button, ToQt(kFormColour));
+    set(QPalette::ButtonText, Qt::black);
+    set(QPalette::BrightText, Qt::white);
+    set(QPalette::ToolTipBase, QColor(0xff, 0xff, 0xf0));
+    set(QPalette::ToolTipText, Qt::black);
+    set(QPalette::Highlight, kAccent);
+    set(QPalette::HighlightedText, Qt::white);
+    set(QPalette::Link, kAccent);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText}) palette.setColor(QPalette::Disabled, role, kRestingWords);
+    palette.setColor(QPalette::Disabled, QPalette::Text, kRestingWords);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, kOutline);
+    return palette;
+}
+
+QFont FontOfSize(double points, double factor) {
+    QFont font = QApplication::font();
+    font.setPixelSize(std::max(1, static_cast<int>(points * kTwipsPerPoint * factor + 0.25)));
+    return font;
+}
+}  // namespace
+
+void ApplyLook(QApplication& application) {
+    application.setStyle(new Look);
+    application.setPalette(LightPalette());
+}
+
+QColor ToQt(Colour colour) {
+    return {colour.red, colour.green, colour.blue};
+}
+
+QString ToQt(const std::string& utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::string FromQt(const QString& text) {
+    const QByteArray utf8 = text.toUtf8();
+    return {utf8.constData(), static_cast<std::size_t>(utf8.size())};
+}
+
+QFont ControlFont(const Properties& control, double factor) {
+    QFont font = FontOfSize(control.font_size, factor);
+    font.setBold(control.bold);
+    font.setItalic(control.italic);
+    font.setUnderline(control.underline);
+    return font;
+}
+
+QFont PlainFont(double factor) {
+    return FontOfSize(kPlainPoints, factor);
+}
+
+QColor BoxGround(const Properties& control) {
+    return !control.enabled && control.back == kWhite ? kRestingBox : ToQt(control.back);
+}
+
+void PaintOutline(QPainter& painter, const QRectF& box, const QColor& colour, double width, double radius) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, radius > 0);
+    painter.setPen(QPen(colour, width));
+    painter.setBrush(Qt::NoBrush);
+    const double half = width / 2;
+    painter.drawRoundedRect(box.adjusted(half, half, -half, -half), radius, radius);
+    painter.restore();
+}

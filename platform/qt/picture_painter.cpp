@@ -1,0 +1,114 @@
+#include "platform/qt/picture_painter.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/look.h"
+
+namespace {
+constexpr double kPixelsPerPoint = 20.0 / 15;
+constexpr double kNameHeight = 12;  // pixels of the program
+
+class OperationPainter {
+public:
+    OperationPainter(QPainter& painter, const PictureScale& scale) : painter_(painter), scale_(scale) {}
+
+    void Paint(const DrawOperation& operation) {
+        switch (operation.shape) {
+            case DrawOperation::Shape::Line:
+                return Line(operation);
+            case DrawOperation::Shape::Rectangle:
+                return Rectangle(operation);
+            case DrawOperation::Shape::Circle:
+                return Circle(operation);
+            case DrawOperation::Shape::Text:
+                return Text(operation);
+            case DrawOperation::Shape::Name:
+                return Name(operation);
+        }
+    }
+
+private:
+    double X(double fraction) const { return fraction * scale_.size.width(); }
+    double Y(double fraction) const { return fraction * scale_.size.height(); }
+    double Thickness() const { return std::max(1.0, std::round(scale_.pixel)); }
+
+    void UsePen(Colour colour) {
+        if (pen_is_set_ && colour == pen_) return;
+        painter_.setPen(QPen(ToQt(colour), Thickness(), Qt::SolidLine, Qt::FlatCap));
+        pen_ = colour;
+        pen_is_set_ = true;
+    }
+
+    // A line of an axis direction is a bar of whole pixels around the place; with its far end, so that lines that meet join.
+    void Line(const DrawOperation& line) {
+        const double x1 = X(line.x1), y1 = Y(line.y1), x2 = X(line.x2), y2 = Y(line.y2);
+        const double thick = Thickness(), half = std::floor(thick / 2);
+        if (std::abs(x1 - x2) < 0.5 || std::abs(y1 - y2) < 0.5) {
+            const QPointF from(std::floor(std::min(x1, x2)) - half, std::floor(std::min(y1, y2)) - half);
+            const QPointF to(std::floor(std::max(x1, x2)) - half + thick, std::floor(std::max(y1, y2)) - half + thick);
+            painter_.fillRect(QRectF(from, to), ToQt(line.rim));
+            return;
+        }
+        painter_.setRenderHint(QPainter::Antialiasing, true);
+        UsePen(line.rim);
+        painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+    }
+
+    void Rectangle(const DrawOperation& rectangle) {
+        const QPointF from(std::round(X(std::min(rectangle.x1, rectangle.x2))), std::round(Y(std::min(rectangle.y1, rectangle.y2))));
+        const QPointF to(std::round(X(std::max(rectangle.x1, rectangle.x2))), std::round(Y(std::max(rectangle.y1, rectangle.y2))));
+        painter_.fillRect(QRectF(from, QPointF(std::max(to.x(), from.x() + 1), std::max(to.y(), from.y() + 1))), ToQt(rectangle.fill));
+    }
+
+    void Circle(const DrawOperation& circle) {
+        painter_.setRenderHint(QPainter::Antialiasing, true);
+        UsePen(circle.rim);
+        painter_.setBrush(ToQt(circle.fill));
+        const double radius = X(circle.radius);
+        painter_.drawEllipse(QPointF(X(circle.x1), Y(circle.y1)), radius, radius);
+        painter_.setBrush(Qt::NoBrush);
+    }
+
+    void Text(const DrawOperation& text) {
+        UseFont(text.size * kPixelsPerPoint * scale_.pixel, false);
+        UsePen(text.rim);
+        painter_.drawText(QPointF(X(text.x1), Y(text.y1) + painter_.fontMetrics().ascent()), ToQt(text.text));
+    }
+
+    void Name(const DrawOperation& name) {
+        UseFont(kNameHeight * scale_.pixel, name.italic);
+        UsePen(name.rim);
+        painter_.save();
+        painter_.translate(name.x1 * scale_.pixel, name.y1 * scale_.pixel);
+        painter_.rotate(-90);
+        painter_.drawText(QPointF(0, painter_.fontMetrics().ascent()), ToQt(name.text));
+        painter_.restore();
+    }
+
+    void UseFont(double pixels, bool italic) {
+        const int size = std::max(1, static_cast<int>(std::lround(pixels)));
+        if (size == font_size_ && italic == italic_) return;
+        QFont font = QApplication::font();
+        font.setPixelSize(size);
+        font.setItalic(italic);
+        painter_.setFont(font);
+        font_size_ = size;
+        italic_ = italic;
+    }
+
+    QPainter& painter_;
+    const PictureScale& scale_;
+    Colour pen_;
+    bool pen_is_set_ = false;
+    int font_size_ = 0;
+    bool italic_ = false;
+};
+}  // namespace
+
+void PaintOperations(QPainter& painter, std::span<const DrawOperation> operations, const PictureScale& scale) {
+    OperationPainter one(painter, scale);
+    for (const DrawOperation& operation : operations) one.Paint(operation);
+}

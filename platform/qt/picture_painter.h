@@ -1,0 +1,13 @@
+// Paints the display list of a picture, pixel by pixel of the screen: lines of the axis directions are crisp at every density.
+#pragma once
+#include <QPainter>
+#include <span>
+
+#include "platform/picture_box.h"
+
+struct PictureScale {
+    QSizeF size;       // of the picture, in pixels of the painter
+    double pixel = 1;  // a pixel of the program (15 twips) in pixels of the painter
+};
+
+void PaintOperations(QPainter& painter, std::span<const DrawOperation> operations, const PictureScale& scale);

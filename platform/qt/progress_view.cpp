@@ -1,0 +1,51 @@
+#include <QElapsedTimer>
+#include <QProgressBar>
+#include <algorithm>
+
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/views.h"
+
+namespace {
+constexpr int kShortestMs = 15;  // between two repaints: nobody sees more, and a save is not to wait for its bar
+
+// The bar moves while an event still runs, so it is repainted at once.
+class ProgressView : public ControlWidget {
+public:
+    ProgressView(ProgressBar& bar, WindowWidget& window, ControlWidget* owner) : ControlWidget(bar, window, owner), bar_(bar) {
+        shown_ = new Painted<QProgressBar>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
+        Adopt(shown_);
+        since_repaint_.start();
+    }
+
+    void Changed(Property property) override {
+        ControlWidget::Changed(property);
+        if (property != Property::Value || !bar_.Visible() || !TheRenderer().InEvent() || since_repaint_.elapsed() < kShortestMs) return;
+        TheRenderer().Agree();
+        shown_->repaint();
+        since_repaint_.restart();
+    }
+
+private:
+    void ShowContent(Changes) override {
+        shown_->setRange(bar_.Min(), std::max(bar_.Max(), bar_.Min() + 1));
+        shown_->setValue(std::clamp(bar_.Value(), shown_->minimum(), shown_->maximum()));
+    }
+
+    void Paint(QPainter& painter) {
+        const QRectF box = shown_->rect();
+        const double part = static_cast<double>(shown_->value() - shown_->minimum()) / (shown_->maximum() - shown_->minimum());
+        painter.fillRect(box, Qt::white);
+        painter.fillRect(QRectF(box.left(), box.top(), box.width() * part, box.height()), kAccent);
+        PaintOutline(painter, box, kOutline, 1, 0);
+    }
+
+    ProgressBar& bar_;
+    QProgressBar* shown_;
+    QElapsedTimer since_repaint_;
+};
+}  // namespace
+
+std::unique_ptr<ControlWidget> MakeView(ProgressBar& bar, WindowWidget& window, ControlWidget* owner) {
+    return std::make_unique<ProgressView>(bar, window, owner);
+}

@@ -1,0 +1,137 @@
+#include "platform/qt/renderer.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <utility>
+
+#include "platform/qt/pointer.h"
+#include "platform/qt/window_widget.h"
+#include "platform/run_event.h"
+#include "platform/services.h"
+#include "platform/user.h"
+
+namespace {
+Renderer* the_renderer = nullptr;
+}
+
+Renderer& TheRenderer() {
+    return *the_renderer;
+}
+
+Renderer::Renderer() {
+    the_renderer = this;
+    BindWindowView(this);
+}
+
+Renderer::~Renderer() {
+    BindWindowView(nullptr);
+    widgets_.clear();
+    the_renderer = nullptr;
+}
+
+void Renderer::Run(const std::function<void()>& event) {
+    if (stopped_) return;
+    ++depth_;
+    RunEvent(event);
+    if (--depth_ > 0) return;
+    Agree();
+    BringToFront();
+    if (WindowWidget* const active = ActiveWidget()) active->AgreeAboutFocus();
+    ShowPointer();
+    OpenPopup();
+    EndIfNothingIsShown();
+}
+
+void Renderer::Stop() {
+    stopped_ = true;
+}
+
+void Renderer::Note(ModelView& view) {
+    noted_.push_back(&view);
+    AgreeSoon();
+}
+
+// What changes outside any event is shown all the same.
+void Renderer::AgreeSoon() {
+    if (depth_ > 0 || agree_soon_) return;
+    agree_soon_ = true;
+    QTimer::singleShot(0, this, [this] {
+        agree_soon_ = false;
+        Run([] {});
+    });
+}
+
+void Renderer::Agree() {
+    if (std::exchange(windows_changed_, false)) AgreeAboutWindows();
+    while (!noted_.empty())
+        for (ModelView* view : std::exchange(noted_, {})) view->Agree();
+}
+
+void Renderer::Changed(Window& window, WindowProperty property) {
+    if (WindowWidget* const widget = WidgetOf(window)) widget->Note(property);
+    if (property != WindowProperty::Focus) windows_changed_ = true;
+    AgreeSoon();
+}
+
+WindowWidget* Renderer::WidgetOf(const Window& window) const {
+    const auto found = widgets_.find(&window);
+    return found == widgets_.end() ? nullptr : found->second.get();
+}
+
+WindowWidget* Renderer::ActiveWidget() const {
+    return ActiveWindow() ? WidgetOf(*ActiveWindow()) : nullptr;
+}
+
+// Windows that come are shown before those that go are hidden, so that the desktop gives the focus to no stranger in between.
+void Renderer::AgreeAboutWindows() {
+    const std::vector<Window*> shown = ShownWindows();
+    for (Window* window : shown) {
+        auto& widget = widgets_[window];
+        if (!widget) widget = std::make_unique<WindowWidget>(*window);
+        widget->Agree();
+        if (!widget->isVisible()) ShowWindow(*window, *widget);
+    }
+    for (const auto& [window, widget] : widgets_) {
+        if (window->Visible()) continue;
+        widget->Agree();
+        widget->hide();
+    }
+}
+
+// A dialog belongs to the window that it disables, and stays above it.
+void Renderer::ShowWindow(Window& window, WindowWidget& widget) {
+    WindowWidget* below = nullptr;
+    for (Window* other : ShownWindows()) {
+        if (other == &window) break;
+        if (WindowWidget* const shown = WidgetOf(*other); shown && !other->Enabled()) below = shown;
+    }
+    widget.ShowAbove(below);
+    was_shown_ = true;
+}
+
+void Renderer::BringToFront() {
+    Window* const front = ActiveWindow();
+    if (front == in_front_) return;
+    in_front_ = front;
+    if (WindowWidget* const widget = ActiveWidget()) widget->BringToFront();
+}
+
+void Renderer::UserActivates(Window& window) {
+    if (depth_ > 0 || QApplication::activeModalWidget() || &window == ActiveWindow()) return;
+    if (WindowWidget* const wanted = ActiveWidget(); wanted && wanted->WaitsForFront()) return;  // the desktop has not caught up yet
+    if (window.Enabled() && window.Visible())
+        Run([&window] { ::BringToFront(window); });
+    else if (WindowWidget* const active = ActiveWidget())
+        active->BringToFront();
+}
+
+void Renderer::OpenPopup() {
+    MenuItem* const menu = std::exchange(popup_, nullptr);
+    if (!menu || stopped_) return;
+    if (WindowWidget* const widget = WidgetOf(*menu->window)) widget->OpenPopup(*menu);
+}
+
+// A program without a window could not be ended by its user.
+void Renderer::EndIfNothingIsShown() {
+    if (was_shown_ && ShownWindows().empty() && !stopped_) services.host->End();
+}

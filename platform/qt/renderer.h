@@ -1,0 +1,62 @@
+// Shows the windows of the program and tells it what the user does.
+//
+// Each thing the user does is one event, run by Run. What the program changes meanwhile is noted and shown when the event is over, or
+// by Agree in the middle of it: before a box opens, when a bar moves. The program holds the focus and says which window is active; the
+// widgets are made to agree with it after every event. There is one renderer, from before the start of the program to its end.
+#pragma once
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/window.h"
+
+class ModelView;
+class WindowWidget;
+
+class Renderer : public QObject, private WindowView {
+public:
+    Renderer();  // binds itself to the windows
+    ~Renderer() override;
+
+    void Run(const std::function<void()>& event);
+    void Agree();
+    bool InEvent() const { return depth_ > 0; }
+
+    void Stop();  // the program has ended: no event reaches it any more
+    bool IsStopped() const { return stopped_; }
+
+    void Note(ModelView& view);                       // it has something to show
+    int TextChanges() const { return text_changes_; }  // grows whenever the text of a box changes
+    void NoteText() { ++text_changes_; }
+    void OpenPopupAfterEvent(MenuItem& menu) { popup_ = &menu; }
+    void UserActivates(Window& window);  // a window has come to the front of the screen
+
+    WindowWidget* WidgetOf(const Window& window) const;  // nullptr while it has never been shown
+    WindowWidget* ActiveWidget() const;
+
+private:
+    void Changed(Window& window, WindowProperty property) override;
+    void AgreeAboutWindows();
+    void ShowWindow(Window& window, WindowWidget& widget);
+    void BringToFront();
+    void OpenPopup();
+    void EndIfNothingIsShown();
+    void AgreeSoon();
+
+    int depth_ = 0;  // events that run, one inside the other
+    int text_changes_ = 0;
+    bool stopped_ = false;
+    bool agree_soon_ = false;
+    bool windows_changed_ = false;
+    bool was_shown_ = false;  // some window has been
+    Window* in_front_ = nullptr;
+    MenuItem* popup_ = nullptr;
+    std::vector<ModelView*> noted_;
+    std::map<const Window*, std::unique_ptr<WindowWidget>> widgets_;
+};
+
+Renderer& TheRenderer();

@@ -1,0 +1,39 @@
+#include <QCoreApplication>
+
+#include "platform/qt/text_area.h"
+#include "platform/qt/text_line.h"
+#include "platform/qt/views.h"
+
+namespace {
+// `Editor` is TextLine or TextArea.
+template <class Editor>
+class TextBoxView : public ControlWidget {
+public:
+    TextBoxView(TextBox& box, WindowWidget& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
+        editor_ = new Editor(OwnerGround(), box, *this);
+        Adopt(editor_);
+        if constexpr (std::is_same_v<Editor, TextArea>) WatchMouse(editor_->viewport());
+    }
+
+private:
+    void ShowContent(Changes) override {
+        editor_->Agree(Font(), Factor());
+        if constexpr (std::is_same_v<Editor, TextArea>) editor_->viewport()->update();
+    }
+    bool PassesMouse() const override { return HoldsFocus(box_); }
+    bool TakeKey(QKeyEvent& key) override {
+        QCoreApplication::sendEvent(editor_, &key);
+        return true;
+    }
+
+    TextBox& box_;
+    Editor* editor_;
+};
+}  // namespace
+
+// The box that holds the focus while nothing is to be typed is not there to be seen: the window itself has the keyboard then.
+std::unique_ptr<ControlWidget> MakeView(TextBox& box, WindowWidget& window, ControlWidget* owner) {
+    if (!box.takes_text) return nullptr;
+    if (box.multiline) return std::make_unique<TextBoxView<TextArea>>(box, window, owner);
+    return std::make_unique<TextBoxView<TextLine>>(box, window, owner);
+}

@@ -1,0 +1,56 @@
+#include "platform/qt/text_line.h"
+
+#include <QSignalBlocker>
+
+#include "platform/controls.h"
+#include "platform/qt/text_places.h"
+
+namespace {
+constexpr int kMostLines = 2;
+}
+
+TextLine::TextLine(QWidget* parent, Control& box, ModelView& view) : QLineEdit(parent), box_(box) {
+    PrepareEditor(*this, box);
+    setFrame(false);
+    setDragEnabled(false);
+    if (box.kind() == Kind::TextBox && static_cast<TextBox&>(box).centred) setAlignment(Qt::AlignCenter);
+    connect(this, &QLineEdit::textEdited, this, [this, &view](const QString& text) { TellText(box_, view, text, cursorPosition()); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, &TextLine::TellCaret);
+    connect(this, &QLineEdit::selectionChanged, this, &TextLine::TellCaret);
+}
+
+void TextLine::TellCaret() {
+    if (hasFocus()) TellSelection(box_, text(), hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
+}
+
+void TextLine::Agree(const QFont& font, double factor) {
+    const QSignalBlocker blocker(this);
+    font_ = font;
+    factor_ = factor;
+    if (const QString wanted = Shown(box_.State().text); text() != wanted) setText(wanted);
+    if (hasFocus()) AgreeForEditing();
+}
+
+void TextLine::AgreeForEditing() {
+    const QSignalBlocker blocker(this);
+    setFont(font_);
+    setPalette(EditorPalette(box_));
+    if (const int caret = UnitAfter(text(), box_.State().caret); !hasSelectedText() && cursorPosition() != caret) setCursorPosition(caret);
+}
+
+void TextLine::focusInEvent(QFocusEvent* event) {
+    deselect();
+    AgreeForEditing();
+    QLineEdit::focusInEvent(event);
+}
+
+void TextLine::paintEvent(QPaintEvent* event) {
+    if (hasFocus()) {
+        QLineEdit::paintEvent(event);
+        QPainter painter(this);
+        PaintBoxOutline(painter, rect(), true);
+    } else {
+        QPainter painter(this);
+        PaintAtRest(painter, rect(), box_, font_, factor_, fitted_, kMostLines);
+    }
+}

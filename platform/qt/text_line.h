@@ -1,0 +1,25 @@
+// The editor of one line in a text box or combo box. While it holds the keyboard it is a line edit like any other; at rest it paints
+// its text so that all of it can be read.
+#pragma once
+#include <QLineEdit>
+
+#include "platform/qt/box_editing.h"
+
+class TextLine : public QLineEdit {
+public:
+    TextLine(QWidget* parent, Control& box, ModelView& view);
+    void Agree(const QFont& font, double factor);  // with the box
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    void TellCaret();
+    void AgreeForEditing();  // what only matters while it holds the keyboard
+
+    Control& box_;
+    QFont font_;
+    double factor_ = 0;
+    FittedText fitted_;
+};

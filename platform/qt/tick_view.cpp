@@ -1,0 +1,91 @@
+// Option buttons and check boxes: a mark that is on or off, and its caption.
+#include <QCheckBox>
+#include <QRadioButton>
+
+#include "platform/qt/fitted_text.h"
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/views.h"
+#include "platform/user.h"
+
+namespace {
+constexpr double kMarkTwips = 210;
+constexpr int kMostLines = 2;
+
+void PaintDot(QPainter& painter, const QRectF& mark, bool on) {
+    painter.drawEllipse(mark);
+    if (!on) return;
+    const double rim = mark.width() * 0.26;
+    painter.setBrush(Qt::white);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(mark.adjusted(rim, rim, -rim, -rim));
+}
+
+void PaintTick(QPainter& painter, const QRectF& mark, bool on) {
+    painter.drawRoundedRect(mark, 2, 2);
+    if (!on) return;
+    const auto at = [&mark](double x, double y) { return QPointF(mark.left() + x * mark.width(), mark.top() + y * mark.height()); };
+    painter.setPen(QPen(Qt::white, mark.width() * 0.14, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(QPolygonF({at(0.22, 0.52), at(0.43, 0.72), at(0.8, 0.28)}));
+}
+
+// Qt's own button stands for the control with screen readers; its state follows the program's alone.
+template <class Base>
+class TickWidget : public Painted<Base> {
+public:
+    using Painted<Base>::Painted;
+
+protected:
+    void nextCheckState() override {}
+};
+
+template <class Model, class Base>
+class TickView : public ControlWidget {
+public:
+    TickView(Model& model, WindowWidget& window, ControlWidget* owner) : ControlWidget(model, window, owner), model_(model) {
+        button_ = new TickWidget<Base>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
+        button_->setAutoExclusive(false);
+        Adopt(button_);
+        QObject::connect(button_, &Base::clicked, this, [this] { TheRenderer().Run([this] { ClickControl(model_); }); });
+    }
+
+private:
+    void ShowContent(Changes changes) override {
+        if (changes.Has(Property::Caption)) button_->setText(ToQt(model_.Caption()).replace(u"&", u"&&"));
+        button_->setChecked(model_.Value() != 0);
+    }
+    void ShowPressed(bool pressed) override { button_->setDown(pressed); }
+
+    void Paint(QPainter& painter) {
+        const QRectF box = button_->rect();
+        if (model_.BackColor() != kFormColour) painter.fillRect(box, ToQt(model_.BackColor()));
+        const bool on = model_.Value() != 0;
+        const double size = std::min(kMarkTwips * Factor(), box.height() - 2);
+        const QRectF mark(box.left() + 1.5, box.center().y() - size / 2, size, size);
+        const QColor colour = button_->isEnabled() ? kAccent : kRestingWords;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(on || button_->hasFocus() || button_->isDown() ? colour : kRestingWords, button_->hasFocus() ? 2 : 1.2));
+        painter.setBrush(on ? colour : QColor(button_->isDown() ? kOutline : QColor(Qt::white)));
+        if constexpr (std::is_same_v<Base, QRadioButton>)
+            PaintDot(painter, mark, on);
+        else
+            PaintTick(painter, mark, on);
+        painter.setPen(button_->isEnabled() ? ToQt(model_.ForeColor()) : kRestingWords);
+        const QRectF words = box.adjusted(size + 75 * Factor(), 0, 0, 0);
+        fitted_.Paint(painter, words, ToQt(model_.Caption()), Font(), Qt::AlignLeft | Qt::AlignVCenter, kMostLines);
+    }
+
+    Model& model_;
+    Base* button_;
+    FittedText fitted_;
+};
+}  // namespace
+
+std::unique_ptr<ControlWidget> MakeView(OptionButton& option, WindowWidget& window, ControlWidget* owner) {
+    return std::make_unique<TickView<OptionButton, QRadioButton>>(option, window, owner);
+}
+
+std::unique_ptr<ControlWidget> MakeView(CheckBox& box, WindowWidget& window, ControlWidget* owner) {
+    return std::make_unique<TickView<CheckBox, QCheckBox>>(box, window, owner);
+}

@@ -1,0 +1,77 @@
+#include <QTimer>
+
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/views.h"
+#include "platform/user.h"
+
+namespace {
+constexpr int kFirstRepeatMs = 400;
+constexpr int kRepeatMs = 80;
+
+// Two arrows, one above the other, or side by side with up at the right. Held down, an arrow repeats.
+class UpDownView : public ControlWidget {
+public:
+    UpDownView(UpDown& arrows, WindowWidget& window, ControlWidget* owner) : ControlWidget(arrows, window, owner), arrows_(arrows) {
+        whole_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
+        Adopt(whole_);
+        connect(&repeat_, &QTimer::timeout, this, [this] {
+            repeat_.setInterval(kRepeatMs);
+            TheRenderer().Run([this] { Spin(arrows_, up_); });
+        });
+    }
+
+private:
+    bool IsUpright() const { return whole_->height() >= whole_->width(); }
+    QRectF Half(bool up) const {
+        const QRectF box = whole_->rect();
+        if (IsUpright()) return {0, up ? 0 : box.height() / 2, box.width(), box.height() / 2};
+        return {up ? box.width() / 2 : 0, 0, box.width() / 2, box.height()};
+    }
+
+    void ShowContent(Changes) override {}
+    void Press(const Mouse& mouse, QPointF at) override {
+        PressMouse(arrows_, mouse);
+        if (mouse.button != MouseButton::Left) return;
+        up_ = Half(true).contains(at);
+        Spin(arrows_, up_);
+        repeat_.start(kFirstRepeatMs);
+    }
+    void Release(const Mouse& mouse, bool) override { ReleaseMouse(arrows_, mouse); }
+    void ShowPressed(bool pressed) override {
+        pressed_ = pressed;
+        if (!pressed) repeat_.stop();
+        whole_->update();
+    }
+
+    void Paint(QPainter& painter) {
+        for (const bool up : {true, false}) PaintHalf(painter, up);
+    }
+
+    void PaintHalf(QPainter& painter, bool up) {
+        const QRectF half = Half(up);
+        const bool down = pressed_ && up == up_;
+        painter.fillRect(half, down ? kAccent : kButtonFace);
+        PaintOutline(painter, half, kOutline, 1, 0);
+        const double size = std::min(half.width(), half.height()) * 0.25;
+        const QPointF along = IsUpright() ? QPointF(0, up ? -size : size) : QPointF(up ? size : -size, 0);
+        const QPointF across = IsUpright() ? QPointF(size, 0) : QPointF(0, size);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(down ? QColor(Qt::white) : arrows_.Enabled() ? QColor(Qt::black) : kRestingWords);
+        const QPointF middle = half.center();
+        painter.drawPolygon(QPolygonF({middle + along * 0.6, middle - along * 0.6 + across, middle - along * 0.6 - across}));
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+
+    UpDown& arrows_;
+    QWidget* whole_;
+    QTimer repeat_;
+    bool up_ = false;
+    bool pressed_ = false;
+};
+}  // namespace
+
+std::unique_ptr<ControlWidget> MakeView(UpDown& arrows, WindowWidget& window, ControlWidget* owner) {
+    return std::make_unique<UpDownView>(arrows, window, owner);
+}

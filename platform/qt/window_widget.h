@@ -1,0 +1,66 @@
+// A window of the program on the screen: its frame, its menu bar and the ground on which its controls lie.
+//
+// All places are the program's twips times one factor. A larger window is the same one enlarged, words and all, in the middle of what
+// room there is; a window whose size is the user's own keeps its factor and tells the program its size instead.
+#pragma once
+#include <QTimer>
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/window.h"
+
+class ControlWidget;
+class MenuView;
+class Veil;
+
+class WindowWidget : public QWidget {
+public:
+    explicit WindowWidget(Window& window);
+    ~WindowWidget() override;
+
+    Window& window() const { return window_; }
+    double Factor() const { return factor_; }  // pixels a twip
+    QWidget* Ground() const { return ground_; }
+    MenuView& Menus() const { return *menus_; }
+    ControlWidget* Find(const Control& control) const;  // nullptr: nothing of it is to be seen
+
+    void Note(WindowProperty property);
+    void Agree();  // about title, size and whether it can be used
+    void AgreeAboutFocus();
+
+    void ShowAbove(WindowWidget* below);  // nullptr: it stands for itself
+    void BringToFront();
+    bool WaitsForFront() const { return waits_.isActive(); }  // it has been asked for and the desktop has not answered
+    void OpenPopup(MenuItem& menu);
+    void TakeUserSize();  // the user has made the window as large as it is now
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    ControlWidget* Build(Control& control);
+    QRect Client() const;             // what is left below the menu bar
+    QSize ClientSize(double factor) const;
+    void ChooseSize();
+    void Fit();                       // the factor and all places, after a change of size
+    void LayOut();
+    void PlaceAbove(const WindowWidget* below);
+
+    Window& window_;
+    double factor_ = 0;
+    bool title_changed_ = true;
+    bool size_changed_ = true;
+    bool sized_ = false;              // it has a size of its own
+    QWidget* ground_;
+    Veil* veil_;                      // over a window that takes no input
+    std::unique_ptr<MenuView> menus_;
+    std::map<const Control*, std::unique_ptr<ControlWidget>> controls_;
+    QTimer resize_soon_;
+    QTimer waits_;
+};

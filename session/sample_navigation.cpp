@@ -1,0 +1,38 @@
+#include "session/sample_navigation.h"
+
+#include <algorithm>
+#include <string>
+
+#include "diagram/diversity_curve.h"
+#include "session/history.h"
+#include "session/sample_on_show.h"
+#include "session/sheet_state.h"
+#include "session/totals.h"
+#include "windows/main_window.h"
+
+namespace {
+void ForgetCurve() {
+    for (std::size_t n = 1; n < DiversityCurve.size(); ++n) DiversityCurve[n] = 0;
+}
+
+void FindChosenSample() {
+    const std::string chosen = frmMain.Combo2.Text();
+    for (std::int16_t sample = 1; sample <= SampleCount; ++sample)
+        if (SampleTable[2][sample] == std::string_view(chosen)) CurrentSample = sample;
+}
+}  // namespace
+
+void BringUpChosenSample() {
+    ForgetCurve();
+    FindChosenSample();
+    frmMain.ChangingSample = true;
+    WarnOldSample = true;
+    ShowCountsOfSample();
+    frmMain.ChangingSample = false;
+    ShowSampleName();
+    RecountTotals(CurrentSample);
+    AddHistoryLine("(Change sample: " + frmMain.Combo2.Text() + ")");
+    ShowSerial();
+    ShowNoteAndParams();
+    (AmendMode ? frmMain.Text4 : frmMain.Text99).SetFocus();
+}

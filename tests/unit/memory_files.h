@@ -1,0 +1,23 @@
+// Files that live in memory, so that a test can begin with exactly the files it names and fill or lock any of them.
+#pragma once
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "platform/failure.h"
+#include "platform/files.h"
+
+class MemoryFiles : public Files {
+public:
+    std::map<std::string, std::string> bytes;     // path: what the file holds
+    std::set<std::string> locked;                 // every opening fails
+    std::map<std::string, std::size_t> room;      // path: the bytes that its disk takes
+
+    std::string ReadAll(const std::string& path) override {
+        if (locked.count(path) || !bytes.count(path)) throw Failure(kFileError);
+        return bytes[path];
+    }
+    std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
+};

@@ -1,0 +1,118 @@
+#include "unit/program_test.h"
+
+#include <cstring>
+#include <fstream>
+#include <iterator>
+
+#include "diagram/diversity_curve.h"
+#include "diagram/percentages.h"
+#include "events/program.h"
+#include "platform/user.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+// After the first run on a common keyboard.
+constexpr int kNamedKeyCodes[] = {16, 17, 46, 8, 27, 13, 32, 112, 37, 38, 39, 40};
+
+template <class T, std::size_t n>
+void Wipe(T (&array)[n]) {
+    if constexpr (std::is_array_v<T>)
+        for (T& row : array) Wipe(row);
+    else
+        for (T& cell : array) cell = T{};
+}
+
+void WipeSheet() {
+    Wipe(SheetHeader);
+    Wipe(SampleTable);
+    Wipe(TaxonTable);
+    Wipe(Counts);
+    Wipe(SampleNotes);
+    Wipe(SheetFooter);
+    Wipe(ParamHeader);
+    Wipe(ParamValues);
+    Wipe(KeyIndex);
+    Wipe(RowOfSlot);
+    Wipe(TaxonTableAtOpen);
+    Wipe(ParamValuesAtOpen);
+    CountsAtOpen.clear();
+    AllTotal = 0;
+    SampleCount = CurrentSample = MaxSerial = 0;
+    SheetPath.clear();
+}
+
+void WipeKeys() {
+    Wipe(KeySettings);
+    Shift1Code = Shift2Code = UndoKeyCode = 0;
+    KeySettingsLoaded = false;
+    KeyboardKnown = 0;
+    for (Wave* wave : {&WaveKey1, &WaveKey2, &WaveKey3, &WaveOpening, &WaveUndo, &WaveSave, &WaveAlarm, &WaveError}) wave->bytes.clear();
+}
+
+void WipeSession() {
+    SoundOn = SheetClean = SampleUntouched = AmendMode = Shift1Down = Shift2Down = ReverseCount = false;
+    AlarmArmed = WarnOldSample = DiagramOpen = SaveAsPending = TemplateOpened = SampleNamesAreText = false;
+    ShiftLevel = UndoKeyState = RepeatKeyCode = LastSlot = HistoryCount = SelectedSlot = LastEditKey = 0;
+    MoveFrom = MoveTo = SaveOutcome = BackupSlot = FileVersion = 0;
+    Wipe(UndoList);
+    HistoryLog.clear();
+    EditedValue.clear();
+    CountAtMouseDown = 0;
+    MousePointer = kPointerDefault;
+}
+
+void WipeDiagram() {
+    Wipe(SamplePercent);
+    SampleRank.clear();
+    SampleAtRank.clear();
+    Wipe(ColumnOffset);
+    Wipe(DiagramNames);
+    ColumnGap = TaxaSeen = DiversityLength = 0;
+    LastColumnMax = 0;
+    DiversityCurve.clear();
+}
+}  // namespace
+
+std::string KnownKeySettings() {
+    std::ifstream file(SOURCE_FOLDER "/install/References/KeySetting.csv", std::ios::binary);
+    std::string text{std::istreambuf_iterator<char>(file), {}};
+    for (const int code : kNamedKeyCodes) text.replace(text.find(",999,") + 1, 3, std::to_string(code));
+    return text;
+}
+
+ProgramTest::ProgramTest() {
+    WipeSheet();
+    WipeKeys();
+    WipeSession();
+    WipeDiagram();
+    services.files = &files_;
+    files_.bytes["/program/References/KeySetting.csv"] = KnownKeySettings();
+    files_.bytes["/program/References/My_favorite.jpg"] = "a picture";
+    for (const char* wave : {"Key-1", "Key-2", "Key-3", "Opening", "Undo", "Save", "Alarm", "Error"})
+        files_.bytes[std::string("/program/Sound files/") + wave + ".wav"] = wave;
+}
+
+ProgramTest::~ProgramTest() {
+    for (Window* window : AllWindows()) window->Unload();
+}
+
+void ProgramTest::Start() {
+    StartProgram();
+}
+
+void ProgramTest::Begin(const std::string& name) {
+    Start();
+    ClickControl(frmNext.Command4);
+    InsertText(frmNext.Text1, name);
+    ClickControl(frmNext.Command1);
+}
+
+void ProgramTest::Key(int code) {
+    PressKey(code);
+    ReleaseKey(code);
+}
+
+void ProgramTest::KeyNumber(int key, int times) {
+    for (int i = 0; i < times; ++i) Key(static_cast<int>(KeySettings[key][1].Number()));
+}

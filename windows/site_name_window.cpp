@@ -1,0 +1,38 @@
+#include "windows/site_name_window.h"
+
+#include <string>
+
+SiteNameWindow frmSiteName;
+
+namespace {
+constexpr int kBoxLeft = 2900;
+constexpr int kBoxWidth = 3860;
+}  // namespace
+
+SiteNameWindow::SiteNameWindow() : Window("frmSiteName", "New data sheet", 7200, 4940) {
+    Add(Frame1, "Frame1", -1, nullptr, {120, 120, 6960, 4060});
+    Frame1.SetCaption(" Create a new data file");
+    Add(Label1, "Label1", -1, &Frame1, {200, 350, 2600, 280});
+    Label1.SetCaption("Name of the first sample: ");
+    Add(Text1, "Text1", -1, &Frame1, {kBoxLeft, 320, kBoxWidth, 330});
+    Text1.accessible_name = "Sample name";
+    Add(Label2, "Label2", -1, &Frame1, {200, 760, 2600, 280});
+    Label2.SetCaption("Note: ");
+    Add(Text2, "Text2", -1, &Frame1, {kBoxLeft, 730, kBoxWidth, 900});
+    Text2.multiline = true;
+    Text2.accessible_name = "Note";
+    for (int p = 1; p <= kParams; ++p) {
+        const int top = 1720 + 375 * (p - 1);
+        Add(Label3[p], "Label3", p, &Frame1, {200, top + 20, 2600, 280});
+        Label3[p].SetCaption(kEmpty);
+        Add(Text3[p], "Text3", p, &Frame1, {kBoxLeft, top, kBoxWidth, 320});
+        Text3[p].SetText(kEmpty);
+        Text3[p].accessible_name = "Additional info " + std::to_string(p);
+    }
+    Add(Command1, "Command1", -1, nullptr, {4300, 4370, 1280, 420});
+    Command1.SetCaption("OK");
+    Add(Command3, "Command3", -1, nullptr, {5680, 4370, 1280, 420});
+    Command3.SetCaption("Cancel");
+    FirstFocus(Text1);
+    KeepDesign();
+}
