@@ -28,11 +28,12 @@ public:
     // lines; these three type no character.
     virtual void Press(int code, const std::string& character) = 0;
 
-    // Boxes are text boxes and combo boxes. A click leaves the caret where it is.
-    virtual void FocusBox(Control& box) = 0;  // a click with the left button
-    virtual void SetBox(Control& box,
-                        const std::string& text) = 0;  // FocusBox; then, if the box has the focus, select all and paste: one change
-    virtual void Paste(const std::string& text) = 0;   // at the caret of the box in focus: one change, no key
+    // Boxes are text boxes and combo boxes. To focus one is to click it with the left button, which leaves the caret where it is. To set
+    // one is to focus it and then, if it has the focus, to select all and paste: one change. Pasting goes in at the caret of the box in
+    // focus: one change, no key.
+    virtual void FocusBox(Control& box) = 0;
+    virtual void SetBox(Control& box, const std::string& text) = 0;
+    virtual void Paste(const std::string& text) = 0;
 
     // At the upper left corner of the control. A menu item's click opens the menus on its way first; an item of a popup that is open
     // is clicked in the popup, which closes.

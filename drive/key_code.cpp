@@ -39,7 +39,7 @@ int KeyCode(const std::string& word) {
     if (word.starts_with('@')) return HeldCode(word);
     if (word.size() == 1 && word[0] >= 'A' && word[0] <= 'Z') return word[0];
     const auto code = AsWhole(word);
-    if (!code || *code < 1 || *code > kHighestCode)
+    if (!code || *code < 0 || *code > kHighestCode)
         throw ScriptFault("unknown key " + word + " (a decimal code, a capital letter or @...)");
     return *code;
 }

@@ -11,7 +11,8 @@ namespace drive {
 void Show(Stage& stage, const Command& command) {
     for (std::size_t place = 1; place < command.words.size(); ++place) {
         const std::string& name = command.words[place];
-        stage.out << name << " = " << OnOneLine(stage.Shown(name)) << "\n";
+        const std::string value = stage.Shown(name);
+        stage.out << name << " = " << OnOneLine(value) << "\n";
     }
 }
 

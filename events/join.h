@@ -4,3 +4,4 @@
 void JoinMainEvents();
 void JoinNextEvents();
 void JoinInitialEvents();
+void JoinSiteNameEvents();

@@ -1,5 +1,8 @@
 #include "events/join.h"
+#include "files/exports.h"
+#include "files/new_sheet.h"
 #include "files/next_sample.h"
+#include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "platform/user.h"
 #include "session/count_channel.h"
@@ -7,11 +10,16 @@
 #include "session/italics.h"
 #include "session/key_dispatch.h"
 #include "session/leaving.h"
+#include "session/modify_mode.h"
 #include "session/percent_display.h"
+#include "session/sample_navigation.h"
 #include "session/start_up.h"
 #include "session/totals.h"
 #include "session/undo.h"
 #include "taxa/cells.h"
+#include "taxa/edit_boxes.h"
+#include "taxa/move_taxon.h"
+#include "taxa/quotation_guard.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -39,35 +47,87 @@ void JoinGrounds() {
     frmMain.Command1.Click.Calls([] { frmMain.Picture1.Clear(); });
 }
 
+// A press of the right button in Modify mode offers the move; otherwise the keyboard stays with the counter.
+void PressInCell(int slot, Mouse mouse) {
+    if (mouse.button == MouseButton::Right && AmendMode)
+        OfferMove(slot);
+    else
+        ReturnFocus();
+}
+
+void JoinBox(TextBox& box) {
+    box.MouseMove.Calls(EnterBox);
+    box.MouseUp.Calls([](Mouse) { ReturnFocus(); });
+}
+
+void JoinNameBox(int slot) {
+    TextBox& box = frmMain.Text1[slot];
+    JoinBox(box);
+    box.GotFocus.Calls([slot] { EnterNameBox(slot); });
+    box.LostFocus.Calls([slot] { LeaveNameBox(slot); });
+    box.KeyDown.Calls(NoteEditKey);
+    box.MouseDown.Calls([slot](Mouse mouse) { PressInCell(slot, mouse); });
+    box.DoubleClick.Calls([slot] { DoubleClickCell(slot, false); });
+    box.Change.Calls([slot] { slot == 0 ? TakeSampleName() : TakeTaxonName(slot); });
+}
+
+void JoinCountBox(int slot) {
+    TextBox& box = frmMain.Text2[slot];
+    JoinBox(box);
+    box.GotFocus.Calls([slot] { EnterCountBox(slot); });
+    box.LostFocus.Calls([slot] { LeaveCountBox(slot); });
+    box.MouseDown.Calls([slot](Mouse mouse) {
+        NoteCountBeforeEdit(slot);
+        PressInCell(slot, mouse);
+    });
+    box.DoubleClick.Calls([slot] { DoubleClickCell(slot, true); });
+    box.Change.Calls([slot] { TakeCount(slot); });
+}
+
 void JoinCells() {
     frmMain.Text0.Change.Calls(CountSlotInChannel);
+    for (int slot = 0; slot <= kSlots; ++slot) {
+        JoinNameBox(slot);
+        frmMain.Label1[slot].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
+    }
     for (int slot = 1; slot <= kSlots; ++slot) {
-        frmMain.Text1[slot].Change.Calls([slot] { TakeTaxonName(slot); });
-        frmMain.Text1[slot].MouseDown.Calls([slot](Mouse mouse) { PressInBox(slot, mouse); });
-        frmMain.Text2[slot].Change.Calls([slot] { TakeCount(slot); });
-        frmMain.Text2[slot].MouseDown.Calls([slot](Mouse mouse) { PressInCountBox(slot, mouse); });
-        for (TextBox* box : {&frmMain.Text1[slot], &frmMain.Text2[slot]}) {
-            box->MouseMove.Calls(EnterBox);
-            box->MouseUp.Calls([](Mouse) { ReturnFocus(); });
+        JoinCountBox(slot);
+        frmMain.Label1[slot].Click.Calls([slot] { SelectSlot(slot); });
+    }
+}
+
+void JoinMoves() {
+    MenuItem* const banks[3] = {&frmMain.mnu1to45, &frmMain.mnu46to90, &frmMain.mnu91to135};
+    MenuItem* const items[3] = {frmMain.mnuMoveTo1, frmMain.mnuMoveTo2, frmMain.mnuMoveTo3};
+    for (int bank = 0; bank < 3; ++bank) {
+        banks[bank]->Click.Calls([bank] { OpenBankMenu(bank); });
+        for (int i = 0; i < kKeys; ++i) {
+            const auto slot = static_cast<std::int16_t>(bank * kKeys + i + 1);
+            items[bank][i].Click.Calls([slot] { TransferTaxa(slot); });
         }
     }
-    frmMain.Text1[0].Change.Calls(TakeSampleName);
+}
+
+void JoinParam(int p) {
+    TextBox& box = frmMain.Text5[p];
+    JoinBox(box);
+    box.GotFocus.Calls([p] { EnterParam(p); });
+    box.LostFocus.Calls([p] { LeaveParam(p); });
+    box.KeyDown.Calls(NoteEditKey);
+    box.Change.Calls([p] { TakeParam(p); });
+    frmMain.Label10[p].Change.Calls([p] { EndWithColon(p); });
+    frmMain.Command7[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
 }
 
 void JoinSample() {
+    JoinBox(frmMain.Text4);
+    frmMain.Text4.GotFocus.Calls(EnterNote);
+    frmMain.Text4.KeyDown.Calls(NoteEditKey);
+    frmMain.Text4.DoubleClick.Calls(DoubleClickNote);
     frmMain.Text4.Change.Calls(TakeNote);
-    for (int p = 1; p <= kParams; ++p) {
-        frmMain.Text5[p].Change.Calls([p] { TakeParam(p); });
-        frmMain.Label10[p].Change.Calls([p] { EndWithColon(p); });
-    }
-    const auto keep_counting = [](TextBox& box) {
-        box.MouseMove.Calls(EnterBox);
-        box.MouseUp.Calls([](Mouse) { ReturnFocus(); });
-    };
-    keep_counting(frmMain.Text1[0]);
-    keep_counting(frmMain.Text4);
-    for (int p = 1; p <= kParams; ++p) keep_counting(frmMain.Text5[p]);
+    for (int p = 1; p <= kParams; ++p) JoinParam(p);
     frmMain.Combo1.Change.Calls([] { frmMain.mnuSaveHistory.SetEnabled(true); });
+    frmMain.Combo2.Click.Calls(BringUpChosenSample);
     frmMain.Combo2.Edited.Calls(RenameSampleOnShow);
     frmMain.Label4.Change.Calls(OfferDiagram);
 }
@@ -87,6 +147,15 @@ void JoinTotals() {
 void JoinCommands() {
     frmMain.Command5[0].Click.Calls(SaveFromButton);
     frmMain.Command5[1].Click.Calls(NextFromButton);
+    frmMain.Command4[0].Click.Calls(OpenSheetFromButton);
+    frmMain.Command3[0].Click.Calls(EnterModifyMode);
+    frmMain.Command3[1].Click.Calls(LeaveModifyMode);
+    frmMain.mnuStartAmend.Click.Calls(EnterModifyMode);
+    frmMain.mnuFinishAmend.Click.Calls(LeaveModifyMode);
+    frmMain.mnuNew.Click.Calls(NewSheet);
+    frmMain.mnuOpen.Click.Calls(OpenSheet);
+    frmMain.mnuTemplate.Click.Calls(CreateTemplate);
+    frmMain.mnuSaveHistory.Click.Calls(SaveHistory);
     frmMain.Command2[0].Click.Calls(AbortCount);
     frmMain.mnuNext.Click.Calls(NextFromMenu);
     frmMain.mnuSave.Click.Calls(SaveFromMenu);
@@ -106,6 +175,7 @@ void JoinMainEvents() {
     JoinWindow();
     JoinGrounds();
     JoinCells();
+    JoinMoves();
     JoinSample();
     JoinTotals();
     JoinCommands();

@@ -1,5 +1,6 @@
 #include "events/join.h"
 #include "files/next_sample.h"
+#include "files/open_sheet.h"
 #include "platform/text.h"
 #include "session/sheet_state.h"
 #include "taxa/quotation_guard.h"
@@ -35,6 +36,7 @@ void JoinNextEvents() {
     frmNext.Activated.Calls(BringNextToFront);
     frmNext.FrameClosed.Calls(CloseNextByFrame);
     frmNext.Command4.Click.Calls(ShowSampleFields);
+    frmNext.Command2.Click.Calls(OpenSheet);
     frmNext.Command1.Click.Calls(AcceptSample);
     frmNext.Command3.Click.Calls(CancelSample);
     JoinNote();

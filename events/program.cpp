@@ -7,5 +7,6 @@ void StartProgram() {
     JoinMainEvents();
     JoinNextEvents();
     JoinInitialEvents();
+    JoinSiteNameEvents();
     frmNext.Show();
 }

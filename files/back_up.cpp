@@ -21,12 +21,13 @@ void WriteBackUp() {
     const auto file = services.files->OpenForWriting(BackUpPath());
     CellWriter cells(*file);
     StampHeader("Backed up (dd/mm/yyyy):");
-    WriteHeaderRows(cells);
-    for (int row = 1; row <= kSlots; ++row) WriteTaxonRow(cells, row, [](int slot, int sample) { return Any(Counts[slot][sample]); });
+    WriteHeaderRows(cells, SampleCount);
+    const auto count = [](int slot, int sample) { return Any(Counts[slot][sample]); };
+    for (int row = 1; row <= kSlots; ++row) WriteTaxonRow(cells, row, SampleCount, count);
     FillEmptyParams();
     FillEmptyNotes();
-    WriteParamRows(cells);
-    WriteNoteRow(cells);
+    WriteParamRows(cells, SampleCount);
+    WriteNoteRow(cells, SampleCount);
     cells.Close();
 }
 }  // namespace

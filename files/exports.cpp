@@ -13,21 +13,44 @@
 #include "windows/main_window.h"
 
 namespace {
-// Asks where to, then writes what `write` has to say.
-void Export(const std::function<void(CellWriter&)>& write) {
-    if (!frmMain.CommonDialog1.AskForSaving()) return;
+// Asks where to, then writes what `write` has to say. False: cancelled, or the disk would not take it.
+bool Export(const std::function<void(CellWriter&)>& write) {
+    if (!frmMain.CommonDialog1.AskForSaving()) return false;
     try {
         const auto file = services.files->OpenForWriting(frmMain.CommonDialog1.FileName);
         CellWriter cells(*file);
         write(cells);
         cells.Close();
+        return true;
     } catch (const Failure&) {
-        return;
+        return false;
     }
 }
 
-void WriteLabelRow(CellWriter& cells, const Any& label) {
-    WriteLabels(cells, label);
+void WriteTemplate(CellWriter& cells) {
+    constexpr int kNoSamples = 0;
+    StampHeader("Last saved (dd/mm/yyyy):");
+    WriteHeaderRows(cells, kNoSamples);
+    for (int row = 1; row <= kSlots; ++row) {
+        WriteTaxonRow(cells, row, kNoSamples, {});
+        frmMain.ProgressBar1.SetValue(row);
+    }
+    NameUntitledParams();
+    WriteParamRows(cells, kNoSamples);
+    WriteNoteRow(cells, kNoSamples);
+    for (const Any& label : {SheetHeader[12], SheetHeader[13], Any("All total")}) {
+        WriteSumLabels(cells, label);
+        cells.EndRow();
+    }
+}
+
+void WriteHistory(CellWriter& cells) {
+    for (int i = 0; i <= HistoryCount; ++i) {
+        frmMain.ProgressBar1.SetValue(i);
+        cells.Write(HistoryLog[i]);
+        cells.EndRow();
+    }
+    cells.Write(NoteStamp());
     cells.EndRow();
 }
 
@@ -38,33 +61,14 @@ void GiveFocusBack() {
 
 void CreateTemplate() {
     const Busy busy(kSlots);
-    Export([](CellWriter& cells) {
-        StampHeader("Last saved (dd/mm/yyyy):");
-        WriteHeaderLabels(cells);
-        for (int row = 1; row <= kSlots; ++row) {
-            WriteTaxonLabels(cells, row);
-            cells.EndRow();
-            frmMain.ProgressBar1.SetValue(row);
-        }
-        NameUntitledParams();
-        WriteParamLabels(cells);
-        WriteNoteLabels(cells);
-        for (const Any& label : {SheetHeader[12], SheetHeader[13], Any("All total")}) WriteLabelRow(cells, label);
-        GiveFocusBack();
-    }, &WaveSave);
+    if (!Export(WriteTemplate)) return;
+    GiveFocusBack();
+    PlayIfOn(WaveSave);
 }
 
 void SaveHistory() {
     const Busy busy(HistoryCount);
     frmMain.CommonDialog1.FileName = ProgramFile("References/History.csv");
-    Export([](CellWriter& cells) {
-        for (int i = 0; i <= HistoryCount; ++i) {
-            frmMain.ProgressBar1.SetValue(i);
-            cells.Write(HistoryLog[i]);
-            cells.EndRow();
-        }
-        cells.Write(NoteStamp());
-        cells.EndRow();
-    });
+    Export(WriteHistory);
     GiveFocusBack();
 }

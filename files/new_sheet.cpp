@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "files/sample_fields.h"
 #include "files/sheet_base_name.h"
 #include "platform/text.h"
 #include "session/history.h"
@@ -25,7 +26,7 @@ void ShowEmptying() {
     frmMain.ProgressBar1.SetVisible(false);
 }
 
-std::string NameFirstSample() {
+void NameFirstSample() {
     TextBox& box = frmSiteName.Text1;
     SampleNamesAreText = !IsPlainNumber(box.Text());
     if (box.Text().empty()) box.SetText(std::string("1: ") + kEmpty);
@@ -36,7 +37,6 @@ std::string NameFirstSample() {
     frmMain.Combo2.SetText(name);
     SampleTable[1][1] = 1;
     SampleTable[2][1] = name;
-    return name;
 }
 
 void EmptyFirstSample() {
@@ -45,22 +45,7 @@ void EmptyFirstSample() {
         ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
         ParamValuesAtOpen[p][1] = ParamValues[p][1];
     }
-    for (int slot = 0; slot <= kSlots; ++slot) {
-        frmMain.Text2[slot].SetBold(false);
-        frmMain.Text1[slot].SetBold(false);
-        frmMain.Text2[slot].SetText("0");
-    }
-}
-
-void TakeNoteAndParams() {
-    SampleNotes[1] = frmSiteName.Text2.Text();
-    frmMain.Text4.SetText(SampleNotes[1]);
-    for (int p = 1; p <= kParams; ++p) {
-        frmMain.Label10[p].SetCaption(frmSiteName.Label3[p].Caption());
-        const std::string& value = frmSiteName.Text3[p].Text();
-        frmMain.Text5[p].SetText(value.empty() ? kEmpty : value);
-        ParamValues[p][1] = frmMain.Text5[p].Text();
-    }
+    EmptyCountCells();
 }
 
 void ShowFirstSample() {
@@ -96,7 +81,7 @@ void AcceptFirstSample() {
     frmMain.SetTitle("Marlbrook 2.7 - [" + SheetBaseName(SheetPath) + "]");
     NameFirstSample();
     EmptyFirstSample();
-    TakeNoteAndParams();
+    TakeSampleFields(1, frmSiteName.Text2, frmSiteName.Label3, frmSiteName.Text3);
     frmSiteName.Unload();
     frmMain.SetEnabled(true);
     frmMain.Show();

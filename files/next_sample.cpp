@@ -4,6 +4,7 @@
 #include <string>
 
 #include "files/move_sample_column.h"
+#include "files/sample_fields.h"
 #include "files/snapshot.h"
 #include "platform/number.h"
 #include "platform/text.h"
@@ -11,6 +12,7 @@
 #include "session/sample_on_show.h"
 #include "session/sheet_state.h"
 #include "session/stamps.h"
+#include "session/totals.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
@@ -57,32 +59,6 @@ void SnapshotWithNewColumn() {
         ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
         for (int sample = 1; sample <= SampleCount; ++sample) ParamValuesAtOpen[p][sample] = ParamValues[p][sample];
     }
-}
-
-void EmptyCountCells() {
-    for (int slot = 0; slot <= kSlots; ++slot) {
-        frmMain.Text2[slot].SetBold(false);
-        frmMain.Text1[slot].SetBold(false);
-        frmMain.Text2[slot].SetText("0");
-        Counts[slot][SampleCount] = 0;  // a column of an earlier sheet may have left its counts
-    }
-}
-
-void TakeNoteAndParams() {
-    SampleNotes[SampleCount] = frmNext.Text2.Text();
-    frmMain.Text4.SetText(SampleNotes[SampleCount]);
-    for (int p = 1; p <= kParams; ++p) {
-        frmMain.Label10[p].SetCaption(frmNext.Label3[p].Caption());
-        const std::string& value = frmNext.Text3[p].Text();
-        frmMain.Text5[p].SetText(value.empty() ? kEmpty : value);
-        ParamValues[p][SampleCount] = frmMain.Text5[p].Text();
-    }
-}
-
-void ShowZeroTotals() {
-    AllTotal = 0;
-    TaxonTable[0][2] = TaxonTable[0][3] = 0;
-    for (TextBox& total : frmMain.Text3) total.SetText("0");
 }
 
 // Where the new name belongs among numeric names in order.
@@ -211,7 +187,7 @@ void AddSample() {
     const std::string name = NameNewSample();
     SnapshotWithNewColumn();
     EmptyCountCells();
-    TakeNoteAndParams();
+    TakeSampleFields(SampleCount, frmNext.Text2, frmNext.Label3, frmNext.Text3);
     frmNext.Unload();
     GiveMainWindowBack();
     CurrentSample = SampleCount;

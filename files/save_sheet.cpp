@@ -75,7 +75,7 @@ Any PercentOf(int slot, int sample) {
 
 void WriteTaxonRows(CellWriter& cells, std::int16_t mode) {
     for (int row = 1; row <= kSlots; ++row) {
-        WriteTaxonRow(cells, row, IsPercentTable(mode) ? PercentOf : CountOf);
+        WriteTaxonRow(cells, row, SampleCount, IsPercentTable(mode) ? PercentOf : CountOf);
         frmMain.ProgressBar1.SetValue(row);
     }
 }
@@ -102,7 +102,7 @@ void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums
     const Any labels[3] = {"All total", SheetHeader[12], SheetHeader[13]};
     const int basis = mode - kSavePercentAll;
     for (const int which : {1, 2, 0}) {
-        WriteLabels(cells, labels[which]);
+        WriteSumLabels(cells, labels[which]);
         for (int sample = 1; sample <= SampleCount; ++sample)
             cells.Write(IsPercentTable(mode) ? ShareOfBasis(sums[which][sample], sums[basis][sample], which == basis) : sums[which][sample]);
         cells.EndRow();
@@ -111,16 +111,16 @@ void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums
 
 void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
     StampHeader("Last saved (dd/mm/yyyy):");
-    WriteHeaderRows(cells);
+    WriteHeaderRows(cells, SampleCount);
     frmMain.Command5[0].SetEnabled(false);
     if (IsPercentTable(mode))
         for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
     WriteTaxonRows(cells, mode);
     FillEmptyParams();
-    WriteParamRows(cells);
+    WriteParamRows(cells, SampleCount);
     StampNote();
     FillEmptyNotes();
-    if (!IsPercentTable(mode)) WriteNoteRow(cells);
+    if (!IsPercentTable(mode)) WriteNoteRow(cells, SampleCount);
     WriteSumRows(cells, mode, sums);
 }
 

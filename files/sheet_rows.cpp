@@ -12,38 +12,38 @@ void StampHeader(const char* label) {
     SheetHeader[8] = FileStamp();
 }
 
-void WriteHeaderRows(CellWriter& cells) {
+void WriteHeaderRows(CellWriter& cells, int samples) {
     for (int i = 6; i <= 9; ++i) cells.Write(SheetHeader[i]);
-    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(SampleTable[1][sample]);
+    for (int sample = 1; sample <= samples; ++sample) cells.Write(SampleTable[1][sample]);
     cells.EndRow();
     for (int i = 11; i <= 14; ++i) cells.Write(SheetHeader[i]);
-    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(SampleTable[2][sample]);
+    for (int sample = 1; sample <= samples; ++sample) cells.Write(SampleTable[2][sample]);
     cells.EndRow();
 }
 
-void WriteTaxonRow(CellWriter& cells, int row, const std::function<Any(int slot, int sample)>& value) {
+void WriteTaxonRow(CellWriter& cells, int row, int samples, const std::function<Any(int slot, int sample)>& value) {
     const int slot = KeyIndex[row];
     for (int field = 1; field <= 4; ++field) cells.Write(TaxonTable[slot][field]);
-    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(value(slot, sample));
+    for (int sample = 1; sample <= samples; ++sample) cells.Write(value(slot, sample));
     cells.EndRow();
 }
 
-void WriteParamRows(CellWriter& cells) {
+void WriteParamRows(CellWriter& cells, int samples) {
     for (int p = 1; p <= kParams; ++p) {
         for (int i = 1; i <= 3; ++i) cells.Write(ParamHeader[p][i]);
         cells.Write(WithoutTrailingColon(ParamHeader[p][4]));
-        for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(ParamValues[p][sample]);
+        for (int sample = 1; sample <= samples; ++sample) cells.Write(ParamValues[p][sample]);
         cells.EndRow();
     }
 }
 
-void WriteNoteRow(CellWriter& cells) {
+void WriteNoteRow(CellWriter& cells, int samples) {
     for (int i = 1; i <= 4; ++i) cells.Write(SheetFooter[i]);
-    for (int sample = 1; sample <= SampleCount; ++sample) cells.Write(SampleNotes[sample]);
+    for (int sample = 1; sample <= samples; ++sample) cells.Write(SampleNotes[sample]);
     cells.EndRow();
 }
 
-void WriteLabels(CellWriter& cells, const Any& label) {
+void WriteSumLabels(CellWriter& cells, const Any& label) {
     for (int i = 0; i < 3; ++i) cells.Write(kEmpty);
     cells.Write(label);
 }

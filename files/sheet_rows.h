@@ -15,11 +15,13 @@
 #include "platform/any.h"
 
 void StampHeader(const char* label);                 // SheetHeader[6..8]: path, "Last saved (dd/mm/yyyy):" or the like, date and time
-void WriteHeaderRows(CellWriter& cells);
-void WriteTaxonRow(CellWriter& cells, int row, const std::function<Any(int slot, int sample)>& value);
-void WriteParamRows(CellWriter& cells);
-void WriteNoteRow(CellWriter& cells);
-void WriteLabels(CellWriter& cells, const Any& label);  // the four label cells of a row that belongs to no taxon
+
+// `samples`: how many columns follow the labels; SampleCount, or 0 in a template.
+void WriteHeaderRows(CellWriter& cells, int samples);
+void WriteTaxonRow(CellWriter& cells, int row, int samples, const std::function<Any(int slot, int sample)>& value);
+void WriteParamRows(CellWriter& cells, int samples);
+void WriteNoteRow(CellWriter& cells, int samples);
+void WriteSumLabels(CellWriter& cells, const Any& label);  // the four label cells of a row below the notes
 
 void NameUntitledParams();   // ParamHeader takes the captions on the screen; no cell of the labels stays empty
 void FillEmptyParams();      // the same, and no value stays empty: "---"

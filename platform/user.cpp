@@ -1,5 +1,7 @@
 #include "platform/user.h"
 
+#include <algorithm>
+
 #include "platform/services.h"
 #include "platform/text.h"
 
@@ -43,10 +45,15 @@ void OpenMenusOnTheWay(const Control* menu) {
     menu->Click.Raise();
 }
 
+bool HasItems(const MenuItem& menu) {
+    const auto& controls = menu.window->Controls();
+    return std::any_of(controls.begin(), controls.end(), [&menu](const Control* control) { return control->container == &menu; });
+}
+
 void ClickMenuItem(MenuItem& item) {
     OpenMenusOnTheWay(item.container);
     if (!CanReach(item)) return;  // opening its menu may have switched it off
-    open_popup = nullptr;
+    if (!HasItems(item)) open_popup = nullptr;
     item.Click.Raise();
 }
 

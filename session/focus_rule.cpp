@@ -1,6 +1,6 @@
 #include "session/focus_rule.h"
 
-#include "platform/text.h"
+#include "platform/services.h"
 #include "session/sheet_state.h"
 #include "windows/main_window.h"
 
@@ -20,15 +20,6 @@ void EnterBox(Mouse) {
     const bool counting = !AmendMode && !DiagramOpen;
     MousePointer = counting ? kPointerArrow : kPointerIBeam;
     if (counting) frmMain.Text99.SetFocus();
-}
-
-void PressInBox(int, Mouse) {
-    ReturnFocus();
-}
-
-void PressInCountBox(int slot, Mouse mouse) {
-    CountAtMouseDown = static_cast<float>(Val(frmMain.Text2[slot].Text()));
-    PressInBox(slot, mouse);
 }
 
 void HoldTab() {

@@ -5,8 +5,6 @@
 void ReturnFocus();              // unless in Modify mode
 void ReturnFocusOnMove();        // the same, and not while a diagram is open beside the window
 void EnterBox(Mouse mouse);      // the mouse moves over a box: the pointer says whether it can be typed in
-void PressInBox(int slot, Mouse mouse);       // Text1
-void PressInCountBox(int slot, Mouse mouse);  // Text2
 
 void HoldTab();     // a press on the tabs: while counting, the mouse cannot change the bank
 void ReturnTab();

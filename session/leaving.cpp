@@ -16,6 +16,7 @@
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
+#include "windows/site_name_window.h"
 
 namespace {
 constexpr int kForgottenUndos = 101;
@@ -102,6 +103,7 @@ void UnloadAll() {
     frmDiagram.Unload();
     frmInitial.Unload();
     frmNext.Unload();
+    frmSiteName.Unload();
 }
 
 void CheckIfReallyEnd() {

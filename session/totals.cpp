@@ -71,3 +71,17 @@ void OfferDiagram() {
     for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
         style->SetEnabled(true);
 }
+
+void EmptyCountCells() {
+    for (int slot = 0; slot <= kSlots; ++slot) {
+        ShowBold(slot, false);
+        frmMain.Text2[slot].SetText("0");
+        Counts[slot][CurrentSample] = 0;  // a column of an earlier sheet may have left its counts
+    }
+}
+
+void ShowZeroTotals() {
+    AllTotal = 0;
+    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    for (TextBox& total : frmMain.Text3) total.SetText("0");
+}

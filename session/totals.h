@@ -11,3 +11,5 @@ void ChooseBasis(int option);            // Option1[option] was selected: underl
 void ShowCountOf(int slot, double count);  // puts the count into its cell
 void ShowCountsOfSample();               // all cells take the counts of CurrentSample
 void OfferDiagram();                     // Label4 has changed: two samples make a diagram
+void EmptyCountCells();                  // all cells read 0 and lose their bold; the column of CurrentSample follows
+void ShowZeroTotals();                   // of a sample in which nothing is counted yet

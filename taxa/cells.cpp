@@ -40,7 +40,12 @@ void StoreCount(int slot) {
 }
 }  // namespace
 
+void NoteCountBeforeEdit(int slot) {
+    CountAtMouseDown = static_cast<float>(Val(frmMain.Text2[slot].Text()));
+}
+
 void TakeSampleName() {
+    RefuseQuotationMark(frmMain.Text1[0]);
     frmMain.Combo2.SetText(frmMain.Text1[0].Text());
     ShowSerial();
     if (AmendMode) SampleTable[2][CurrentSample] = frmMain.Text1[0].Text();

@@ -56,7 +56,8 @@ private:
     double factor_ = 0;
     bool title_changed_ = true;
     bool size_changed_ = true;
-    bool sized_ = false;              // it has a size of its own
+    bool sized_ = false;   // it has a size of its own
+    bool placed_ = false;  // it has been on the screen
     QWidget* ground_;
     Veil* veil_;                      // over a window that takes no input
     std::unique_ptr<MenuView> menus_;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <sstream>
 
 #include "drive/headless_hands.h"
@@ -51,7 +52,7 @@ protected:
         return {status, out.str(), errors.str()};
     }
 
-    const fs::path tree_ = fs::path(testing::TempDir()) / "drive run tree";
+    const fs::path tree_ = fs::path(testing::TempDir()) / ("drive-run-tree-" + std::to_string(std::random_device()()));
 };
 
 }  // namespace

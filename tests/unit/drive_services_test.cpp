@@ -1,6 +1,8 @@
 // The scripted services, which the driver and every test of the program use.
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "platform/failure.h"
 #include "platform/headless/headless_services.h"
 #include "unit/memory_files.h"
@@ -79,7 +81,7 @@ TEST(DriveScriptedFilesTest, AFullDiskKeepsWhatItTook) {
 }
 
 TEST(DriveDiskFilesTest, OpeningCutsNothing) {
-    const auto folder = std::filesystem::path(testing::TempDir()) / "drive disk files";
+    const auto folder = std::filesystem::path(testing::TempDir()) / ("drive disk files " + std::to_string(std::random_device()()));
     std::filesystem::create_directory(folder);
     DiskFiles files;
     const std::string path = PathText(folder / "a.csv");

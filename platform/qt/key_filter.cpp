@@ -1,0 +1,126 @@
+#include "platform/qt/key_filter.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+
+#include "platform/controls.h"
+#include "platform/qt/combo_list.h"
+#include "platform/qt/control_widget.h"
+#include "platform/qt/key_walk.h"
+#include "platform/qt/menu_view.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/virtual_key.h"
+#include "platform/qt/window_widget.h"
+#include "platform/user.h"
+
+namespace {
+#ifdef Q_OS_MACOS
+constexpr Qt::KeyboardModifier kPhysicalControl = Qt::MetaModifier;
+#else
+constexpr Qt::KeyboardModifier kPhysicalControl = Qt::ControlModifier;
+#endif
+
+bool IsLetterKey(const QKeyEvent& key) {
+    return key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z;
+}
+
+// AltGr, which types characters, is Ctrl and Alt on some systems.
+bool IsControlChord(const QKeyEvent& key) {
+    return (key.modifiers() & kPhysicalControl) && !(key.modifiers() & Qt::AltModifier) && IsLetterKey(key);
+}
+
+bool IsClipboardKey(const QKeyEvent& key) {
+    return key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Cut) || key.matches(QKeySequence::Paste) ||
+           key.matches(QKeySequence::SelectAll);
+}
+
+bool TakesText(const Control& control) {
+    return control.kind() == Kind::ComboBox || (control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_text);
+}
+
+bool IsSink(const Control& control) {
+    return control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).takes_text;
+}
+
+MenuItem* ItemWithLetter(const Window& window, char letter) {
+    for (Control* control : window.Controls())
+        if (control->kind() == Kind::MenuItem && static_cast<MenuItem*>(control)->control_letter == letter && CanReach(*control))
+            return static_cast<MenuItem*>(control);
+    return nullptr;
+}
+
+bool OpensMenu(const QKeyEvent& key) {
+    WindowWidget* const active = TheRenderer().ActiveWidget();
+    return active && key.modifiers() == Qt::AltModifier && IsLetterKey(key) && active->Menus().OpenByAccessKey(QChar(key.key()));
+}
+}  // namespace
+
+KeyFilter::KeyFilter() {
+    qApp->installEventFilter(this);
+}
+
+bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride) return false;
+    if (passing_ || !watched->isWidgetType() || QApplication::activeModalWidget()) return false;
+    auto& key = *static_cast<QKeyEvent*>(event);
+    auto* const top = static_cast<QWidget*>(watched)->window();
+    if (top->windowType() == Qt::Popup) return TakeInPopup(*top, key);
+    if (!dynamic_cast<WindowWidget*>(top)) return false;
+    key.accept();
+    if (type == QEvent::KeyPress) Press(key);
+    if (type == QEvent::KeyRelease) Release(key);
+    return true;  // an overridden shortcut comes back as an ordinary press
+}
+
+// An open menu has the keyboard, but what is released then has been pressed before. A list that is open has only the keys that move in
+// it: any other closes it, so that none is lost to a list left open.
+bool KeyFilter::TakeInPopup(QWidget& popup, QKeyEvent& key) {
+    if (key.type() == QEvent::KeyRelease) Release(key);
+    auto* const list = dynamic_cast<ComboList*>(&popup);
+    if (!list || ComboList::IsNavigation(key.key())) return false;
+    key.accept();
+    if (key.type() != QEvent::KeyPress) return true;
+    list->hide();
+    Press(key);
+    return true;
+}
+
+void KeyFilter::Release(const QKeyEvent& key) {
+    if (key.isAutoRepeat()) return;  // X11 sends one with each repeated press
+    if (const int code = VirtualKey(key); code != 0) TheRenderer().Run([code] { ReleaseKey(code); });
+}
+
+void KeyFilter::Press(QKeyEvent& key) {
+    if (OpensMenu(key)) return;
+    Window* const window = ActiveWindow();
+    Control* const focus = window ? window->Focus() : nullptr;
+    const int text_changes = TheRenderer().TextChanges();
+    if (const int code = VirtualKey(key); code != 0) TheRenderer().Run([code] { PressKey(code); });
+    if (!window || window != ActiveWindow() || window->Focus() != focus) return;
+    if (focus && (IsSink(*focus) || !CanReach(*focus))) return;
+    const bool used_as_input = focus && (focus->KeyUp.IsJoined() || TheRenderer().TextChanges() != text_changes);
+    if (IsWalk(key)) {
+        if (!used_as_input) WalkFocus(*window, key);
+        return;
+    }
+    if (focus) Finish(key, *focus);
+}
+
+// A window that hears the keys first has its buttons for the mouse: a counter key is never also a click.
+void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
+    if (IsControlChord(key)) {
+        if (MenuItem* const item = ItemWithLetter(*focus.window, static_cast<char>(key.key()))) {
+            TheRenderer().Run([item] { ClickControl(*item); });
+            return;
+        }
+        if (!TakesText(focus) || !IsClipboardKey(key)) return;
+    }
+    if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) return;  // the program knows nothing of them
+    if (!TakesText(focus) && focus.window->key_preview) return;
+    if (!key.isAutoRepeat() && PressFocused(focus, key)) return;
+    passing_ = true;
+    if (ControlWidget* const widget = TheRenderer().WidgetOf(*focus.window)->Find(focus)) widget->TakeKey(key);
+    passing_ = false;
+}

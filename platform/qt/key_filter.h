@@ -1,0 +1,27 @@
+// Takes every key before any widget: the window hears it first, then the control with the focus, and only then does it do what it does in
+// a widget. While counting nothing is left for the widgets: a key ends when the program has heard it.
+#pragma once
+#include <QObject>
+#include <QPointer>
+
+#include "platform/window.h"
+
+class QKeyEvent;
+class QWidget;
+class WindowWidget;
+
+class KeyFilter : public QObject {
+public:
+    KeyFilter();  // joins the application
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool TakeInPopup(QWidget& popup, QKeyEvent& key);
+    void Press(QKeyEvent& key);
+    void Release(const QKeyEvent& key);
+    void Finish(QKeyEvent& key, Control& focus);
+
+    bool passing_ = false;  // a key is on its way to a widget
+};

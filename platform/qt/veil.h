@@ -1,0 +1,25 @@
+// Lies over a window that takes no input: its words stay readable, it is plainly not the one to work in, and no mouse gets through. A
+// press brings up the window that waits for an answer.
+#pragma once
+#include <QPainter>
+#include <QWidget>
+
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+
+class Veil : public QWidget {
+public:
+    Veil(QWidget* parent, Window& window) : QWidget(parent), window_(window) { hide(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QColor mist = ToQt(kFormColour);
+        mist.setAlpha(120);
+        QPainter(this).fillRect(rect(), mist);
+    }
+    void showEvent(QShowEvent*) override { raise(); }
+    void mousePressEvent(QMouseEvent*) override { TheRenderer().UserActivates(window_); }
+
+private:
+    Window& window_;
+};

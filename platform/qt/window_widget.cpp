@@ -1,0 +1,193 @@
+#include "platform/qt/window_widget.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "platform/qt/control_widget.h"
+#include "platform/qt/look.h"
+#include "platform/qt/menu_view.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/scaling.h"
+#include "platform/qt/veil.h"
+#include "platform/user.h"
+
+namespace {
+constexpr double kSmallest = 0.4;      // of the size that a window comes up with
+constexpr QSize kSmallestOfUser{240, 160};
+constexpr int kTitleBar = 30;          // about, before the desktop has made it
+constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
+}  // namespace
+
+WindowWidget::WindowWidget(Window& window) : window_(window), ground_(new QWidget(this)), veil_(new Veil(this, window)) {
+    menus_ = std::make_unique<MenuView>(window, *this);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    ground_->setMouseTracking(true);
+    ground_->installEventFilter(this);
+    resize_soon_.setSingleShot(true);
+    connect(&resize_soon_, &QTimer::timeout, this, &WindowWidget::TakeUserSize);
+    waits_.setSingleShot(true);
+    for (Control* control : window_.Controls()) Build(*control);
+}
+
+WindowWidget::~WindowWidget() = default;
+
+ControlWidget* WindowWidget::Build(Control& control) {
+    if (control.kind() == Kind::MenuItem) return nullptr;
+    if (const auto made = controls_.find(&control); made != controls_.end()) return made->second.get();
+    ControlWidget* const owner = control.container ? Build(*control.container) : nullptr;
+    return (controls_[&control] = ControlWidget::Make(control, *this, owner)).get();
+}
+
+ControlWidget* WindowWidget::Find(const Control& control) const {
+    const auto found = controls_.find(&control);
+    return found == controls_.end() ? nullptr : found->second.get();
+}
+
+void WindowWidget::Note(WindowProperty property) {
+    if (property == WindowProperty::Title) title_changed_ = true;
+    if (property == WindowProperty::Place) size_changed_ = true;
+    if (property == WindowProperty::BackColor) update();
+}
+
+void WindowWidget::Agree() {
+    if (std::exchange(title_changed_, false)) setWindowTitle(ToQt(window_.Title()));
+    if (std::exchange(size_changed_, false)) ChooseSize();
+    veil_->setVisible(!window_.Enabled());
+}
+
+// ---- Size ----
+
+QRect WindowWidget::Client() const {
+    const int top = menus_->Bar().isHidden() ? 0 : menus_->Bar().heightForWidth(width());
+    return rect().adjusted(0, std::max(top, 0), 0, 0);
+}
+
+QSize WindowWidget::ClientSize(double factor) const {
+    return Scaled({0, 0, window_.Width(), window_.Height()}, factor).size();
+}
+
+// The first size is the common one; after that the window keeps the factor that its user has given it, as far as the screen allows.
+void WindowWidget::ChooseSize() {
+    const QScreen& here = *screen();
+    const double wanted = sized_ ? factor_ : CommonFactor(here);
+    const double fitting = FactorThatFits(here, {window_.Width(), window_.Height()}, wanted);
+    if (!sized_ || !window_.resizable) factor_ = fitting;
+    sized_ = true;
+    menus_->SetFont(PlainFont(factor_));
+    setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor_ * kSmallest));
+    QSize size = ClientSize(factor_);
+    if (!menus_->Bar().isHidden()) size.rheight() += menus_->Bar().heightForWidth(size.width());
+    resize(size);
+    Fit();
+}
+
+void WindowWidget::Fit() {
+    if (!sized_) return;
+    const QRect client = Client();
+    if (!window_.resizable)
+        factor_ = std::min(static_cast<double>(client.width()) / window_.Width(), static_cast<double>(client.height()) / window_.Height());
+    LayOut();
+}
+
+void WindowWidget::LayOut() {
+    const QRect client = Client();
+    menus_->SetFont(PlainFont(factor_));
+    menus_->Bar().setGeometry(0, 0, width(), client.top());
+    QRect ground(QPoint(), window_.resizable ? client.size() : ClientSize(factor_));
+    ground.moveCenter(client.center());
+    ground_->setGeometry(ground);
+    veil_->setGeometry(rect());
+    for (const auto& [control, widget] : controls_)
+        if (widget) widget->Rescale();
+}
+
+void WindowWidget::resizeEvent(QResizeEvent*) {
+    Fit();
+    if (window_.resizable && isVisible() && Client().size() != ClientSize(factor_)) resize_soon_.start(0);
+}
+
+void WindowWidget::TakeUserSize() {
+    resize_soon_.stop();
+    const QSize client = Client().size();
+    const int wide = static_cast<int>(std::lround(client.width() / factor_)), high = static_cast<int>(std::lround(client.height() / factor_));
+    TheRenderer().Run([&] { ResizeWindow(window_, wide, high); });
+}
+
+// ---- Front and focus ----
+
+void WindowWidget::ShowAbove(WindowWidget* below) {
+    winId();  // the desktop is told what it belongs to before it comes up
+    windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
+    PlaceAbove(below);
+    show();
+}
+
+// A window that stands for itself stays where its user has left it.
+void WindowWidget::PlaceAbove(const WindowWidget* below) {
+    if (!below && std::exchange(placed_, true)) return;
+    const QRect room = screen()->availableGeometry();
+    QRect place(QPoint(), size());
+    place.moveCenter((below && below->isVisible() ? below->frameGeometry() : room).center());
+    move(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())),
+         std::clamp(place.top() - kTitleBar / 2, room.top(), std::max(room.top(), room.bottom() - place.height() - kTitleBar)));
+}
+
+void WindowWidget::BringToFront() {
+    if (isActiveWindow()) return;
+    waits_.start(kWaitForFrontMs);
+    raise();
+    activateWindow();
+}
+
+void WindowWidget::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+    waits_.stop();
+    TheRenderer().UserActivates(window_);
+}
+
+void WindowWidget::AgreeAboutFocus() {
+    const Control* const focus = window_.Focus();
+    ControlWidget* const holder = focus && IsUsable(*focus) ? Find(*focus) : nullptr;
+    QWidget* const wanted = holder ? holder->FocusWidget() : this;
+    if (focusWidget() != wanted || !wanted->hasFocus()) wanted->setFocus(Qt::OtherFocusReason);
+}
+
+void WindowWidget::OpenPopup(MenuItem& menu) {
+    menus_->OpenPopup(menu, QCursor::pos());
+}
+
+// ---- The user ----
+
+void WindowWidget::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    TheRenderer().Run([this] { CloseWindow(window_); });
+}
+
+bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
+    const bool presses = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (watched != ground_ || !(presses || event->type() == QEvent::MouseMove)) return QWidget::eventFilter(watched, event);
+    const auto& mouse = *static_cast<const QMouseEvent*>(event);
+    const Qt::MouseButtons buttons = presses ? Qt::MouseButtons(mouse.button()) : mouse.buttons();
+    const MouseButton button = buttons & Qt::LeftButton    ? MouseButton::Left
+                               : buttons & Qt::RightButton ? MouseButton::Right
+                                                           : MouseButton::None;
+    const Mouse at{button, mouse.position().x() / factor_, mouse.position().y() / factor_};
+    TheRenderer().Run([&] {
+        if (presses)
+            PressMouseOnWindow(window_, at);
+        else
+            MoveMouseOverWindow(window_, at);
+    });
+    return true;
+}
+
+void WindowWidget::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), ToQt(window_.BackColor()));
+}

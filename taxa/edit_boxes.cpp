@@ -1,0 +1,65 @@
+#include "taxa/edit_boxes.h"
+
+#include <string>
+
+#include "platform/text.h"
+#include "session/history.h"
+#include "session/modify_mode.h"
+#include "session/sheet_state.h"
+#include "session/totals.h"
+#include "taxa/quotation_guard.h"
+#include "windows/main_window.h"
+
+namespace {
+void LogChangedName(int slot, const std::string& text) {
+    if (AmendMode && text != EditedValue) AddHistoryLine(frmMain.Label1[slot].Caption() + ": Taxa name [" + text + "]");
+}
+}  // namespace
+
+void EnterNameBox(int slot) {
+    EnterGuardedBox();
+    EditedValue = frmMain.Text1[slot].Text();
+}
+
+void LeaveNameBox(int slot) {
+    LogChangedName(slot, frmMain.Text1[slot].Text());
+    RecountTotals(CurrentSample);
+}
+
+void EnterCountBox(int slot) {
+    EditedValue = frmMain.Text2[slot].Text();
+}
+
+void LeaveCountBox(int slot) {
+    const std::string count = frmMain.Text2[slot].Text();
+    if (!AmendMode || count == EditedValue) return;
+    SheetClean = false;
+    frmMain.mnuNew.SetEnabled(true);
+    RecountTotals(CurrentSample);
+    AddHistoryLine(frmMain.Label1[slot].Caption() + " (" + frmMain.Text1[slot].Text() + "): Replace " + EditedValue + " by " + count);
+}
+
+void DoubleClickCell(int slot, bool in_count_box) {
+    if (!AmendMode) return;
+    LogChangedName(slot, (in_count_box ? frmMain.Text2[slot] : frmMain.Text1[slot]).Text());
+    RecountTotals(CurrentSample);
+    LeaveModifyModeByDoubleClick();
+}
+
+void EnterNote() {
+    EnterGuardedBox();
+    frmMain.Text4.SetSelStart(static_cast<int>(Length(frmMain.Text4.Text())));
+}
+
+void DoubleClickNote() {
+    if (AmendMode) LeaveModifyModeByDoubleClick();
+}
+
+void EnterParam(int p) {
+    EnterGuardedBox();
+    if (frmMain.Text5[p].Text() == kEmpty) frmMain.Text5[p].SetText("");
+}
+
+void LeaveParam(int p) {
+    if (frmMain.Text5[p].Text().empty()) frmMain.Text5[p].SetText(kEmpty);
+}

@@ -1,0 +1,72 @@
+#include "taxa/move_taxon.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/user.h"
+#include "session/highlight.h"
+#include "session/history.h"
+#include "session/sheet_state.h"
+#include "session/totals.h"
+#include "windows/main_window.h"
+
+namespace {
+constexpr Colour kMoved{255, 255, 135};
+
+bool HasCounts(int slot) {
+    std::int64_t sum = 0;
+    for (int sample = 0; sample <= SampleCount; ++sample) sum += Counts[slot][sample];
+    return sum != 0;
+}
+
+void MoveFields(int from, int to) {
+    for (int sample = 0; sample <= SampleCount; ++sample) {
+        Counts[to][sample] = Counts[from][sample];
+        Counts[from][sample] = 0;
+    }
+    for (const int flag : {2, 3}) {
+        TaxonTable[to][flag] = TaxonTable[from][flag];
+        TaxonTable[from][flag] = 0;
+    }
+    TaxonTable[to][4] = TaxonTable[from][4];
+    TaxonTable[from][4] = kEmpty;
+}
+
+void MoveCells(int from, int to) {
+    frmMain.Text1[to].SetText(frmMain.Text1[from].Text());
+    frmMain.Text2[to].SetText(frmMain.Text2[from].Text());
+    frmMain.Text1[from].SetText(kEmpty);
+    frmMain.Text2[from].SetText("0");
+}
+}  // namespace
+
+void SelectSlot(int slot) {
+    for (int other = 1; other <= kSlots; ++other) frmMain.Label1[other].SetBold(other == slot);
+    SelectedSlot = static_cast<std::int16_t>(slot);
+    if (AmendMode) OpenPopup(frmMain.mnuRightButton);
+}
+
+void OfferMove(int slot) {
+    SelectedSlot = static_cast<std::int16_t>(slot);
+    OpenPopup(frmMain.mnuRightButton);
+}
+
+void OpenBankMenu(int bank) {
+    frmMain.SSTab1.SetTab(bank);
+    MenuItem* const items = bank == 0 ? frmMain.mnuMoveTo1 : bank == 1 ? frmMain.mnuMoveTo2 : frmMain.mnuMoveTo3;
+    for (int i = 0; i < kKeys; ++i) items[i].SetEnabled(!HasCounts(bank * kKeys + i + 1));
+}
+
+void TransferTaxa(std::int16_t target) {
+    const int from = SelectedSlot;
+    const std::string name = TaxonTable[from][4].Text();
+    MoveFields(from, target);
+    MoveCells(from, target);
+    frmMain.Label1[from].SetBold(false);
+    PaintCell(LastSlot, kWhite);
+    if (target != 0) MoveHighlight(target, kMoved);
+    AddHistoryLine("(Move) " + name + ": " + std::to_string(from) + " to " + std::to_string(target));
+    RecountTotals(CurrentSample);
+    SheetClean = false;
+    frmMain.mnuNew.SetEnabled(true);
+}
