@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "drive/fault.h"
-#include "drive/names.h"
 
 namespace drive {
 
@@ -100,10 +99,6 @@ void RunCommand(Stage& stage, const Command& command) {
     if (!fits) throw ScriptFault(word + " has another form: " + row->form);
     row->run(stage, command);
     StopIfUnanswered(stage.services);
-}
-
-std::string Stage::Shown(const std::string& name) const {
-    return folders.Shown(ValueOf(name));
 }
 
 }  // namespace drive

@@ -36,11 +36,6 @@ void SelectAll(Control& box) {
     if (auto* combo_box = dynamic_cast<ComboBox*>(&box)) combo_box->Select(0, all);
 }
 
-Mouse AtCorner(const Control& control, MouseButton button) {
-    if (const auto* picture = dynamic_cast<const PictureBox*>(&control)) return {button, picture->ScaleLeft(), picture->ScaleTop()};
-    return {button, 0, 0};
-}
-
 }  // namespace
 
 void HeadlessHands::Run(const std::function<void()>& event) {
@@ -87,13 +82,7 @@ void HeadlessHands::Paste(const std::string& text) {
 }
 
 void HeadlessHands::Click(Control& control) {
-    Run([&] {
-        if (control.kind() != Kind::MenuItem) {
-            PressMouse(control, AtCorner(control, MouseButton::Left));
-            ReleaseMouse(control, AtCorner(control, MouseButton::Left));
-        }
-        FinishClick(control);
-    });
+    Run([&] { ClickControl(control); });
 }
 
 void HeadlessHands::DoubleClick(Control& control) {
@@ -104,8 +93,9 @@ void HeadlessHands::DoubleClick(Control& control) {
 }
 
 void HeadlessHands::RightClick(Control& control) {
-    MouseDown(control, MouseButton::Right, AtCorner(control, MouseButton::Right).x, AtCorner(control, MouseButton::Right).y);
-    MouseUp(control, MouseButton::Right, AtCorner(control, MouseButton::Right).x, AtCorner(control, MouseButton::Right).y);
+    const Mouse corner = AtCorner(control, MouseButton::Right);
+    MouseDown(control, corner.button, corner.x, corner.y);
+    MouseUp(control, corner.button, corner.x, corner.y);
 }
 
 void HeadlessHands::Choose(ComboBox& box, int item) {

@@ -12,6 +12,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kOpening = "<<END";
 constexpr std::string_view kClosing = "END";
+constexpr std::string_view kMark = "\xEF\xBB\xBF";  // some editors put it at the head of UTF-8
 
 std::string_view WithoutBlanks(std::string_view line) {
     const std::size_t first = line.find_first_not_of(kBlanks);
@@ -33,7 +34,7 @@ bool TakeOpening(std::string_view& line) {
 bool Script::ReadLine(std::string& line) {
     if (!std::getline(text_, line)) return false;
     if (line.ends_with('\r')) line.pop_back();
-    ++lines_read_;
+    if (lines_read_++ == 0 && line.starts_with(kMark)) line.erase(0, kMark.size());
     return true;
 }
 

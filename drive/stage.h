@@ -7,6 +7,7 @@
 
 #include "drive/folders.h"
 #include "drive/hands.h"
+#include "drive/names.h"
 #include "drive/report.h"
 #include "platform/headless/headless_services.h"
 
@@ -28,7 +29,8 @@ struct Stage {
     void Act(const std::function<void()>& action) {
         if (!services.host.ended) action();
     }
-    std::string Shown(const std::string& name) const;  // the value of a NAME as scripts compare it
+    // The value of a NAME as scripts compare it.
+    std::string Shown(const std::string& name) const { return folders.Shown(ValueOf(name)); }
 };
 
 }  // namespace drive

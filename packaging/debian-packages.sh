@@ -14,7 +14,8 @@ for_build=(
 )
 for_test=(
     libgtest-dev libbenchmark-dev
-    xvfb openbox xdotool x11-xkb-utils    # the real window, with real keys on several layouts
+    xvfb openbox xdotool x11-xkb-utils x11-xserver-utils python3  # the real window, with real keys on several layouts
+    libxtst-dev                                                   # keys for the benchmark of the window
     imagemagick
 )
 

@@ -44,7 +44,7 @@ void PictureBox::Circle(double x, double y, double radius, Colour rim, Colour fi
     circle.shape = DrawOperation::Shape::Circle;
     circle.x1 = FractionX(x);
     circle.y1 = FractionY(y);
-    circle.radius = radius / std::abs(scale_width_);
+    circle.radius = radius / std::abs(Span(scale_width_));
     circle.rim = rim;
     circle.fill = fill;
     Add(std::move(circle));

@@ -29,8 +29,8 @@ public:
 
     double ScaleLeft() const { return scale_left_; }
     double ScaleTop() const { return scale_top_; }
-    double ScaleWidth() const { return scale_width_; }    // not 0; negative: x grows to the left
-    double ScaleHeight() const { return scale_height_; }  // not 0; negative: y grows upward
+    double ScaleWidth() const { return scale_width_; }    // negative: x grows to the left; 0 draws as 1
+    double ScaleHeight() const { return scale_height_; }  // the same for y
     void SetScaleLeft(double left) { scale_left_ = left; }
     void SetScaleTop(double top) { scale_top_ = top; }
     void SetScaleWidth(double width) { scale_width_ = width; }
@@ -56,8 +56,9 @@ public:
 
 private:
     void Add(DrawOperation operation);
-    double FractionX(double x) const { return (x - scale_left_) / scale_width_; }
-    double FractionY(double y) const { return (y - scale_top_) / scale_height_; }
+    double FractionX(double x) const { return (x - scale_left_) / Span(scale_width_); }
+    double FractionY(double y) const { return (y - scale_top_) / Span(scale_height_); }
+    static double Span(double length) { return length == 0 ? 1 : length; }
 
     double scale_left_ = 0, scale_top_ = 0, scale_width_ = 1, scale_height_ = 1;
     std::vector<DrawOperation> operations_;

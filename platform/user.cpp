@@ -102,9 +102,23 @@ bool CanReach(const Control& control) {
     return window.IsLoaded() && window.Visible() && window.Enabled() && IsUsable(control);
 }
 
+void BringToFront(Window& window) {
+    if (window.Visible() && window.Enabled() && &window != ActiveWindow()) window.Show();
+}
+
 void OpenPopup(MenuItem& menu) {
     open_popup = &menu;
     services.popups->Open(menu);
+}
+
+void OpenMenu(MenuItem& menu) {
+    if (CanReach(menu)) menu.Click.Raise();
+}
+
+void ClickOpenMenuItem(MenuItem& item) {
+    if (!CanReach(item)) return;  // opening its menu may have switched it off
+    open_popup = nullptr;
+    item.Click.Raise();
 }
 
 void PressKey(int code) {
@@ -125,6 +139,7 @@ void ReleaseKey(int code) {
 
 void PressMouse(Control& control, Mouse mouse) {
     if (!CanReach(control)) return;
+    BringToFront(*control.window);
     pressed = &control;
     if (TakesFocus(control.kind())) control.SetFocus();
     control.MouseDown.Raise(mouse);
@@ -145,6 +160,7 @@ void MoveMouseOverWindow(Window& window, Mouse mouse) {
 }
 
 void PressMouseOnWindow(Window& window, Mouse mouse) {
+    BringToFront(window);
     if (window.Visible() && window.Enabled()) window.MouseDown.Raise(mouse);
 }
 
@@ -169,10 +185,16 @@ void FinishClick(Control& control) {
     }
 }
 
+Mouse AtCorner(const Control& control, MouseButton button) {
+    if (control.kind() != Kind::PictureBox) return {button, 0, 0};
+    const auto& picture = static_cast<const PictureBox&>(control);
+    return {button, picture.ScaleLeft(), picture.ScaleTop()};
+}
+
 void ClickControl(Control& control) {
     if (!CanReach(control)) return;
     if (control.kind() != Kind::MenuItem) {
-        const Mouse mouse{MouseButton::Left, 0, 0};
+        const Mouse mouse = AtCorner(control, MouseButton::Left);
         PressMouse(control, mouse);
         ReleaseMouse(control, mouse);
     }
@@ -182,6 +204,10 @@ void ClickControl(Control& control) {
 void DoubleClickControl(Control& control) {
     if (!CanReach(control)) return;
     ClickControl(control);
+    FinishDoubleClick(control);
+}
+
+void FinishDoubleClick(Control& control) {
     if (CanReach(control)) control.DoubleClick.Raise();
 }
 
@@ -235,12 +261,14 @@ void PressTab(TabControl& tabs, int tab) {
 
 void SlideTo(RangeControl& range, int value) {
     if (!CanReach(range)) return;
+    BringToFront(*range.window);
     if (TakesFocus(range.kind())) range.SetFocus();
     range.SetValue(value);
 }
 
 void Spin(UpDown& arrows, bool up) {
     if (!CanReach(arrows)) return;
+    BringToFront(*arrows.window);
     (up ? arrows.UpClick : arrows.DownClick).Raise();
 }
 

@@ -10,8 +10,15 @@
 bool CanReach(const Control& control);
 bool IsUsable(const Control& control);  // the same but for the state of its window
 
+// Brings a window to the front, as a press in it does. A disabled one stays where it is.
+void BringToFront(Window& window);
+
 // Opens a popup menu at the pointer; its items can be reached until one is clicked.
 void OpenPopup(MenuItem& menu);
+
+// Where menus are seen to open: one opens, and an item of an open one is clicked.
+void OpenMenu(MenuItem& menu);
+void ClickOpenMenuItem(MenuItem& item);
 
 // In the active window: the window's own handler first, if it previews keys, then that of the control with the focus.
 void PressKey(int code);
@@ -24,9 +31,11 @@ void ReleaseMouse(Control& control, Mouse mouse);  // reaches the control that w
 void MoveMouseOverWindow(Window& window, Mouse mouse);
 void PressMouseOnWindow(Window& window, Mouse mouse);
 
-void ClickControl(Control& control);  // a press and release of the left button, and what the kind does at a click
+Mouse AtCorner(const Control& control, MouseButton button);  // at its upper left corner, in its own scale
+void ClickControl(Control& control);  // a press and release of the left button there, and what the kind does at a click
 void FinishClick(Control& control);   // only what the kind does at a click, after its press and release
 void DoubleClickControl(Control& control);
+void FinishDoubleClick(Control& control);  // only the double click, after the events of its clicks
 
 // Text is put in at the caret of a text box or combo box, in place of what is selected: one change.
 void InsertText(Control& box, const std::string& text);

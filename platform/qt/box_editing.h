@@ -11,10 +11,11 @@
 void TellText(Control& box, ModelView& view, const QString& shown, int caret);
 void TellSelection(Control& box, const QString& shown, int start, int length);  // in units of `shown`
 
-bool HoldsFocus(const Control& box);         // of the active window
+bool HoldsFocus(const Control& box);  // of the active window
 void PrepareEditor(QWidget& editor, const Control& box);
 QPalette EditorPalette(const Control& box);
 
 // A box that does not hold the keyboard shows its whole text.
-void PaintAtRest(QPainter& painter, const QRectF& room, const Control& box, const QFont& font, double factor, FittedText& fitted, int most_lines);
+void PaintAtRest(QPainter& painter, const QRectF& room, const Control& box, const QFont& font, double factor, FittedText& fitted,
+                 int most_lines);
 void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus);

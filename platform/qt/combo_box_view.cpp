@@ -58,7 +58,8 @@ void ComboBoxView::PaintArrow(QPainter& painter) {
     const double half = button.width() * 0.18;
     const QPointF middle = button.center();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(box_.Enabled() ? QColor(Qt::black) : kRestingWords, std::max(1.0, 22 * Factor()), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(box_.Enabled() ? QColor(Qt::black) : kRestingWords, std::max(1.0, 22 * Factor()), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(QPolygonF({middle + QPointF(-half, -half / 2), middle + QPointF(0, half / 2), middle + QPointF(half, -half / 2)}));
 }
 

@@ -18,19 +18,20 @@ public:
 
     Control& control() const { return control_; }
     QWidget* Widget() const { return widget_; }
-    virtual QWidget* Ground(int /*page*/) { return widget_; }  // where the controls lie that this one contains
+    virtual QWidget* Ground(int /*page*/) { return widget_; }       // where the controls lie that this one contains
     virtual QPoint GroundOrigin(int /*page*/) const { return {}; }  // its corner within the widget
-    virtual QWidget* FocusWidget() { return widget_; }            // what takes the keyboard while the control has the focus
+    virtual QWidget* FocusWidget() { return widget_; }              // what takes the keyboard while the control has the focus
     // A key that the program has seen and not used up, while the control has the focus. True: the control used it.
     virtual bool TakeKey(QKeyEvent& /*key*/) { return false; }
     void Rescale() { Show(Changes::All()); }
 
 protected:
-    ControlWidget(Control& control, WindowWidget& window, ControlWidget* owner) : ModelView(control), control_(control), window_(window), owner_(owner) {}
+    ControlWidget(Control& control, WindowWidget& window, ControlWidget* owner)
+        : ModelView(control), control_(control), window_(window), owner_(owner) {}
 
     QWidget* OwnerGround() const;
-    void Adopt(QWidget* widget);        // the control's widget; its mouse is told to the program
-    void WatchMouse(QWidget* widget);   // of a part of it
+    void Adopt(QWidget* widget);       // the control's widget; its mouse is told to the program
+    void WatchMouse(QWidget* widget);  // of a part of it
     double Factor() const;
     QFont Font() const;
     void Show(Changes changes) override;  // what all kinds have in common

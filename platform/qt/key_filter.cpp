@@ -102,13 +102,14 @@ void KeyFilter::Press(QKeyEvent& key) {
     if (focus && (IsSink(*focus) || !CanReach(*focus))) return;
     const bool used_as_input = focus && (focus->KeyUp.IsJoined() || TheRenderer().TextChanges() != text_changes);
     if (IsWalk(key)) {
-        if (!used_as_input) WalkFocus(*window, key);
+        if (!used_as_input && (!window->key_preview || (focus && TakesText(*focus)))) WalkFocus(*window, key);
         return;
     }
     if (focus) Finish(key, *focus);
 }
 
-// A window that hears the keys first has its buttons for the mouse: a counter key is never also a click.
+// A window that hears the keys first has its buttons for the mouse: a counter key is never also a click, nor does it move the focus to a
+// box where the next one would be typed.
 void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
     if (IsControlChord(key)) {
         if (MenuItem* const item = ItemWithLetter(*focus.window, static_cast<char>(key.key()))) {

@@ -28,7 +28,8 @@ bool IsTabStop(const Control& control) {
 bool IsSecondaryOption(const Control& control) {
     if (control.kind() != Kind::OptionButton || static_cast<const OptionButton&>(control).Value()) return false;
     return std::ranges::any_of(control.window->Controls(), [&control](const Control* other) {
-        return other->kind() == Kind::OptionButton && other->container == control.container && static_cast<const OptionButton*>(other)->Value();
+        return other->kind() == Kind::OptionButton && other->container == control.container &&
+               static_cast<const OptionButton*>(other)->Value();
     });
 }
 

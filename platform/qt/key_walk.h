@@ -4,6 +4,6 @@
 
 class QKeyEvent;
 
-bool IsWalk(const QKeyEvent& key);                       // Tab or Shift+Tab
-void WalkFocus(Window& window, const QKeyEvent& key);    // in the order of the window's controls, past those that cannot be reached
-bool PressFocused(Control& focus, const QKeyEvent& key); // True: the key pressed something
+bool IsWalk(const QKeyEvent& key);                        // Tab or Shift+Tab
+void WalkFocus(Window& window, const QKeyEvent& key);     // in the order of the window's controls, past those that cannot be reached
+bool PressFocused(Control& focus, const QKeyEvent& key);  // True: the key pressed something

@@ -86,6 +86,7 @@ void MenuView::OpenPopup(MenuItem& menu, QPoint at) {
 }
 
 bool MenuView::OpenByAccessKey(QChar letter) {
+    if (bar_->isNativeMenuBar()) return false;
     for (QAction* action : bar_->actions()) {
         const QString text = action->text();
         const qsizetype mark = text.indexOf(u'&');

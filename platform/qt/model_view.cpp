@@ -7,6 +7,7 @@
 void ModelView::Changed(Property property) {
     if (!changes_.Any()) TheRenderer().Note(*this);
     changes_.Add(property);
+    if (property == Property::Text) TheRenderer().NoteText();
 }
 
 void ModelView::Agree() {

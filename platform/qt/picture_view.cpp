@@ -13,7 +13,8 @@ constexpr int kTwipsPerPixel = 15;
 // What has been made persistent is kept as an image at the resolution of the screen; each paint adds only the overlay.
 class PictureView : public ControlWidget {
 public:
-    PictureView(PictureBox& picture, WindowWidget& window, ControlWidget* owner) : ControlWidget(picture, window, owner), picture_(picture) {
+    PictureView(PictureBox& picture, WindowWidget& window, ControlWidget* owner)
+        : ControlWidget(picture, window, owner), picture_(picture) {
         canvas_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         canvas_->setAttribute(Qt::WA_OpaquePaintEvent);
         Adopt(canvas_);

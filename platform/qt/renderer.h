@@ -29,7 +29,7 @@ public:
     void Stop();  // the program has ended: no event reaches it any more
     bool IsStopped() const { return stopped_; }
 
-    void Note(ModelView& view);                       // it has something to show
+    void Note(ModelView& view);                        // it has something to show
     int TextChanges() const { return text_changes_; }  // grows whenever the text of a box changes
     void NoteText() { ++text_changes_; }
     void OpenPopupAfterEvent(MenuItem& menu) { popup_ = &menu; }

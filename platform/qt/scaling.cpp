@@ -14,7 +14,8 @@ constexpr int kMenuBarTwips = 330;
 
 double LargestFactor(const QScreen& screen, QSize twips) {
     const QSize room = screen.availableGeometry().size();
-    return std::min(room.width() * kComfortable / twips.width(), (room.height() * kComfortable - kFramePixels) / (twips.height() + kMenuBarTwips));
+    return std::min(room.width() * kComfortable / twips.width(),
+                    (room.height() * kComfortable - kFramePixels) / (twips.height() + kMenuBarTwips));
 }
 }  // namespace
 

@@ -19,6 +19,7 @@ int TabBarTwips(const TabControl& tabs) {
 }
 
 QRectF TabBarPlace(const TabControl& tabs, int tab, double width, double height) {
-    const double each = std::min(width / static_cast<double>(std::max<std::size_t>(tabs.TabCaptions().size(), 1)), height * kWidestToHeight);
+    const double each =
+        std::min(width / static_cast<double>(std::max<std::size_t>(tabs.TabCaptions().size(), 1)), height * kWidestToHeight);
     return {each * tab, 0, each, height};
 }

@@ -75,7 +75,8 @@ private:
         if (front) painter.fillRect(QRectF(place.left(), place.top(), place.width(), std::max(3.0, 40 * Factor())), kAccent);
         painter.setPen(ToQt(tabs_.ForeColor()));
         const QString caption = ToQt(tabs_.TabCaptions()[static_cast<std::size_t>(tab)]);
-        painter.drawText(place, Qt::AlignCenter, painter.fontMetrics().elidedText(caption, Qt::ElideRight, static_cast<int>(place.width()) - 4));
+        painter.drawText(place, Qt::AlignCenter,
+                         painter.fontMetrics().elidedText(caption, Qt::ElideRight, static_cast<int>(place.width()) - 4));
     }
 
     TabControl& tabs_;

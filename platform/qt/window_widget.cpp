@@ -18,7 +18,7 @@
 #include "platform/user.h"
 
 namespace {
-constexpr double kSmallest = 0.4;      // of the size that a window comes up with
+constexpr double kSmallest = 0.4;  // of the size that a window comes up with
 constexpr QSize kSmallestOfUser{240, 160};
 constexpr int kTitleBar = 30;          // about, before the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
@@ -115,7 +115,8 @@ void WindowWidget::resizeEvent(QResizeEvent*) {
 void WindowWidget::TakeUserSize() {
     resize_soon_.stop();
     const QSize client = Client().size();
-    const int wide = static_cast<int>(std::lround(client.width() / factor_)), high = static_cast<int>(std::lround(client.height() / factor_));
+    const int wide = static_cast<int>(std::lround(client.width() / factor_)),
+              high = static_cast<int>(std::lround(client.height() / factor_));
     TheRenderer().Run([&] { ResizeWindow(window_, wide, high); });
 }
 

@@ -45,10 +45,10 @@ protected:
 
 private:
     ControlWidget* Build(Control& control);
-    QRect Client() const;             // what is left below the menu bar
+    QRect Client() const;  // what is left below the menu bar
     QSize ClientSize(double factor) const;
     void ChooseSize();
-    void Fit();                       // the factor and all places, after a change of size
+    void Fit();  // the factor and all places, after a change of size
     void LayOut();
     void PlaceAbove(const WindowWidget* below);
 
@@ -59,7 +59,7 @@ private:
     bool sized_ = false;   // it has a size of its own
     bool placed_ = false;  // it has been on the screen
     QWidget* ground_;
-    Veil* veil_;                      // over a window that takes no input
+    Veil* veil_;  // over a window that takes no input
     std::unique_ptr<MenuView> menus_;
     std::map<const Control*, std::unique_ptr<ControlWidget>> controls_;
     QTimer resize_soon_;

@@ -30,6 +30,12 @@ TEST(DriveScriptTest, BlankLinesAndCommentsArePassedOverAndCounted) {
     EXPECT_EQ(commands[1].line, 6);
 }
 
+TEST(DriveScriptTest, AMarkAtTheHeadIsPassedOver) {
+    const auto commands = CommandsOf("\xEF\xBB\xBFstart\n");
+    ASSERT_EQ(commands.size(), 1u);
+    EXPECT_EQ(commands[0].words, Words{"start"});
+}
+
 TEST(DriveScriptTest, LinesOfACommandStandAsTheyAre) {
     const auto commands = CommandsOf("write $W/a.csv <<END\n# no comment\n\n  \"a\",1 \nEND\nstart\n");
     ASSERT_EQ(commands.size(), 2u);

@@ -1,0 +1,57 @@
+#include "platform/qt/program_folder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTemporaryFile>
+
+namespace {
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+constexpr auto kName = "Marlbrook";
+#else
+constexpr auto kName = "marlbrook";
+#endif
+
+bool HoldsReferences(const QString& folder) {
+    return QFileInfo(folder + "/References").isDir();
+}
+
+// By making a file: permissions tell less, to root and behind access lists.
+bool CanBeWritten(const QString& folder) {
+    QTemporaryFile file(folder + "/.marlbrook-XXXXXX");
+    return file.open();
+}
+
+// The tree as it is installed: on Linux, on Windows, in a macOS bundle.
+QString InstalledTree() {
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const QString& folder : {program + "/../share/marlbrook", program, program + "/../Resources"})
+        if (HoldsReferences(folder)) return folder;
+    return {};
+}
+
+void LayDown(const QString& from, const QString& to) {
+    QDirIterator entries(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString entry = entries.next();
+        const QString copy = to + "/" + QDir(from).relativeFilePath(entry);
+        if (entries.fileInfo().isDir())
+            QDir().mkpath(copy);
+        else if (QDir().mkpath(QFileInfo(copy).path()) && QFile::copy(entry, copy))  // copy writes over nothing
+            QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
+    }
+}
+}  // namespace
+
+QString FindProgramFolder() {
+    const QString program = QCoreApplication::applicationDirPath();
+    if (HoldsReferences(program) && CanBeWritten(program)) return program;
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/" + kName;
+    if (QFileInfo::exists(own + "/References/KeySetting.csv")) return own;
+    QDir().mkpath(own);
+    if (const QString tree = InstalledTree(); !tree.isEmpty()) LayDown(tree, own);
+    return own;
+}

@@ -1,0 +1,59 @@
+#include "platform/qt/qt_files.h"
+
+#include <QFile>
+
+#include "platform/failure.h"
+#include "platform/qt/paths.h"
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace {
+bool FlushToDisk(const QFile& file) {
+#ifdef Q_OS_WIN
+    return _commit(file.handle()) == 0;
+#else
+    return fsync(file.handle()) == 0;
+#endif
+}
+
+class QtOutputFile : public OutputFile {
+public:
+    explicit QtOutputFile(const QString& path) : file_(path) {
+        if (!file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) throw Failure(kFileError);
+    }
+
+    void Replace(std::string_view bytes) override {
+        const bool whole = file_.resize(0) && file_.seek(0) && WriteAll(bytes) && FlushToDisk(file_);
+        file_.close();
+        if (!whole) throw Failure(kFileError);
+    }
+
+private:
+    bool WriteAll(std::string_view bytes) {
+        while (!bytes.empty()) {
+            const qint64 written = file_.write(bytes.data(), static_cast<qint64>(bytes.size()));
+            if (written <= 0) return false;
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
+
+    QFile file_;
+};
+}  // namespace
+
+std::string QtFiles::ReadAll(const std::string& path) {
+    QFile file(SystemPath(path));
+    if (!file.open(QIODevice::ReadOnly)) throw Failure(kFileError);
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) throw Failure(kFileError);
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+std::unique_ptr<OutputFile> QtFiles::OpenForWriting(const std::string& path) {
+    return std::make_unique<QtOutputFile>(SystemPath(path));
+}

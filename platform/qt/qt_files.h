@@ -1,0 +1,9 @@
+// The files of the disk, under their paths in UTF-8.
+#pragma once
+#include "platform/files.h"
+
+class QtFiles : public Files {
+public:
+    std::string ReadAll(const std::string& path) override;
+    std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
+};

@@ -1,0 +1,32 @@
+#include "platform/qt/qt_host.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+
+#include "platform/qt/look.h"
+#include "platform/qt/program_folder.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/renderer.h"
+
+QtHost::QtHost() : folder_(FromQt(FindProgramFolder())), lock_(ToQt(folder_) + "/.marlbrook.lock") {
+    lock_.setStaleLockTime(0);  // held as long as its process lives
+}
+
+// A folder that takes no lock is used all the same.
+bool QtHost::HasFolderAlone() {
+    if (lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError) return true;
+    ShowPlainMessage("Marlbrook is running already. Two at a time would write the same settings and back-ups in\n" + folder_);
+    return false;
+}
+
+void QtHost::End() {
+    TheRenderer().Stop();
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+}
+
+void QtHost::Fail(const char* word) {
+    TheRenderer().Stop();
+    ShowPlainMessage(word);
+    End();
+}

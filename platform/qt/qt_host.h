@@ -1,0 +1,20 @@
+// What the program is run by: its folder, which it has for itself alone, and its end.
+#pragma once
+#include <QLockFile>
+#include <string>
+
+#include "platform/services.h"
+
+class QtHost : public ProgramHost {
+public:
+    QtHost();
+    bool HasFolderAlone();  // False: another process works on it; the user has been told
+
+    std::string Folder() override { return folder_; }
+    void End() override;
+    void Fail(const char* word) override;
+
+private:
+    std::string folder_;
+    QLockFile lock_;
+};

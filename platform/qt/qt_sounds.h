@@ -1,0 +1,39 @@
+// Sounds from memory, one at a time, on a device that stays open. Without a device there is silence and nothing else changes.
+//
+// The device opens on a thread of its own, for that can take longer than the first window; what is played meanwhile sounds once it is
+// open.
+#pragma once
+#include <map>
+#include <mutex>
+#include <string>
+#include <thread>
+
+#include "platform/services.h"
+
+struct Mix_Chunk;
+
+class QtSounds : public Sounds {
+public:
+    QtSounds();
+    ~QtSounds() override;
+    QtSounds(const QtSounds&) = delete;
+    QtSounds& operator=(const QtSounds&) = delete;
+
+    void Play(const Wave& wave) override;
+    void Beep() override;
+
+private:
+    struct Loaded {
+        std::string bytes;  // the chunk plays from them
+        Mix_Chunk* chunk = nullptr;
+    };
+    void Open();
+    void PlayNow(const Wave* wave, const std::string& bytes);
+
+    std::mutex mutex_;
+    bool is_open_ = false;
+    const Wave* waits_ = nullptr;  // asked for before the device was open
+    std::string waiting_bytes_;    // a copy: the program may read its waves anew meanwhile
+    std::map<const Wave*, Loaded> loaded_;
+    std::thread opening_;
+};

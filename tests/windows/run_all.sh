@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# The tests of the real window, each on a screen of its own. Ends with "N passed, N failed".
+set -uo pipefail
+cd "$(dirname "$(readlink -f "$0")")"
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+python3 -m unittest discover -p '*_test.py' -v >"$log" 2>&1
+status=$?
+ran=$(sed -n 's/^Ran \([0-9]*\) tests\{0,1\} in.*/\1/p' "$log")
+failed=$(grep -cE '^(FAIL|ERROR): ' "$log")
+[ "$status" = 0 ] || cat "$log"
+echo "$((${ran:-0} - failed)) passed, $failed failed"
+exit "$status"
