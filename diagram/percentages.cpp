@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "diagram/basis.h"
 #include "files/sample_names.h"
 #include "platform/number.h"
 #include "windows/diagram_window.h"
-#include "windows/main_window.h"
 
 float SamplePercent[kSlots + 1][kColumns + 1];
 std::vector<std::int16_t> SampleRank;
@@ -17,44 +17,38 @@ float LastColumnMax;
 std::string DiagramNames[kSlots + 1];
 
 namespace {
-using Weights = std::array<double, kSlots + 1>;  // [slot]: how often a grain counts in the basis
+bool shares_are_of_tables = false;  // SamplePercentages has run since ComputeDiagramData
 
-Weights BasisWeights() {
-    Weights weights{};
-    for (int slot = 1; slot <= kSlots; ++slot) {
-        if (frmMain.Option1[1].Value())
-            weights[slot] = TaxonTable[slot][2].Number();
-        else if (frmMain.Option1[2].Value())
-            weights[slot] = TaxonTable[slot][3].Number();
-        else
-            weights[slot] = 1;
-    }
-    return weights;
+// Into Counts[0], for the samples `first`..`last`. Weights are whole numbers: the sums are exact.
+void SumOnBasis(int first, int last) {
+    const BasisWeights weights = WeightsOfBasis();
+    std::array<double, kColumns + 1> sums{};
+    for (int slot = 1; slot <= kSlots; ++slot)
+        for (int sample = first; sample <= last; ++sample) sums[sample] += weights[slot] * Counts[slot][sample];
+    for (int sample = first; sample <= last; ++sample) Counts[0][sample] = ToLong(sums[sample]);
 }
 
-std::int32_t BasisSum(int sample, const Weights& weights) {
-    double sum = 0;
-    for (int slot = 1; slot <= kSlots; ++slot) sum = ToLong(sum + Counts[slot][sample] * weights[slot]);
-    return ToLong(sum);
+// What has no basis is `without_basis`.
+float ShareOf(std::int32_t count, std::int32_t sum, float without_basis) {
+    return sum != 0 ? static_cast<float>(static_cast<double>(count) / sum) : without_basis;
 }
 
-// Numeric names are depths: the shallowest comes first, of two equal names the left one.
+// Numeric names are depths, compared as Singles: the shallowest comes first, of two equal names the left one. From 999999 on a depth
+// has no place of its own: the places that are left repeat the sample before them.
 void RankByDepth() {
-    std::vector<double> depths(SampleCount + 1);
-    for (int sample = 1; sample <= SampleCount; ++sample) depths[sample] = SampleTable[2][sample].Number();
-    std::vector<bool> taken(SampleCount + 1);
-    std::int16_t best_sample = 0;
+    constexpr float kTooDeep = 999999.0F;
+    std::vector<float> depths(SampleCount + 1);
+    std::vector<std::int16_t> order;
+    for (std::int16_t sample = 1; sample <= SampleCount; ++sample) {
+        depths[sample] = static_cast<float>(SampleTable[2][sample].Number());
+        if (depths[sample] < kTooDeep) order.push_back(sample);
+    }
+    if (order.empty()) return;
+    std::stable_sort(order.begin(), order.end(), [&depths](int left, int right) { return depths[left] < depths[right]; });
+    order.resize(SampleCount, order.back());
     for (std::int16_t place = 1; place <= SampleCount; ++place) {
-        float best = 999999.0F;
-        for (std::int16_t sample = 1; sample <= SampleCount; ++sample)
-            if (best > depths[sample] && !taken[sample]) {
-                best_sample = sample;
-                best = static_cast<float>(depths[sample]);
-            }
-        if (best_sample == 0) continue;  // every depth lies beyond the start value
-        taken[best_sample] = true;
-        SampleRank[best_sample] = place;
-        SampleAtRank[place] = best_sample;
+        SampleAtRank[place] = order[place - 1];
+        SampleRank[order[place - 1]] = place;
     }
 }
 
@@ -67,13 +61,23 @@ void RankSamples() {
 }
 
 void FillFractions() {
-    const Weights weights = BasisWeights();
-    for (int sample = 1; sample <= SampleCount; ++sample) {
-        const std::int32_t sum = Counts[0][sample] = BasisSum(sample, weights);
-        for (int slot = 0; slot <= kSlots; ++slot)
-            SamplePercent[RowOfSlot[slot]][SampleRank[sample]] =
-                sum != 0 ? static_cast<float>(static_cast<double>(Counts[slot][sample]) / sum) : 0.0F;
-    }
+    shares_are_of_tables = false;
+    SumOnBasis(1, SampleCount);
+    for (int slot = 0; slot <= kSlots; ++slot)
+        for (int sample = 1; sample <= SampleCount; ++sample)
+            SamplePercent[RowOfSlot[slot]][SampleRank[sample]] = ShareOf(Counts[slot][sample], Counts[0][sample], 0);
+}
+
+// Of one row, not below 0. Several shares at a time: one after the other each would wait for the last.
+float LargestShare(int row) {
+    constexpr int kLanes = 8;
+    const float* const share = SamplePercent[row];
+    std::array<float, kLanes> largest{};
+    int place = 1;
+    for (; place + kLanes <= SampleCount + 1; place += kLanes)
+        for (int lane = 0; lane < kLanes; ++lane) largest[lane] = std::max(largest[lane], share[place + lane]);
+    for (; place <= SampleCount; ++place) largest[0] = std::max(largest[0], share[place]);
+    return *std::max_element(largest.begin(), largest.end());
 }
 
 // Every row gets a column as wide as its largest value, an empty row one of width 0, and the gap behind it.
@@ -81,24 +85,28 @@ void LayOutColumns() {
     ColumnOffset[1] = 5;
     LastColumnMax = 0;
     for (int row = 1; row <= kSlots; ++row) {
-        float largest = 0;
-        for (int place = 1; place <= SampleCount; ++place) largest = std::max(largest, SamplePercent[row][place] * 100);
-        LastColumnMax = largest;
-        ColumnOffset[row + 1] = largest + ColumnOffset[row] + ColumnGap;
+        LastColumnMax = LargestShare(row) * 100;
+        ColumnOffset[row + 1] = static_cast<float>(static_cast<double>(LastColumnMax) + ColumnOffset[row] + ColumnGap);
     }
-}
-
-void SetScrollRange(double units_per_screen_unit) {
-    const double width = units_per_screen_unit * frmDiagram.Picture1.ScaleWidth();
-    frmDiagram.HScroll1.SetRange(0, ToInteger(ColumnOffset[kSlots] - width + LastColumnMax + 2 * ColumnGap));
-    frmDiagram.HScroll1.SetSteps(10, ToInteger(width));
 }
 }  // namespace
 
 void SamplePercentages(std::int16_t sample) {
-    const std::int32_t sum = Counts[0][sample] = BasisSum(sample, BasisWeights());
-    for (int slot = 0; slot <= kSlots; ++slot)
-        SamplePercent[slot][sample] = sum != 0 ? static_cast<float>(static_cast<double>(Counts[slot][sample]) / sum) : kNoBasis;
+    shares_are_of_tables = true;
+    SumOnBasis(sample, sample);
+    for (int slot = 0; slot <= kSlots; ++slot) SamplePercent[slot][sample] = ShareOf(Counts[slot][sample], Counts[0][sample], kNoBasis);
+}
+
+void RestoreDiagramShares() {
+    if (shares_are_of_tables) FillFractions();
+}
+
+double SetScrollRange(double units_in_view) {
+    constexpr double kFarthest = 32767;  // where a taxon far outside the basis makes the diagram wider, its end is out of reach
+    const double end = static_cast<double>(ColumnOffset[kSlots]) - units_in_view + LastColumnMax + 2 * ColumnGap;
+    frmDiagram.HScroll1.SetRange(0, ToInteger(std::min(end, kFarthest)));
+    frmDiagram.HScroll1.SetSteps(10, ToInteger(units_in_view));
+    return end;
 }
 
 void ComputeDiagramData() {
@@ -108,5 +116,5 @@ void ComputeDiagramData() {
     FillFractions();
     for (int slot = 1; slot <= kSlots; ++slot) DiagramNames[RowOfSlot[slot]] = TaxonTable[slot][4].Text();
     LayOutColumns();
-    SetScrollRange(units_per_screen_unit);
+    SetScrollRange(units_per_screen_unit * frmDiagram.Picture1.ScaleWidth());
 }

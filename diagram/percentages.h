@@ -6,14 +6,16 @@
 
 #include "session/sheet_state.h"
 
-extern float SamplePercent[kSlots + 1][kColumns + 1];  // a fraction, 1 is 100 %. After ComputeDiagramData: [sheet row][display position],
-                                                       // row 0 is 1 where the sample has data, else 0. After SamplePercentages: [slot][sample]
-extern std::vector<std::int16_t> SampleRank;           // [sample]: its display position; [0] unused
-extern std::vector<std::int16_t> SampleAtRank;         // [display position]: the sample
-extern float ColumnOffset[kSlots + 2];                 // [sheet row]: left edge of its column in percent units; [136]: the right end
-extern std::int16_t ColumnGap;                         // empty space between two columns, in percent units
-extern float LastColumnMax;                            // the largest percentage of sheet row 135
-extern std::string DiagramNames[kSlots + 1];           // [sheet row]: taxon name; [0] unused
+// Fractions: 1 is 100 %. After ComputeDiagramData [sheet row][display position], row 0 being 1 where the sample has data, else 0. After
+// SamplePercentages [slot][sample].
+extern float SamplePercent[kSlots + 1][kColumns + 1];
+
+extern std::vector<std::int16_t> SampleRank;    // [sample]: its display position; [0] unused
+extern std::vector<std::int16_t> SampleAtRank;  // [display position]: the sample
+extern float ColumnOffset[kSlots + 2];          // [sheet row]: left edge of its column in percent units; [136]: the right end
+extern std::int16_t ColumnGap;                  // empty space between two columns, in percent units
+extern float LastColumnMax;                     // the largest percentage of sheet row 135
+extern std::string DiagramNames[kSlots + 1];    // [sheet row]: taxon name; [0] unused
 
 constexpr float kNoBasis = 99.99f;  // the mark of a sample whose basis sum is 0
 
@@ -24,3 +26,11 @@ void SamplePercentages(std::int16_t sample);
 // Everything that the diagram draws from, on the same basis, with the horizontal scale of frmDiagram.Slider2; sets the range of its
 // scroll bar. Calls CheckSampleNames. Raises "Overflow" as above.
 void ComputeDiagramData();
+
+// A percentage table or the % button may have put its own shares into SamplePercent: then those of the diagram are filled in again.
+// For whoever reads them without a ComputeDiagramData of his own.
+void RestoreDiagramShares();
+
+// Sets the range of frmDiagram.HScroll1 for a picture that shows so many percent units. Returns the end of the range before it is
+// rounded and held within 32767: 0 or less if all columns are in view.
+double SetScrollRange(double units_in_view);

@@ -4,12 +4,14 @@
 #include <map>
 #include <utility>
 
+#include "diagram/coniss.h"
 #include "diagram/diversity_curve.h"
 #include "diagram/percentages.h"
 #include "drive/fault.h"
 #include "drive/values.h"
 #include "platform/services.h"
 #include "session/sheet_state.h"
+#include "windows/diagram_window.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
 
@@ -145,6 +147,14 @@ const std::map<std::string, Variable>& Variables() {
         {"TaxaSeen", Of(TaxaSeen)},
         {"DiversityLength", Of(DiversityLength)},
         {"DiversityCurve", Of(DiversityCurve)},
+        {"ConissData", BySample(ConissData)},
+        {"ConissDistance", Of(ConissDistance)},
+        {"ConissPosition", Of(ConissPosition)},
+        {"ConissHeight", Of(ConissHeight)},
+        {"ConissSkip", Of(ConissSkip)},
+        {"MergeUpper", Of(MergeUpper)},
+        {"MergeLower", Of(MergeLower)},
+        {"MergeHeight", Of(MergeHeight)},
         // Members of windows
         {"FormLoaded", Of(frmMain.FormLoaded)},
         {"ChangingSample", Of(frmMain.ChangingSample)},
@@ -152,6 +162,21 @@ const std::map<std::string, Variable>& Variables() {
         {"HeldCounts", Of(frmMain.HeldCounts)},
         {"HeldTotals", Of(frmMain.HeldTotals)},
         {"AllKnown", Of(frmInitial.AllKnown)},
+        {"SelectedSample", Of(frmDiagram.SelectedSample)},
+        {"DiagramTop", Of(frmDiagram.DiagramTop)},
+        {"DiagramHeight", Of(frmDiagram.DiagramHeight)},
+        {"DiagramFormHeight", Of(frmDiagram.DiagramFormHeight)},
+        {"DiagramFormWidth", Of(frmDiagram.DiagramFormWidth)},
+        {"WidthMargin", Of(frmDiagram.WidthMargin)},
+        {"HeightMargin", Of(frmDiagram.HeightMargin)},
+        {"ScrollMargin", Of(frmDiagram.ScrollMargin)},
+        {"SliderMargin", Of(frmDiagram.SliderMargin)},
+        {"FrameMargin", Of(frmDiagram.FrameMargin)},
+        {"BandMargin", Of(frmDiagram.BandMargin)},
+        {"DiagramResizeGuard", Of(frmDiagram.DiagramResizeGuard)},
+        {"SliderDragging", Of(frmDiagram.SliderDragging)},
+        {"MovingSample", Of(frmDiagram.MovingSample)},
+        {"ConissDrawn", Of(frmDiagram.ConissDrawn)},
     };
     return variables;
 }

@@ -5,3 +5,8 @@ void JoinMainEvents();
 void JoinNextEvents();
 void JoinInitialEvents();
 void JoinSiteNameEvents();
+void JoinKeyCodeEvents();
+void JoinSubtotalEvents();
+void JoinParaNameEvents();
+void JoinAccessoryEvents();
+void JoinDiagramEvents();

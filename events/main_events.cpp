@@ -1,3 +1,4 @@
+#include "accessories/rest_pictures.h"
 #include "events/join.h"
 #include "files/exports.h"
 #include "files/new_sheet.h"
@@ -6,6 +7,7 @@
 #include "files/save_sheet.h"
 #include "platform/user.h"
 #include "session/count_channel.h"
+#include "session/dialog.h"
 #include "session/focus_rule.h"
 #include "session/italics.h"
 #include "session/key_dispatch.h"
@@ -19,8 +21,14 @@
 #include "taxa/cells.h"
 #include "taxa/edit_boxes.h"
 #include "taxa/move_taxon.h"
+#include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
+#include "windows/about_windows.h"
+#include "windows/initial_window.h"
+#include "windows/key_code_window.h"
 #include "windows/main_window.h"
+#include "windows/picture_window.h"
+#include "windows/subtotal_window.h"
 
 namespace {
 void JoinWindow() {
@@ -47,9 +55,10 @@ void JoinGrounds() {
     frmMain.Command1.Click.Calls([] { frmMain.Picture1.Clear(); });
 }
 
-// A press of the right button in Modify mode offers the move; otherwise the keyboard stays with the counter.
+// A press of the right button in Modify mode offers the move; otherwise the keyboard stays with the counter. The name of the sample is
+// no taxon to be moved.
 void PressInCell(int slot, Mouse mouse) {
-    if (mouse.button == MouseButton::Right && AmendMode)
+    if (mouse.button == MouseButton::Right && AmendMode && slot != 0)
         OfferMove(slot);
     else
         ReturnFocus();
@@ -74,6 +83,7 @@ void JoinNameBox(int slot) {
 void JoinCountBox(int slot) {
     TextBox& box = frmMain.Text2[slot];
     JoinBox(box);
+    box.MouseMove.Calls(EnterCountCell);
     box.GotFocus.Calls([slot] { EnterCountBox(slot); });
     box.LostFocus.Calls([slot] { LeaveCountBox(slot); });
     box.MouseDown.Calls([slot](Mouse mouse) {
@@ -89,11 +99,9 @@ void JoinCells() {
     for (int slot = 0; slot <= kSlots; ++slot) {
         JoinNameBox(slot);
         frmMain.Label1[slot].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
-    }
-    for (int slot = 1; slot <= kSlots; ++slot) {
-        JoinCountBox(slot);
         frmMain.Label1[slot].Click.Calls([slot] { SelectSlot(slot); });
     }
+    for (int slot = 1; slot <= kSlots; ++slot) JoinCountBox(slot);
 }
 
 void JoinMoves() {
@@ -116,6 +124,7 @@ void JoinParam(int p) {
     box.KeyDown.Calls(NoteEditKey);
     box.Change.Calls([p] { TakeParam(p); });
     frmMain.Label10[p].Change.Calls([p] { EndWithColon(p); });
+    frmMain.Command7[p].Click.Calls([p] { RenameParamOfSheet(p); });
     frmMain.Command7[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
 }
 
@@ -169,6 +178,16 @@ void JoinCommands() {
     frmMain.mnuReset.Click.Calls(AbortCount);
     frmMain.mnuItalic.Click.Calls(ToggleItalics);
 }
+void JoinDialogs() {
+    frmMain.mnuKeyCodeReader.Click.Calls([] { OpenDialog(frmKeyCode); });
+    frmMain.mnuSubtotal.Click.Calls([] { OpenDialog(frmSubtotal); });
+    frmMain.mnuInitial.Click.Calls([] { OpenDialog(frmInitial); });
+    frmMain.mnuAboutMB1.Click.Calls([] { OpenDialog(frmAboutMB1); });
+    frmMain.mnuAboutDX1.Click.Calls([] { OpenDialog(frmAboutDX1); });
+    frmMain.mnuCoffee.Click.Calls([] { ShowRestPicture(frmPicture.imgCoffee); });
+    frmMain.mnuBeach.Click.Calls([] { ShowRestPicture(frmPicture.imgBeach); });
+    frmMain.mnuFavorite.Click.Calls([] { ShowRestPicture(frmPicture.imgFavorite); });
+}
 }  // namespace
 
 void JoinMainEvents() {
@@ -179,4 +198,5 @@ void JoinMainEvents() {
     JoinSample();
     JoinTotals();
     JoinCommands();
+    JoinDialogs();
 }

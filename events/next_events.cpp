@@ -3,6 +3,7 @@
 #include "files/open_sheet.h"
 #include "platform/text.h"
 #include "session/sheet_state.h"
+#include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
 #include "windows/next_window.h"
 
@@ -40,5 +41,8 @@ void JoinNextEvents() {
     frmNext.Command1.Click.Calls(AcceptSample);
     frmNext.Command3.Click.Calls(CancelSample);
     JoinNote();
-    for (int p = 1; p <= kParams; ++p) JoinParam(frmNext.Text3[p]);
+    for (int p = 1; p <= kParams; ++p) {
+        JoinParam(frmNext.Text3[p]);
+        frmNext.Command5[p].Click.Calls([p] { RenameParamOfNextSample(p); });
+    }
 }

@@ -8,5 +8,10 @@ void StartProgram() {
     JoinNextEvents();
     JoinInitialEvents();
     JoinSiteNameEvents();
+    JoinKeyCodeEvents();
+    JoinSubtotalEvents();
+    JoinParaNameEvents();
+    JoinAccessoryEvents();
+    JoinDiagramEvents();
     frmNext.Show();
 }

@@ -11,8 +11,7 @@ constexpr std::int16_t kMaster = 99;
 constexpr std::int16_t kRing = 10;
 
 std::string BackUpPath() {
-    const std::string name =
-        BackupSlot == kMaster ? "Master_back_up.csv" : "Auto_back_up_(" + std::to_string(BackupSlot) + ").csv";
+    const std::string name = BackupSlot == kMaster ? "Master_back_up.csv" : "Auto_back_up_(" + std::to_string(BackupSlot) + ").csv";
     return ProgramFile("References/Back up files/") + name;
 }
 
@@ -22,8 +21,7 @@ void WriteBackUp() {
     CellWriter cells(*file);
     StampHeader("Backed up (dd/mm/yyyy):");
     WriteHeaderRows(cells, SampleCount);
-    const auto count = [](int slot, int sample) { return Any(Counts[slot][sample]); };
-    for (int row = 1; row <= kSlots; ++row) WriteTaxonRow(cells, row, SampleCount, count);
+    for (int row = 1; row <= kSlots; ++row) WriteCountRow(cells, row);
     FillEmptyParams();
     FillEmptyNotes();
     WriteParamRows(cells, SampleCount);

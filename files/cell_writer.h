@@ -6,6 +6,7 @@
 // A text is quoted and nothing in it escaped; a number is bare, with a period whatever the locale. A comma parts cells, CR LF ends a
 // row. The text is gathered in memory and handed over in one write when the writer is closed.
 #pragma once
+#include <cstdint>
 #include <string>
 
 #include "platform/any.h"
@@ -15,10 +16,13 @@ class CellWriter {
 public:
     explicit CellWriter(OutputFile& file) : file_(file) {}  // the file must outlive the writer
     void Write(const Any& cell);
+    void WriteCount(std::int32_t count);  // the same as Write, for the thousands of them
     void EndRow();
     void Close();  // raises "File error" when the file takes no more; what it took stays in it
 
 private:
+    void BeginCell();
+
     OutputFile& file_;
     std::string text_;
     bool row_begun_ = false;

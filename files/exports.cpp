@@ -32,7 +32,8 @@ void WriteTemplate(CellWriter& cells) {
     StampHeader("Last saved (dd/mm/yyyy):");
     WriteHeaderRows(cells, kNoSamples);
     for (int row = 1; row <= kSlots; ++row) {
-        WriteTaxonRow(cells, row, kNoSamples, {});
+        WriteTaxonLabels(cells, row);
+        cells.EndRow();
         frmMain.ProgressBar1.SetValue(row);
     }
     NameUntitledParams();
@@ -69,6 +70,5 @@ void CreateTemplate() {
 void SaveHistory() {
     const Busy busy(HistoryCount);
     frmMain.CommonDialog1.FileName = ProgramFile("References/History.csv");
-    Export(WriteHistory);
-    GiveFocusBack();
+    if (Export(WriteHistory)) GiveFocusBack();
 }

@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "diagram/percentages.h"
+#include "diagram/redraw.h"
+#include "diagram/sample_selector.h"
+#include "diagram/tree_panel.h"
 #include "platform/number.h"
 #include "session/sheet_state.h"
 #include "windows/main_window.h"
@@ -32,7 +35,7 @@ void RefillSampleList() {
 }
 }  // namespace
 
-void MoveSampleColumn() {
+void MoveSampleColumnUnseen() {
     if (MoveFrom == MoveTo) return;
     for (const int row : {1, 2}) MoveInRow(SampleTable[row]);
     for (int slot = 1; slot <= kSlots; ++slot) {
@@ -44,4 +47,12 @@ void MoveSampleColumn() {
     if (CurrentSample == MoveFrom) CurrentSample = MoveTo;
     frmMain.Command5[0].SetEnabled(true);
     RefillSampleList();
+}
+
+void MoveSampleColumn() {
+    MoveSampleColumnUnseen();
+    if (MoveFrom == MoveTo || !DiagramOpen) return;
+    FillSampleList();
+    RedrawDiagram();
+    ClusterAgain();
 }

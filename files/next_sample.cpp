@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <string>
 
+#include "diagram/open_diagram.h"
 #include "files/move_sample_column.h"
 #include "files/sample_fields.h"
 #include "files/snapshot.h"
+#include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/history.h"
@@ -29,9 +31,9 @@ bool IsNameTaken(const std::string& name) {
 void MakeColumn() {
     MaxSerial = LargestSerial();
     if (SampleTable[2][1] == kUnnamedValue) return;
-    ++SampleCount;
-    ++MaxSerial;
-    CurrentSample = SampleCount;
+    if (SampleCount == kColumns) throw Failure(kSubscriptOutOfRange);  // a file may bring more than kSampleLimit
+    MaxSerial = ToInteger(MaxSerial + 1);
+    CurrentSample = ++SampleCount;
 }
 
 // The name as it ends up in the sheet; an empty one becomes "4: ---".
@@ -72,7 +74,7 @@ void MoveIntoOrder(const std::string& name) {
     if (SampleNamesAreText) return;
     MoveFrom = SampleCount;
     MoveTo = PlaceByValue(Val(name));
-    MoveSampleColumn();
+    MoveSampleColumnUnseen();
 }
 
 void ShowStartFace() {
@@ -195,6 +197,7 @@ void AddSample() {
     ShowZeroTotals();
     LogShownLineAgain();  // the new sample stands twice in the log and once in the list
     MoveIntoOrder(name);
+    RebuildDiagram();
 }
 
 void AcceptSample() {

@@ -166,6 +166,7 @@ bool ReadFile(const std::string& path) {
     SheetPath = path;
     frmMain.ProgressBar1.SetVisible(true);
     ClearCounts();
+    SheetHeader[6] = cells.Next();
     frmMain.SetTitle(Left(frmMain.Title(), kLongTitleLength) + " - [" + SheetBaseName(path) + "]");
     ReadFirstRow(cells);
     ReadSampleNames(cells);

@@ -8,13 +8,13 @@
 #include "platform/text.h"
 #include "session/sample_on_show.h"
 #include "session/sheet_state.h"
+#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 
 namespace {
-// The labels in front of the serials. An older layout has one cell more before "Serial No.".
+// The labels between the path and the serials. An older layout has one cell more before "Serial No.".
 void ReadLabels(CellReader& cells) {
-    SheetHeader[6] = cells.Next();
     for (const int i : {7, 8, 9}) SheetHeader[i] = cells.Next();
     if (!(SheetHeader[9] == "Serial No.")) SheetHeader[9] = cells.Next();
     FileVersion = SheetHeader[7] == "Saved:" ? 1 : 2;
@@ -48,11 +48,13 @@ void MapSerials() {
 
 // The labels of one taxon row; returns its slot.
 int ReadTaxonLabels(CellReader& cells, std::int16_t row) {
-    const std::int16_t slot = KeyIndex[row] = ToInteger(cells.Next().Number());
+    const std::int16_t slot = ToInteger(cells.Next().Number());
+    const bool has_place = slot >= 0 && slot <= kSlots;
+    if (has_place) KeyIndex[row] = slot;  // always a slot: even after an open that fails, a save goes by it
     RowSubtotal1[row] = ToLong(cells.Next().Number());
     RowSubtotal2[row] = ToLong(cells.Next().Number());
     RowNames[row] = cells.NextText();
-    if (slot < 0 || slot > kSlots) throw Failure(kSubscriptOutOfRange);
+    if (!has_place) throw Failure(kSubscriptOutOfRange);
     RowOfSlot[slot] = row;
     TaxonTable[slot][0] = row;
     TaxonTable[slot][1] = slot;
@@ -103,17 +105,9 @@ void ReadFirstRow(CellReader& cells) {
     MapSerials();
 }
 
-void NamePercentTables() {
-    frmMain.Label2[1].SetCaption(SheetHeader[12].Text() + ":");
-    frmMain.Label2[2].SetCaption(SheetHeader[13].Text() + ":");
-    frmMain.mnuPercentSub1.SetCaption("% by " + SheetHeader[12].Text());
-    frmMain.mnuPercentSub2.SetCaption("% by " + SheetHeader[13].Text());
-    frmMain.mnuPercentAll.SetCaption("% by " + WithoutTrailingColon(frmMain.Label2[0].Caption()));
-}
-
 void ReadSampleNames(CellReader& cells) {
     for (const int i : {12, 13, 14}) SheetHeader[i] = cells.Next();
-    NamePercentTables();
+    ShowSubtotalNames();
     frmMain.Combo2.Clear();
     std::string last;
     for (int sample = 1; sample <= SampleCount; ++sample) {

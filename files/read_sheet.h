@@ -4,10 +4,8 @@
 #pragma once
 #include "files/cell_reader.h"
 
-void ReadFirstRow(CellReader& cells);      // header, serials; SampleCount and CurrentSample, 0 for a template; begins the second row
-void ReadSampleNames(CellReader& cells);   // the rest of the second row
-void ReadTaxonRows(CellReader& cells);     // with the progress bar
-void ReadParamRows(CellReader& cells);     // without values if TemplateOpened
-void ReadNotes(CellReader& cells);         // the same
-
-void NamePercentTables();  // the labels of the subtotals and the entries of the percentage menu, after SheetHeader[12..13]
+void ReadFirstRow(CellReader& cells);     // what follows the path: labels, serials, so SampleCount (0: a template); begins the second row
+void ReadSampleNames(CellReader& cells);  // the rest of the second row
+void ReadTaxonRows(CellReader& cells);    // with the progress bar
+void ReadParamRows(CellReader& cells);    // without values if TemplateOpened
+void ReadNotes(CellReader& cells);        // the same

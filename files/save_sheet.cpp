@@ -32,13 +32,12 @@ using SubtotalSums = std::array<std::vector<std::int16_t>, 3>;
 SubtotalSums SumSamples() {
     SubtotalSums sums;
     for (auto& row : sums) row.resize(SampleCount + 1);
-    for (int sample = 1; sample <= SampleCount; ++sample)
-        for (int slot = 1; slot <= kSlots; ++slot) {
-            const double count = Counts[slot][sample];
-            sums[0][sample] = ToInteger(sums[0][sample] + count);
-            sums[1][sample] = ToInteger(sums[1][sample] + count * TaxonTable[slot][2].Number());
-            sums[2][sample] = ToInteger(sums[2][sample] + count * TaxonTable[slot][3].Number());
-        }
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        const double weights[3] = {1, TaxonTable[slot][2].Number(), TaxonTable[slot][3].Number()};
+        for (int which = 0; which < 3; ++which)
+            for (int sample = 1; sample <= SampleCount; ++sample)
+                sums[which][sample] = ToInteger(sums[which][sample] + Counts[slot][sample] * weights[which]);
+    }
     return sums;
 }
 
@@ -64,18 +63,18 @@ void AdoptPath(const std::string& path) {
     SaveAsPending = false;
 }
 
-Any CountOf(int slot, int sample) {
-    return Counts[slot][sample];
-}
-
-Any PercentOf(int slot, int sample) {
-    const float percent = SamplePercent[slot][sample] * 100;
-    return RoundHalfEven(percent, 4);
+void WritePercentRow(CellWriter& cells, int row) {
+    WriteTaxonLabels(cells, row);
+    for (int sample = 1; sample <= SampleCount; ++sample) {
+        const float percent = SamplePercent[KeyIndex[row]][sample] * 100;
+        cells.Write(RoundHalfEven(percent, 4));
+    }
+    cells.EndRow();
 }
 
 void WriteTaxonRows(CellWriter& cells, std::int16_t mode) {
     for (int row = 1; row <= kSlots; ++row) {
-        WriteTaxonRow(cells, row, SampleCount, IsPercentTable(mode) ? PercentOf : CountOf);
+        IsPercentTable(mode) ? WritePercentRow(cells, row) : WriteCountRow(cells, row);
         frmMain.ProgressBar1.SetValue(row);
     }
 }
@@ -85,8 +84,8 @@ void StampNote() {
     constexpr std::size_t kStampLength = 33;
     const std::string note = frmMain.Text4.Text();
     const std::string stamp = "Last saved: " + NoteStamp();
-    if (Left(Right(note, kStampLength), 10) == "Last saved")
-        frmMain.Text4.SetText(Left(note, Length(note) - std::min(Length(note), kStampLength)) + stamp);
+    if (Length(note) >= kStampLength && Left(Right(note, kStampLength), 10) == "Last saved")
+        frmMain.Text4.SetText(Left(note, Length(note) - kStampLength) + stamp);
     else
         frmMain.Text4.SetText(note + "\r\n" + stamp);
 }
@@ -104,7 +103,8 @@ void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums
     for (const int which : {1, 2, 0}) {
         WriteSumLabels(cells, labels[which]);
         for (int sample = 1; sample <= SampleCount; ++sample)
-            cells.Write(IsPercentTable(mode) ? ShareOfBasis(sums[which][sample], sums[basis][sample], which == basis) : sums[which][sample]);
+            cells.Write(IsPercentTable(mode) ? ShareOfBasis(sums[which][sample], sums[basis][sample], which == basis)
+                                             : sums[which][sample]);
         cells.EndRow();
     }
 }
@@ -144,8 +144,8 @@ void TellSaved() {
 void TellFailed() {
     services.sounds->Beep();
     SaveOutcome = 2;
-    services.messages->Show({"Error", "The file is being used by another software. Please close the file and try again.", Icon::Exclamation,
-                             Buttons::Ok});
+    services.messages->Show(
+        {"Error", "The file is being used by another software. Please close the file and try again.", Icon::Exclamation, Buttons::Ok});
 }
 }  // namespace
 

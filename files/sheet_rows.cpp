@@ -1,5 +1,7 @@
 #include "files/sheet_rows.h"
 
+#include <string>
+
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/sheet_state.h"
@@ -21,10 +23,13 @@ void WriteHeaderRows(CellWriter& cells, int samples) {
     cells.EndRow();
 }
 
-void WriteTaxonRow(CellWriter& cells, int row, int samples, const std::function<Any(int slot, int sample)>& value) {
-    const int slot = KeyIndex[row];
-    for (int field = 1; field <= 4; ++field) cells.Write(TaxonTable[slot][field]);
-    for (int sample = 1; sample <= samples; ++sample) cells.Write(value(slot, sample));
+void WriteTaxonLabels(CellWriter& cells, int row) {
+    for (int field = 1; field <= 4; ++field) cells.Write(TaxonTable[KeyIndex[row]][field]);
+}
+
+void WriteCountRow(CellWriter& cells, int row) {
+    WriteTaxonLabels(cells, row);
+    for (int sample = 1; sample <= SampleCount; ++sample) cells.WriteCount(Counts[KeyIndex[row]][sample]);
     cells.EndRow();
 }
 

@@ -8,23 +8,21 @@
 //
 // Taxa stand in the order of the file's rows, not of the slots: a sheet sorted in a spreadsheet keeps its order and its keys.
 #pragma once
-#include <functional>
-#include <string>
-
 #include "files/cell_writer.h"
 #include "platform/any.h"
 
-void StampHeader(const char* label);                 // SheetHeader[6..8]: path, "Last saved (dd/mm/yyyy):" or the like, date and time
+void StampHeader(const char* label);  // SheetHeader[6..8]: path, "Last saved (dd/mm/yyyy):" or the like, date and time
 
 // `samples`: how many columns follow the labels; SampleCount, or 0 in a template.
 void WriteHeaderRows(CellWriter& cells, int samples);
-void WriteTaxonRow(CellWriter& cells, int row, int samples, const std::function<Any(int slot, int sample)>& value);
+void WriteTaxonLabels(CellWriter& cells, int row);  // the four label cells of a taxon row; the row goes on
+void WriteCountRow(CellWriter& cells, int row);     // the whole row of a sheet
 void WriteParamRows(CellWriter& cells, int samples);
 void WriteNoteRow(CellWriter& cells, int samples);
 void WriteSumLabels(CellWriter& cells, const Any& label);  // the four label cells of a row below the notes
 
-void NameUntitledParams();   // ParamHeader takes the captions on the screen; no cell of the labels stays empty
-void FillEmptyParams();      // the same, and no value stays empty: "---"
+void NameUntitledParams();  // ParamHeader takes the captions on the screen; no cell of the labels stays empty
+void FillEmptyParams();     // the same, and no value stays empty: "---"
 void FillEmptyNotes();
 
-void TakeShownSample();      // the name and the counts on the screen go into the arrays, as the column of CurrentSample
+void TakeShownSample();  // the name and the counts on the screen go into the arrays, as the column of CurrentSample

@@ -5,6 +5,7 @@
 #include "keys/key_settings.h"
 #include "platform/services.h"
 #include "platform/text.h"
+#include "session/dialog.h"
 #include "session/sheet_state.h"
 #include "session/sound.h"
 #include "windows/initial_window.h"
@@ -14,6 +15,7 @@
 namespace {
 constexpr int kFirstRow = 51;  // of the named keys in the key settings
 constexpr double kUnknownCode = 999;
+constexpr int kDelete = 46;
 
 Any& CodeOf(int key) {
     return KeySettings[kFirstRow + key][1];
@@ -31,9 +33,9 @@ bool HoldsCode(TextBox& box) {
 }
 
 bool AllBoxesHoldCodes() {
-    for (TextBox& box : frmInitial.Text1)
-        if (!HoldsCode(box)) return false;
-    return true;
+    bool all = true;
+    for (TextBox& box : frmInitial.Text1) all = HoldsCode(box) && all;
+    return all;
 }
 
 void FocusOk() {
@@ -52,12 +54,15 @@ void FocusNext(int key) {
 }
 
 void LeaveToProgram() {
-    const bool first_run = frmInitial.AllKnown == 0;
-    frmInitial.AllKnown = 1;
-    if (!first_run) frmMain.SetEnabled(true);
+    if (frmInitial.AllKnown == 1) {
+        CloseDialog(frmInitial);
+        return;
+    }
     frmInitial.Unload();
+    frmNext.Load();  // while the keyboard is unknown its load hides both windows
     frmMain.Show();
-    if (first_run) frmNext.Show();
+    frmNext.Show();
+    frmInitial.AllKnown = 1;
 }
 }  // namespace
 
@@ -71,6 +76,7 @@ void LoadInitialWindow() {
         frmInitial.Label4[key].SetEnabled(usable);
     }
     frmInitial.Command1.SetEnabled(known);
+    if (known) frmInitial.Command1.SetFocus();  // a box would be emptied by the focus
 }
 
 void EmptyNamedKey(int key) {
@@ -78,7 +84,9 @@ void EmptyNamedKey(int key) {
 }
 
 void TakeNamedKey(int key, int code) {
-    frmInitial.Text1[key].SetText(std::to_string(code));
+    TextBox& box = frmInitial.Text1[key];
+    box.SetText(std::to_string(code));
+    if (code == kDelete) box.SetSelStart(static_cast<int>(Length(box.Text())));  // it would take the first digit of its own code away
     if (key < kNamedKeys - 1) {
         FocusNext(key);
     } else {
@@ -99,7 +107,7 @@ void AcceptNamedKeys() {
 }
 
 void CloseInitialByFrame() {
-    frmInitial.Unload();
-    frmMain.SetEnabled(true);
-    frmMain.Show();
+    if (frmInitial.AllKnown == 0) frmNext.Unload();  // in a first run its start face still waits, unseen
+    KeyboardKnown = 1;                               // whoever will not tell is not asked again before the settings are read anew
+    CloseDialog(frmInitial);
 }

@@ -52,3 +52,8 @@ void PlaceKeyCells() {
         frmMain.Label1[key].SetPlace(KeyLeft[place], KeyTop[place] + 550);
     }
 }
+
+int KeyNumber(const Any& field) {
+    const double number = RoundHalfEven(field.Number(), 0);
+    return number >= 1 && number <= kKeys ? static_cast<int>(number) : 0;
+}

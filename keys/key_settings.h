@@ -9,6 +9,7 @@
 // Rows 1..45 counter keys, 46 and 48 Shift-1, 47 Shift-2, 49 Undo, 50 Save, 51..62 the named keys. A code of 0 or 999 in one of the
 // last twelve says that the keyboard has not been recognised.
 #pragma once
+#include "platform/any.h"
 
 // Reads the file into KeySettings, derives the codes of the shift and undo keys, places the cells and tells KeyboardKnown. Raises
 // "File error", "Input past end of file", or "Subscript out of range" for a key number outside 1..135; KeyboardKnown is then 0.
@@ -19,3 +20,5 @@ void WriteKeySettings();  // all rows as held; raises "File error"
 // The cells of bank 0 lie where field 2 of their place's row says; those of the other banks stay where they are. Raises "Subscript
 // out of range" for a key number outside 1..135.
 void PlaceKeyCells();
+
+int KeyNumber(const Any& field);  // the counter key that a key number means, rounded; 0 for one outside 1..45

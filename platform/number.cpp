@@ -13,9 +13,12 @@ constexpr double kAllWhole = 4503599627370496.0;  // 2^52: a double from here on
 // std::nearbyint rounds half to even: nothing in the program sets another way of rounding.
 template <class T>
 T ToWhole(double number) {
+    const auto fits = [](double value) {  // not so for what is no number
+        return value >= std::numeric_limits<T>::min() && value <= std::numeric_limits<T>::max();
+    };
+    if (fits(number) && number == static_cast<T>(number)) return static_cast<T>(number);  // nearly always: spares the call
     const double whole = std::nearbyint(number);
-    const bool fits = whole >= std::numeric_limits<T>::min() && whole <= std::numeric_limits<T>::max();  // not so for what is no number
-    if (!fits) throw Failure(kOverflow);
+    if (!fits(whole)) throw Failure(kOverflow);
     return static_cast<T>(whole);
 }
 

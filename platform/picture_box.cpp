@@ -11,6 +11,12 @@ bool CoversAll(const DrawOperation& operation) {
 }
 }  // namespace
 
+void PictureBox::SetImageBytes(std::string bytes) {
+    image_bytes_ = std::move(bytes);
+    ++version_;
+    Tell(Property::Drawing);
+}
+
 void PictureBox::Add(DrawOperation operation) {
     operations_.push_back(std::move(operation));
     Tell(Property::Drawing);

@@ -27,6 +27,10 @@ public:
 
     std::string image;  // a drawing that the program brings along, shown under all else; set once, with the design
 
+    // Shown in the same way: a picture file in memory, JPEG or other. It stays when its window is unloaded.
+    const std::string& ImageBytes() const { return image_bytes_; }
+    void SetImageBytes(std::string bytes);
+
     double ScaleLeft() const { return scale_left_; }
     double ScaleTop() const { return scale_top_; }
     double ScaleWidth() const { return scale_width_; }    // negative: x grows to the left; 0 draws as 1
@@ -41,7 +45,7 @@ public:
     void FilledRectangle(double x1, double y1, double x2, double y2, Colour fill);
     void Circle(double x, double y, double radius, Colour rim, Colour fill);
     void Print(double x, double y, double points, const std::string& text, Colour colour);  // (x, y): its upper left corner
-    void Name(double x, double y, bool italic, const std::string& text);                     // in pixels
+    void Name(double x, double y, bool italic, const std::string& text);                    // in pixels
 
     void Clear();         // everything
     void ClearOverlay();  // what was drawn since Persist
@@ -50,7 +54,7 @@ public:
     const std::vector<DrawOperation>& Operations() const { return operations_; }
     std::size_t PersistentCount() const { return persistent_; }  // the first so many operations are the persistent image
     bool IsPersistent() const { return is_persistent_; }
-    int PersistentVersion() const { return version_; }           // grows whenever the persistent image changes
+    int PersistentVersion() const { return version_; }  // grows whenever the persistent image changes
 
     void ReturnToDesign() override;
 
@@ -61,6 +65,7 @@ private:
     static double Span(double length) { return length == 0 ? 1 : length; }
 
     double scale_left_ = 0, scale_top_ = 0, scale_width_ = 1, scale_height_ = 1;
+    std::string image_bytes_;
     std::vector<DrawOperation> operations_;
     std::size_t persistent_ = 0;
     bool is_persistent_ = false;

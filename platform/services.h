@@ -76,6 +76,7 @@ class ProgramHost {
 public:
     virtual ~ProgramHost() = default;
     virtual std::string Folder() = 0;  // the program's own folder, where References and Sound files lie; no separator at its end
+    virtual Box ScreenSize() = 0;      // of the screen that windows come up on, in twips
     virtual void End() = 0;            // the program ends when the event that runs is over
     virtual void Fail(const char* word) = 0;  // shows the word of a failure that nothing caught, then ends the program
 };

@@ -51,10 +51,12 @@ bool HasItems(const MenuItem& menu) {
 }
 
 void ClickMenuItem(MenuItem& item) {
+    BringToFront(*item.window);
     OpenMenusOnTheWay(item.container);
-    if (!CanReach(item)) return;  // opening its menu may have switched it off
-    if (!HasItems(item)) open_popup = nullptr;
-    item.Click.Raise();
+    if (HasItems(item))
+        OpenMenu(item);
+    else
+        ClickOpenMenuItem(item);
 }
 
 bool HasKeyFocus(const Control& control) {

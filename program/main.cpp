@@ -18,9 +18,10 @@ int main(int argc, char** argv) {
     argc = 1;  // no command line is read, not the toolkit's either
     QApplication application(argc, argv);
     ApplyLook(application);
-    Renderer renderer;
-    KeyFilter keys;
     QtHost host;
+    Renderer renderer([&host] { return host.HasEnded(); });
+    renderer.WhenNothingIsShown([&host] { host.End(); });
+    KeyFilter keys;
     if (!host.HasFolderAlone()) return 0;
 
     QtSounds sounds;

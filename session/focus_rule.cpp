@@ -22,6 +22,13 @@ void EnterBox(Mouse) {
     if (counting) frmMain.Text99.SetFocus();
 }
 
+void EnterCountCell(Mouse mouse) {
+    if (mouse.button == MouseButton::Right)
+        MousePointer = kPointerIBeam;
+    else
+        EnterBox(mouse);
+}
+
 void HoldTab() {
     held_tab = frmMain.SSTab1.Tab();
 }

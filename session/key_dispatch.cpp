@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "diagram/redraw.h"
 #include "files/back_up.h"
 #include "files/save_sheet.h"
 #include "keys/built_in_keys.h"
@@ -175,6 +176,7 @@ void TakeKeyDown(int code) {
         UndoKeyState = 1;
         ShowPadPanels(false);
     }
+    if (!IsShiftKey(code)) RedrawDiagram();
 }
 
 void CountKeyPress(int code) {

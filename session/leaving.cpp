@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "diagram/redraw.h"
 #include "files/save_sheet.h"
 #include "files/sheet_base_name.h"
 #include "files/snapshot.h"
@@ -12,11 +13,17 @@
 #include "session/sheet_state.h"
 #include "session/sound.h"
 #include "session/totals.h"
+#include "windows/about_windows.h"
 #include "windows/diagram_window.h"
 #include "windows/initial_window.h"
+#include "windows/key_code_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
+#include "windows/note_window.h"
+#include "windows/para_name_window.h"
+#include "windows/picture_window.h"
 #include "windows/site_name_window.h"
+#include "windows/subtotal_window.h"
 
 namespace {
 constexpr int kForgottenUndos = 101;
@@ -46,6 +53,14 @@ void RestoreParams() {
 std::string ClosingQuestion() {
     const std::string name = Length(SheetPath) < 4 ? "Untitled" : SheetBaseName(SheetPath);
     return "Do you want to save the changes you made to '" + name + ".csv'?";
+}
+
+void CloseForGood(Window& window) {
+    try {
+        window.Unload();
+    } catch (const Failure&) {
+        // No reason for the others to stay.
+    }
 }
 
 // An answer of Cancel, like a failed save, has never kept the program open: all that it does is not to save.
@@ -79,6 +94,7 @@ void AbortCount() {
             frmMain.Command2[0].SetEnabled(true);
         }
     }
+    RedrawDiagram();
     if (!AmendMode) frmMain.Text99.SetFocus();
 }
 
@@ -100,10 +116,9 @@ void CloseMainWindow() {
 }
 
 void UnloadAll() {
-    frmDiagram.Unload();
-    frmInitial.Unload();
-    frmNext.Unload();
-    frmSiteName.Unload();
+    for (Window* window : std::initializer_list<Window*>{&frmAboutDX1, &frmAboutMB1, &frmDiagram, &frmInitial, &frmKeyCode, &frmNext,
+                                                         &frmNote, &frmParaName, &frmSiteName, &frmSubtotal, &frmPicture})
+        CloseForGood(*window);
 }
 
 void CheckIfReallyEnd() {

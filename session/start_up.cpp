@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "accessories/rest_pictures.h"
 #include "files/snapshot.h"
 #include "keys/key_settings.h"
 #include "platform/failure.h"
@@ -153,7 +154,7 @@ bool LoadWaves() {
 
 void OfferFavoritePicture() {
     try {
-        services.files->ReadAll(ProgramFile("References/My_favorite.jpg"));
+        LoadFavoritePicture();
         frmMain.mnuFavorite.SetEnabled(true);
     } catch (const Failure&) {
         frmMain.mnuFavorite.SetEnabled(false);

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "diagram/basis_choice.h"
 #include "diagram/diversity_curve.h"
 #include "platform/number.h"
 #include "platform/text.h"
@@ -56,6 +57,7 @@ void ChooseBasis(int option) {
     for (int slot = 1; slot <= kSlots; ++slot)
         frmMain.Text1[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
     AlarmArmed = true;
+    FollowBasis();
 }
 
 void ShowCountOf(int slot, double count) {

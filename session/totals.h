@@ -7,7 +7,8 @@
 void RecountTotals(std::int16_t sample);
 
 void TakeChangedTotal();                 // Text3[0] has changed: a sample with a count can be followed by the next, and the curve is drawn
-void ChooseBasis(int option);            // Option1[option] was selected: underlines the members of its subtotal, arms the alarm
+void ChooseBasis(int option);            // Option1[option] was selected: underlines the members of its subtotal, arms the alarm;
+                                         // an open diagram follows
 void ShowCountOf(int slot, double count);  // puts the count into its cell
 void ShowCountsOfSample();               // all cells take the counts of CurrentSample
 void OfferDiagram();                     // Label4 has changed: two samples make a diagram

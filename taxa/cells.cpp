@@ -6,6 +6,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/changed_mark.h"
 #include "session/sample_on_show.h"
 #include "session/sheet_state.h"
 #include "session/sound.h"
@@ -89,6 +90,5 @@ void RenameSampleOnShow() {
     frmMain.Text4.SetText(SampleNotes[CurrentSample]);
     WarnOldSample = true;
     frmMain.Text99.SetEnabled(true);
-    frmMain.Command5[0].SetEnabled(true);
-    frmMain.mnuSave.SetEnabled(true);
+    OfferSaving();
 }

@@ -45,14 +45,18 @@ void NoteEditKey(int code) {
     key_awaits_text = true;
 }
 
+bool IsTyped(const TextBox& box) {
+    return std::exchange(key_awaits_text, false) && box.SelStart() >= 1;
+}
+
 void RefuseQuotationMark(TextBox& box) {
-    if (!std::exchange(key_awaits_text, false) || box.SelStart() < 1) return;
+    if (!IsTyped(box)) return;
     const std::string typed = Mid(box.Text(), static_cast<std::size_t>(box.SelStart()), 1);
     for (const GuardedKey& key : kGuardedKeys) {
         if (LastEditKey != key.code || typed == key.allowed) continue;
         services.sounds->Beep();
-        services.messages->Show({key.title, "Using double quotation mark causes fatal error. Please choose another symbol.",
-                                 Icon::Exclamation, Buttons::Ok});
+        services.messages->Show(
+            {key.title, "Using double quotation mark causes fatal error. Please choose another symbol.", Icon::Exclamation, Buttons::Ok});
         CutBeforeCaret(box);
         return;
     }

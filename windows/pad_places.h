@@ -1,5 +1,11 @@
-// Where place i of the pad lies, in twips from the corner of the tab control.
+// Where place i of the pad lies: 1..27 in the lower bands of the three blocks, 28..45 in the upper.
 #pragma once
 #include "platform/control.h"
 
-Box PadPlace(int place);  // 1..45: 1..27 in the lower bands of the three blocks, 28..45 in the upper; the box of a name
+struct PadCell {
+    int column;  // 0..8, three a block
+    int row;     // 0..4, the upper band has 0 and 1
+};
+
+PadCell CellOfPlace(int place);
+Box PadPlace(int place);  // the box of a name in the main window, in twips from the corner of the tab control

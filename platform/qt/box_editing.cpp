@@ -28,6 +28,10 @@ void TellSelection(Control& box, const QString& shown, int start, int length) {
         static_cast<TextBox&>(box).Select(before, selected);
 }
 
+int BoxMargin(double factor) {
+    return static_cast<int>(kMarginTwips * factor);
+}
+
 bool HoldsFocus(const Control& box) {
     return box.window == ActiveWindow() && box.window->Focus() == &box && CanReach(box);
 }
@@ -53,11 +57,11 @@ void PaintAtRest(QPainter& painter, const QRectF& room, const Control& box, cons
     painter.fillRect(room, BoxGround(box.State()));
     PaintBoxOutline(painter, room, false);
     painter.setPen(ToQt(box.ForeColor()));
-    const double margin = kMarginTwips * factor;
+    const int margin = BoxMargin(factor);
     const bool one_line = most_lines <= 2;
     const Qt::Alignment across = IsCentred(box) ? Qt::AlignHCenter : Qt::AlignLeft;
     const Qt::Alignment down = one_line ? Qt::AlignVCenter : Qt::AlignTop;
-    const double above = one_line ? 1 : margin;
+    const int above = one_line ? 1 : margin;
     fitted.Paint(painter, room.adjusted(margin, above, -margin, -above), Shown(box.State().text), font, across | down, most_lines);
 }
 

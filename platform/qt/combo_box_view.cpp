@@ -36,10 +36,11 @@ void ComboBoxView::Press(const Mouse& mouse, QPointF at) {
     if (mouse.button == MouseButton::Left && at.x() >= line_->geometry().right() && CanReach(box_)) OpenList();
 }
 
-void ComboBoxView::OpenList() {
+ComboList& ComboBoxView::OpenList() {
     if (!list_) list_ = new ComboList(field_, box_, [this](int item) { TheRenderer().Run([&] { ChooseItem(box_, item); }); });
     list_->setFont(Font());
     list_->OpenBelow(*field_);
+    return *list_;
 }
 
 bool ComboBoxView::TakeKey(QKeyEvent& key) {

@@ -10,8 +10,9 @@ public:
     ComboBoxView(ComboBox& box, WindowWidget& window, ControlWidget* owner);
 
     QWidget* FocusWidget() override { return line_; }
+    QWidget* MouseWidget() override { return line_; }
     bool TakeKey(QKeyEvent& key) override;  // the arrow keys up and down and F4 open the list, all else is typed
-    void OpenList();
+    ComboList& OpenList();
 
 private:
     void ShowContent(Changes changes) override;

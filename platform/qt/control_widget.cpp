@@ -56,6 +56,10 @@ Mouse ControlWidget::MouseAt(MouseButton button, QPointF at) const {
     return {button, at.x() / Factor(), at.y() / Factor()};
 }
 
+QPointF ControlWidget::PlaceOf(double x, double y) const {
+    return {x * Factor(), y * Factor()};
+}
+
 void ControlWidget::Press(const Mouse& mouse, QPointF) {
     PressMouse(control_, mouse);
 }
@@ -95,7 +99,7 @@ bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
     pressed_ = button;
     if (button == MouseButton::Left) ShowPressed(true);
     TheRenderer().Run([&] { Press(MouseAt(button, at), at); });
-    return !PassesMouse();
+    return !PassesMouse() || event.source() == Qt::MouseEventSynthesizedByApplication;  // a script's press has no place among letters
 }
 
 bool ControlWidget::TakeMove(const QMouseEvent& event, QPointF at) {

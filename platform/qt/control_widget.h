@@ -21,6 +21,8 @@ public:
     virtual QWidget* Ground(int /*page*/) { return widget_; }       // where the controls lie that this one contains
     virtual QPoint GroundOrigin(int /*page*/) const { return {}; }  // its corner within the widget
     virtual QWidget* FocusWidget() { return widget_; }              // what takes the keyboard while the control has the focus
+    virtual QWidget* MouseWidget() { return widget_; }              // the part of it that the mouse meets
+    virtual QPointF PlaceOf(double x, double y) const;              // in the widget, of a place as the mouse events tell it
     // A key that the program has seen and not used up, while the control has the focus. True: the control used it.
     virtual bool TakeKey(QKeyEvent& /*key*/) { return false; }
     void Rescale() { Show(Changes::All()); }
@@ -42,7 +44,7 @@ protected:
     virtual void Release(const Mouse& mouse, bool clicks);
     virtual bool PassesMouse() const { return false; }  // the widget itself answers the mouse too
     virtual void ShowPressed(bool /*pressed*/) {}
-    virtual Mouse MouseAt(MouseButton button, QPointF at) const;
+    virtual Mouse MouseAt(MouseButton button, QPointF at) const;  // the other way
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

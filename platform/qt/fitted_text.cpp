@@ -4,31 +4,26 @@
 #include <algorithm>
 
 namespace {
-constexpr double kLeast = 0.7;      // of the font, before a line is broken
-constexpr int kSmallestPixels = 6;  // nobody reads less
-constexpr double kTight = 0.9;      // several lines stand closer than single ones
+constexpr double kLittleLess = 0.85;  // of the font, before lines are broken where there is room for two
+constexpr double kLeast = 0.7;        // of the font, before they are broken where there is not
+constexpr double kSmall = 0.55;       // of the font, before words are
+constexpr int kSmallestPixels = 6;    // nobody reads less
+constexpr double kTight = 0.9;        // several lines stand closer than single ones
 
-// How much of `text` goes in one line: up to a blank or behind a hyphen if there is one to break at.
-qsizetype LineLength(const QString& text, const QFontMetricsF& metrics, double width) {
-    if (metrics.horizontalAdvance(text) <= width) return text.size();
+// How much of `text` goes in one line, broken between words if that is possible. 0: its first word is too long.
+qsizetype WordsThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
     qsizetype fits = 0;
     while (fits < text.size() && metrics.horizontalAdvance(text.left(fits + 1)) <= width) ++fits;
+    if (fits == text.size()) return fits;
     for (qsizetype end = fits; end > 0; --end)
-        if (text[end] == u' ' || text[end - 1] == u' ' || text[end - 1] == u'-') return end;
-    return std::max<qsizetype>(fits, 1);
+        if (text[end] == u' ' || text[end - 1] == u' ' || (text[end - 1] == u'-' && text[end].isLetter())) return end;
+    return 0;
 }
 
-QStringList BrokenLines(const QString& text, const QFontMetricsF& metrics, double width, int most_lines) {
-    QStringList lines;
-    for (QString rest : text.split(u'\n')) {
-        do {
-            const qsizetype length = LineLength(rest, metrics, width);
-            lines << rest.left(length).trimmed();
-            rest = rest.mid(length).trimmed();
-        } while (!rest.isEmpty() && lines.size() <= most_lines);
-        if (lines.size() > most_lines) break;
-    }
-    return lines;
+qsizetype LettersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
+    qsizetype fits = 1;
+    while (fits < text.size() && metrics.horizontalAdvance(text.left(fits + 1)) <= width) ++fits;
+    return fits;
 }
 
 double Pitch(const QFontMetricsF& metrics, qsizetype lines) {
@@ -36,31 +31,46 @@ double Pitch(const QFontMetricsF& metrics, qsizetype lines) {
 }
 }  // namespace
 
-bool FittedText::FitLines(const Question& question, int pixels, int most_lines, Layout& layout) {
+bool FittedText::FitAt(const Question& question, int pixels, Break where, Layout& layout) {
     QFont font = question.font;
     font.setPixelSize(pixels);
     const QFontMetricsF metrics(font);
-    QStringList lines = BrokenLines(question.text, metrics, question.room.width(), most_lines);
+    const double width = question.room.width();
+    const int most = where == Break::Never ? 1 : question.most_lines;
+    QStringList lines;
+    for (QString rest : question.text.split(u'\n')) do {
+            qsizetype length = WordsThatFit(rest, metrics, width);
+            if (length == 0 && !rest.isEmpty() && where != Break::Anywhere) return false;
+            if (length == 0) length = LettersThatFit(rest, metrics, width);
+            lines << rest.left(length).trimmed();
+            if (lines.size() > most) return false;
+            rest = rest.mid(length).trimmed();
+        } while (!rest.isEmpty());
     const double pitch = Pitch(metrics, lines.size());
-    if (lines.size() > most_lines) return false;
     if (lines.size() > 1 && pitch * static_cast<double>(lines.size()) > question.room.height() + 1) return false;
     layout = {std::move(lines), font, pitch};
     return true;
 }
 
+bool FittedText::FitLines(const Question& question, int largest, int smallest, Break where, Layout& layout) {
+    for (int pixels = largest; pixels >= smallest; --pixels)
+        if (FitAt(question, pixels, where, layout)) return true;
+    return false;
+}
+
 FittedText::Layout FittedText::Fit(const Question& question) {
     const int full = question.font.pixelSize();
-    const int least = std::max(std::min(full, kSmallestPixels), static_cast<int>(full * kLeast));
-    const QFontMetricsF metrics(question.font);
-    const bool breaks_first = question.most_lines > 1 && 2 * Pitch(metrics, 2) <= question.room.height();
+    const auto part = [full](double of_full) { return std::max(std::min(full, kSmallestPixels), static_cast<int>(full * of_full)); };
+    const bool has_room_for_two = question.most_lines > 1 && 2 * Pitch(QFontMetricsF(question.font), 2) <= question.room.height();
     Layout layout;
-    if (!breaks_first)
-        for (int pixels = full; pixels >= least; --pixels)
-            if (FitLines(question, pixels, 1, layout)) return layout;
-    for (int pixels = full; pixels >= kSmallestPixels; --pixels)
-        if (FitLines(question, pixels, question.most_lines, layout)) return layout;
+    if (FitLines(question, full, part(has_room_for_two ? kLittleLess : kLeast), Break::Never, layout) ||
+        FitLines(question, full, part(kLeast), Break::BetweenWords, layout) ||
+        FitLines(question, full, part(kLeast), Break::Never, layout) ||
+        FitLines(question, full, part(kSmall), Break::BetweenWords, layout) ||
+        FitLines(question, full, std::min(full, kSmallestPixels), Break::Anywhere, layout))
+        return layout;
     QFont font = question.font;
-    font.setPixelSize(least);
+    font.setPixelSize(part(kLeast));
     const QFontMetricsF small(font);
     const QString line = QString(question.text).replace(u'\n', u' ');
     return {{small.elidedText(line, Qt::ElideRight, question.room.width())}, font, Pitch(small, 1)};
@@ -68,8 +78,9 @@ FittedText::Layout FittedText::Fit(const Question& question) {
 
 void FittedText::Paint(QPainter& painter, const QRectF& room, const QString& text, const QFont& font, Qt::Alignment alignment,
                        int most_lines) {
-    if (text.isEmpty() || room.isEmpty()) return;
-    if (Question question{text, font, room.size(), most_lines}; question != question_) {
+    const QString words = text.trimmed();
+    if (words.isEmpty() || room.isEmpty()) return;
+    if (Question question{words, font, room.size(), most_lines}; question != question_) {
         question_ = std::move(question);
         layout_ = Fit(question_);
     }

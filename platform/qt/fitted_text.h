@@ -1,6 +1,6 @@
 // A text that is made to fit its box, so that no name is ever cut off: in one line, by a font down to seven tenths of its size; else
-// broken on several lines (at a blank or hyphen, or anywhere in a word too long for a line) with the largest font that fits. Where
-// two lines fit at full size, lines are broken before the font shrinks.
+// on several lines, broken at blanks and behind hyphens; else broken anywhere, with the largest font that fits. Where two lines fit at
+// full size, lines are broken before the font shrinks by much.
 #pragma once
 #include <QFont>
 #include <QPainter>
@@ -27,7 +27,10 @@ private:
         double pitch = 0;  // from line to line
     };
     static Layout Fit(const Question& question);
-    static bool FitLines(const Question& question, int pixels, int most_lines, Layout& layout);
+    enum class Break { Never, BetweenWords, Anywhere };
+    // With the largest of the sizes that does; False: none does.
+    static bool FitLines(const Question& question, int largest, int smallest, Break where, Layout& layout);
+    static bool FitAt(const Question& question, int pixels, Break where, Layout& layout);
 
     Question question_;
     Layout layout_;

@@ -89,7 +89,7 @@ bool KeyFilter::TakeInPopup(QWidget& popup, QKeyEvent& key) {
 
 void KeyFilter::Release(const QKeyEvent& key) {
     if (key.isAutoRepeat()) return;  // X11 sends one with each repeated press
-    if (const int code = VirtualKey(key); code != 0) TheRenderer().Run([code] { ReleaseKey(code); });
+    if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { ReleaseKey(*code); });
 }
 
 void KeyFilter::Press(QKeyEvent& key) {
@@ -97,7 +97,7 @@ void KeyFilter::Press(QKeyEvent& key) {
     Window* const window = ActiveWindow();
     Control* const focus = window ? window->Focus() : nullptr;
     const int text_changes = TheRenderer().TextChanges();
-    if (const int code = VirtualKey(key); code != 0) TheRenderer().Run([code] { PressKey(code); });
+    if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { PressKey(*code); });
     if (!window || window != ActiveWindow() || window->Focus() != focus) return;
     if (focus && (IsSink(*focus) || !CanReach(*focus))) return;
     const bool used_as_input = focus && (focus->KeyUp.IsJoined() || TheRenderer().TextChanges() != text_changes);

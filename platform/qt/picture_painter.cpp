@@ -16,6 +16,7 @@ public:
     OperationPainter(QPainter& painter, const PictureScale& scale) : painter_(painter), scale_(scale) {}
 
     void Paint(const DrawOperation& operation) {
+        if (operation.shape != DrawOperation::Shape::Line) follows_line_ = false;
         switch (operation.shape) {
             case DrawOperation::Shape::Line:
                 return Line(operation);
@@ -45,6 +46,7 @@ private:
     // A line of an axis direction is a bar of whole pixels around the place; with its far end, so that lines that meet join.
     void Line(const DrawOperation& line) {
         const double x1 = X(line.x1), y1 = Y(line.y1), x2 = X(line.x2), y2 = Y(line.y2);
+        if (IsCovered(QPointF(x1, y1), QPointF(x2, y2), line.rim)) return;
         const double thick = Thickness(), half = std::floor(thick / 2);
         if (std::abs(x1 - x2) < 0.5 || std::abs(y1 - y2) < 0.5) {
             const QPointF from(std::floor(std::min(x1, x2)) - half, std::floor(std::min(y1, y2)) - half);
@@ -55,6 +57,17 @@ private:
         painter_.setRenderHint(QPainter::Antialiasing, true);
         UsePen(line.rim);
         painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+    }
+
+    // A long curve has many lines a pixel: one that stays in the pixel where the last one of its colour ended shows nothing new.
+    bool IsCovered(QPointF from, QPointF to, Colour colour) {
+        const QPoint pixel(static_cast<int>(std::floor(to.x())), static_cast<int>(std::floor(to.y())));
+        const bool inside = pixel == QPoint(static_cast<int>(std::floor(from.x())), static_cast<int>(std::floor(from.y())));
+        if (inside && follows_line_ && pixel == line_end_ && colour == line_colour_) return true;
+        follows_line_ = true;
+        line_end_ = pixel;
+        line_colour_ = colour;
+        return false;
     }
 
     void Rectangle(const DrawOperation& rectangle) {
@@ -75,7 +88,10 @@ private:
     void Text(const DrawOperation& text) {
         UseFont(text.size * kPixelsPerPoint * scale_.pixel, false);
         UsePen(text.rim);
-        painter_.drawText(QPointF(X(text.x1), Y(text.y1) + painter_.fontMetrics().ascent()), ToQt(text.text));
+        const QString words = ToQt(text.text);
+        const QFontMetrics metrics = painter_.fontMetrics();
+        const double spare = scale_.size.width() - metrics.horizontalAdvance(words) - 1;
+        painter_.drawText(QPointF(std::min(X(text.x1), spare), Y(text.y1) + metrics.ascent()), words);  // never cut off at the right
     }
 
     void Name(const DrawOperation& name) {
@@ -103,6 +119,9 @@ private:
     const PictureScale& scale_;
     Colour pen_;
     bool pen_is_set_ = false;
+    bool follows_line_ = false;  // nothing else was drawn since the last line
+    QPoint line_end_;            // of that line
+    Colour line_colour_;
     int font_size_ = 0;
     bool italic_ = false;
 };

@@ -1,3 +1,4 @@
+#include <QImage>
 #include <QPixmap>
 #include <QSvgRenderer>
 #include <QToolTip>
@@ -32,6 +33,12 @@ private:
                 picture_.ScaleTop() + at.y() / canvas_->height() * picture_.ScaleHeight()};
     }
 
+    QPointF PlaceOf(double x, double y) const override {
+        const auto span = [](double length) { return length == 0 ? 1 : length; };
+        return {(x - picture_.ScaleLeft()) / span(picture_.ScaleWidth()) * canvas_->width(),
+                (y - picture_.ScaleTop()) / span(picture_.ScaleHeight()) * canvas_->height()};
+    }
+
     void Paint(QPainter& painter) {
         if (canvas_->size().isEmpty()) return;
         const double density = canvas_->devicePixelRatioF();
@@ -56,12 +63,20 @@ private:
         return persistent_;
     }
 
+    // Fitted into the picture, in its middle.
     void PaintImage(QPainter& painter, const QSize& size) {
+        const auto place = [&size](const QSize& image) {
+            const QSizeF fitted = QSizeF(image).scaled(size, Qt::KeepAspectRatio);
+            return QRectF(QPointF((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2), fitted);
+        };
+        if (const std::string& bytes = picture_.ImageBytes(); !bytes.empty()) {
+            const QImage image = QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            painter.drawImage(place(image.size()), image);
+        }
         if (picture_.image.empty()) return;
-        QSvgRenderer drawing(":/pictures/" + ToQt(picture_.image) + ".svg");
-        if (!drawing.isValid()) return;
-        const QSizeF fitted = QSizeF(drawing.defaultSize()).scaled(size, Qt::KeepAspectRatio);
-        drawing.render(&painter, QRectF(QPointF((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2), fitted));
+        if (QSvgRenderer drawing(":/pictures/" + ToQt(picture_.image) + ".svg"); drawing.isValid())
+            drawing.render(&painter, place(drawing.defaultSize()));
     }
 
     PictureBox& picture_;

@@ -1,5 +1,6 @@
 #include "platform/qt/pointer.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 #include "platform/services.h"

@@ -3,19 +3,22 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontMetrics>
 #include <QStandardPaths>
 
 #include "platform/qt/boxes.h"
 #include "platform/qt/paths.h"
 
 namespace {
+constexpr QSize kSizeInLines(46, 28);
+
 // "DataFile(*.csv)|*.csv": what is said, then the pattern; Qt takes the pattern from the brackets.
 QString NameFilter(const std::string& filter) {
-    return ToQt(filter).section(u'|', 0, 0).replace(u"(", u" (").simplified();
+    return ToQt(filter).section(u'|', 0, 0).replace(QLatin1String("("), QLatin1String(" (")).simplified();
 }
 
 QString Suffix(const std::string& filter) {
-    return ToQt(filter).section(u"*.", -1);
+    return ToQt(filter).section(QLatin1String("*."), -1);
 }
 }  // namespace
 
@@ -29,6 +32,7 @@ std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
 
     QFileDialog dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), has_folder ? proposed.path() : folder_);
     dialog.setFont(opens.Font());
+    dialog.resize(kSizeInLines * QFontMetrics(opens.Font()).height());
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setNameFilter(NameFilter(question.filter));

@@ -1,12 +1,16 @@
 #include "platform/qt/qt_host.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QMetaObject>
+#include <QScreen>
 
 #include "platform/qt/look.h"
 #include "platform/qt/program_folder.h"
 #include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/renderer.h"
+
+namespace {
+constexpr int kTwipsPerPixel = 15;
+}
 
 QtHost::QtHost() : folder_(FromQt(FindProgramFolder())), lock_(ToQt(folder_) + "/.marlbrook.lock") {
     lock_.setStaleLockTime(0);  // held as long as its process lives
@@ -19,14 +23,19 @@ bool QtHost::HasFolderAlone() {
     return false;
 }
 
+Box QtHost::ScreenSize() {
+    const QSize pixels = QGuiApplication::primaryScreen()->size();
+    return {0, 0, pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
+}
+
 void QtHost::End() {
-    TheRenderer().Stop();
+    has_ended_ = true;
     QMetaObject::invokeMethod(
         qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
 }
 
 void QtHost::Fail(const char* word) {
-    TheRenderer().Stop();
+    has_ended_ = true;  // from here on nothing is written
     ShowPlainMessage(word);
     End();
 }

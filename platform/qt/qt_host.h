@@ -8,13 +8,16 @@
 class QtHost : public ProgramHost {
 public:
     QtHost();
+    bool HasEnded() const { return has_ended_; }
     bool HasFolderAlone();  // False: another process works on it; the user has been told
 
     std::string Folder() override { return folder_; }
+    Box ScreenSize() override;
     void End() override;
     void Fail(const char* word) override;
 
 private:
+    bool has_ended_ = false;
     std::string folder_;
     QLockFile lock_;
 };

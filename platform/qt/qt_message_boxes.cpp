@@ -48,7 +48,7 @@ QMessageBox::StandardButton ButtonOfClosing(Buttons buttons) {
 
 // The analyst looks down the microscope and types on when a box opens: what was on its way to the counter does not answer it. A key that
 // is held, a key in the first moment and a letter alone do nothing here.
-class Box : public QMessageBox {
+class QuestionBox : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
 
@@ -78,7 +78,7 @@ private:
 
 Answer QtMessageBoxes::Show(const Message& message) {
     const BoxOpens opens;
-    Box box(opens.Parent());
+    QuestionBox box(opens.Parent());
     box.setFont(opens.Font());
     box.setWindowTitle(ToQt(message.title));
     box.setTextFormat(Qt::PlainText);

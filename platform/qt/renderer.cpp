@@ -4,10 +4,10 @@
 #include <QTimer>
 #include <utility>
 
+#include "platform/qt/model_view.h"
 #include "platform/qt/pointer.h"
 #include "platform/qt/window_widget.h"
 #include "platform/run_event.h"
-#include "platform/services.h"
 #include "platform/user.h"
 
 namespace {
@@ -18,7 +18,7 @@ Renderer& TheRenderer() {
     return *the_renderer;
 }
 
-Renderer::Renderer() {
+Renderer::Renderer(std::function<bool()> has_ended) : has_ended_(std::move(has_ended)) {
     the_renderer = this;
     BindWindowView(this);
 }
@@ -30,7 +30,7 @@ Renderer::~Renderer() {
 }
 
 void Renderer::Run(const std::function<void()>& event) {
-    if (stopped_) return;
+    if (has_ended_()) return;
     ++depth_;
     RunEvent(event);
     if (--depth_ > 0) return;
@@ -39,11 +39,7 @@ void Renderer::Run(const std::function<void()>& event) {
     if (WindowWidget* const active = ActiveWidget()) active->AgreeAboutFocus();
     ShowPointer();
     OpenPopup();
-    EndIfNothingIsShown();
-}
-
-void Renderer::Stop() {
-    stopped_ = true;
+    if (was_shown_ && ShownWindows().empty() && !has_ended_()) nothing_is_shown_();
 }
 
 void Renderer::Note(ModelView& view) {
@@ -112,8 +108,10 @@ void Renderer::ShowWindow(Window& window, WindowWidget& widget) {
 void Renderer::BringToFront() {
     Window* const front = ActiveWindow();
     if (front == in_front_) return;
+    WindowWidget* const before = in_front_ ? WidgetOf(*in_front_) : nullptr;
+    const bool is_under_way = before && before->StopsWaiting();  // the desktop will bring that one up all the same
     in_front_ = front;
-    if (WindowWidget* const widget = ActiveWidget()) widget->BringToFront();
+    if (WindowWidget* const widget = ActiveWidget(); widget && (is_under_way || !widget->isActiveWindow())) widget->BringToFront();
 }
 
 void Renderer::UserActivates(Window& window) {
@@ -127,11 +125,6 @@ void Renderer::UserActivates(Window& window) {
 
 void Renderer::OpenPopup() {
     MenuItem* const menu = std::exchange(popup_, nullptr);
-    if (!menu || stopped_) return;
+    if (!menu || has_ended_()) return;
     if (WindowWidget* const widget = WidgetOf(*menu->window)) widget->OpenPopup(*menu);
-}
-
-// A program without a window could not be ended by its user.
-void Renderer::EndIfNothingIsShown() {
-    if (was_shown_ && ShownWindows().empty() && !stopped_) services.host->End();
 }

@@ -19,15 +19,16 @@ class WindowWidget;
 
 class Renderer : public QObject, private WindowView {
 public:
-    Renderer();  // binds itself to the windows
+    // Binds itself to the windows. No event reaches the program once it `has_ended`.
+    explicit Renderer(std::function<bool()> has_ended = [] { return false; });
     ~Renderer() override;
 
     void Run(const std::function<void()>& event);
     void Agree();
     bool InEvent() const { return depth_ > 0; }
 
-    void Stop();  // the program has ended: no event reaches it any more
-    bool IsStopped() const { return stopped_; }
+    // Called after an event that leaves no window on the screen: the user could not go on.
+    void WhenNothingIsShown(std::function<void()> procedure) { nothing_is_shown_ = std::move(procedure); }
 
     void Note(ModelView& view);                        // it has something to show
     int TextChanges() const { return text_changes_; }  // grows whenever the text of a box changes
@@ -44,12 +45,12 @@ private:
     void ShowWindow(Window& window, WindowWidget& widget);
     void BringToFront();
     void OpenPopup();
-    void EndIfNothingIsShown();
     void AgreeSoon();
 
+    std::function<bool()> has_ended_;
+    std::function<void()> nothing_is_shown_ = [] {};
     int depth_ = 0;  // events that run, one inside the other
     int text_changes_ = 0;
-    bool stopped_ = false;
     bool agree_soon_ = false;
     bool windows_changed_ = false;
     bool was_shown_ = false;  // some window has been

@@ -1,5 +1,6 @@
 // How large the windows of the program come up.
 #pragma once
+#include <QRect>
 #include <QSize>
 
 #include "platform/control.h"

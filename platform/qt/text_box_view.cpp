@@ -12,13 +12,18 @@ public:
     TextBoxView(TextBox& box, WindowWidget& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
         editor_ = new Editor(OwnerGround(), box, *this);
         Adopt(editor_);
-        if constexpr (std::is_same_v<Editor, TextArea>) WatchMouse(editor_->viewport());
+        if (MouseWidget() != editor_) WatchMouse(MouseWidget());
+    }
+
+    QWidget* MouseWidget() override {
+        if constexpr (std::is_same_v<Editor, TextArea>) return editor_->viewport();
+        return editor_;
     }
 
 private:
     void ShowContent(Changes) override {
         editor_->Agree(Font(), Factor());
-        if constexpr (std::is_same_v<Editor, TextArea>) editor_->viewport()->update();
+        MouseWidget()->update();
     }
     bool PassesMouse() const override { return HoldsFocus(box_); }
     bool TakeKey(QKeyEvent& key) override {

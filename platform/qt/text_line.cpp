@@ -1,12 +1,14 @@
 #include "platform/qt/text_line.h"
 
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "platform/controls.h"
 #include "platform/qt/text_places.h"
 
 namespace {
 constexpr int kMostLines = 2;
+constexpr int kOwnMargin = 2;  // of a line edit
 }
 
 TextLine::TextLine(QWidget* parent, Control& box, ModelView& view) : QLineEdit(parent), box_(box) {
@@ -35,6 +37,8 @@ void TextLine::AgreeForEditing() {
     const QSignalBlocker blocker(this);
     setFont(font_);
     setPalette(EditorPalette(box_));
+    const int margin = std::max(0, BoxMargin(factor_) - kOwnMargin);
+    setTextMargins(margin, 0, margin, 0);
     if (const int caret = UnitAfter(text(), box_.State().caret); !hasSelectedText() && cursorPosition() != caret) setCursorPosition(caret);
 }
 

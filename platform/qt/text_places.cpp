@@ -12,11 +12,11 @@ int CharactersOf(QChar unit) {
 }  // namespace
 
 QString Shown(const std::string& text) {
-    return ToQt(text).replace(u"\r\n", u"\n").replace(u'\r', u'\n');
+    return ToQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
 }
 
 std::string Unshown(const QString& shown) {
-    return FromQt(QString(shown).replace(u"\n", u"\r\n"));
+    return FromQt(QString(shown).replace(QLatin1String("\n"), QLatin1String("\r\n")));
 }
 
 int CharactersBefore(const QString& shown, int unit) {

@@ -52,7 +52,7 @@ public:
 
 private:
     void ShowContent(Changes changes) override {
-        if (changes.Has(Property::Caption)) button_->setText(ToQt(model_.Caption()).replace(u"&", u"&&"));
+        if (changes.Has(Property::Caption)) button_->setText(Literally(model_.Caption()));
         button_->setChecked(model_.Value() != 0);
     }
     void ShowPressed(bool pressed) override { button_->setDown(pressed); }

@@ -60,17 +60,20 @@ bool HasPlace(const QKeyEvent& event) {
 }
 }  // namespace
 
-int VirtualKey(const QKeyEvent& event) {
-    if ((event.nativeVirtualKey() & kMadeMask) == kMade) return static_cast<int>(event.nativeVirtualKey() & 0xff);
+std::optional<int> VirtualKey(const QKeyEvent& event) {
+    const quint32 native = event.nativeVirtualKey();
+    if ((native & kMadeMask) == kMade) return static_cast<int>(native & 0xff);
 #ifdef Q_OS_WIN
-    if (event.nativeVirtualKey() != 0) return static_cast<int>(event.nativeVirtualKey() & 0xff);
+    if (native != 0) return static_cast<int>(native & 0xff);
 #endif
     if (const int keypad = CodeOfKeypad(event.key(), event.modifiers()); keypad != 0) return keypad;
     if (const int named = CodeOfNamedKey(event.key(), event.nativeScanCode()); named != 0) return named;
     if (const int letter = TypedLetter(event); letter != 0) return letter;
-    return HasPlace(event) ? ByPlace(event) : CodeOfUsCharacter(event.key());
+    const int other = HasPlace(event) ? ByPlace(event) : CodeOfUsCharacter(event.key());
+    return other != 0 ? std::optional(other) : std::nullopt;
 }
 
-QKeyEvent MadeKeyEvent(QEvent::Type type, int code, const QString& text, bool repeats) {
-    return {type, KeyOfCode(code), Qt::NoModifier, 0, kMade | static_cast<quint32>(code), 0, text, repeats, 1};
+QKeyEvent MadeKeyEvent(QEvent::Type type, int code, const QString& text, KeyActs acts) {
+    const int key = acts == KeyActs::Yes ? KeyOfCode(code) : Qt::Key_unknown;
+    return {type, key, Qt::NoModifier, 0, kMade | static_cast<quint32>(code), 0, text};
 }

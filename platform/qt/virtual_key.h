@@ -7,8 +7,11 @@
 #pragma once
 #include <QKeyEvent>
 #include <QString>
+#include <optional>
 
-int VirtualKey(const QKeyEvent& event);  // 1..255; 0: a key that has no number
+std::optional<int> VirtualKey(const QKeyEvent& event);  // 1..255; none: a key that has no number
 
-// A key event that no keyboard made: VirtualKey gives `code` (1..255) for it, and a text box does with it what it does with that key.
-QKeyEvent MadeKeyEvent(QEvent::Type type, int code, const QString& text, bool repeats = false);
+// A key event that no keyboard made: VirtualKey gives `code` (0..255) for it. It types `text` in a text box; if it `acts`, it does there
+// what the key itself does: deletes, breaks the line, moves the caret.
+enum class KeyActs { No, Yes };
+QKeyEvent MadeKeyEvent(QEvent::Type type, int code, const QString& text, KeyActs acts);

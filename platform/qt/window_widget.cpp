@@ -20,6 +20,7 @@
 namespace {
 constexpr double kSmallest = 0.4;  // of the size that a window comes up with
 constexpr QSize kSmallestOfUser{240, 160};
+constexpr int kTwipsPerPixel = 15;
 constexpr int kTitleBar = 30;          // about, before the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
 }  // namespace
@@ -32,6 +33,7 @@ WindowWidget::WindowWidget(Window& window) : window_(window), ground_(new QWidge
     resize_soon_.setSingleShot(true);
     connect(&resize_soon_, &QTimer::timeout, this, &WindowWidget::TakeUserSize);
     waits_.setSingleShot(true);
+    connect(&waits_, &QTimer::timeout, this, &WindowWidget::GiveUpWaiting);
     for (Control* control : window_.Controls()) Build(*control);
 }
 
@@ -72,18 +74,27 @@ QSize WindowWidget::ClientSize(double factor) const {
     return Scaled({0, 0, window_.Width(), window_.Height()}, factor).size();
 }
 
+bool WindowWidget::CoversScreen() const {
+    const QSize whole = screen()->size() * kTwipsPerPixel;
+    return window_.Width() >= whole.width() && window_.Height() >= whole.height();
+}
+
 // The first size is the common one; after that the window keeps the factor that its user has given it, as far as the screen allows.
 void WindowWidget::ChooseSize() {
     const QScreen& here = *screen();
-    const double wanted = sized_ ? factor_ : CommonFactor(here);
-    const double fitting = FactorThatFits(here, {window_.Width(), window_.Height()}, wanted);
-    if (!sized_ || !window_.resizable) factor_ = fitting;
-    sized_ = true;
-    menus_->SetFont(PlainFont(factor_));
-    setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor_ * kSmallest));
-    QSize size = ClientSize(factor_);
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, CoversScreen()));
+    double factor = sized_ ? factor_ : CommonFactor(here);
+    if (!sized_ || !window_.resizable) factor = FactorThatFits(here, {window_.Width(), window_.Height()}, factor);
+    sized_ = false;  // the steps on the way to the new size are not its user's
+    factor_ = factor;
+    menus_->SetFont(PlainFont(factor));
+    setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor * kSmallest));
+    QSize size = CoversScreen() ? here.size() : ClientSize(factor);
     if (!menus_->Bar().isHidden()) size.rheight() += menus_->Bar().heightForWidth(size.width());
+    const QPoint middle = geometry().center();
     resize(size);
+    if (isVisible()) MoveAround(middle);
+    sized_ = true;
     Fit();
 }
 
@@ -131,19 +142,35 @@ void WindowWidget::ShowAbove(WindowWidget* below) {
 
 // A window that stands for itself stays where its user has left it.
 void WindowWidget::PlaceAbove(const WindowWidget* below) {
+    if (CoversScreen()) return move(screen()->geometry().topLeft());
     if (!below && std::exchange(placed_, true)) return;
     const QRect room = screen()->availableGeometry();
+    MoveAround((below && below->isVisible() ? below->frameGeometry() : room).center());
+}
+
+void WindowWidget::MoveAround(QPoint middle) {
+    const QRect room = screen()->availableGeometry();
     QRect place(QPoint(), size());
-    place.moveCenter((below && below->isVisible() ? below->frameGeometry() : room).center());
+    place.moveCenter(middle);
     move(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())),
          std::clamp(place.top() - kTitleBar / 2, room.top(), std::max(room.top(), room.bottom() - place.height() - kTitleBar)));
 }
 
 void WindowWidget::BringToFront() {
-    if (isActiveWindow()) return;
     waits_.start(kWaitForFrontMs);
     raise();
     activateWindow();
+}
+
+bool WindowWidget::StopsWaiting() {
+    const bool waited = waits_.isActive();
+    waits_.stop();
+    return waited;
+}
+
+// The desktop has had its time: what it has in front now is what the user sees.
+void WindowWidget::GiveUpWaiting() {
+    if (const auto* const front = dynamic_cast<WindowWidget*>(QApplication::activeWindow())) TheRenderer().UserActivates(front->window());
 }
 
 void WindowWidget::changeEvent(QEvent* event) {

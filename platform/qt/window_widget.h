@@ -33,6 +33,7 @@ public:
     void ShowAbove(WindowWidget* below);  // nullptr: it stands for itself
     void BringToFront();
     bool WaitsForFront() const { return waits_.isActive(); }  // it has been asked for and the desktop has not answered
+    bool StopsWaiting();                                      // True: it did wait
     void OpenPopup(MenuItem& menu);
     void TakeUserSize();  // the user has made the window as large as it is now
 
@@ -45,12 +46,15 @@ protected:
 
 private:
     ControlWidget* Build(Control& control);
+    void GiveUpWaiting();
     QRect Client() const;  // what is left below the menu bar
     QSize ClientSize(double factor) const;
+    bool CoversScreen() const;  // it is made for the whole of it, without a frame
     void ChooseSize();
     void Fit();  // the factor and all places, after a change of size
     void LayOut();
     void PlaceAbove(const WindowWidget* below);
+    void MoveAround(QPoint middle);  // as far as the screen allows
 
     Window& window_;
     double factor_ = 0;

@@ -20,4 +20,9 @@ public:
         return bytes[path];
     }
     std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
+
+    void LayDownProgram(const std::string& folder);  // what an installed program finds beside itself once the keyboard is known
 };
+
+// The key settings as they are after the first run.
+std::string KnownKeySettings();

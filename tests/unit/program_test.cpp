@@ -1,8 +1,6 @@
 #include "unit/program_test.h"
 
-#include <cstring>
-#include <fstream>
-#include <iterator>
+#include <type_traits>
 
 #include "diagram/diversity_curve.h"
 #include "diagram/percentages.h"
@@ -12,9 +10,6 @@
 #include "windows/next_window.h"
 
 namespace {
-// After the first run on a common keyboard.
-constexpr int kNamedKeyCodes[] = {16, 17, 46, 8, 27, 13, 32, 112, 37, 38, 39, 40};
-
 template <class T, std::size_t n>
 void Wipe(T (&array)[n]) {
     if constexpr (std::is_array_v<T>)
@@ -74,23 +69,13 @@ void WipeDiagram() {
 }
 }  // namespace
 
-std::string KnownKeySettings() {
-    std::ifstream file(SOURCE_FOLDER "/install/References/KeySetting.csv", std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(file), {}};
-    for (const int code : kNamedKeyCodes) text.replace(text.find(",999,") + 1, 3, std::to_string(code));
-    return text;
-}
-
 ProgramTest::ProgramTest() {
     WipeSheet();
     WipeKeys();
     WipeSession();
     WipeDiagram();
     services.files = &files_;
-    files_.bytes["/program/References/KeySetting.csv"] = KnownKeySettings();
-    files_.bytes["/program/References/My_favorite.jpg"] = "a picture";
-    for (const char* wave : {"Key-1", "Key-2", "Key-3", "Opening", "Undo", "Save", "Alarm", "Error"})
-        files_.bytes[std::string("/program/Sound files/") + wave + ".wav"] = wave;
+    files_.LayDownProgram(kFolder);
 }
 
 ProgramTest::~ProgramTest() {

@@ -23,6 +23,3 @@ protected:
     HeadlessServices services_{kFolder};
     MemoryFiles files_;
 };
-
-// The key settings as they are after the first run.
-std::string KnownKeySettings();

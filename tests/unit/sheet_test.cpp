@@ -8,6 +8,10 @@
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
+SheetTest::SheetTest() {
+    frmMain.CommonDialog1.FileName.clear();  // of an earlier test
+}
+
 void SheetTest::TearDown() {
     EXPECT_EQ(services_.messages.unanswered, "");
     EXPECT_EQ(services_.dialogs.unanswered, "");
@@ -18,6 +22,7 @@ int SheetTest::CodeOf(int key) const {
 }
 
 void SheetTest::NextSample(const std::string& name) {
+    EXPECT_TRUE(frmMain.Command5[1].Enabled()) << "a sample without a count cannot be followed";
     ClickControl(frmMain.Command5[1]);
     ClickControl(frmNext.Text1);
     InsertText(frmNext.Text1, name);

@@ -1,0 +1,33 @@
+#include "bench/key_sender.h"
+
+#include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+Display* AsDisplay(void* display) {
+    return static_cast<Display*>(display);
+}
+}  // namespace
+
+KeySender::KeySender() : display_(XOpenDisplay(nullptr)) {
+    if (display_) return;
+    std::fputs("window_bench: there is no X display; use bench/window_bench.sh\n", stderr);
+    std::exit(1);
+}
+
+KeySender::~KeySender() {
+    XCloseDisplay(AsDisplay(display_));
+}
+
+void KeySender::Stroke(int key_code) {
+    XTestFakeKeyEvent(AsDisplay(display_), static_cast<unsigned>(key_code), True, CurrentTime);
+    XTestFakeKeyEvent(AsDisplay(display_), static_cast<unsigned>(key_code), False, CurrentTime);
+    XFlush(AsDisplay(display_));
+}
+
+void WaitForServer(void* display) {
+    XSync(AsDisplay(display), False);
+}

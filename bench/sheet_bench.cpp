@@ -1,0 +1,71 @@
+// Reading, writing and reckoning of the largest sheet.
+#include <benchmark/benchmark.h>
+
+#include "bench/headless_program.h"
+#include "diagram/percentages.h"
+#include "files/back_up.h"
+#include "files/cell_reader.h"
+#include "files/read_sheet.h"
+#include "files/save_sheet.h"
+#include "platform/encoding.h"
+#include "session/sheet_state.h"
+
+namespace {
+// The cells alone, each as the value that it is.
+void ReadCells(benchmark::State& state) {
+    const std::string& bytes = TheProgram().files.bytes[kLargeSheet];
+    for (auto _ : state) {
+        CellReader cells(DecodeFile(bytes));
+        while (!cells.AtEnd()) benchmark::DoNotOptimize(cells.Next());
+    }
+}
+
+// From the bytes of the file into the arrays and the cells on the screen.
+void ReadSheet(benchmark::State& state) {
+    TheProgram().Open(kLargeSheet);
+    const std::string& bytes = TheProgram().files.bytes[kLargeSheet];
+    for (auto _ : state) {
+        CellReader cells(DecodeFile(bytes));
+        SheetHeader[6] = cells.Next();
+        ReadFirstRow(cells);
+        ReadSampleNames(cells);
+        ReadTaxonRows(cells);
+        ReadParamRows(cells);
+        ReadNotes(cells);
+    }
+}
+
+// All of it: the question's way in, totals, the curve, the master back-up.
+void Open(benchmark::State& state) {
+    for (auto _ : state) TheProgram().Open(kLargeSheet);
+}
+
+void Save(benchmark::State& state) {
+    TheProgram().Open(kLargeSheet);
+    for (auto _ : state) SaveSheet(kSave);
+}
+
+void BackUp(benchmark::State& state) {
+    TheProgram().Open(kLargeSheet);
+    for (auto _ : state) BackUpSheet();
+}
+
+void Percentages(benchmark::State& state) {
+    TheProgram().Open(kLargeSheet);
+    for (auto _ : state)
+        for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
+}
+
+void DiagramData(benchmark::State& state) {
+    TheProgram().Open(kLargeSheet);
+    for (auto _ : state) ComputeDiagramData();
+}
+
+BENCHMARK(ReadCells)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ReadSheet)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Open)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Save)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BackUp)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Percentages)->Unit(benchmark::kMicrosecond);
+BENCHMARK(DiagramData)->Unit(benchmark::kMicrosecond);
+}  // namespace

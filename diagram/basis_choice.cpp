@@ -1,0 +1,27 @@
+#include "diagram/basis_choice.h"
+
+#include "diagram/basis.h"
+#include "diagram/cluster_tree.h"
+#include "diagram/redraw.h"
+#include "diagram/tree_panel.h"
+#include "session/sheet_state.h"
+#include "windows/diagram_window.h"
+#include "windows/main_window.h"
+
+void FollowBasis() {
+    if (!DiagramOpen) return;
+    ShowBasisInMenu();
+    RedrawDiagram();
+    ClusterAgain();
+}
+
+void ChooseBasisItem(int option) {
+    OptionButton& basis = frmMain.Option1[option];
+    if (!basis.Value()) {
+        basis.SetValue(true);  // its click draws everything
+        return;
+    }
+    RedrawDiagram();
+    if (frmDiagram.Picture2.Visible()) DrawClusterTree();
+    AlarmArmed = true;
+}

@@ -1,0 +1,59 @@
+#include "diagram/cluster_tree.h"
+
+#include "diagram/coniss.h"
+#include "diagram/draw_diagram.h"
+#include "diagram/sample_marker.h"
+#include "windows/diagram_window.h"
+
+namespace {
+constexpr double kRoomForStem = 1.1;  // of the height of the root
+constexpr int kMostTicks = 10'000;    // no screen has room for more
+
+double RootHeight() {
+    return MergeHeight[LastMerge()];
+}
+
+void SetScale() {
+    PictureBox& tree = frmDiagram.Picture2;
+    tree.SetScaleTop(frmDiagram.Picture1.ScaleTop());
+    tree.SetScaleHeight(frmDiagram.Picture1.ScaleHeight());
+    tree.SetScaleLeft(0);
+    tree.SetScaleWidth(kRoomForStem * RootHeight());
+}
+
+void DrawStem() {
+    const double y = (static_cast<double>(MergeUpper[LastMerge()]) + MergeLower[LastMerge()]) / 2;
+    frmDiagram.Picture2.Line(0, y, kRoomForStem * RootHeight(), y, kBlack);
+}
+
+// All lines begin at the left edge. The white ground of a bracket wipes those of the brackets above it, and the usual tree is left.
+void DrawBracket(int step) {
+    PictureBox& tree = frmDiagram.Picture2;
+    const double upper = MergeUpper[step], lower = MergeLower[step], height = MergeHeight[step];
+    tree.FilledRectangle(0, upper, height, lower, kWhite);
+    tree.Line(0, upper, height, upper, kBlack);
+    tree.Line(height, upper, height, lower, kBlack);
+    tree.Line(0, lower, height, lower, kBlack);
+}
+
+void DrawTicks() {
+    PictureBox& tree = frmDiagram.Picture2;
+    const double top = tree.ScaleTop(), height = tree.ScaleHeight();
+    int x = 1;
+    do {
+        tree.Line(x, top, x, top + 0.008 * height, kBlack);
+        tree.Line(x, top + height, x, top + 0.988 * height, kBlack);
+        ++x;
+    } while (1.2 * RootHeight() > x && x <= kMostTicks);
+}
+}  // namespace
+
+void DrawClusterTree() {
+    Whiten(frmDiagram.Picture2);
+    SetScale();
+    DrawStem();
+    for (int step = LastMerge(); step >= 1; --step) DrawBracket(step);
+    DrawTicks();
+    frmDiagram.Picture2.Persist();
+    DrawSampleMarker();
+}

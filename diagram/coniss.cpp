@@ -1,0 +1,143 @@
+#include "diagram/coniss.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "diagram/basis.h"
+#include "diagram/percentages.h"
+#include "diagram/sample_position.h"
+#include "files/busy.h"
+#include "windows/main_window.h"
+
+std::vector<ClusterVector> ConissData;
+std::vector<double> ConissDistance;
+std::vector<float> ConissPosition;
+std::vector<double> ConissHeight;
+std::vector<float> MergeUpper, MergeLower;
+std::vector<float> MergeHeight;
+std::int16_t ConissSkip;
+
+namespace {
+// The vectors of the samples and of all means, none of which is ever overwritten, and which of them a cluster has now. A merge then
+// moves a few numbers where it would have to move the vectors of all clusters below.
+std::vector<ClusterVector> vectors;
+std::vector<int> vector_of;  // [cluster]
+
+void BeginWithSamples() {
+    RestoreDiagramShares();
+    const BasisWeights weights = WeightsOfBasis();
+    vectors.assign(2 * static_cast<std::size_t>(SampleCount), {});
+    for (int slot = 1; slot <= kSlots; ++slot)
+        for (int place = 1; place <= SampleCount; ++place)
+            vectors[place][slot] = static_cast<float>(weights[slot] * SamplePercent[RowOfSlot[slot]][place]);
+    vector_of.resize(SampleCount + 1);
+    for (int cluster = 1; cluster <= SampleCount; ++cluster) vector_of[cluster] = cluster;
+}
+
+void PlaceSamples() {
+    const SamplePositions positions;
+    for (int place = 1; place <= SampleCount; ++place) ConissPosition[place] = positions.Y(place);
+}
+
+void Prepare() {
+    const std::size_t size = static_cast<std::size_t>(SampleCount) + 1;
+    ConissSkip = 0;
+    ConissDistance.assign(size, 0);
+    ConissPosition.assign(size, 0);
+    ConissHeight.assign(size, 0);
+    MergeUpper.assign(size, 0);
+    MergeLower.assign(size, 0);
+    MergeHeight.assign(size, 0);
+    BeginWithSamples();
+    PlaceSamples();
+}
+
+double SquaredDistance(int upper, int lower) {
+    const ClusterVector& a = vectors[vector_of[upper]];
+    const ClusterVector& b = vectors[vector_of[lower]];
+    double sum = 0;
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        const double difference = static_cast<double>(a[slot]) - b[slot];
+        sum += difference * difference;
+    }
+    return sum;
+}
+
+// The upper cluster of the nearest pair among 1..last; of equal pairs the uppermost.
+int NearestPair(int last) {
+    float best = std::numeric_limits<float>::infinity();
+    int nearest = 1;
+    for (int cluster = 1; cluster <= last; ++cluster) {
+        const auto distance = static_cast<float>(ConissDistance[cluster]);
+        if (distance < best) {
+            best = distance;
+            nearest = cluster;
+        }
+    }
+    return nearest;
+}
+
+void RecordMerge(int step, int upper) {
+    const auto distance = static_cast<float>(ConissDistance[upper]);
+    MergeUpper[step] = ConissPosition[upper];
+    MergeLower[step] = ConissPosition[upper + 1];
+    MergeHeight[step] = static_cast<float>(distance + ConissHeight[upper] + ConissHeight[upper + 1]);
+}
+
+float Mean(float a, float b) {
+    return static_cast<float>((static_cast<double>(a) + b) / 2);
+}
+
+void JoinPair(int step, int upper) {
+    const ClusterVector& a = vectors[vector_of[upper]];
+    const ClusterVector& b = vectors[vector_of[upper + 1]];
+    const int place = SampleCount + step;
+    ClusterVector& mean = vectors[place];
+    for (int slot = 1; slot <= kSlots; ++slot) mean[slot] = Mean(a[slot], b[slot]);
+    vector_of[upper] = place;
+    ConissPosition[upper] = Mean(ConissPosition[upper], ConissPosition[upper + 1]);
+    ConissHeight[upper] = MergeHeight[step];
+}
+
+// Only the distances of the new cluster to its two neighbours have changed.
+void MeasureAgain(int upper, int last) {
+    if (upper != 1) ConissDistance[upper - 1] = SquaredDistance(upper - 1, upper);
+    if (upper != last) ConissDistance[upper] = SquaredDistance(upper, upper + 2);
+}
+
+template <class T>
+void CloseGap(std::vector<T>& clusters, int upper, int last) {
+    std::copy(clusters.begin() + upper + 2, clusters.begin() + last + 2, clusters.begin() + upper + 1);
+}
+
+void Merge(int step, int last) {
+    const int upper = NearestPair(last);
+    RecordMerge(step, upper);
+    JoinPair(step, upper);
+    MeasureAgain(upper, last);
+    CloseGap(vector_of, upper, last);
+    CloseGap(ConissPosition, upper, last);
+    CloseGap(ConissDistance, upper, last);
+    CloseGap(ConissHeight, upper, last);
+}
+
+void KeepVectors() {
+    ConissData.resize(static_cast<std::size_t>(SampleCount) + 1);
+    for (int cluster = 1; cluster <= SampleCount; ++cluster) ConissData[cluster] = vectors[vector_of[cluster]];
+}
+}  // namespace
+
+int LastMerge() {
+    return SampleCount - 1 - ConissSkip;
+}
+
+void ComputeConiss() {
+    const Busy busy(SampleCount);
+    Prepare();
+    for (int cluster = 1; cluster <= LastMerge(); ++cluster) ConissDistance[cluster] = SquaredDistance(cluster, cluster + 1);
+    for (int step = 1; step <= LastMerge(); ++step) {
+        frmMain.ProgressBar1.SetValue(step);
+        Merge(step, SampleCount - step - ConissSkip);
+    }
+    KeepVectors();
+}

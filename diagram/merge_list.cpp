@@ -1,0 +1,41 @@
+#include "diagram/merge_list.h"
+
+#include "diagram/coniss.h"
+#include "files/busy.h"
+#include "files/cell_writer.h"
+#include "platform/failure.h"
+#include "platform/services.h"
+#include "platform/text.h"
+#include "session/sound.h"
+#include "windows/main_window.h"
+
+namespace {
+// As the shortest text of the Single, which is shorter than that of the double it would become.
+Any SingleCell(float number) {
+    return Val(SingleText(number));
+}
+
+void WriteMerges(CellWriter& cells) {
+    for (const char* heading : {"Depth from", "Depth to", "Sum square"}) cells.Write(heading);
+    cells.EndRow();
+    for (int step = SampleCount - 1; step >= 1; --step) {
+        frmMain.ProgressBar1.SetValue(SampleCount - step);
+        for (const float number : {MergeUpper[step], MergeLower[step], MergeHeight[step]}) cells.Write(SingleCell(number));
+        cells.EndRow();
+    }
+}
+}  // namespace
+
+void SaveMergeList() {
+    const Busy busy(kSlots);
+    if (!frmMain.CommonDialog1.AskForSaving()) return;
+    try {
+        const auto file = services.files->OpenForWriting(frmMain.CommonDialog1.FileName);
+        CellWriter cells(*file);
+        WriteMerges(cells);
+        cells.Close();
+        PlayIfOn(WaveSave);
+    } catch (const Failure&) {
+        // The file stays as the disk left it; the list can be saved again.
+    }
+}

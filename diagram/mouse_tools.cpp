@@ -1,0 +1,129 @@
+#include "diagram/mouse_tools.h"
+
+#include <algorithm>
+#include <string>
+
+#include "diagram/draw_diagram.h"
+#include "diagram/guide_lines.h"
+#include "diagram/percentages.h"
+#include "diagram/sample_marker.h"
+#include "diagram/sample_position.h"
+#include "diagram/sample_selector.h"
+#include "files/move_sample_column.h"
+#include "platform/number.h"
+#include "platform/services.h"
+#include "platform/user.h"
+#include "session/sheet_state.h"
+#include "windows/diagram_window.h"
+#include "windows/main_window.h"
+
+namespace {
+void FillReadOuts() {
+    frmDiagram.Text1.SetText(std::to_string(MoveFrom));
+    frmDiagram.Text2.SetText(std::to_string(MoveTo));
+}
+
+// The scroll value in `x` has not been scaled, and the last name is that of slot 135 whatever its row: on a scrolled or scaled diagram
+// the tip is off, as analysts know it.
+void NameTaxonAt(float x) {
+    if (!frmDiagram.mnuTaxaName.Checked()) {
+        frmDiagram.Picture1.SetToolTip("");
+        return;
+    }
+    const float scale = HorizontalScale();
+    for (int row = 1; row <= kSlots; ++row)
+        if (scale * ColumnOffset[row] < x && scale * ColumnOffset[row + 1] > x)
+            frmDiagram.Picture1.SetToolTip(TaxonTable[KeyIndex[row]][4].Text());
+    if (x > ColumnOffset[kSlots]) frmDiagram.Picture1.SetToolTip(TaxonTable[kSlots][4].Text());
+}
+
+bool IsOnSampleLine(float y) {
+    const double down = static_cast<double>(y) - 10 * RoundHalfEven(SamplePositions().Row(frmDiagram.Slider1.Value()), 0);
+    return static_cast<float>(down * down) < frmDiagram.Picture1.ScaleHeight() * 10 / 50;
+}
+
+int NearestDepth(float y) {
+    const SamplePositions positions;
+    int nearest = frmDiagram.Slider1.Value();
+    float best = 99999.0F;
+    for (int sample = 1; sample <= SampleCount; ++sample) {
+        const double away = y / 10.0 - positions.Row(sample);
+        const auto distance = static_cast<float>(away * away);
+        if (distance < best) {
+            best = distance;
+            nearest = sample;
+        }
+    }
+    return nearest;
+}
+
+int NearestRow(float y) {
+    return static_cast<int>(RoundHalfEven(std::clamp(y / 10.0, 1.0, static_cast<double>(SampleCount)), 0));
+}
+
+void DragLine(float y) {
+    frmDiagram.Slider1.SetValue(SampleNamesAreText ? NearestRow(y) : NearestDepth(y));  // its change moves line and group
+    if (SampleNamesAreText) MoveTo = static_cast<std::int16_t>(frmDiagram.Slider1.Value());
+}
+
+void BeginMove() {
+    frmDiagram.MovingSample = true;
+    MoveFrom = MoveTo = static_cast<std::int16_t>(frmDiagram.Slider1.Value());
+    DrawSampleMarker();  // it turns red
+}
+
+void PressRightButton(int source) {
+    if (SampleNamesAreText && MousePointer == kPointerSize) {
+        BeginMove();
+    } else if (!frmDiagram.SliderDragging) {
+        MousePointer = kPointerDefault;
+        OpenPopup(source == kOverDiagram ? frmDiagram.RB1 : frmDiagram.RBConiss);
+    }
+}
+
+void EndDrag() {
+    frmDiagram.SliderDragging = frmDiagram.MovingSample = false;
+    MousePointer = kPointerDefault;
+}
+}  // namespace
+
+void MoveOverPicture(Mouse mouse, int source) {
+    const auto x = static_cast<float>(mouse.x + frmDiagram.HScroll1.Value());
+    const auto y = static_cast<float>(mouse.y);
+    NameTaxonAt(x);
+    if (IsOnSampleLine(y))
+        MousePointer = kPointerSize;
+    else if (!frmDiagram.SliderDragging)
+        MousePointer = kPointerDefault;
+    if (frmDiagram.SliderDragging) DragLine(y);
+    DrawSampleMarker();
+    TargetLine(x, y, source);
+    FillReadOuts();
+}
+
+void PressOnPicture(Mouse mouse, int source) {
+    DrawSampleMarker();
+    TargetLine(static_cast<float>(mouse.x), static_cast<float>(mouse.y), source);
+    if (mouse.button == MouseButton::Right) PressRightButton(source);
+    if (MousePointer == kPointerSize) frmDiagram.SliderDragging = true;
+    FillReadOuts();
+}
+
+void ReleaseOnPicture() {
+    if (frmDiagram.MovingSample) MoveSampleColumn();
+    EndDrag();
+    frmMain.ProgressBar1.SetVisible(false);
+    TakeSelectedSample();
+    FillReadOuts();
+}
+
+void LeavePictures() {
+    EndDrag();
+    if (frmDiagram.Check1.Value() != 0) PlaceSampleSelector();
+}
+
+void ShowMoveReadOuts() {
+    frmDiagram.Text1.SetVisible(true);
+    frmDiagram.Text2.SetVisible(true);
+    FillReadOuts();
+}

@@ -1,0 +1,87 @@
+#include "diagram/open_diagram.h"
+
+#include "diagram/basis.h"
+#include "diagram/draw_diagram.h"
+#include "diagram/layout.h"
+#include "diagram/percentages.h"
+#include "diagram/sample_selector.h"
+#include "diagram/taxon_names.h"
+#include "diagram/tree_panel.h"
+#include "files/sample_names.h"
+#include "platform/services.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "windows/diagram_window.h"
+#include "windows/main_window.h"
+
+namespace {
+void KeepSize() {
+    frmDiagram.DiagramFormWidth = frmDiagram.Width();
+    frmDiagram.DiagramFormHeight = frmDiagram.Height();
+}
+
+void NameBasisItems() {
+    frmDiagram.mnuAll.SetCaption(WithoutTrailingColon(frmMain.Label2[0].Caption()));
+    frmDiagram.mnuSub1.SetCaption(WithoutTrailingColon(frmMain.Label2[1].Caption()));
+    frmDiagram.mnuSub2.SetCaption(WithoutTrailingColon(frmMain.Label2[2].Caption()));
+    ShowBasisInMenu();
+}
+
+// The heights of the samples go by the names as they are now; a later rename waits for the next load.
+void TakeUpNames() {
+    for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[0][sample] = SampleTable[2][sample];
+}
+
+void TakeUpSamples() {
+    SetDiagramScale();
+    TakeUpNames();
+    frmDiagram.SelectedSample = CurrentSample;
+    frmDiagram.Slider1.SetRange(1, SampleCount == 1 ? 2 : SampleCount);
+    frmDiagram.Slider1.SetValue(CurrentSample);
+    FillSampleList();
+}
+}  // namespace
+
+void LaunchDiagram() {
+    if (SampleCount < 2) return;
+    if (frmDiagram.IsLoaded() || frmDiagram.DiagramFormHeight == 0) KeepSize();
+    frmDiagram.Load();
+    frmDiagram.HScroll1.SetRange(0, 0);  // back to the first column, without an event that would draw
+    ComputeDiagramData();
+    frmDiagram.TakeSize(frmDiagram.DiagramFormWidth, frmDiagram.DiagramFormHeight);  // lays out and draws, whatever the size was
+    frmDiagram.Show();
+    DiagramOpen = true;
+}
+
+void LaunchInStyle(const DiagramStyle& style) {
+    CheckSampleNames();
+    CheckStyle(style);
+    LaunchDiagram();
+}
+
+void TakeStyle(const DiagramStyle& style) {
+    CheckStyle(style);
+    DrawDiagram();
+}
+
+void LoadDiagramWindow() {
+    NameBasisItems();
+    MeasureMargins();
+    TakeUpSamples();
+}
+
+void EndDiagram() {
+    KeepSize();
+    DiagramOpen = false;
+    if (MousePointer == kPointerSize) MousePointer = kPointerDefault;  // nobody is left to take it back from the sample line
+}
+
+void RebuildDiagram() {
+    if (!DiagramOpen) return;
+    ComputeDiagramData();
+    TakeUpSamples();
+    DrawDiagram();
+    DrawTaxonNames();
+    PlaceSampleSelector();
+    ClusterAgain();
+}

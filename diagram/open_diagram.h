@@ -1,0 +1,14 @@
+// The diagram's window from its opening to its end. It exists only beside a sheet of more than one sample.
+#pragma once
+#include "diagram/style.h"
+
+// Opens the diagram of the sheet as it is, in the size that the user gave it last; an open one comes to the front, goes back to its
+// first column and is drawn anew. With one sample nothing happens. Raises "Division by zero" if both end samples have the same depth.
+void LaunchDiagram();
+
+void LaunchInStyle(const DiagramStyle& style);  // an item of the main window
+void TakeStyle(const DiagramStyle& style);      // an item of the diagram
+
+void LoadDiagramWindow();
+void EndDiagram();      // the window is being unloaded: its size is kept
+void RebuildDiagram();  // the sheet has got a sample: scale, list, selection, drawing and open tree follow; nothing if none is open

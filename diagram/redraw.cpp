@@ -1,0 +1,13 @@
+#include "diagram/redraw.h"
+
+#include "diagram/draw_diagram.h"
+#include "diagram/percentages.h"
+#include "diagram/taxon_names.h"
+#include "session/sheet_state.h"
+
+void RedrawDiagram() {
+    if (!DiagramOpen) return;
+    ComputeDiagramData();
+    DrawDiagram();
+    DrawTaxonNames();
+}

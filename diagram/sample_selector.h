@@ -1,0 +1,12 @@
+// The selected sample: frmDiagram.Slider1 holds it, the group of Frame3 names it and stands beside its line.
+#pragma once
+
+void PlaceSampleSelector();  // Frame3 and UpDown1 go to the height of the sample, Check1 and Combo2 take its name
+
+void TakeSelectedSample();  // Slider1 has moved: SelectedSample, the line and the group follow
+void ShowSelectedSample();  // the line and the group alone
+void SelectNextSample();    // after the last comes the first
+void SelectPreviousSample();
+void SelectChosenSample();  // picked from Combo2; of two with the same name it is the right-hand one
+
+void FillSampleList();  // Combo2 of the diagram: the names in column order

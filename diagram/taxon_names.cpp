@@ -1,0 +1,58 @@
+#include "diagram/taxon_names.h"
+
+#include <algorithm>
+#include <array>
+
+#include "diagram/draw_diagram.h"
+#include "diagram/percentages.h"
+#include "platform/number.h"
+#include "platform/services.h"
+#include "platform/text.h"
+#include "windows/diagram_window.h"
+
+namespace {
+bool IsFamily(const std::string& name) {
+    const std::string ending = Right(name, 2);
+    return ending == "ae" || ending == "AE";
+}
+
+bool HasName(int row) {
+    return !DiagramNames[row].empty() && DiagramNames[row] != kEmpty;
+}
+
+using Italics = std::array<bool, kSlots + 1>;  // [sheet row]; [0] unused
+
+Italics ItalicRows() {
+    Italics italic{};
+    for (int row = 1; row <= kSlots; ++row) italic[row] = !IsFamily(DiagramNames[row]);
+    if (std::count(italic.begin(), italic.end(), true) == kSlots) italic.fill(false);
+    return italic;
+}
+
+std::int32_t BaseLine() {
+    constexpr double kPixelsPerTwip = 0.0667;
+    return ToLong(frmDiagram.Picture4.Height() * kPixelsPerTwip - 8);
+}
+}  // namespace
+
+void DrawTaxonNames() {
+    const double scale = HorizontalScale();
+    const std::int32_t y = BaseLine();
+    const Italics italic = ItalicRows();
+    frmDiagram.Picture4.Clear();
+    for (int row = 1; row <= kSlots; ++row) {
+        const double left = static_cast<double>(ColumnOffset[row]) - frmDiagram.HScroll1.Value();
+        const auto x = static_cast<float>(left * scale);
+        if (x < 0 || x >= frmDiagram.Picture1.ScaleWidth()) continue;
+        const bool has_name = HasName(row);
+        frmDiagram.Picture4.Name(ToLong(left * 0.99 * scale), y, has_name && italic[row], has_name ? DiagramNames[row] : kEmpty);
+    }
+}
+
+void CopyTaxonNames() {
+    frmDiagram.Picture4.SetBackColor(kWhite);
+    DrawTaxonNames();
+    services.clipboard->PutImage(frmDiagram.Picture4);
+    frmDiagram.Picture4.SetBackColor(kFormColour);
+    DrawTaxonNames();
+}

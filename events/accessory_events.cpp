@@ -1,0 +1,17 @@
+#include "accessories/rest_pictures.h"
+#include "events/join.h"
+#include "session/dialog.h"
+#include "windows/about_windows.h"
+#include "windows/note_window.h"
+#include "windows/picture_window.h"
+
+void JoinAccessoryEvents() {
+    frmAboutMB1.FrameClosed.Calls([] { CloseDialog(frmAboutMB1); });
+    frmAboutMB1.Command1.Click.Calls([] { CloseDialog(frmAboutMB1); });
+    frmAboutDX1.FrameClosed.Calls([] { CloseDialog(frmAboutDX1); });
+    frmAboutDX1.Command1.Click.Calls([] { CloseDialog(frmAboutDX1); });
+    frmNote.Command1.Click.Calls([] { frmNote.Unload(); });
+    frmPicture.Loaded.Calls(CoverScreen);
+    frmPicture.FrameClosed.Calls([] { frmPicture.Hide(); });
+    for (PictureBox* picture : frmPicture.pictures) picture->Click.Calls([] { frmPicture.Hide(); });
+}

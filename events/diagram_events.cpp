@@ -1,0 +1,108 @@
+#include "diagram/basis_choice.h"
+#include "diagram/draw_diagram.h"
+#include "diagram/guide_lines.h"
+#include "diagram/layout.h"
+#include "diagram/merge_list.h"
+#include "diagram/mouse_tools.h"
+#include "diagram/open_diagram.h"
+#include "diagram/redraw.h"
+#include "diagram/sample_marker.h"
+#include "diagram/sample_selector.h"
+#include "diagram/taxon_names.h"
+#include "diagram/tree_panel.h"
+#include "events/join.h"
+#include "platform/services.h"
+#include "platform/user.h"
+#include "windows/diagram_window.h"
+
+namespace {
+void JoinWindow() {
+    frmDiagram.Loaded.Calls(LoadDiagramWindow);
+    frmDiagram.Unloading.Calls(EndDiagram);
+    frmDiagram.Resized.Calls(ResizeDiagram);
+}
+
+void JoinMenus() {
+    frmDiagram.mnuAll.Click.Calls([] { ChooseBasisItem(0); });
+    frmDiagram.mnuSub1.Click.Calls([] { ChooseBasisItem(1); });
+    frmDiagram.mnuSub2.Click.Calls([] { ChooseBasisItem(2); });
+    for (const DiagramStyle& style : kDiagramStyles) {
+        style.item->Click.Calls([&style] { TakeStyle(style); });
+        style.main_item->Click.Calls([&style] { LaunchInStyle(style); });
+    }
+    for (MenuItem* item : {&frmDiagram.mnuVertical, &frmDiagram.mnuVertical1, &frmDiagram.mnuVertical2})
+        item->Click.Calls(ToggleVerticalLine);
+    for (MenuItem* item : {&frmDiagram.mnuHorizontal, &frmDiagram.mnuHorizontal1, &frmDiagram.mnuHorizontal2})
+        item->Click.Calls(ToggleHorizontalLine);
+    frmDiagram.mnuTaxaName.Click.Calls([] { frmDiagram.mnuTaxaName.SetChecked(!frmDiagram.mnuTaxaName.Checked()); });
+    frmDiagram.nmuConiss.Click.Calls(ToggleTree);
+    frmDiagram.mnuCopyDiagram.Click.Calls([] { services.clipboard->PutImage(frmDiagram.Picture1); });
+    frmDiagram.mnuCopyConiss.Click.Calls([] { services.clipboard->PutImage(frmDiagram.Picture2); });
+    frmDiagram.mnuCopyTaxaName.Click.Calls(CopyTaxonNames);
+    frmDiagram.mnuSaveConiss.Click.Calls(SaveMergeList);
+    frmDiagram.mnuSaveEOF.Click.Calls([] { frmDiagram.SaveEOF(); });
+    frmDiagram.mnuSaveAllEOF.Click.Calls([] { frmDiagram.SaveAllEOF(); });
+}
+
+// 0 is no scale: the slider goes on to 1, and the change to that draws.
+void TakeHorizontalScale() {
+    if (frmDiagram.Slider2.Value() < 1) {
+        frmDiagram.Slider2.SetValue(1);
+        return;
+    }
+    RedrawDiagram();
+    frmDiagram.Slider1.SetFocus();
+}
+
+void TakeScroll() {
+    DrawTaxonNames();
+    DrawDiagram();
+    frmDiagram.Slider1.SetFocus();
+}
+
+void JoinSliders() {
+    frmDiagram.Slider2.Change.Calls(TakeHorizontalScale);
+    frmDiagram.HScroll1.Change.Calls(TakeScroll);
+    frmDiagram.Slider1.Change.Calls(TakeSelectedSample);
+    frmDiagram.Slider1.Scroll.Calls(TakeSelectedSample);
+    frmDiagram.Slider1.KeyUp.Calls([](int) { TakeSelectedSample(); });
+}
+
+void JoinSelector() {
+    frmDiagram.Combo2.Click.Calls(SelectChosenSample);
+    frmDiagram.UpDown1.UpClick.Calls(SelectNextSample);
+    frmDiagram.UpDown1.DownClick.Calls(SelectPreviousSample);
+    frmDiagram.Check1.Click.Calls(DrawSampleMarker);
+    frmDiagram.Command1.Click.Calls(ShowMoveReadOuts);
+}
+
+void JoinPicture(PictureBox& picture, int source) {
+    picture.MouseMove.Calls([source](Mouse mouse) { MoveOverPicture(mouse, source); });
+    picture.MouseDown.Calls([source](Mouse mouse) { PressOnPicture(mouse, source); });
+    picture.MouseUp.Calls([](Mouse) { ReleaseOnPicture(); });
+}
+
+void JoinSurroundings() {
+    const auto leave_and_mark = [](Mouse) {
+        DrawSampleMarker();
+        LeavePictures();
+    };
+    frmDiagram.MouseMove.Calls(leave_and_mark);
+    frmDiagram.Picture4.MouseMove.Calls(leave_and_mark);
+    frmDiagram.Frame3.MouseMove.Calls([](Mouse) { LeavePictures(); });
+    frmDiagram.UpDown1.MouseMove.Calls([](Mouse) { LeavePictures(); });
+    frmDiagram.Picture4.MouseDown.Calls([](Mouse mouse) {
+        if (mouse.button == MouseButton::Right) OpenPopup(frmDiagram.RB3);
+    });
+}
+}  // namespace
+
+void JoinDiagramEvents() {
+    JoinWindow();
+    JoinMenus();
+    JoinSliders();
+    JoinSelector();
+    JoinPicture(frmDiagram.Picture1, kOverDiagram);
+    JoinPicture(frmDiagram.Picture2, kOverTree);
+    JoinSurroundings();
+}

@@ -1,0 +1,14 @@
+#include "events/join.h"
+#include "taxa/param_names.h"
+#include "taxa/quotation_guard.h"
+#include "windows/para_name_window.h"
+
+void JoinParaNameEvents() {
+    TextBox& name = frmParaName.Text1;
+    name.GotFocus.Calls(EnterGuardedBox);
+    name.KeyDown.Calls(NoteEditKey);
+    name.Change.Calls([&name] { RefuseQuotationMark(name); });
+    frmParaName.FrameClosed.Calls(CancelParamName);
+    frmParaName.Command1.Click.Calls(AcceptParamName);
+    frmParaName.Command2.Click.Calls(CancelParamName);
+}

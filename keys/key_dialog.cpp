@@ -1,0 +1,89 @@
+#include "keys/key_dialog.h"
+
+#include <algorithm>
+
+#include "keys/key_settings.h"
+#include "platform/failure.h"
+#include "session/dialog.h"
+#include "session/sheet_state.h"
+#include "windows/key_code_window.h"
+
+namespace {
+constexpr int kNumberTab = 2;
+
+void FillBoxes() {
+    for (int row = 0; row <= kMapRows; ++row) {
+        if (row <= kKeys) frmKeyCode.Text1[row].SetText(KeySettings[row][0].Text());
+        frmKeyCode.Text2[row].SetText(KeySettings[row][1].Text());
+        frmKeyCode.Text3[row].SetText(KeySettings[row][2].Text());
+    }
+    for (int key = 0; key < kFunctionalKeys; ++key) frmKeyCode.Text4[key].SetText(KeySettings[kFunctionalRows[key]][0].Text());
+}
+
+void PutAt(TextBox& box, const TextBox& place) {
+    box.SetPlace(place.Left(), place.Top());
+}
+
+// To the right, in twips, when the left hand is chosen.
+int MirrorStep(int row) {
+    if (row <= kKeys) return -600;
+    return row <= kSecondShift1 ? 855 : 5055;  // the row of shift keys; Undo and Save
+}
+
+void EmptyBoxes(TextBox* boxes, int first, int last) {
+    for (int i = first; i <= last; ++i) boxes[i].SetText("");
+}
+}  // namespace
+
+void FillKeyDialog() {
+    std::copy(&KeySettings[0][0], &KeySettings[kMapRows + 1][0], &frmKeyCode.SettingsAtOpening[0][0]);
+    FillBoxes();
+    LayOutMaps();
+}
+
+void LayOutMaps() {
+    for (int place = 1; place <= kKeys; ++place) {
+        const int key = KeyNumber(frmKeyCode.Text3[place].Text());
+        if (key == 0) continue;
+        PutAt(frmKeyCode.Text1[key], frmKeyCode.Text3[place]);
+        PutAt(frmKeyCode.Text2[key], frmKeyCode.Text3[place]);
+    }
+}
+
+void MirrorMaps(int side) {
+    for (int row = 1; row <= kMapRows; ++row)
+        for (TextBox* map : {frmKeyCode.Text1, frmKeyCode.Text2, frmKeyCode.Text3})
+            map[row].SetLeft(map[row].Left() + side * MirrorStep(row));
+}
+
+void OfferDefault() {
+    frmKeyCode.Command5.SetVisible(frmKeyCode.SSTab1.Tab() == kNumberTab);
+}
+
+void NumberPlacesInOrder() {
+    for (int place = 1; place <= kKeys; ++place) {
+        frmKeyCode.Text3[place].SetText(std::to_string(place));
+        KeySettings[place][2] = place;
+    }
+    LayOutMaps();
+}
+
+void ClearOpenMap() {
+    if (frmKeyCode.SSTab1.Tab() == kNumberTab) {
+        EmptyBoxes(frmKeyCode.Text3, 1, kKeys);
+        return;
+    }
+    EmptyBoxes(frmKeyCode.Text1, 1, kKeys);
+    EmptyBoxes(frmKeyCode.Text2, 1, kKeys);
+    EmptyBoxes(frmKeyCode.Text4, 0, kFunctionalKeys - 1);
+}
+
+void CancelKeySettings() {
+    std::copy(&frmKeyCode.SettingsAtOpening[0][0], &frmKeyCode.SettingsAtOpening[kMapRows + 1][0], &KeySettings[0][0]);
+    try {
+        PlaceKeyCells();
+    } catch (const Failure&) {
+        // Settings that could not be read have placed no cell either: the session goes on by the built-in keys.
+    }
+    CloseDialog(frmKeyCode);
+}

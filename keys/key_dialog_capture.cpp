@@ -1,0 +1,127 @@
+#include "keys/key_dialog_capture.h"
+
+#include <string>
+
+#include "keys/key_dialog.h"
+#include "platform/encoding.h"
+#include "platform/text.h"
+#include "session/sheet_state.h"
+#include "taxa/quotation_guard.h"
+#include "windows/key_code_window.h"
+
+namespace {
+constexpr int kFirstNamedRow = 51;
+constexpr int kLastNamedRow = 62;
+constexpr int kF1Row = 58;
+constexpr int kTopRow[] = {28, 29, 30, 34, 35, 36, 40, 41, 42};  // the keys that F1..F9 count on by default
+constexpr int kKeyOfThree = 51;
+
+// "[Esc]", "[F5]"; empty for a key without a name. Only F1 is known by itself: the other function keys follow it.
+std::string BracketedName(int code) {
+    std::string name;
+    for (int row = kFirstNamedRow; row <= kLastNamedRow; ++row)
+        if (KeySettings[row][1] == code) name = "[" + KeySettings[row][0].Text() + "]";
+    for (int n = 1; n <= 12; ++n)
+        if (KeySettings[kF1Row][1] == code - n + 1) name = "[F" + std::to_string(n) + "]";
+    return name;
+}
+
+void ShowName(TextBox& box, int code) {
+    if (const std::string name = BracketedName(code); !name.empty()) box.SetText(name);
+}
+
+template <std::size_t kSize>
+void Blacken(TextBox (&boxes)[kSize]) {
+    for (TextBox& box : boxes) box.SetForeColor(kBlack);
+}
+
+// By its number in the encoding of the files; a character outside it has none.
+void ShowCharacterCode(const std::string& character) {
+    const std::string bytes = EncodeFile(character);
+    frmKeyCode.Label4.SetCaption(bytes.size() == 1 ? std::to_string(static_cast<unsigned char>(bytes[0])) : "");
+}
+
+void RestoreDefinition(int key) {
+    frmKeyCode.Text1[key].SetText(frmKeyCode.OldDefinition);
+    frmKeyCode.Text2[key].SetText(frmKeyCode.OldCode);
+}
+
+void GiveCode(int row, int code) {
+    frmKeyCode.Text2[row].SetText(std::to_string(code));
+}
+
+void GiveTopRow(int code) {
+    for (const int key : kTopRow) GiveCode(key, code++);
+}
+}  // namespace
+
+void EnterDefinition(int key) {
+    EnterGuardedBox();
+    frmKeyCode.OldDefinition = frmKeyCode.Text1[key].Text();
+    frmKeyCode.OldCode = frmKeyCode.Text2[key].Text();
+    frmKeyCode.Text1[key].SetText("");
+    Blacken(frmKeyCode.Text1);
+}
+
+void TakeDefinitionKey(int key, int code) {
+    frmKeyCode.OldCode = frmKeyCode.Text2[key].Text();
+    GiveCode(key, code);
+    NoteEditKey(code);
+}
+
+void TakeDefinition(int key) {
+    const TextBox& box = frmKeyCode.Text1[key];
+    if (!IsTyped(box)) return;
+    ShowCharacterCode(Mid(box.Text(), static_cast<std::size_t>(box.SelStart()), 1));
+    if (LastEditKey != kKeyOfThree || box.Text() == "3") return;
+    services.messages->Show({"Are you an AZERTY keyboard user?",
+                             "Using double quotation mark causes fatal error. Please choose another key.", Icon::None, Buttons::Ok});
+    RestoreDefinition(key);
+}
+
+void NameDefinition(int key, int code) {
+    ShowName(frmKeyCode.Text1[key], code);
+}
+
+void LeaveDefinition(int key) {
+    if (frmKeyCode.Text1[key].Text().empty()) RestoreDefinition(key);
+}
+
+void EnterFunctional(int box) {
+    frmKeyCode.OldFunctional = frmKeyCode.Text4[box].Text();
+    frmKeyCode.Text4[box].SetText("");
+    Blacken(frmKeyCode.Text4);
+}
+
+void TakeFunctionalKey(int box, int code) {
+    if (box == kF1Box)
+        GiveTopRow(code);
+    else
+        GiveCode(kFunctionalRows[box], code);
+    if (box == 0) GiveCode(kSecondShift1, code);
+    frmKeyCode.Text4[box].SetText("");
+}
+
+void NameFunctional(int box, int code) {
+    ShowName(frmKeyCode.Text4[box], code);
+}
+
+void LeaveFunctional(int box) {
+    if (frmKeyCode.Text4[box].Text().empty()) frmKeyCode.Text4[box].SetText(frmKeyCode.OldFunctional);
+}
+
+void EnterKeyNumber(int place) {
+    frmKeyCode.OldDefinition = frmKeyCode.Text3[place].Text();
+    frmKeyCode.Text3[place].SetText("");
+    Blacken(frmKeyCode.Text3);
+}
+
+void LeaveKeyNumber(int place) {
+    TextBox& box = frmKeyCode.Text3[place];
+    if (box.Text().empty()) box.SetText(frmKeyCode.OldDefinition);
+    if (const double number = Val(box.Text()); number < 1 || number > kKeys) {
+        services.messages->Show({"Error", "Counte key index must be between 1 and 45.", Icon::Exclamation, Buttons::Ok});
+        box.SetText(frmKeyCode.OldDefinition);
+    }
+    LayOutMaps();
+}

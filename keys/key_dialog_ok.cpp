@@ -1,0 +1,118 @@
+#include "keys/key_dialog_ok.h"
+
+#include <optional>
+
+#include "keys/key_settings.h"
+#include "platform/number.h"
+#include "platform/text.h"
+#include "session/dialog.h"
+#include "session/sheet_state.h"
+#include "session/sound.h"
+#include "windows/key_code_window.h"
+
+namespace {
+constexpr Colour kRed{255, 0, 0};
+constexpr int kLastRow = 62;
+
+struct Fault {
+    const char* text;
+    int tab;
+    TextBox* boxes[2];
+};
+
+bool Agree(const TextBox* boxes, int i, int j) {
+    return boxes[i].Text() == boxes[j].Text();
+}
+
+std::optional<Fault> FindDoubleKey() {
+    KeyCodeWindow& dialog = frmKeyCode;
+    for (int i = 1; i <= kKeys; ++i)
+        for (int j = 1; j < i; ++j) {
+            if (Agree(dialog.Text1, i, j) || Agree(dialog.Text2, i, j))
+                return Fault{"Same key code is being used for more than one taxon.", 0, {&dialog.Text1[i], &dialog.Text1[j]}};
+            if (Agree(dialog.Text3, i, j))
+                return Fault{"Same Ergodex key is being used for more than one place.", 2, {&dialog.Text3[i], &dialog.Text3[j]}};
+        }
+    return std::nullopt;
+}
+
+std::optional<Fault> FindDoubleFunctionalKey() {
+    for (int i = 0; i < kFunctionalKeys; ++i)
+        for (int j = 0; j < i; ++j)
+            if (Agree(frmKeyCode.Text4, i, j))
+                return Fault{"Same functional key is being used for more than one place.", 1, {&frmKeyCode.Text4[i], &frmKeyCode.Text4[j]}};
+    return std::nullopt;
+}
+
+// A number is refused when its box is left; one that was cleared, or came from a damaged file, may have been passed by.
+std::optional<Fault> FindBadNumber() {
+    for (int place = 1; place <= kKeys; ++place)
+        if (TextBox& box = frmKeyCode.Text3[place]; KeyNumber(box.Text()) == 0)
+            return Fault{"Counte key index must be between 1 and 45.", 2, {&box, &box}};
+    return std::nullopt;
+}
+
+std::optional<Fault> FindFault() {
+    for (const auto find : {FindDoubleKey, FindDoubleFunctionalKey, FindBadNumber})
+        if (const auto fault = find()) return fault;
+    return std::nullopt;
+}
+
+void PutProgressAway() {
+    frmKeyCode.ProgressBar1.SetValue(0);
+    frmKeyCode.ProgressBar1.SetVisible(false);
+}
+
+void Report(const Fault& fault) {
+    PlayIfOn(WaveError);
+    services.messages->Show({"Error", fault.text, Icon::Exclamation, Buttons::Ok});
+    frmKeyCode.SSTab1.SetTab(fault.tab);
+    for (TextBox* box : fault.boxes) box->SetForeColor(kRed);
+    PutProgressAway();
+}
+
+std::int16_t CodeInBox(int row) {
+    return ToInteger(Val(frmKeyCode.Text2[row].Text()));
+}
+
+void StoreRow(int row) {
+    if (row <= kKeys) KeySettings[row][0] = frmKeyCode.Text1[row].Text();
+    KeySettings[row][1] = frmKeyCode.Text2[row].Text();
+    KeySettings[row][2] = frmKeyCode.Text3[row].Text();
+}
+
+void StoreFunctionalKeys() {
+    for (int key = 0; key < kFunctionalKeys; ++key) KeySettings[kFunctionalRows[key]][0] = frmKeyCode.Text4[key].Text();
+    KeySettings[kSecondShift1][0] = frmKeyCode.Text4[0].Text();
+}
+
+void Store() {
+    Shift1Code = CodeInBox(kFunctionalRows[0]);
+    Shift2Code = CodeInBox(kFunctionalRows[1]);
+    UndoKeyCode = CodeInBox(kFunctionalRows[2]);
+    for (int row = 1; row <= kLastRow; ++row) {
+        frmKeyCode.ProgressBar1.SetValue(row);
+        if (row <= kMapRows) StoreRow(row);
+    }
+    StoreFunctionalKeys();
+    WriteKeySettings();
+    PlayIfOn(WaveSave);
+}
+}  // namespace
+
+void AcceptKeySettings() {
+    frmKeyCode.ProgressBar1.SetRange(0, kLastRow);
+    frmKeyCode.ProgressBar1.SetVisible(true);
+    if (const auto fault = FindFault()) {
+        Report(*fault);
+        return;
+    }
+    Store();
+    PlaceKeyCells();
+    PutProgressAway();
+    CloseDialog(frmKeyCode);
+}
+
+void CheckDouble() {
+    FindDoubleKey();
+}

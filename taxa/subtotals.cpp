@@ -1,0 +1,107 @@
+#include "taxa/subtotals.h"
+
+#include <string>
+
+#include "keys/key_settings.h"
+#include "session/changed_mark.h"
+#include "session/dialog.h"
+#include "session/sheet_state.h"
+#include "session/subtotal_names.h"
+#include "session/totals.h"
+#include "taxa/quotation_guard.h"
+#include "windows/subtotal_window.h"
+
+namespace {
+constexpr int kFirstName = 12;  // cell of SheetHeader: the name of Subtotal-1, that of Subtotal-2 behind it
+
+Any& ChosenFlag(int slot) {
+    return TaxonTable[slot][frmSubtotal.Option1[1].Value() ? kFirstFlag : kFirstFlag + 1];
+}
+
+std::string CaptionOf(int slot) {
+    const std::string name = TaxonTable[slot][4].Text();
+    return name.empty() || name == kEmpty ? std::to_string(slot) + ": " + kEmpty : name;
+}
+
+void ShowFlags() {
+    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Check1[slot].SetValue(ChosenFlag(slot) == 1 ? 1 : 0);
+}
+
+void ShowNames() {
+    for (int subtotal = 1; subtotal <= kSubtotals; ++subtotal)
+        frmSubtotal.Text1[subtotal].SetText(SheetHeader[kFirstName + subtotal - 1].Text());
+}
+
+void KeepFlags() {
+    for (int slot = 1; slot <= kSlots; ++slot)
+        for (int flag = 0; flag < kSubtotals; ++flag) frmSubtotal.FlagsAtOpening[slot][flag] = TaxonTable[slot][kFirstFlag + flag];
+}
+
+void RestoreFlags() {
+    for (int slot = 1; slot <= kSlots; ++slot)
+        for (int flag = 0; flag < kSubtotals; ++flag) TaxonTable[slot][kFirstFlag + flag] = frmSubtotal.FlagsAtOpening[slot][flag];
+}
+
+void PlaceBoxes() {
+    for (int place = 1; place <= kKeys; ++place) {
+        const int key = KeyNumber(KeySettings[place][2]);
+        if (key == 0) continue;
+        for (const int bank : {0, kKeys, 2 * kKeys}) {
+            const Button& there = frmSubtotal.Command4[place + bank];
+            frmSubtotal.Check1[key + bank].SetPlace(there.Left(), there.Top());
+        }
+    }
+}
+}  // namespace
+
+void FillSubtotalWindow() {
+    frmSubtotal.Filling = true;
+    ShowNames();
+    KeepFlags();
+    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Check1[slot].SetCaption(CaptionOf(slot));
+    ShowFlags();
+    frmSubtotal.Filling = false;
+    PlaceBoxes();
+}
+
+void ShowChosenSubtotal() {
+    frmSubtotal.Filling = true;
+    ShowFlags();
+    frmSubtotal.Filling = false;
+    RecountTotals(CurrentSample);
+}
+
+void TakeSubtotalFlag(int slot) {
+    if (frmSubtotal.Filling) return;
+    ChosenFlag(slot) = frmSubtotal.Check1[slot].Value();
+    RecountTotals(CurrentSample);
+    OfferSaving();
+}
+
+void SetAllFlags(int flag) {
+    frmSubtotal.Filling = true;
+    for (int slot = 1; slot <= kSlots; ++slot) ChosenFlag(slot) = flag;
+    ShowFlags();
+    frmSubtotal.Filling = false;
+    RecountTotals(CurrentSample);
+    OfferSaving();
+}
+
+void TakeSubtotalName(int subtotal) {
+    TextBox& box = frmSubtotal.Text1[subtotal];
+    RefuseQuotationMark(box);
+    SheetHeader[kFirstName + subtotal - 1] = box.Text();
+    ShowSubtotalNames();
+    if (!frmSubtotal.Filling) OfferSaving();
+}
+
+void AcceptSubtotals() {
+    RecountTotals(CurrentSample);
+    CloseDialog(frmSubtotal);
+}
+
+void CancelSubtotals() {
+    RestoreFlags();
+    RecountTotals(CurrentSample);
+    CloseDialog(frmSubtotal);
+}

@@ -1,0 +1,34 @@
+// frmSubtotal: which taxa belong to each of the two subtotals, and how these are called.
+#pragma once
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/window.h"
+#include "session/sheet_state.h"
+
+constexpr int kSubtotals = 2;
+constexpr int kFirstFlag = 2;  // column of TaxonTable: the flag of Subtotal-1, that of Subtotal-2 behind it
+
+struct SubtotalWindow : Window {
+    SubtotalWindow();
+
+    OptionButton Option1[kSubtotals + 1];  // [0] unused, so below: the subtotal that the boxes show
+    TextBox Text1[kSubtotals + 1];         // its name
+    Frame Frame1[3];                       // a bank each
+    CheckBox Check1[kSlots + 1];           // [slot]: member of the subtotal on show
+    Button Command4[kSlots + 1];           // where a box can stand, in the arrangement of the pad; never seen
+    Button Command2[2];                    // Clear, Select all
+    Button Command1;                       // OK
+    Button Command3;                       // Cancel
+
+    bool Filling = false;  // the window itself is setting boxes: their clicks do nothing
+    Any FlagsAtOpening[kSlots + 1][kSubtotals];
+
+private:
+    void PlaceNames();
+    void PlaceBanks();
+    void PlaceCommands();
+    void ForgetMembers() override { Filling = false; }
+};
+
+extern SubtotalWindow frmSubtotal;
