@@ -1,11 +1,13 @@
 // 10,000 keys at 200 a second through the real window: each must count, and this tells how long each took from the keyboard to the
-// updated model, to the sound handed over, and to the picture on the screen. It takes a minute. Run it by bench/window_bench.sh.
+// updated model, to the sound handed over, and to the picture on the screen. It takes a minute. Run it by bench/window_bench.sh, which passes on another
+// number of keys.
 #include <QApplication>
 #include <QGuiApplication>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <random>
 #include <string>
@@ -30,7 +32,7 @@
 
 namespace {
 using Time = std::chrono::steady_clock::time_point;
-constexpr int kKeyCount = 10000;  // of one sample: its taxa curve grows as long as that
+int key_count = 10000;  // of one sample: its taxa curve grows as long as that
 constexpr std::chrono::microseconds kPause(5000);
 constexpr unsigned kSeed = 20261114;
 // X key codes of the first 27 counter keys, all of them letters but two.
@@ -79,7 +81,8 @@ class BenchHost : public ProgramHost {
 public:
     explicit BenchHost(const std::filesystem::path& folder) : folder_(folder.string()) {}
     std::string Folder() override { return folder_; }
-    void End() override { QCoreApplication::quit(); }
+    Box ScreenSize() override { return {}; }
+    void End() override { QCoreApplication::exit(0); }
     void Fail(const char* word) override {
         std::fprintf(stderr, "window_bench: %s\n", word);
         QCoreApplication::exit(1);
@@ -101,13 +104,13 @@ void SendKeys() {
     std::mt19937 random(kSeed);
     std::uniform_int_distribution<std::size_t> any(0, std::size(kCodes) - 1);
     const Time start = Now();
-    for (int i = 0; i < kKeyCount; ++i) {
+    for (int i = 0; i < key_count; ++i) {
         std::this_thread::sleep_until(start + i * kPause);
         stages.sent.push_back(Now());
         sender.Stroke(kCodes[any(random)]);
     }
     std::this_thread::sleep_for(std::chrono::seconds(1));
-    QMetaObject::invokeMethod(qApp, [] { QCoreApplication::quit(); });
+    QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(0); });
 }
 
 void Report(const char* stage, const std::vector<Time>& reached) {
@@ -128,7 +131,8 @@ int Counted() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    for (auto* stage : {&stages.sent, &stages.counted, &stages.sounded, &stages.painted}) stage->reserve(kKeyCount + 1);
+    if (argc > 1) key_count = std::atoi(argv[1]);
+    for (auto* stage : {&stages.sent, &stages.counted, &stages.sounded, &stages.painted}) stage->reserve(key_count + 1);
     const std::filesystem::path folder = std::filesystem::temp_directory_path() / "marlbrook-bench";
     std::filesystem::remove_all(folder);
     std::filesystem::copy(MARLBROOK_TREE, folder, std::filesystem::copy_options::recursive);
@@ -154,9 +158,9 @@ int main(int argc, char** argv) {
     sender.join();
     std::filesystem::remove_all(folder);
 
-    std::printf("%d keys sent, %d counted\n", kKeyCount, Counted());
+    std::printf("%d keys sent, %d counted\n", key_count, Counted());
     Report("key to model", stages.counted);
     Report("key to sound", stages.sounded);
     Report("key to picture", stages.painted);
-    return Counted() == kKeyCount ? 0 : 1;
+    return Counted() == key_count ? 0 : 1;
 }

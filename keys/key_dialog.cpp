@@ -1,6 +1,7 @@
 #include "keys/key_dialog.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "keys/key_settings.h"
 #include "platform/failure.h"
@@ -10,6 +11,11 @@
 
 namespace {
 constexpr int kNumberTab = 2;
+
+// Those that the maps show; the named keys are not of this dialog.
+void CopyRows(const Any (*from)[3], Any (*to)[3]) {
+    for (int row = 0; row <= kMapRows; ++row) std::copy(std::begin(from[row]), std::end(from[row]), std::begin(to[row]));
+}
 
 void FillBoxes() {
     for (int row = 0; row <= kMapRows; ++row) {
@@ -36,7 +42,7 @@ void EmptyBoxes(TextBox* boxes, int first, int last) {
 }  // namespace
 
 void FillKeyDialog() {
-    std::copy(&KeySettings[0][0], &KeySettings[kMapRows + 1][0], &frmKeyCode.SettingsAtOpening[0][0]);
+    CopyRows(KeySettings, frmKeyCode.SettingsAtOpening);
     FillBoxes();
     LayOutMaps();
 }
@@ -79,7 +85,7 @@ void ClearOpenMap() {
 }
 
 void CancelKeySettings() {
-    std::copy(&frmKeyCode.SettingsAtOpening[0][0], &frmKeyCode.SettingsAtOpening[kMapRows + 1][0], &KeySettings[0][0]);
+    CopyRows(frmKeyCode.SettingsAtOpening, KeySettings);
     try {
         PlaceKeyCells();
     } catch (const Failure&) {

@@ -12,8 +12,8 @@ constexpr Line kWelcome[kWelcomeLabels] = {
     {"Before starting, please help Marlbrook to recognize ", {240, 600, 6720, 270}},
     {"the type of your key board. ", {240, 870, 6720, 270}},
     {"Please place your cursor in the text box and press the ", {240, 1140, 6720, 270}},
-    {"requested key on your key board", {240, 1410, 3400, 270}},
-    {"(NOT the Ergodex ", {3640, 1410, 3320, 270}},
+    {"requested key on your key board", {240, 1410, 2940, 270}},
+    {"(NOT the Ergodex ", {3220, 1410, 3740, 270}},
     {"DX-1 but the one you normally use for typing texts).", {240, 1680, 6720, 270}},
 };
 constexpr const char* kKeyNames[kNamedKeys] = {

@@ -10,14 +10,18 @@ constexpr double kSmall = 0.55;       // of the font, before words are
 constexpr int kSmallestPixels = 6;    // nobody reads less
 constexpr double kTight = 0.9;        // several lines stand closer than single ones
 
-// How much of `text` goes in one line, broken between words if that is possible. 0: its first word is too long.
+// How much of `text` goes in one line, broken between words if that is possible. 0: its first word is too long. A break at a blank is
+// taken before a later one behind a hyphen, if the rest then goes in the next line.
 qsizetype WordsThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
     qsizetype fits = 0;
     while (fits < text.size() && metrics.horizontalAdvance(text.left(fits + 1)) <= width) ++fits;
     if (fits == text.size()) return fits;
-    for (qsizetype end = fits; end > 0; --end)
-        if (text[end] == u' ' || text[end - 1] == u' ' || (text[end - 1] == u'-' && text[end].isLetter())) return end;
-    return 0;
+    qsizetype behind_hyphen = 0;
+    for (qsizetype end = fits; end > 0; --end) {
+        if (text[end] == u' ' && (behind_hyphen == 0 || metrics.horizontalAdvance(text.mid(end + 1)) <= width)) return end;
+        if (behind_hyphen == 0 && text[end - 1] == u'-' && text[end].isLetter()) behind_hyphen = end;
+    }
+    return behind_hyphen;
 }
 
 qsizetype LettersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
@@ -76,23 +80,35 @@ FittedText::Layout FittedText::Fit(const Question& question) {
     return {{small.elidedText(line, Qt::ElideRight, question.room.width())}, font, Pitch(small, 1)};
 }
 
+// In the pixels of the screen: on a dense one sizes between two whole pixels can be had.
 void FittedText::Paint(QPainter& painter, const QRectF& room, const QString& text, const QFont& font, Qt::Alignment alignment,
                        int most_lines) {
     const QString words = text.trimmed();
     if (words.isEmpty() || room.isEmpty()) return;
-    if (Question question{words, font, room.size(), most_lines}; question != question_) {
+    const double density = painter.device()->devicePixelRatioF();
+    const QRectF place(room.topLeft() * density, room.size() * density);
+    QFont dense = font;
+    dense.setPixelSize(static_cast<int>(font.pixelSize() * density));
+    if (Question question{words, dense, place.size(), most_lines}; question != question_) {
         question_ = std::move(question);
         layout_ = Fit(question_);
     }
+    painter.save();
+    painter.scale(1 / density, 1 / density);
+    PaintLayout(painter, place, alignment);
+    painter.restore();
+}
+
+void FittedText::PaintLayout(QPainter& painter, const QRectF& place, Qt::Alignment alignment) const {
     painter.setFont(layout_.font);
     const QFontMetricsF metrics(layout_.font);
     const double height = layout_.pitch * static_cast<double>(layout_.lines.size());
-    double top = room.top();
-    if (alignment & Qt::AlignVCenter) top += (room.height() - height) / 2;
+    double top = place.top();
+    if (alignment & Qt::AlignVCenter) top += (place.height() - height) / 2;
     double baseline = top + (layout_.pitch - metrics.height()) / 2 + metrics.ascent();
     for (const QString& line : layout_.lines) {
-        const double spare = room.width() - metrics.horizontalAdvance(line);
-        double left = room.left();
+        const double spare = place.width() - metrics.horizontalAdvance(line);
+        double left = place.left();
         if (alignment & Qt::AlignHCenter) left += spare / 2;
         if (alignment & Qt::AlignRight) left += spare;
         painter.drawText(QPointF(left, baseline), line);

@@ -26,6 +26,7 @@ private:
         QFont font;
         double pitch = 0;  // from line to line
     };
+    void PaintLayout(QPainter& painter, const QRectF& place, Qt::Alignment alignment) const;
     static Layout Fit(const Question& question);
     enum class Break { Never, BetweenWords, Anywhere };
     // With the largest of the sizes that does; False: none does.

@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QWidget>
 #include <algorithm>
 
 namespace {
@@ -23,6 +24,22 @@ public:
                 return 400;
             default:
                 return QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    }
+
+    // The handle of a slider and the arrows of a scroll bar are as large as there is room across.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        if (!widget || widget->objectName() != kScaledRange) return usual;
+        const int across = std::min(widget->width(), widget->height());
+        switch (metric) {
+            case PM_SliderThickness:
+            case PM_SliderLength:
+                return std::max(usual, across * 4 / 5);
+            case PM_ScrollBarExtent:
+                return std::max(usual, across);
+            default:
+                return usual;
         }
     }
 };

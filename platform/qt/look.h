@@ -17,6 +17,8 @@ constexpr QColor kButtonFace{0xfb, 0xfc, 0xfd};
 constexpr QColor kRestingBox{0xe4, 0xe8, 0xeb};    // a white box that takes no text now
 constexpr QColor kRestingWords{0x7c, 0x84, 0x8c};  // captions of what cannot be used now
 
+inline constexpr const char* kScaledRange = "scaled range";  // the name of sliders and scroll bars that are drawn in the window's size
+
 void ApplyLook(QApplication& application);
 
 QColor ToQt(Colour colour);

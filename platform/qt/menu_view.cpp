@@ -1,5 +1,7 @@
 #include "platform/qt/menu_view.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMenu>
 
 #include "platform/qt/look.h"
@@ -38,6 +40,13 @@ private:
     QAction* action_;
     QMenu* menu_;
 };
+
+namespace {
+void SelectFirst(QMenu& menu) {
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+    QCoreApplication::sendEvent(&menu, &down);
+}
+}  // namespace
 
 MenuView::MenuView(Window& window, QWidget& widget) : window_(window), bar_(new QMenuBar(&widget)) {
 #ifndef Q_OS_MACOS
@@ -93,6 +102,7 @@ bool MenuView::OpenByAccessKey(QChar letter) {
         if (!action->isVisible() || !action->isEnabled() || mark < 0 || mark + 1 >= text.size()) continue;
         if (text[mark + 1].toUpper() != letter.toUpper()) continue;
         bar_->setActiveAction(action);
+        if (action->menu()) SelectFirst(*action->menu());
         return true;
     }
     return false;

@@ -9,7 +9,7 @@
 
 namespace {
 constexpr double kPixelsPerPoint = 20.0 / 15;
-constexpr double kNameHeight = 12;  // pixels of the program
+constexpr double kNameSize = 10.5;  // pixels of the program: letters that stand in a row 12 high
 
 class OperationPainter {
 public:
@@ -95,7 +95,7 @@ private:
     }
 
     void Name(const DrawOperation& name) {
-        UseFont(kNameHeight * scale_.pixel, name.italic);
+        UseFont(kNameSize * scale_.pixel, name.italic);
         UsePen(name.rim);
         painter_.save();
         painter_.translate(name.x1 * scale_.pixel, name.y1 * scale_.pixel);

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 
+#include "platform/qt/look.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/views.h"
 #include "platform/user.h"
@@ -15,6 +16,7 @@ public:
     // `make` makes the widget on the ground it is given.
     RangeView(RangeControl& range, WindowWidget& window, ControlWidget* owner, const std::function<QAbstractSlider*(QWidget*)>& make)
         : ControlWidget(range, window, owner), range_(range), slider_(make(OwnerGround())) {
+        slider_->setObjectName(kScaledRange);
         Adopt(slider_);
         connect(slider_, &QAbstractSlider::valueChanged, this, [this](int value) {
             RangeView::Changed(Property::Value);  // a procedure may put it elsewhere

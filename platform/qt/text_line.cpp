@@ -9,7 +9,7 @@
 namespace {
 constexpr int kMostLines = 2;
 constexpr int kOwnMargin = 2;  // of a line edit
-}
+}  // namespace
 
 TextLine::TextLine(QWidget* parent, Control& box, ModelView& view) : QLineEdit(parent), box_(box) {
     PrepareEditor(*this, box);

@@ -149,11 +149,12 @@ void WindowWidget::PlaceAbove(const WindowWidget* below) {
 }
 
 void WindowWidget::MoveAround(QPoint middle) {
-    const QRect room = screen()->availableGeometry();
+    const QRect room = screen()->availableGeometry().adjusted(0, kTitleBar, 0, 0);
     QRect place(QPoint(), size());
-    place.moveCenter(middle);
-    move(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())),
-         std::clamp(place.top() - kTitleBar / 2, room.top(), std::max(room.top(), room.bottom() - place.height() - kTitleBar)));
+    place.moveCenter(middle + QPoint(0, kTitleBar / 2));
+    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
+    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
+    setGeometry(place);
 }
 
 void WindowWidget::BringToFront() {

@@ -10,8 +10,8 @@
 
 namespace {
 // Three patches of letters, then function keys over digits.
-constexpr int kCodes[] = {81,  87,  69,  65, 83, 68, 90,  88,  67,  82, 84, 89, 70,  71,  72,  86, 66, 78, 85,  73,  79,  74, 75,
-                          76,  77,  188, 190, 112, 113, 114, 49, 50, 51, 115, 116, 117, 52, 53, 54, 118, 119, 120, 55, 56, 57};
+constexpr int kCodes[] = {81, 87, 69,  65,  83,  68,  90,  88, 67, 82, 84,  89,  70,  71, 72, 86, 66,  78,  85,  73, 79, 74, 75,
+                          76, 77, 188, 190, 112, 113, 114, 49, 50, 51, 115, 116, 117, 52, 53, 54, 118, 119, 120, 55, 56, 57};
 constexpr int kShift = 16;
 constexpr int kCtrl = 17;
 constexpr int kBackspace = 8;

@@ -19,6 +19,7 @@ void DiagramTest::Sheet(const Texts& names, const std::vector<std::vector<int>>&
         SampleTable[1][sample] = sample;
         SampleTable[2][sample] = names[sample - 1];
         frmMain.Combo2.AddItem(names[sample - 1]);
+        for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][sample] = 0;
         for (std::size_t i = 0; i < counts[sample - 1].size(); ++i) Counts[i + 1][sample] = counts[sample - 1][i];
     }
     ShowSampleName();

@@ -19,9 +19,8 @@ TEST_F(ItalicsTest, GeneraAreItalicFamiliesAndEmptySlotsUpright) {
     struct {
         const char* name;
         bool italic;
-    } cases[] = {{"Pinus", true},  {"Poaceae", false},  {"POACEAE", false},  {"PoaceaE", true}, {"PoaceAe", true},
-                 {"Alnus ae", false}, {"ae", false},    {"e", true},         {"Aea", true},     {"---", false},
-                 {"----", true}};
+    } cases[] = {{"Pinus", true}, {"Poaceae", false}, {"POACEAE", false}, {"PoaceaE", true}, {"PoaceAe", true}, {"Alnus ae", false},
+                 {"ae", false},   {"e", true},        {"Aea", true},      {"---", false},    {"----", true}};
     for (const auto& each : cases) {
         frmMain.Text1[7].SetText(each.name);
         ApplyItalics();

@@ -94,8 +94,9 @@ TEST_F(KeyDispatchTest, ACountedKeyMarksTheSheetChanged) {
     KeyNumber(1);
     EXPECT_FALSE(SheetClean);
     EXPECT_FALSE(SampleUntouched);
-    for (const Control* command : std::initializer_list<const Control*>{&frmMain.Command2[0], &frmMain.mnuReset, &frmMain.Command5[0], &frmMain.mnuSave,
-                                   &frmMain.mnuSaveHistory, &frmMain.mnuNew, &frmMain.mnuUndo})
+    for (const Control* command :
+         std::initializer_list<const Control*>{&frmMain.Command2[0], &frmMain.mnuReset, &frmMain.Command5[0], &frmMain.mnuSave,
+                                               &frmMain.mnuSaveHistory, &frmMain.mnuNew, &frmMain.mnuUndo})
         EXPECT_TRUE(command->Enabled()) << command->name;
 }
 

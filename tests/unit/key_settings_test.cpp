@@ -112,7 +112,8 @@ TEST_F(KeySettingsTest, ANumberOutside1To135IsAFailure) {
     struct {
         const char* number;
         bool good;
-    } cases[] = {{"0", false}, {"1", true}, {"135", true}, {"136", false}, {"-1", false}, {"\"x\"", false}, {"999", false}, {"40000", false}};
+    } cases[] = {{"0", false},  {"1", true},      {"135", true},  {"136", false},
+                 {"-1", false}, {"\"x\"", false}, {"999", false}, {"40000", false}};
     for (const auto& each : cases) {
         KeySettings[45][2] = each.number[0] == '"' ? Any("x") : Any(std::stod(each.number));
         if (each.good)
@@ -156,9 +157,9 @@ TEST_F(KeySettingsTest, ALockedFileCannotBeWritten) {
 TEST_F(KeySettingsTest, ThePlacesFormThreeBlocksOfTwoBands) {
     struct {
         int place, left, top;
-    } cases[] = {{1, 240, 2140},   {2, 1320, 2140},  {3, 2400, 2140},  {4, 240, 2910},   {7, 240, 3680},   {9, 2400, 3680},
+    } cases[] = {{1, 240, 2140},   {2, 1320, 2140},  {3, 2400, 2140},  {4, 240, 2910},    {7, 240, 3680},  {9, 2400, 3680},
                  {10, 4080, 2140}, {18, 6240, 3680}, {19, 7920, 2140}, {27, 10080, 3680}, {28, 240, 360},  {30, 2400, 360},
-                 {31, 240, 1130},  {33, 2400, 1130}, {34, 4080, 360},  {39, 6240, 1130}, {40, 7920, 360},  {45, 10080, 1130}};
+                 {31, 240, 1130},  {33, 2400, 1130}, {34, 4080, 360},  {39, 6240, 1130},  {40, 7920, 360}, {45, 10080, 1130}};
     for (const auto& each : cases) {
         EXPECT_EQ(KeyLeft[each.place], each.left) << each.place;
         EXPECT_EQ(KeyTop[each.place], each.top) << each.place;

@@ -10,7 +10,8 @@ namespace {
 constexpr const char* kSettings = "/program/References/KeySetting.csv";
 constexpr const char* kNoSettings =
     "Marlbrook could not find reference file(s). Please use installer package to installe Marlbrook in your computer.";
-constexpr const char* kNoSounds = "Marlbrook could not find sound file(s). Please use installer package to installe Marlbrook in your computer.";
+constexpr const char* kNoSounds =
+    "Marlbrook could not find sound file(s). Please use installer package to installe Marlbrook in your computer.";
 
 class MissingFilesTest : public SheetTest {
 protected:

@@ -19,7 +19,8 @@ struct Column {
 };
 
 Column Read(int sample) {
-    Column column{static_cast<std::int16_t>(SampleTable[1][sample].Number()), SampleTable[2][sample].Text(), SampleNotes[sample], {}, {}, {}};
+    Column column{
+        static_cast<std::int16_t>(SampleTable[1][sample].Number()), SampleTable[2][sample].Text(), SampleNotes[sample], {}, {}, {}};
     for (int slot = 1; slot <= kSlots; ++slot) {
         column.counts.push_back(Counts[slot][sample]);
         column.shares.push_back(SamplePercent[slot][sample]);

@@ -42,7 +42,8 @@ TEST_F(NoteStampTest, WhatWasTypedAfterTheLineGetsALineOfItsOwn) {
 }
 
 TEST_F(NoteStampTest, ALineIsKnownByItsPlaceAndItsFirstTenCharacters) {
-    EXPECT_EQ(SavedNote("old\r\nLast saved as ever by Ann in May, x"), std::string("old\r\nLast saved as ever by Ann in May, x\r\n") + kStamp);
+    EXPECT_EQ(SavedNote("old\r\nLast saved as ever by Ann in May, x"),
+              std::string("old\r\nLast saved as ever by Ann in May, x\r\n") + kStamp);
     EXPECT_EQ(SavedNote("old\r\nLast saved as ever by Ann in May."), std::string("old\r\n") + kStamp) << "33 characters from the end";
 }
 

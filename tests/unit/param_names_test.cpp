@@ -76,7 +76,6 @@ TEST_F(ParamNamesTest, AfterTheNextSampleTheMainWindowIsTheOneThatAsks) {
     ClickControl(frmNext.Command4);
     ClickControl(frmNext.Command5[1]);
     ClickControl(frmParaName.Command2);
-    InsertText(frmNext.Text1, "10");
     ClickControl(frmNext.Text1);
     InsertText(frmNext.Text1, "10");
     ClickControl(frmNext.Command1);

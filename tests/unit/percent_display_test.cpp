@@ -36,8 +36,8 @@ TEST_F(PercentDisplayTest, TheProductIsRoundedAsASingleTiesToEven) {
     struct {
         int count, sum;
         const char* percent;
-    } cases[] = {{1, 16, "6.2"},  {3, 16, "18.8"}, {5, 16, "31.2"}, {1, 400, "0.2"}, {3, 400, "0.8"},  // 3 of 400 is a tie as a Single alone
-                 {1, 8, "12.5"},  {1, 3, "33.3"},  {2, 3, "66.7"},  {4, 4, "100"},   {-1, 16, "-6.2"}, {1, 30000, "0"}};
+    } cases[] = {{1, 16, "6.2"}, {3, 16, "18.8"}, {5, 16, "31.2"}, {1, 400, "0.2"}, {3, 400, "0.8"},  // 3 of 400 is a tie as a Single alone
+                 {1, 8, "12.5"}, {1, 3, "33.3"},  {2, 3, "66.7"},  {4, 4, "100"},   {-1, 16, "-6.2"}, {1, 30000, "0"}};
     for (const auto& each : cases) {
         Count(1, each.count);
         Count(2, each.sum - each.count);

@@ -78,8 +78,8 @@ TEST_F(PercentageTableTest, SharesHaveFourDecimalsTiesToEven) {
     struct {
         int count, rest;
         const char* share;
-    } cases[] = {{1, 2, "33.3333"},   {2, 1, "66.6667"},   {1, 31, "3.125"},   {1, 127, "0.7812"},
-                 {3, 125, "2.3438"},  {5, 123, "3.9062"},  {-1, 4, "-33.3333"}, {1, 32766, "0.0031"}};
+    } cases[] = {{1, 2, "33.3333"},  {2, 1, "66.6667"},  {1, 31, "3.125"},    {1, 127, "0.7812"},
+                 {3, 125, "2.3438"}, {5, 123, "3.9062"}, {-1, 4, "-33.3333"}, {1, 32766, "0.0031"}};
     for (const auto& each : cases) {
         for (const int slot : {1, 2, 3}) frmMain.Text2[slot].SetText(std::to_string(slot == 1 ? each.count : slot == 2 ? each.rest : 0));
         Save(frmMain.mnuPercentAll);

@@ -9,10 +9,17 @@ TEST(SheetBaseNameTest, ANameStandsBetweenTheLastSeparatorAndTheLastPeriod) {
         const char* path;
         const char* name;
     } cases[] = {
-        {"/home/ann/Mere.csv", "Mere"},       {"C:\\Counts\\Mere.csv", "Mere"},     {"C:\\Counts/core 12.csv", "core 12"},
-        {"/home\\ann/x\\core.csv", "core"},   {"/a/core.12.csv", "core.12"},        {"/a/S\u00e9e.csv", "S\u00e9e"},
-        {"/.csv", ""},                        {"/a.b/c.d", "c"},                    {"/a/core..csv", "core."},
-        {"/a/core.csv.", "core"},             {"/a/b.c/", "b"},
+        {"/home/ann/Mere.csv", "Mere"},
+        {"C:\\Counts\\Mere.csv", "Mere"},
+        {"C:\\Counts/core 12.csv", "core 12"},
+        {"/home\\ann/x\\core.csv", "core"},
+        {"/a/core.12.csv", "core.12"},
+        {"/a/S\u00e9e.csv", "S\u00e9e"},
+        {"/.csv", ""},
+        {"/a.b/c.d", "c"},
+        {"/a/core..csv", "core."},
+        {"/a/core.csv.", "core"},
+        {"/a/b.c/", "b"},
     };
     for (const auto& each : cases) EXPECT_EQ(SheetBaseName(each.path), each.name) << each.path;
 }

@@ -19,15 +19,15 @@ protected:
 
     void TearDown() override;
 
-    int CodeOf(int key) const;                     // of counter key 1..45
-    void NextSample(const std::string& name);      // by the button, then OK
-    void ShowSample(int sample);                   // picked from the list of names
+    int CodeOf(int key) const;                 // of counter key 1..45
+    void NextSample(const std::string& name);  // by the button, then OK
+    void ShowSample(int sample);               // picked from the list of names
     void AnswerDialog(const std::string& path) { services_.dialogs.answers.push_back(path); }
     void CancelDialog() { services_.dialogs.answers.push_back(std::nullopt); }
-    void SaveAs(const std::string& path);          // the sheet goes to this file
+    void SaveAs(const std::string& path);  // the sheet goes to this file
 
-    Texts Played();                                // since the last look
-    Texts LastLines(std::size_t count) const;      // of the history, the newest last
+    Texts Played();                            // since the last look
+    Texts LastLines(std::size_t count) const;  // of the history, the newest last
     const Message& LastMessage() const { return services_.messages.shown.back(); }
     std::size_t MessageCount() const { return services_.messages.shown.size(); }
     std::string FileLine(const std::string& path, std::size_t line) const;  // from 1, without its CR LF

@@ -18,8 +18,8 @@ protected:
 };
 
 struct Step {
-    char key;     // '1', '2': a shift key goes down; 'a', 'b': the same comes up
-    int level;    // after it
+    char key;   // '1', '2': a shift key goes down; 'a', 'b': the same comes up
+    int level;  // after it
 };
 
 TEST_F(ShiftLevelsTest, OneShiftKeyIsLevel1AndBothAreLevel2WhicheverCameFirst) {
@@ -28,11 +28,11 @@ TEST_F(ShiftLevelsTest, OneShiftKeyIsLevel1AndBothAreLevel2WhicheverCameFirst) {
         {{'1', 1}, {'2', 2}, {'b', 1}, {'a', 0}},
         {{'2', 1}, {'1', 2}, {'a', 1}, {'b', 0}},
         {{'2', 1}, {'1', 2}, {'b', 1}, {'a', 0}},
-        {{'1', 1}, {'1', 1}, {'1', 1}, {'a', 0}},                        // repeats of one held key
+        {{'1', 1}, {'1', 1}, {'1', 1}, {'a', 0}},  // repeats of one held key
         {{'2', 1}, {'2', 1}, {'2', 1}, {'b', 0}},
-        {{'1', 1}, {'2', 2}, {'2', 2}, {'1', 2}, {'a', 1}, {'b', 0}},    // repeats while both are held only meet the clamp
+        {{'1', 1}, {'2', 2}, {'2', 2}, {'1', 2}, {'a', 1}, {'b', 0}},  // repeats while both are held only meet the clamp
         {{'1', 1}, {'2', 2}, {'a', 1}, {'2', 1}, {'b', 0}},
-        {{'a', 0}, {'b', 0}, {'1', 1}, {'a', 0}},                        // releases that no press went before
+        {{'a', 0}, {'b', 0}, {'1', 1}, {'a', 0}},  // releases that no press went before
     };
     for (std::size_t i = 0; i < cases.size(); ++i) {
         for (const Step& step : cases[i]) {

@@ -97,10 +97,10 @@ TEST_F(StartUpTest, TheFixedLabelsOfTheFileAreInPlace) {
 
 TEST_F(StartUpTest, NothingCanBeSavedUndoneResetOrFollowedYet) {
     Start();
-    for (const Control* command : std::initializer_list<const Control*>{&frmMain.Command2[0], &frmMain.Command3[1], &frmMain.mnuFinishAmend,
-                                   &frmMain.Command5[0], &frmMain.mnuSave, &frmMain.Command5[1],
-                                   &frmMain.mnuNext, &frmMain.mnuUndo, &frmMain.mnuReset, &frmMain.mnuNew, &frmMain.mnuBar,
-                                   &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve, &frmMain.Text4, &frmMain.mnuSaveHistory})
+    for (const Control* command : std::initializer_list<const Control*>{
+             &frmMain.Command2[0], &frmMain.Command3[1], &frmMain.mnuFinishAmend, &frmMain.Command5[0], &frmMain.mnuSave,
+             &frmMain.Command5[1], &frmMain.mnuNext, &frmMain.mnuUndo, &frmMain.mnuReset, &frmMain.mnuNew, &frmMain.mnuBar,
+             &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve, &frmMain.Text4, &frmMain.mnuSaveHistory})
         EXPECT_FALSE(command->Enabled()) << command->name << command->index;
     EXPECT_TRUE(frmMain.mnuItalic.Checked());
     EXPECT_TRUE(frmMain.mnuSaveCopy.Enabled());

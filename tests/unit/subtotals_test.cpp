@@ -79,6 +79,7 @@ TEST_F(SubtotalsTest, ANameShowsEverywhereAtOnceAndSurvivesCancel) {
 
 TEST_F(SubtotalsTest, OpeningAloneMakesNothingToSave) {
     TaxonTable[7][2] = 1;
+    SheetClean = true;
     Open();
     ClickControl(frmSubtotal.Option1[2]);
     ClickControl(frmSubtotal.Option1[1]);

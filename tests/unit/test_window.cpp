@@ -6,7 +6,7 @@ TestWindow window_c("tstC");
 
 TestWindow::TestWindow(const char* window_name) : Window(window_name, window_name, 6000, 4000) {
     key_preview = true;
-    Add(name, "name", -1, nullptr, {0, 0, 1000, 300});
+    Add(entry, "entry", -1, nullptr, {0, 0, 1000, 300});
     Add(note, "note", -1, nullptr, {0, 400, 1000, 300});
     Add(ok, "ok", -1, nullptr, {0, 800, 1000, 300});
     Add(first, "first", -1, nullptr, {0, 1200, 1000, 300});
@@ -33,7 +33,7 @@ TestWindow::TestWindow(const char* window_name) : Window(window_name, window_nam
     popup.SetVisible(false);
     list.AddItem("one");
     list.AddItem("two");
-    FirstFocus(name);
+    FirstFocus(entry);
     KeepDesign();
 }
 

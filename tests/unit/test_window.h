@@ -11,7 +11,7 @@
 struct TestWindow : Window {
     explicit TestWindow(const char* window_name);
 
-    TextBox name, note;
+    TextBox entry, note;
     Button ok;
     OptionButton first, second, third;  // the third in a frame of its own
     Frame group;
@@ -23,8 +23,8 @@ struct TestWindow : Window {
     ScrollBar scroll;
     UpDown arrows;
     PictureBox picture;
-    MenuItem file, save, more, deep;    // "more" is a menu inside "file"
-    MenuItem popup, copy;               // hidden from the bar
+    MenuItem file, save, more, deep;  // "more" is a menu inside "file"
+    MenuItem popup, copy;             // hidden from the bar
 };
 
 extern TestWindow window_a, window_b, window_c;

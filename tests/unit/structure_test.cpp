@@ -1,0 +1,172 @@
+// The house stands: every arrow between the source files points down, and the core knows no toolkit.
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+
+struct Source {
+    Names own;      // files of the project that it includes, from the root
+    Names foreign;  // <...> and what is no file of the project
+};
+using Sources = std::map<std::string, Source>;
+
+const std::set<std::string> kProcedures = {"session", "files", "keys", "taxa", "diagram", "accessories"};
+const std::set<std::string> kFolders = {"platform", "windows", "session", "files", "keys",       "taxa",
+                                        "diagram",  "events",  "program", "drive", "accessories"};
+
+// `<vector>` or `"platform/any.h"` of a line that includes it, with its marks; empty for any other line.
+std::string Included(const std::string& line) {
+    constexpr const char* kBlanks = " \t";
+    std::size_t at = line.find_first_not_of(kBlanks);
+    if (at == std::string::npos || line[at] != '#') return "";
+    at = line.find_first_not_of(kBlanks, at + 1);
+    if (at == std::string::npos || line.compare(at, 7, "include") != 0) return "";
+    const std::size_t begin = line.find_first_of("<\"", at);
+    const std::size_t end = begin == std::string::npos ? begin : line.find_first_of(">\"", begin + 1);
+    return end == std::string::npos ? "" : line.substr(begin, end - begin + 1);
+}
+
+Names Includes(const fs::path& path) {
+    Names names;
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);)
+        if (const std::string name = Included(line); !name.empty()) names.push_back(name);
+    return names;
+}
+
+bool IsOfAToolkit(const std::string& included) {
+    const char second = included.size() > 2 ? included[2] : ' ';
+    return included.compare(1, 3, "SDL") == 0 || (included[1] == 'Q' && (std::isupper(second) || second == 't'));
+}
+
+bool IsSource(const fs::path& path) {
+    return path.extension() == ".cpp" || path.extension() == ".h";
+}
+
+Sources ReadSources(const fs::path& root) {
+    Sources sources;
+    for (const std::string& folder : kFolders) {
+        if (!fs::exists(root / folder)) continue;
+        for (const auto& entry : fs::recursive_directory_iterator(root / folder)) {
+            if (!IsSource(entry.path())) continue;
+            Source& source = sources[fs::relative(entry.path(), root).generic_string()];
+            for (const std::string& name : Includes(entry.path())) {
+                const std::string path = name.substr(1, name.size() - 2);
+                const bool own = name[0] == '"' && fs::exists(root / path);
+                (own ? source.own : source.foreign).push_back(own ? path : name);
+            }
+        }
+    }
+    return sources;
+}
+
+const Sources& All() {
+    static const Sources sources = ReadSources(SOURCE_FOLDER);
+    return sources;
+}
+
+std::string FolderOf(const std::string& file) {
+    const std::string folder = fs::path(file).parent_path().generic_string();
+    return folder.starts_with("platform/qt") ? "platform/qt" : folder;
+}
+
+// The floor of the house on which a file stands; it may include what lies on its own floor and below.
+int FloorOf(const std::string& file) {
+    const std::string folder = FolderOf(file);
+    if (folder == "platform") return 0;
+    if (file.starts_with("session/sheet_state.")) return 1;
+    if (folder == "windows") return 2;
+    if (kProcedures.count(folder)) return 3;
+    if (folder == "events") return 4;
+    if (folder == "program" || folder == "drive") return 6;
+    return 5;  // platform/headless, platform/qt
+}
+
+// The files on the way round, if the walk from `file` comes back to one that it has not left yet.
+bool FindCircle(const std::string& file, std::map<std::string, int>& state, Names& way) {
+    enum { kUnseen, kOpen, kLeft };
+    if (state[file] == kLeft) return false;
+    way.push_back(file);
+    if (state[file] == kOpen) return true;
+    state[file] = kOpen;
+    const auto source = All().find(file);
+    if (source != All().end())
+        for (const std::string& next : source->second.own)
+            if (FindCircle(next, state, way)) return true;
+    state[file] = kLeft;
+    way.pop_back();
+    return false;
+}
+
+TEST(StructureTest, TheSourcesAreFound) {
+    ASSERT_GT(All().size(), 100u);
+    for (const char* file : {"session/sheet_state.h", "events/program.h", "platform/qt/renderer.cpp", "windows/main_window.cpp"})
+        EXPECT_EQ(All().count(file), 1u) << file;
+    EXPECT_FALSE(All().at("windows/main_window.h").own.empty());
+}
+
+TEST(StructureTest, NoFileIncludesItselfInACircle) {
+    std::map<std::string, int> state;
+    for (const auto& [file, source] : All()) {
+        Names way;
+        if (!FindCircle(file, state, way)) continue;
+        std::string text;
+        for (const std::string& step : way) text += step + " > ";
+        FAIL() << text;
+    }
+}
+
+TEST(StructureTest, EveryArrowPointsDown) {
+    for (const auto& [file, source] : All())
+        for (const std::string& included : source.own) EXPECT_LE(FloorOf(included), FloorOf(file)) << file << " includes " << included;
+}
+
+TEST(StructureTest, APlatformKnowsOfTheProgramOnlyHowToStartIt) {
+    for (const auto& [file, source] : All()) {
+        if (FloorOf(file) != 5) continue;
+        for (const std::string& included : source.own) {
+            const std::string folder = FolderOf(included);
+            EXPECT_TRUE(folder == "platform" || folder == FolderOf(file) || included == "events/program.h")
+                << file << " includes " << included;
+        }
+    }
+}
+
+TEST(StructureTest, OnlyTheToolkitLayerAndTheProgramOnItIncludeAToolkit) {
+    int found = 0;
+    for (const auto& [file, source] : All())
+        for (const std::string& included : source.foreign) {
+            if (!IsOfAToolkit(included)) continue;
+            ++found;
+            EXPECT_TRUE(FolderOf(file) == "platform/qt" || file == "program/main.cpp") << file << " includes " << included;
+        }
+    EXPECT_GT(found, 10) << "the toolkit layer itself must be seen";
+}
+
+TEST(StructureTest, WhatIsIncludedIsThereOrBelongsToTheLanguage) {
+    for (const auto& [file, source] : All()) {
+        if (FolderOf(file) == "platform/qt" || FloorOf(file) == 6) continue;
+        for (const std::string& included : source.foreign)
+            EXPECT_TRUE(included[0] == '<' && included.find('.') == std::string::npos) << file << " includes " << included;
+    }
+}
+
+TEST(StructureTest, EverySourceHasItsHeaderFirst) {
+    for (const auto& [file, source] : All()) {
+        if (!file.ends_with(".cpp")) continue;
+        const std::string header = file.substr(0, file.size() - 3) + "h";
+        if (!All().count(header)) continue;
+        ASSERT_FALSE(source.own.empty()) << file;
+        EXPECT_EQ(source.own.front(), header) << file;
+    }
+}
+}  // namespace

@@ -1,0 +1,158 @@
+// All windows as data: nothing sticks out, nothing covers its neighbour, and no button is dead.
+#include <algorithm>
+#include <set>
+
+#include "platform/user.h"
+#include "unit/sheet_test.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+std::string NameOf(const Control& control) {
+    const std::string name = control.window->name + "." + control.name;
+    return control.index < 0 ? name : name + "[" + std::to_string(control.index) + "]";
+}
+
+bool IsOneOf(const Control& control, const std::set<std::string>& names) {
+    return names.count(control.window->name + "." + control.name) > 0;
+}
+
+// Controls that lie behind their neighbours by design.
+const std::set<std::string> kGrounds = {"frmMain.Picture1", "frmMain.Frame3"};
+
+// Below the lower edge of the start face: the window grows down to them.
+const std::set<std::string> kBelowTheEdge = {"frmNext.Command1", "frmNext.Command3"};
+
+// Does nothing by design: its window is left by OK alone.
+const std::set<std::string> kIdleButtons = {"frmSiteName.Command3"};
+
+bool HasAPlace(const Control& control) {
+    return control.kind() != Kind::MenuItem && control.Visible() && control.Width() > 0 && control.Height() > 0;
+}
+
+Box Ground(const Control& control) {
+    if (control.container) return {0, 0, control.container->Width(), control.container->Height()};
+    return {0, 0, control.window->Width(), control.window->Height()};
+}
+
+bool LiesInside(const Control& control) {
+    const Box ground = Ground(control);
+    return control.Left() >= 0 && control.Top() >= 0 && control.Left() + control.Width() <= ground.width &&
+           control.Top() + control.Height() <= ground.height;
+}
+
+bool Overlap(const Control& one, const Control& other) {
+    return one.Left() < other.Left() + other.Width() && other.Left() < one.Left() + one.Width() &&
+           one.Top() < other.Top() + other.Height() && other.Top() < one.Top() + one.Height();
+}
+
+bool CanBeSeenTogether(const Control& one, const Control& other) {
+    return one.container == other.container && (one.page < 0 || other.page < 0 || one.page == other.page);
+}
+
+std::vector<Control*> Placed(const Window& window) {
+    std::vector<Control*> placed;
+    std::copy_if(window.Controls().begin(), window.Controls().end(), std::back_inserter(placed),
+                 [](Control* control) { return HasAPlace(*control); });
+    return placed;
+}
+
+Texts SticksOut(const Window& window) {
+    Texts faults;
+    for (const Control* control : Placed(window))
+        if (!LiesInside(*control)) faults.push_back(NameOf(*control));
+    return faults;
+}
+
+Texts Covers(const Window& window) {
+    Texts faults;
+    const std::vector<Control*> placed = Placed(window);
+    for (auto one = placed.begin(); one != placed.end(); ++one)
+        for (auto other = one + 1; other != placed.end(); ++other)
+            if (CanBeSeenTogether(**one, **other) && Overlap(**one, **other) && !IsOneOf(**one, kGrounds) && !IsOneOf(**other, kGrounds))
+                faults.push_back(NameOf(**one) + " and " + NameOf(**other));
+    return faults;
+}
+
+class WindowsTest : public SheetTest {
+protected:
+    static std::vector<Window*> Windows() {
+        std::vector<Window*> windows;
+        std::copy_if(AllWindows().begin(), AllWindows().end(), std::back_inserter(windows),
+                     [](const Window* window) { return window->name.starts_with("frm"); });
+        return windows;
+    }
+};
+
+TEST_F(WindowsTest, EveryControlLiesInsideItsContainer) {
+    for (const Window* window : Windows()) {
+        Texts faults = SticksOut(*window);
+        std::erase_if(faults, [](const std::string& name) { return kBelowTheEdge.count(name) > 0; });
+        EXPECT_EQ(faults, Texts{}) << window->name;
+    }
+}
+
+TEST_F(WindowsTest, NoControlCoversItsNeighbour) {
+    for (const Window* window : Windows()) EXPECT_EQ(Covers(*window), Texts{}) << window->name;
+}
+
+TEST_F(WindowsTest, TheButtonsBelowTheStartFaceAreWhollyOutOfView) {
+    for (const Control* control : {&frmNext.Command1, &frmNext.Command3}) EXPECT_GE(control->Top(), frmNext.Height()) << NameOf(*control);
+}
+
+TEST_F(WindowsTest, BothSampleFacesAreInOrderToo) {
+    Start();
+    ClickControl(frmNext.Command4);
+    EXPECT_EQ(SticksOut(frmNext), Texts{});
+    EXPECT_EQ(Covers(frmNext), Texts{});
+    ClickControl(frmNext.Command1);
+    KeyNumber(1);
+    ClickControl(frmMain.Command5[1]);
+    EXPECT_EQ(SticksOut(frmNext), Texts{});
+    EXPECT_EQ(Covers(frmNext), Texts{});
+}
+
+TEST_F(WindowsTest, TheMainWindowIsInOrderInBothModes) {
+    Begin("10");
+    EXPECT_EQ(SticksOut(frmMain), Texts{});
+    EXPECT_EQ(Covers(frmMain), Texts{});
+    ClickControl(frmMain.Command3[0]);
+    EXPECT_EQ(SticksOut(frmMain), Texts{});
+    EXPECT_EQ(Covers(frmMain), Texts{});
+}
+
+TEST_F(WindowsTest, EveryButtonIsJoined) {
+    Start();
+    for (const Window* window : Windows())
+        for (const Control* control : window->Controls()) {
+            if (control->kind() != Kind::Button || !control->Visible() || IsOneOf(*control, kIdleButtons)) continue;
+            EXPECT_TRUE(control->Click.IsJoined() || control->MouseDown.IsJoined()) << NameOf(*control);
+        }
+}
+
+TEST_F(WindowsTest, NoNameStandsTwiceInAWindow) {
+    for (const Window* window : Windows()) {
+        std::set<std::string> names;
+        for (const Control* control : window->Controls()) EXPECT_TRUE(names.insert(NameOf(*control)).second) << NameOf(*control);
+    }
+}
+
+TEST_F(WindowsTest, ATabIsAPageOfATabControlThatHasIt) {
+    for (const Window* window : Windows())
+        for (const Control* control : window->Controls()) {
+            if (control->page < 0) continue;
+            ASSERT_TRUE(control->container && control->container->kind() == Kind::TabControl) << NameOf(*control);
+            EXPECT_LT(control->page, static_cast<int>(static_cast<const TabControl*>(control->container)->TabCaptions().size()))
+                << NameOf(*control);
+        }
+}
+
+TEST_F(WindowsTest, EveryFieldAndListThatShowsAValueHasAnAccessibleName) {
+    for (const Window* window : Windows()) {
+        for (const Control* control : Placed(*window)) {
+            if (control->kind() != Kind::TextBox && control->kind() != Kind::ComboBox) continue;
+            EXPECT_NE(control->accessible_name, "") << NameOf(*control);
+        }
+    }
+}
+}  // namespace
