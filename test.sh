@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds Marlbrook and runs its tests:
-#     ./test.sh            everything
-#     ./test.sh --quick    the unit tests and the scripts without windows
+#     ./test.sh                       everything but what follows
+#     ./test.sh --quick               the unit tests and the scripts without windows
+#     ./test.sh --with-spreadsheet    everything, and sheets that LibreOffice saves again
+#     ./test.sh --fuzz                everything, and a minute of opening files that were spoiled at random
 # Unit tests and scripts without windows run under the address and undefined-behaviour sanitizers; whatever shows windows runs in the
 # release build, as users get it. The last line is "N passed, N failed"; the status is 0 if nothing failed.
 set -euo pipefail
@@ -34,13 +36,16 @@ Demo() {  # what run.sh does where there is no display
 }
 
 presets=(sanitize release)
+packages=(test)
 case "${1:-}" in
     "") ;;
     --quick) presets=(sanitize) ;;
-    *) Fail "unknown option $1; there is --quick" ;;
+    --with-spreadsheet) packages+=(spreadsheet) ;;
+    --fuzz) packages+=(fuzz) ;;
+    *) Fail "unknown option $1; there are --quick, --with-spreadsheet and --fuzz" ;;
 esac
 
-packaging/debian-packages.sh test  # it and the next say themselves what went wrong
+packaging/debian-packages.sh "${packages[@]}"  # it and the next say themselves what went wrong
 packaging/build.sh "${presets[@]}"
 
 export ASAN_OPTIONS=${ASAN_OPTIONS:-exitcode=99} UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
@@ -51,5 +56,9 @@ if [ "${1:-}" != --quick ]; then
     Tally "Demonstration" Demo
     if [ -x tests/windows/run_all.sh ]; then Tally "The real window" tests/windows/run_all.sh; fi
 fi
+if [ "${1:-}" = --with-spreadsheet ]; then
+    Tally "Through a spreadsheet" tests/spreadsheet/run.sh build/release/bin/marlbrook-drive
+fi
+if [ "${1:-}" = --fuzz ]; then Tally "Spoiled files" tests/fuzz/run.sh 60; fi
 echo "== All tests"
 TallyEnd

@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
 # The Debian and Ubuntu packages that Marlbrook needs, in this one place. Installs those that are missing, as root or with sudo:
-#     packaging/debian-packages.sh build    what building and running take
-#     packaging/debian-packages.sh test     that, and what the tests take
+#     packaging/debian-packages.sh build          what building and running take
+#     packaging/debian-packages.sh test           that, and what the tests take
+#     packaging/debian-packages.sh spreadsheet    what the tests take that send sheets through a spreadsheet
+#     packaging/debian-packages.sh fuzz           what the fuzzer takes
+# or several of these words.
 set -euo pipefail
 
 for_build=(
@@ -18,6 +21,8 @@ for_test=(
     libxtst-dev                                                   # keys for the benchmark of the window
     imagemagick
 )
+for_spreadsheet=(libreoffice-calc-nogui)
+for_fuzz=(clang libclang-rt-dev)
 
 Fail() {
     echo "debian-packages.sh: $*" >&2
@@ -36,11 +41,17 @@ AptGet() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get --quiet --yes -o DPkg::Lock::Timeout=300 "$@"
 }
 
-case "${1:-}" in
-    build) wanted=("${for_build[@]}") ;;
-    test) wanted=("${for_build[@]}" "${for_test[@]}") ;;
-    *) Fail "say build or test" ;;
-esac
+wanted=()
+for purpose in "$@"; do
+    case $purpose in
+        build) wanted+=("${for_build[@]}") ;;
+        test) wanted+=("${for_build[@]}" "${for_test[@]}") ;;
+        spreadsheet) wanted+=("${for_spreadsheet[@]}") ;;
+        fuzz) wanted+=("${for_fuzz[@]}") ;;
+        *) wanted=() && break ;;
+    esac
+done
+[ "${#wanted[@]}" -gt 0 ] || Fail "say build, test, spreadsheet or fuzz"
 
 if ! command -v apt-get >/dev/null; then
     echo "debian-packages.sh: no apt-get here, so nothing is installed; needed are: ${wanted[*]}" >&2

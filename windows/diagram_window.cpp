@@ -42,7 +42,6 @@ void DiagramWindow::PlaceTopRow() {
     Add(Text2, "Text2", -1, nullptr, {4500, 80, 480, 320});
     Text2.accessible_name = "Moved to";
     for (TextBox* box : {&Text1, &Text2}) {
-        box->takes_text = false;
         box->centred = true;
         box->SetVisible(false);
     }

@@ -1,12 +1,18 @@
 #include "platform/qt/look.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QSvgRenderer>
+#include <QToolTip>
 #include <QWidget>
 #include <algorithm>
+
+#include "platform/qt/scaling.h"
 
 namespace {
 constexpr int kTwipsPerPoint = 20;
@@ -19,6 +25,7 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
         switch (hint) {
             case SH_MenuBar_AltKeyNavigation:  // Alt can be a counter key
+            case SH_DialogButtonBox_ButtonsHaveIcons:
                 return 0;
             case SH_ToolTip_WakeUpDelay:
                 return 400;
@@ -67,6 +74,20 @@ QPalette LightPalette() {
     return palette;
 }
 
+QIcon ProgramIcon() {
+    QSvgRenderer drawing(QStringLiteral(":/pictures/logo.svg"));
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 QFont FontOfSize(double points, double factor) {
     QFont font = QApplication::font();
     font.setPixelSize(std::max(1, static_cast<int>(points * kTwipsPerPoint * factor + 0.25)));
@@ -77,6 +98,10 @@ QFont FontOfSize(double points, double factor) {
 void ApplyLook(QApplication& application) {
     application.setStyle(new Look);
     application.setPalette(LightPalette());
+    application.setWindowIcon(ProgramIcon());
+    const QFont plain = PlainFont(CommonFactor(*QGuiApplication::primaryScreen()));
+    QApplication::setFont(plain);
+    QToolTip::setFont(plain);
 }
 
 QColor ToQt(Colour colour) {

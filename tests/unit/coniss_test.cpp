@@ -36,8 +36,8 @@ struct PlainWay {
                 data[slot][c] = static_cast<float>(weight * SamplePercent[RowOfSlot[slot]][c]);
             }
             const double depth = SampleTable[0][c].Number();
-            position[c] = static_cast<float>(SampleNamesAreText ? 10.0 * c
-                                                                : 10 * ((last - depth) + count * (depth - first)) / (last - first));
+            position[c] =
+                static_cast<float>(SampleNamesAreText ? 10.0 * c : 10 * ((last - depth) + count * (depth - first)) / (last - first));
         }
     }
 

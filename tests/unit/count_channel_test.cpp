@@ -48,10 +48,10 @@ TEST_F(CountChannelTest, ACellThatIsNoNumberGoesOnFromItsLeadingNumber) {
 
 TEST_F(CountChannelTest, TheTotalsAreSummedAnewAndAllCellsReachTheArray) {
     TaxonTable[7][2] = 1;
-    PutInCell(8, "30");
+    PutInCell(135, "30");
     frmMain.Text0.SetText("07");
     EXPECT_EQ(frmMain.Text3[0].Text(), "31");
     EXPECT_EQ(frmMain.Text3[1].Text(), "1");
-    EXPECT_EQ(Counts[8][1], 30);
+    EXPECT_EQ(Counts[135][1], 30);
 }
 }  // namespace

@@ -13,7 +13,7 @@ protected:
 
     // Samples of these names; counts[sample - 1][slot - 1], slots beyond are empty.
     static void Sheet(const Texts& names, const std::vector<std::vector<int>>& counts);
-    static void Open(MenuItem& style);  // an item of the main window
+    static void Open(MenuItem& style);                                          // an item of the main window
     static int Drawn(const PictureBox& picture, const std::string& operation);  // how often, as in "line 5 10 45 10 0,128,0"
 };
 

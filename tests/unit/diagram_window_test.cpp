@@ -20,8 +20,8 @@ TEST_F(DiagramWindowTest, TheScaleHasAMarginAboveAndBelowTheSamples) {
         std::int16_t samples;
         float top, height;
         double shown_height;
-    } cases[] = {{1, 10, 0, 100}, {2, 9.75F, 10.5F, 10.5}, {3, 9.5F, 21, 21}, {4, 9, 32, 32}, {7, 9, 62, 62}, {8, 8, 74, 74},
-                 {250, -52, 2614, 2614}};
+    } cases[] = {{1, 10, 0, 100}, {2, 9.75F, 10.5F, 10.5}, {3, 9.5F, 21, 21},     {4, 9, 32, 32},
+                 {7, 9, 62, 62},  {8, 8, 74, 74},          {250, -52, 2614, 2614}};
     for (const auto& each : cases) {
         SampleCount = each.samples;
         SetDiagramScale();

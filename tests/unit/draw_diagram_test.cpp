@@ -15,7 +15,7 @@ int CountOf(DrawOperation::Shape shape) {
     return static_cast<int>(std::count_if(operations.begin(), operations.end(), [shape](const auto& each) { return each.shape == shape; }));
 }
 
-constexpr const char* kBar = "line 5 10 45 10 0,128,0";           // of the first sample
+constexpr const char* kBar = "line 5 10 45 10 0,128,0";  // of the first sample
 constexpr const char* kMiddleBar = "line 5 16.6667 30 16.6667 0,128,0";
 constexpr const char* kCurve = "line 45 10 30 16.6667 0,128,0";
 constexpr const char* kDot = "circle 45 10 1.5 0,128,0 255,255,255";
@@ -25,7 +25,7 @@ TEST_F(DrawDiagramTest, EachStyleHasItsOwnParts) {
         MenuItem& item;
         int bars, middle_bars, curves, dots;
     } cases[] = {
-        {frmMain.mnuBar, 1, 1, 0, 0},   {frmMain.mnuArea, 1, 0, 1, 0},    {frmMain.mnuDot, 0, 0, 0, 1},
+        {frmMain.mnuBar, 1, 1, 0, 0},   {frmMain.mnuArea, 1, 0, 1, 0},     {frmMain.mnuDot, 0, 0, 0, 1},
         {frmMain.mnuCurve, 1, 1, 1, 0}, {frmMain.mnuDotCurve, 0, 0, 1, 1},
     };
     for (const auto& each : cases) {
@@ -53,8 +53,8 @@ TEST_F(DrawDiagramTest, ASampleWithoutDataBreaksTheCurveAndClosesItsEnds) {
     EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 80 40 55 50 0,128,0"), 1);
     EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 10 55 20 0,128,0"), 0);
     EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 55 20 5 30 0,128,0"), 0);
-    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 10 5 10 0,128,0"), 1);    // the first sample, closed in any case
-    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 20 55 20 0,128,0"), 2);   // below the first, above the third
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 10 5 10 0,128,0"), 1);   // the first sample, closed in any case
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 20 55 20 0,128,0"), 2);  // below the first, above the third
     EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 30 5 30 0,128,0"), 0);
     EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 40 80 40 0,128,0"), 1);
     EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 50 55 50 0,128,0"), 1);
@@ -86,7 +86,8 @@ TEST_F(DrawDiagramTest, ATickNeedsAColumnMoreThanFiveWider) {
         frmDiagram.HScroll1.SetRange(0, 0);
         DrawDiagram();
         int found = 0;
-        for (int percent = 0; percent < 50 && percent < each.width + 5; percent += 10) found += Drawn(frmDiagram.Picture1, tick(percent)) > 0;
+        for (int percent = 0; percent < 50 && percent < each.width + 5; percent += 10)
+            found += Drawn(frmDiagram.Picture1, tick(percent)) > 0;
         EXPECT_EQ(found, each.ticks) << each.width;
     }
 }

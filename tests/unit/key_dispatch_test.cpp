@@ -105,7 +105,9 @@ TEST_F(KeyDispatchTest, AShiftKeyAloneLeavesSaveOffAndSwitchesNextSampleOffInThe
     frmMain.Command5[0].SetEnabled(false);
     frmMain.mnuUndo.SetEnabled(false);
     SheetClean = true;
+    const int lines = HistoryCount;
     Key(kShift1);
+    EXPECT_EQ(HistoryCount, lines);
     EXPECT_FALSE(frmMain.Command5[0].Enabled());
     EXPECT_FALSE(frmMain.mnuNext.Enabled());
     EXPECT_TRUE(frmMain.Command5[1].Enabled());

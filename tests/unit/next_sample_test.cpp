@@ -1,6 +1,7 @@
 // A sample that is added to the sheet: its column, its place among the others, and what it takes with it.
 #include "files/next_sample.h"
 
+#include "platform/run_event.h"
 #include "platform/user.h"
 #include "session/totals.h"
 #include "unit/sheet_test.h"
@@ -213,6 +214,17 @@ TEST_F(NextSampleTest, ASheetThatWasReadWith251SamplesCanGrow) {
     NextSample("300");
     EXPECT_EQ(SampleCount, 252);
     EXPECT_EQ(MessageCount(), 0u);
+}
+
+TEST_F(NextSampleTest, PastTheColumnsThatThereAreTheProgramEnds) {
+    Begin("1");
+    GrowTo(254);
+    NextSample("300");
+    EXPECT_EQ(SampleCount, 255);
+    KeyNumber(1);
+    RunEvent([this] { NextSample("301"); });
+    EXPECT_EQ(services_.host.failure, "Subscript out of range");
+    EXPECT_EQ(SampleCount, 255);
 }
 
 TEST_F(NextSampleTest, TheLargestSerialCountsWhereverItStands) {

@@ -91,6 +91,15 @@ TEST_F(UndoTest, GoingToAnotherSampleRenamesNothing) {
     EXPECT_EQ(Counts[1][1], 0);
 }
 
+TEST_F(UndoTest, SamplesOfOneNameAreToldApartByTheirSerial) {
+    KeyNumber(1);
+    NextSample("20");
+    SampleTable[2][1] = "20";
+    Undo();
+    EXPECT_EQ(CurrentSample, 1);
+    EXPECT_EQ(frmMain.Label4.Caption(), "1/2");
+}
+
 TEST_F(UndoTest, ItSoundsTheAlarmOneAboveAHundredAndAt1) {
     struct {
         int total;

@@ -140,7 +140,7 @@ class Program:
     def save_as(self, path):
         """The save key, and the name into the dialog that it opens. Returns the saved bytes."""
         self.press(SAVE)
-        self.desk.window(r"(?i)^save")
+        self.desk.window("^Save as$")
         self.desk.xdotool("type", "--delay", 20, str(path))
         self.desk.xdotool("key", "Return")
         wait_for(f"the file {path}", lambda: path.exists() and path.stat().st_size)
