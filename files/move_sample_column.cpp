@@ -26,6 +26,21 @@ void MoveCounts(int slot) {
     MoveInRow(Counts[slot]);
 }
 
+// Where a column stands after the move.
+std::int16_t MovedPlace(std::int16_t column) {
+    if (column == MoveFrom) return MoveTo;
+    if (MoveFrom < column && column <= MoveTo) return static_cast<std::int16_t>(column - 1);
+    if (MoveTo <= column && column < MoveFrom) return static_cast<std::int16_t>(column + 1);
+    return column;
+}
+
+// The sample on show stays on show, and what is undone later is taken back where it was counted.
+void FollowSamples() {
+    CurrentSample = MovedPlace(CurrentSample);
+    for (auto& entry : UndoList)
+        if (entry[1] != 0) entry[0] = MovedPlace(entry[0]);
+}
+
 void RefillSampleList() {
     ComboBox& list = frmMain.Combo2;
     const std::string shown = CurrentSample == MoveTo ? SampleTable[2][MoveTo].Text() : list.Text();
@@ -44,7 +59,7 @@ void MoveSampleColumnUnseen() {
     }
     for (int p = 1; p <= kParams; ++p) MoveInRow(ParamValues[p]);
     MoveInRow(SampleNotes);
-    if (CurrentSample == MoveFrom) CurrentSample = MoveTo;
+    FollowSamples();
     frmMain.Command5[0].SetEnabled(true);
     RefillSampleList();
 }

@@ -36,13 +36,17 @@ bool HoldsFocus(const Control& box) {
     return box.window == ActiveWindow() && box.window->Focus() == &box && CanReach(box);
 }
 
-// A box that waits for the release of keys takes keys for themselves: dead keys too, which an input method would keep.
+bool TakesKeysAsInput(const Control& control) {
+    return control.kind() == Kind::TextBox && control.KeyUp.IsJoined();
+}
+
+// An input method would keep dead keys to itself.
 void PrepareEditor(QWidget& editor, const Control& box) {
     editor.setFocusPolicy(Qt::NoFocus);
     editor.setContextMenuPolicy(Qt::PreventContextMenu);
     editor.setAcceptDrops(false);
     editor.setAccessibleName(ToQt(box.accessible_name));
-    if (box.KeyUp.IsJoined()) editor.setAttribute(Qt::WA_InputMethodEnabled, false);
+    if (TakesKeysAsInput(box)) editor.setAttribute(Qt::WA_InputMethodEnabled, false);
 }
 
 QPalette EditorPalette(const Control& box) {

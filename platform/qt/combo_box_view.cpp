@@ -31,9 +31,12 @@ void ComboBoxView::ShowContent(Changes changes) {
     if (changes.Has(Property::Items) && list_ && list_->isVisible()) list_->ShowItems();
 }
 
+// A press on the arrow is over when the list opens, for the list has the mouse then.
 void ComboBoxView::Press(const Mouse& mouse, QPointF at) {
     ControlWidget::Press(mouse, at);
-    if (mouse.button == MouseButton::Left && at.x() >= line_->geometry().right() && CanReach(box_)) OpenList();
+    if (mouse.button != MouseButton::Left || at.x() < line_->geometry().right() || !CanReach(box_)) return;
+    ReleaseMouse(box_, mouse);
+    OpenList();
 }
 
 ComboList& ComboBoxView::OpenList() {

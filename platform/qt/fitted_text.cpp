@@ -7,37 +7,55 @@ namespace {
 constexpr double kLittleLess = 0.85;  // of the font, before lines are broken where there is room for two
 constexpr double kLeast = 0.7;        // of the font, before they are broken where there is not
 constexpr double kSmall = 0.55;       // of the font, before words are
+constexpr int kNarrow[] = {85, 70};   // percent of their width, for letters that would else be too small
 constexpr int kSmallestPixels = 6;    // nobody reads less
+constexpr int kBeyondAnyLine = 500;   // characters
 constexpr double kTight = 0.9;        // several lines stand closer than single ones
+
+// How many characters go in a line; a long text is not measured beyond it.
+qsizetype CharactersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
+    const auto fit = [&](qsizetype count) { return metrics.horizontalAdvance(text.left(count)) <= width; };
+    qsizetype fits = 0, beyond = 16;
+    while (beyond <= text.size() && fit(beyond)) {
+        fits = beyond;
+        beyond *= 2;
+    }
+    beyond = std::min(beyond, text.size() + 1);
+    while (beyond - fits > 1) {
+        const qsizetype middle = (fits + beyond) / 2;
+        (fit(middle) ? fits : beyond) = middle;
+    }
+    return fits;
+}
 
 // How much of `text` goes in one line, broken between words if that is possible. 0: its first word is too long. A break at a blank is
 // taken before a later one behind a hyphen, if the rest then goes in the next line.
 qsizetype WordsThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
-    qsizetype fits = 0;
-    while (fits < text.size() && metrics.horizontalAdvance(text.left(fits + 1)) <= width) ++fits;
+    const qsizetype fits = CharactersThatFit(text, metrics, width);
     if (fits == text.size()) return fits;
+    const auto rest_fits = [&](qsizetype end) { return CharactersThatFit(text.mid(end), metrics, width) == text.size() - end; };
     qsizetype behind_hyphen = 0;
     for (qsizetype end = fits; end > 0; --end) {
-        if (text[end] == u' ' && (behind_hyphen == 0 || metrics.horizontalAdvance(text.mid(end + 1)) <= width)) return end;
+        if (text[end] == u' ' && (behind_hyphen == 0 || rest_fits(end + 1))) return end;
         if (behind_hyphen == 0 && text[end - 1] == u'-' && text[end].isLetter()) behind_hyphen = end;
     }
     return behind_hyphen;
 }
 
-qsizetype LettersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
-    qsizetype fits = 1;
-    while (fits < text.size() && metrics.horizontalAdvance(text.left(fits + 1)) <= width) ++fits;
-    return fits;
-}
-
 double Pitch(const QFontMetricsF& metrics, qsizetype lines) {
     return (metrics.ascent() + metrics.descent()) * (lines > 1 ? kTight : 1);
 }
+
+// A single line may stand over: it is the height of the box that is meant for it.
+bool IsTooHigh(const QFontMetricsF& metrics, qsizetype lines, double height) {
+    return lines > 1 && Pitch(metrics, lines) * static_cast<double>(lines) > height + 1;
+}
 }  // namespace
 
-bool FittedText::FitAt(const Question& question, int pixels, Break where, Layout& layout) {
+bool FittedText::FitAt(const Question& question, int pixels, Break where, Layout& layout, int stretch) {
     QFont font = question.font;
     font.setPixelSize(pixels);
+    font.setStretch(stretch);
     const QFontMetricsF metrics(font);
     const double width = question.room.width();
     const int most = where == Break::Never ? 1 : question.most_lines;
@@ -45,39 +63,62 @@ bool FittedText::FitAt(const Question& question, int pixels, Break where, Layout
     for (QString rest : question.text.split(u'\n')) do {
             qsizetype length = WordsThatFit(rest, metrics, width);
             if (length == 0 && !rest.isEmpty() && where != Break::Anywhere) return false;
-            if (length == 0) length = LettersThatFit(rest, metrics, width);
+            if (length == 0) length = std::max<qsizetype>(CharactersThatFit(rest, metrics, width), 1);
             lines << rest.left(length).trimmed();
-            if (lines.size() > most) return false;
+            if (lines.size() > most || IsTooHigh(metrics, lines.size(), question.room.height())) return false;
             rest = rest.mid(length).trimmed();
         } while (!rest.isEmpty());
-    const double pitch = Pitch(metrics, lines.size());
-    if (lines.size() > 1 && pitch * static_cast<double>(lines.size()) > question.room.height() + 1) return false;
-    layout = {std::move(lines), font, pitch};
+    layout = {std::move(lines), font, Pitch(metrics, lines.size())};
     return true;
 }
 
-bool FittedText::FitLines(const Question& question, int largest, int smallest, Break where, Layout& layout) {
+bool FittedText::FitLines(const Question& question, int largest, int smallest, Break where, Layout& layout, int stretch) {
     for (int pixels = largest; pixels >= smallest; --pixels)
-        if (FitAt(question, pixels, where, layout)) return true;
+        if (FitAt(question, pixels, where, layout, stretch)) return true;
     return false;
+}
+
+bool FittedText::FitNarrow(const Question& question, int largest, int smallest, Layout& layout) {
+    for (const int stretch : kNarrow)
+        for (const Break where : {Break::BetweenWords, Break::Never})
+            if (FitLines(question, largest, smallest, where, layout, stretch)) return true;
+    return false;
+}
+
+// As many lines as there is room for; dots stand for the rest.
+FittedText::Layout FittedText::Cut(const Question& question, int pixels) {
+    QFont font = question.font;
+    font.setPixelSize(pixels);
+    const QFontMetricsF metrics(font);
+    const double width = question.room.width();
+    const int rows = std::clamp(static_cast<int>((question.room.height() + 1) / Pitch(metrics, 2)), 1, question.most_lines);
+    QStringList lines;
+    QString rest = question.text;
+    while (!rest.isEmpty() && lines.size() < rows - 1) {
+        const QString line = rest.section(u'\n', 0, 0);
+        qsizetype length = WordsThatFit(line, metrics, width);
+        if (length == 0 && !line.isEmpty()) length = std::max<qsizetype>(CharactersThatFit(line, metrics, width), 1);
+        lines << line.left(length).trimmed();
+        rest = length == line.size() ? rest.mid(length + 1) : rest.mid(length).trimmed();
+    }
+    if (!rest.isEmpty()) lines << metrics.elidedText(rest.left(kBeyondAnyLine).replace(u'\n', u' '), Qt::ElideRight, width);
+    return {lines, font, Pitch(metrics, lines.size())};
 }
 
 FittedText::Layout FittedText::Fit(const Question& question) {
     const int full = question.font.pixelSize();
     const auto part = [full](double of_full) { return std::max(std::min(full, kSmallestPixels), static_cast<int>(full * of_full)); };
-    const bool has_room_for_two = question.most_lines > 1 && 2 * Pitch(QFontMetricsF(question.font), 2) <= question.room.height();
+    const double line = Pitch(QFontMetricsF(question.font), 2);
+    const bool has_room_for_two = question.most_lines > 1 && 2 * line <= question.room.height();
+    const bool is_for_reading = question.most_lines > 2 && 3 * line <= question.room.height();  // a note: rather cut than tiny
     Layout layout;
     if (FitLines(question, full, part(has_room_for_two ? kLittleLess : kLeast), Break::Never, layout) ||
         FitLines(question, full, part(kLeast), Break::BetweenWords, layout) ||
-        FitLines(question, full, part(kLeast), Break::Never, layout) ||
-        FitLines(question, full, part(kSmall), Break::BetweenWords, layout) ||
-        FitLines(question, full, std::min(full, kSmallestPixels), Break::Anywhere, layout))
+        FitLines(question, full, part(kLeast), Break::Never, layout) || FitNarrow(question, full, part(kLeast), layout) ||
+        (!is_for_reading && FitLines(question, full, part(kSmall), Break::BetweenWords, layout)) ||
+        FitLines(question, full, is_for_reading ? part(kLeast) : std::min(full, kSmallestPixels), Break::Anywhere, layout))
         return layout;
-    QFont font = question.font;
-    font.setPixelSize(part(kLeast));
-    const QFontMetricsF small(font);
-    const QString line = QString(question.text).replace(u'\n', u' ');
-    return {{small.elidedText(line, Qt::ElideRight, question.room.width())}, font, Pitch(small, 1)};
+    return Cut(question, part(kLeast));
 }
 
 // In the pixels of the screen: on a dense one sizes between two whole pixels can be had.

@@ -5,6 +5,7 @@
 #include <QMenu>
 
 #include "platform/controls.h"
+#include "platform/qt/box_editing.h"
 #include "platform/qt/combo_list.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/key_walk.h"
@@ -100,7 +101,7 @@ void KeyFilter::Press(QKeyEvent& key) {
     if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { PressKey(*code); });
     if (!window || window != ActiveWindow() || window->Focus() != focus) return;
     if (focus && (IsSink(*focus) || !CanReach(*focus))) return;
-    const bool used_as_input = focus && (focus->KeyUp.IsJoined() || TheRenderer().TextChanges() != text_changes);
+    const bool used_as_input = focus && (TakesKeysAsInput(*focus) || TheRenderer().TextChanges() != text_changes);
     if (IsWalk(key)) {
         if (!used_as_input && (!window->key_preview || (focus && TakesText(*focus)))) WalkFocus(*window, key);
         return;

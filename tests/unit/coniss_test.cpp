@@ -10,7 +10,7 @@
 #include "windows/main_window.h"
 
 namespace {
-// The method step by step as it is told in the laboratory: every distance is computed anew at every step, every cluster is moved up.
+// The method in its plainest form: every distance is computed anew at every step, every cluster below moves up by one.
 struct PlainWay {
     int count = SampleCount;
     std::vector<std::vector<float>> data{kSlots + 1, std::vector<float>(count + 2)};  // [slot][cluster]

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "diagram/coniss.h"
 #include "diagram/layout.h"
 #include "diagram/open_diagram.h"
 #include "diagram/percentages.h"
@@ -267,12 +268,14 @@ TEST_F(DiagramWindowTest, ChosenOnceMoreABasisDrawsButDoesNotClusterAnew) {
     ClickControl(frmDiagram.nmuConiss);
     AlarmArmed = false;
     Counts[1][1] = 400;
+    const std::vector<float> merges = MergeHeight;
     ClickControl(frmDiagram.mnuAll);
     EXPECT_TRUE(AlarmArmed);
     EXPECT_TRUE(frmDiagram.mnuAll.Checked());
     EXPECT_EQ(Counts[0][1], 460);
-    const auto before = frmDiagram.Picture2.Operations().size();
-    EXPECT_EQ(before, frmDiagram.Picture2.PersistentCount());
+    EXPECT_EQ(MergeHeight, merges);
+    ClickControl(frmDiagram.mnuSub1);
+    EXPECT_NE(MergeHeight, merges);
 }
 
 TEST_F(DiagramWindowTest, ClosingItTakesThePointerOffTheLine) {

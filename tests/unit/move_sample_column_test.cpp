@@ -148,4 +148,26 @@ TEST_F(MoveSampleColumnTest, ABareValueStaysBare) {
     Move(1, 2);
     EXPECT_TRUE(ParamValues[1][2].IsNumber());
 }
+TEST_F(MoveSampleColumnTest, ASampleOnShowBetweenTheTwoPlacesGoesAlongWithItsColumn) {
+    Fill(4);
+    CurrentSample = 2;
+    frmMain.Combo2.SetText("A2");
+    Move(4, 1);
+    EXPECT_EQ(CurrentSample, 3);
+    EXPECT_EQ(SampleTable[2][CurrentSample].Text(), "A2");
+    Move(1, 4);
+    EXPECT_EQ(CurrentSample, 2);
+    EXPECT_EQ(frmMain.Combo2.Text(), "A2");
+}
+
+TEST_F(MoveSampleColumnTest, WhatIsUndoneLaterBelongsToTheSampleWhereItWasCounted) {
+    Fill(4);
+    UndoList[0][0] = 4;
+    UndoList[0][1] = 7;
+    UndoList[1][0] = 1;
+    UndoList[1][1] = -3;
+    Move(4, 2);
+    EXPECT_EQ(UndoList[0][0], 2);
+    EXPECT_EQ(UndoList[1][0], 1);
+}
 }  // namespace
