@@ -6,9 +6,9 @@ namespace {
 constexpr int kPictureLeft = 420;
 constexpr int kPictureWidth = 7425;  // names stand 0.99 pixels a unit: 495 pixels bring them over their columns
 constexpr int kNamesTop = 470;
-constexpr int kNamesHeight = 1650;
+constexpr int kNamesHeight = 2130;  // 25 letters
 constexpr int kPictureTop = kNamesTop + kNamesHeight;
-constexpr int kPictureHeight = 4560;
+constexpr int kPictureHeight = 4080;
 constexpr int kTreeWidth = 2000;
 constexpr int kSelectorLeft = 8115;
 constexpr int kSelectorWidth = kDiagramWidth - kDiagramRightEdge - kSelectorLeft;

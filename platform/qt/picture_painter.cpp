@@ -9,6 +9,7 @@
 
 namespace {
 constexpr double kPixelsPerPoint = 20.0 / 15;
+constexpr double kNameWidth = 5;     // of a letter on the average, in pixels of the program
 constexpr double kNameSize = 10.5;  // pixels of the program: letters that stand in a row 12 high
 
 class OperationPainter {
@@ -100,6 +101,7 @@ private:
         painter_.save();
         painter_.translate(name.x1 * scale_.pixel, name.y1 * scale_.pixel);
         painter_.rotate(-90);
+        painter_.scale(std::min(1.0, kNameWidth * scale_.pixel / QFontMetricsF(painter_.font()).averageCharWidth()), 1);
         painter_.drawText(QPointF(0, painter_.fontMetrics().ascent()), ToQt(name.text));
         painter_.restore();
     }
