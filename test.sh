@@ -16,12 +16,13 @@ Fail() {
     exit 1
 }
 
-UnitTests() {  # in the words of the other runs
+UnitTests() {  # of this program, in the words of the other runs
     local status=0 ran ok
-    timeout 600 build/sanitize/bin/unit_tests --gtest_brief=1 >build/unit_tests.log 2>&1 || status=$?
-    ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran.*/\1/p' build/unit_tests.log)
-    ok=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}.*/\1/p' build/unit_tests.log)
-    [ "$status" = 0 ] || cat build/unit_tests.log
+    local log=build/$(basename "$1").log
+    QT_QPA_PLATFORM=offscreen timeout 600 "$1" --gtest_brief=1 >"$log" 2>&1 || status=$?
+    ran=$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran.*/\1/p' "$log")
+    ok=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}.*/\1/p' "$log")
+    [ "$status" = 0 ] || cat "$log"
     [ -n "$ran" ] && echo "${ok:-0} passed, $((ran - ${ok:-0})) failed"
     return "$status"
 }
@@ -49,9 +50,10 @@ packaging/debian-packages.sh "${packages[@]}"  # it and the next say themselves 
 packaging/build.sh "${presets[@]}"
 
 export ASAN_OPTIONS=${ASAN_OPTIONS:-exitcode=99} UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
-Tally "Unit tests" UnitTests
+Tally "Unit tests" UnitTests build/sanitize/bin/unit_tests
 Tally "Scripts" tests/run_scripts.sh build/sanitize/bin/marlbrook-drive tests/scripts
 if [ "${1:-}" != --quick ]; then
+    Tally "Unit tests of the toolkit layer" UnitTests build/release/bin/unit_tests_qt
     Tally "Scripts on windows" tests/run_scripts.sh build/release/bin/marlbrook-drive --windows tests/scripts
     Tally "Demonstration" Demo
     if [ -x tests/windows/run_all.sh ]; then Tally "The real window" tests/windows/run_all.sh; fi

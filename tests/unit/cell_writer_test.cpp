@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -56,6 +57,19 @@ TEST(CellWriterTest, NothingInATextIsEscaped) {
 TEST(CellWriterTest, ANumberIsBareAndPlain) {
     EXPECT_EQ(Written({{-3, 12.5, 0.05, 98.0392, 9999, 1e20, 0.1 + 0.2, -0.0}}),
               "-3,12.5,0.05,98.0392,9999,100000000000000000000,0.3,0\r\n");
+}
+
+TEST(CellWriterTest, ACountIsWrittenLikeAnyNumber) {
+    for (const std::int32_t count : {0, 7, -1, 2147483647, std::numeric_limits<std::int32_t>::min()}) {
+        RecordingFile file;
+        CellWriter writer(file);
+        writer.Write("Pinus");
+        writer.WriteCount(count);
+        writer.WriteCount(count);
+        writer.EndRow();
+        writer.Close();
+        EXPECT_EQ(file.Bytes, Written({{"Pinus", count, count}}));
+    }
 }
 
 TEST(CellWriterTest, ALastRowMayStayOpen) {

@@ -121,14 +121,19 @@ TEST_F(MissingFilesTest, ASecondFreshSheetIsAsFreshAsTheFirst) {
     KeyNumber(1);
     SaveAs("/sheets/Mere.csv");
     ShowSample(1);
+    UndoKeyState = 2;
+    ShiftLevel = 1;
+    ReverseCount = Shift1Down = Shift2Down = SampleNamesAreText = true;
     InitialiseSheet();
+    EXPECT_EQ(UndoKeyState, 0);
+    EXPECT_EQ(ShiftLevel, 0);
+    EXPECT_FALSE(ReverseCount || Shift1Down || Shift2Down || SampleNamesAreText);
     EXPECT_EQ(SampleCount, 1);
     EXPECT_EQ(CurrentSample, 1);
     EXPECT_EQ(SheetPath, "");
     EXPECT_TRUE(SaveAsPending);
     EXPECT_TRUE(SheetClean);
     EXPECT_TRUE(SampleUntouched);
-    EXPECT_EQ(frmMain.Label4.Caption(), "1/1");
     EXPECT_EQ(frmMain.Text1[0].Text(), "-9999");
     EXPECT_EQ(frmMain.Combo2.Text(), "-9999");
     EXPECT_EQ(frmMain.Combo2.ListCount(), 0);
@@ -141,6 +146,14 @@ TEST_F(MissingFilesTest, ASecondFreshSheetIsAsFreshAsTheFirst) {
     EXPECT_FALSE(frmMain.Command5[0].Enabled());
     EXPECT_FALSE(frmMain.mnuBar.Enabled()) << "one sample makes no diagram";
     EXPECT_EQ(Counts[1][2], 1) << "columns beyond the first are not wiped";
+}
+
+TEST_F(MissingFilesTest, AFreshSheetReads1Of1WhateverTheOneBeforeHeld) {
+    Begin("10");
+    KeyNumber(1);
+    NextSample("20");
+    InitialiseSheet();
+    EXPECT_EQ(frmMain.Label4.Caption(), "1/1");
 }
 
 TEST_F(MissingFilesTest, AFreshSheetInModifyModeLeavesTheTab) {

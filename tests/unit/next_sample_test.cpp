@@ -87,9 +87,9 @@ TEST_F(NextSampleTest, ANewNameGoesBehindItsEqualsAndNegativesToTheFront) {
         KeyNumber(1);
     }
     EXPECT_EQ(Names(), (Texts{"-30", "-2.5", "0", "9.9", "10", "100"}));
-    SampleTable[2][5] = "100";  // renamed since
+    SampleTable[2][5] = "50.0";  // renamed since
     NextSample("50");
-    EXPECT_EQ(Names(), (Texts{"-30", "-2.5", "0", "9.9", "50", "100", "100"}));
+    EXPECT_EQ(Names(), (Texts{"-30", "-2.5", "0", "9.9", "50.0", "50", "100"}));
 }
 
 TEST_F(NextSampleTest, OneTextAmongTheNamesEndsAllOrdering) {
@@ -252,5 +252,16 @@ TEST_F(NextSampleTest, TheStateThatResetGoesBackToHasTheColumn) {
     ASSERT_EQ(CountsAtOpen.size(), 3u);
     EXPECT_EQ(CountsAtOpen[1][1], 3);
     EXPECT_EQ(CountsAtOpen[2][1], 0);
+}
+
+TEST_F(NextSampleTest, AFirstNameEmptiesWhatWasCountedBeforeIt) {
+    Start();
+    CloseWindow(frmNext);
+    KeyNumber(1, 3);
+    NextSample("10");
+    EXPECT_EQ(SampleCount, 1);
+    EXPECT_EQ(Counts[1][1], 0);
+    EXPECT_EQ(CountsAtOpen[1][1], 0);
+    EXPECT_EQ(frmMain.Text3[0].Text(), "0");
 }
 }  // namespace

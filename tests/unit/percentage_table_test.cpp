@@ -103,6 +103,9 @@ TEST_F(PercentageTableTest, TheBasisStaysChosenAndArmsTheAlarm) {
     EXPECT_TRUE(frmMain.Option1[2].Value());
     EXPECT_FALSE(frmMain.Option1[0].Value() || frmMain.Option1[1].Value());
     EXPECT_TRUE(AlarmArmed);
+    AlarmArmed = false;
+    Save(frmMain.mnuPercentSub2);
+    EXPECT_TRUE(AlarmArmed) << "of the basis that was chosen already";
     Save(frmMain.mnuPercentAll);
     EXPECT_TRUE(frmMain.Option1[0].Value());
 }

@@ -109,6 +109,22 @@ TEST_F(SaveTargetTest, MenuAndButtonKeepTheSheetAsTheStateThatResetGoesBackTo) {
     KeyNumber(1);
     CheckIfReallyEnd();
     EXPECT_EQ(CountsAtOpen[1][1], 4);
+    KeyNumber(1);
+    Key(kSaveKey);
+    EXPECT_EQ(CountsAtOpen[1][1], 5);
+}
+
+TEST_F(SaveTargetTest, TheyKeepItEvenIfTheDialogIsDroppedAndSaveAsKeepsNothing) {
+    for (Control* command : std::initializer_list<Control*>{&frmMain.Command5[0], &frmMain.mnuSave}) {
+        KeyNumber(1);
+        CancelDialog();
+        ClickControl(*command);
+        EXPECT_EQ(CountsAtOpen[1][1], Counts[1][1]) << command->name;
+    }
+    KeyNumber(1);
+    AnswerDialog("/sheets/Mere.csv");
+    ClickControl(frmMain.mnuSaveAs);
+    EXPECT_EQ(CountsAtOpen[1][1], 3);
 }
 
 TEST_F(SaveTargetTest, APathThatGivesTheWindowNoNameIsAFailedSave) {

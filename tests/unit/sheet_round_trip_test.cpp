@@ -115,7 +115,7 @@ protected:
     static std::string WithoutPath(const std::string& bytes) { return bytes.substr(bytes.find(',')); }
 };
 
-TEST_F(RoundTripTest, ASheet) {
+TEST_F(RoundTripTest, ASheetComesBackAsTheSameBytes) {
     for (unsigned seed = 1; seed <= kSeeds; ++seed) {
         Fill(seed);
         SheetPath = kPath;
@@ -155,7 +155,7 @@ TEST_F(RoundTripTest, EveryCellComesBackAsItWas) {
     }
 }
 
-TEST_F(RoundTripTest, ABackUpButForItsPath) {
+TEST_F(RoundTripTest, ABackUpComesBackTheSameButForItsPath) {
     const std::string folder = "/program/References/Back up files/";
     for (unsigned seed = 1; seed <= kSeeds; ++seed) {
         Fill(seed);
@@ -167,7 +167,7 @@ TEST_F(RoundTripTest, ABackUpButForItsPath) {
     }
 }
 
-TEST_F(RoundTripTest, ATemplate) {
+TEST_F(RoundTripTest, ATemplateComesBackAsTheSameBytes) {
     for (unsigned seed = 1; seed <= kSeeds; ++seed) {
         Fill(seed);
         SheetPath = kPath;
@@ -182,7 +182,7 @@ TEST_F(RoundTripTest, ATemplate) {
     }
 }
 
-TEST_F(RoundTripTest, AnOlderSheetOnceItHasBeenSaved) {
+TEST_F(RoundTripTest, AnOlderSheetComesBackOnceItHasBeenSaved) {
     ASSERT_TRUE(Open(OlderSheet(3)));
     SaveSheet(kSave);
     const std::string saved = files_.bytes[kPath];
@@ -191,7 +191,7 @@ TEST_F(RoundTripTest, AnOlderSheetOnceItHasBeenSaved) {
     EXPECT_EQ(files_.bytes[kPath], saved);
 }
 
-TEST_F(RoundTripTest, AnAccentWhoseBytesWouldBeAnother) {
+TEST_F(RoundTripTest, AnAccentWhoseBytesWouldBeAnotherComesBack) {
     ASSERT_TRUE(Open(DataSheet(1)));
     frmMain.Text1[1].SetText("\u00c3\u00a9");  // in Windows-1252 the two bytes that are an e with an acute accent in UTF-8
     SaveSheet(kSave);

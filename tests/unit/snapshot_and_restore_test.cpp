@@ -87,6 +87,7 @@ TEST_F(SnapshotAndRestoreTest, WithoutASampleThereIsNothingToKeep) {
     KeyNumber(1, 3);
     SampleCount = 0;
     SnapshotSheet();
+    ASSERT_EQ(CountsAtOpen.size(), 2u);
     EXPECT_EQ(CountsAtOpen[1][1], 0);
 }
 

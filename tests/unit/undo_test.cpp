@@ -91,6 +91,20 @@ TEST_F(UndoTest, GoingToAnotherSampleRenamesNothing) {
     EXPECT_EQ(Counts[1][1], 0);
 }
 
+TEST_F(UndoTest, NoteAndAdditionalInfoOfTheSampleBroughtBackAreOnShow) {
+    frmMain.Text4.SetText("sand");
+    frmMain.Text5[1].SetText("14 m");
+    KeyNumber(1);
+    NextSample("20");
+    frmMain.Text4.SetText("clay");
+    Undo();
+    EXPECT_EQ(frmMain.Text4.Text(), "sand");
+    EXPECT_EQ(frmMain.Text5[1].Text(), "14 m");
+    SaveAs("/sheets/Mere.csv");
+    EXPECT_EQ(SampleNotes[1], "sand\r\nLast saved: 14/11/2026 (10:11:12)");
+    EXPECT_EQ(SampleNotes[2], "clay");
+}
+
 TEST_F(UndoTest, SamplesOfOneNameAreToldApartByTheirSerial) {
     KeyNumber(1);
     NextSample("20");

@@ -102,6 +102,15 @@ TEST_F(WindowTest, AWindowThatShowsAnotherWhileItBecomesActiveStandsBehindIt) {
     EXPECT_EQ(ShownWindows(), (std::vector<Window*>{&window_a, &window_b}));
 }
 
+TEST_F(WindowTest, AWindowThatIsLeftMayBringUpAnother) {
+    window_a.Show();
+    window_a.entry.LostFocus.Calls([] { window_c.Show(); });
+    Take();
+    window_b.Show();
+    EXPECT_EQ(ActiveWindow(), &window_c);
+    EXPECT_EQ(Take(), (Log{"B loaded", "C loaded", "C got", "C active"})) << "B was never in front";
+}
+
 TEST_F(WindowTest, UnloadBringsTheDesignBack) {
     window_a.Show();
     window_a.SetTitle("other");

@@ -38,15 +38,15 @@ def wait_for(what, condition):
 class Desk:
     """An X display with a window manager and a keyboard layout."""
 
-    def __init__(self, size="1366x768", layout="us"):
+    def __init__(self, size="1366x768", layout="us", variant=""):
         read, write = os.pipe()
         self.processes = []
-        self._start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp"], pass_fds=[write])
+        self._start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"], pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as number:
             self.env = dict(os.environ, DISPLAY=":" + number.readline().strip(), QT_QPA_PLATFORM="xcb")
         self._start(["openbox"], env=self.env)
-        self.run("setxkbmap", layout)
+        self.use_layout(layout, variant)
         self.run("xset", "r", "rate", "200", "50")
 
     def _start(self, command, **options):
@@ -56,6 +56,9 @@ class Desk:
 
     def run(self, *command):
         return subprocess.run(command, env=self.env, capture_output=True, text=True, check=False).stdout
+
+    def use_layout(self, layout, variant=""):
+        self.run("setxkbmap", "-layout", layout, "-variant", variant)
 
     def xdotool(self, *words):
         return self.run("xdotool", *[str(word) for word in words])
@@ -93,8 +96,17 @@ class Program:
         if not first_run:
             self._know_keyboard()
         self.sound = self.work / "sound.raw"
-        env = dict(desk.env, SDL_AUDIODRIVER="disk", SDL_DISKAUDIOFILE=str(self.sound), HOME=str(self.work), **dict(environment))
-        self.process = desk._start([str(self.folder / "marlbrook")], env=env, cwd=self.work)
+        own_places = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": str(self.sound), "HOME": str(self.work)}
+        self.env = {**desk.env, **own_places, **dict(environment)}
+        self._start()
+
+    def _start(self):
+        self.process = self.desk._start([str(self.folder / "marlbrook")], env=self.env, cwd=self.work)
+
+    def restart(self):
+        self.process.terminate()
+        self.process.wait(timeout=10)
+        self._start()
 
     def _know_keyboard(self):
         settings = self.folder / "References/KeySetting.csv"
@@ -103,15 +115,21 @@ class Program:
             text = text.replace(",999,", f",{code},", 1)
         settings.write_bytes(text.encode())
 
-    def click(self, window, size, x, y):
-        """Clicks at x, y of a window without menu bar; size is its design in twips, as are x and y."""
+    def point(self, window, size, x, y, menu_bar=False):
+        """The pixels of x, y in a window; size is its design in twips, as are x and y."""
         shape = self.desk.xdotool("getwindowgeometry", "--shell", window)
         width = int(re.search(r"WIDTH=(\d+)", shape).group(1))
         height = int(re.search(r"HEIGHT=(\d+)", shape).group(1))
         factor = min(width / size[0], height / size[1])
-        left, top = (width - size[0] * factor) / 2, (height - size[1] * factor) / 2
-        self.desk.xdotool("mousemove", "--window", window, round(left + x * factor), round(top + y * factor), "click", 1)
+        left, top = (width - size[0] * factor) / 2, (height - size[1] * factor) / (1 if menu_bar else 2)
+        return round(left + x * factor), round(top + y * factor)
+
+    def click(self, window, size, x, y, menu_bar=False):
+        self.desk.xdotool("mousemove", "--window", window, *self.point(window, size, x, y, menu_bar), "click", 1)
         time.sleep(0.1)
+
+    def click_main(self, x, y):
+        self.click(self.main, (11400, 7980), x, y, menu_bar=True)
 
     def begin(self, name):
         """From the start face to a first sample of this name; the main window then has the keyboard."""
@@ -137,18 +155,18 @@ class Program:
     def release(self, *codes):
         self.desk.xdotool(*[word for code in codes for word in ("keyup", code, "sleep", 0.02)])
 
-    def save_as(self, path):
+    def save_as(self, path, key=SAVE):
         """The save key, and the name into the dialog that it opens. Returns the saved bytes."""
-        self.press(SAVE)
+        self.press(key)
         self.desk.window("^Save as$")
         self.desk.xdotool("type", "--delay", 20, str(path))
         self.desk.xdotool("key", "Return")
         wait_for(f"the file {path}", lambda: path.exists() and path.stat().st_size)
         return path.read_bytes()
 
-    def save_again(self, path):
+    def save_again(self, path, key=SAVE):
         before = path.stat().st_mtime_ns
-        self.press(SAVE)
+        self.press(key)
         wait_for(f"a newer {path}", lambda: path.stat().st_mtime_ns != before and path.stat().st_size)
         return path.read_bytes()
 

@@ -1,0 +1,54 @@
+"""A computer without a sound device: the work goes on as it always does, in silence and without a word."""
+import signal
+import time
+import unittest
+
+from desk import PAD, Desk, Program, wait_for
+
+NO_DEVICE = {"SDL_AUDIODRIVER": "no-such-driver"}
+ALL_TOTAL = '"---","---","---","All total",'
+
+
+class SoundDeviceTest(unittest.TestCase):
+    def setUp(self):
+        self.desk = Desk()
+        self.addCleanup(self.desk.close)
+        self.program = Program(self.desk, environment=NO_DEVICE)
+        self.addCleanup(self.program.end)
+        self.program.begin("1")
+        wait_for("the main window alone", lambda: self.windows_on_show() == ["Marlbrook 2.7.5"])
+
+    def windows_on_show(self):
+        """Their names, as the window manager lists them: whatever the program shows is one of them."""
+        listed = self.desk.run("xprop", "-root", "-notype", "_NET_CLIENT_LIST").partition("# ")[2]
+        return [self.desk.xdotool("getwindowname", window).strip() for window in listed.split(", ")]
+
+    def test_counting_the_back_up_at_a_hundred_and_saving_go_on(self):
+        program = self.program
+        back_ups = program.folder / "References/Back up files"
+        program.press(*(PAD + PAD + PAD[:9]), delay=2)
+        path = program.work / "silent.csv"
+        self.assertIn(ALL_TOTAL + "99", program.save_as(path).decode())
+        self.assertEqual(list(back_ups.iterdir()), [])
+        program.press(PAD[9])
+        self.assertIn(ALL_TOTAL + "100", program.save_again(path).decode())
+        self.assertEqual([file.name for file in back_ups.iterdir()], ["Master_back_up.csv"])
+        saved = path.read_bytes().decode().split("\r\n")
+        counts = [3] * 10 + [2] * 35 + [0] * 90
+        self.assertEqual(saved[2:137], [f'{slot},0,0,"---",{count}' for slot, count in enumerate(counts, 1)])
+        backed_up = (back_ups / "Master_back_up.csv").read_bytes().decode().split("\r\n")
+        self.assertEqual(backed_up[2:137], saved[2:137], "the hundredth count is in the back-up")
+        self.assertFalse(program.sound.exists())
+        self.assertEqual(self.windows_on_show(), ["Marlbrook 2.7 - [silent]"])
+
+    def test_a_call_to_end_is_followed_at_once(self):
+        self.program.press(*PAD[:5])
+        begun = time.monotonic()
+        self.program.process.terminate()
+        self.program.process.wait(timeout=10)
+        self.assertLess(time.monotonic() - begun, 2)
+        self.assertIn(self.program.process.returncode, (0, -signal.SIGTERM))
+
+
+if __name__ == "__main__":
+    unittest.main()
