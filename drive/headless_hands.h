@@ -1,6 +1,6 @@
 // The hands that need no window: each action is told to the windows as data.
 #pragma once
-#include "drive/hands.h"
+#include "platform/hands.h"
 
 class HeadlessHands : public Hands {
 public:

@@ -7,7 +7,7 @@
 #include <ostream>
 #include <string>
 
-#include "drive/hands.h"
+#include "platform/hands.h"
 
 namespace drive {
 

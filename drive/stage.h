@@ -6,7 +6,7 @@
 #include <string>
 
 #include "drive/folders.h"
-#include "drive/hands.h"
+#include "platform/hands.h"
 #include "drive/names.h"
 #include "drive/report.h"
 #include "platform/headless/headless_services.h"

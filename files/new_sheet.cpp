@@ -60,7 +60,6 @@ void NewSheet() {
     const Message question{"Caution!", "This action will abort current data. Do you proceed?", Icon::None, Buttons::YesNo};
     if (services.messages->Show(question) == Answer::Yes) {
         ShowEmptying();
-        MaxSerial = 1;
         InitialiseSheet();
         frmDiagram.Unload();
         DiagramOpen = false;

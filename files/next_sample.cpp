@@ -100,6 +100,7 @@ void ShowSampleFace() {
     frmNext.Label1.SetCaption("Name of the next sample: ");
     frmNext.Command2.SetVisible(false);
     frmNext.Command3.SetVisible(true);
+    frmNext.Text1.SetFocus();  // the start face lies below, and no key should reach its button
 }
 
 void ShowRenameButtons(bool visible) {

@@ -76,5 +76,6 @@ void FillEmptyNotes() {
 
 void TakeShownSample() {
     SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
+    if (!frmMain.KeysEnabled) return;  // the cells show percentages, and no key has counted since they do
     for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
 }

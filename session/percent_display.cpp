@@ -1,6 +1,7 @@
 #include "session/percent_display.h"
 
 #include "diagram/percentages.h"
+#include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/sheet_state.h"
@@ -27,6 +28,7 @@ void ParkCells() {
 void ShowTotalsInPercent() {
     constexpr int kTestedSample = kSlots + 1;
     if (Counts[0][kTestedSample] == 0) return;
+    if (Counts[0][CurrentSample] == 0) throw Failure(kDivisionByZero);
     for (TextBox& total : frmMain.Text3)
         total.SetText(NumberText(RoundHalfEven(Val(total.Text()) * 100 / Counts[0][CurrentSample], 1)));
 }

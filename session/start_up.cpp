@@ -56,6 +56,7 @@ void BeginFirstSample() {
     SampleUntouched = true;
     SampleCount = 1;
     CurrentSample = 1;
+    MaxSerial = 1;
     frmMain.Label4.SetCaption("1/1");
     for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
         style->SetEnabled(false);

@@ -5,15 +5,15 @@ DiagramWindow frmDiagram;
 namespace {
 constexpr int kPictureLeft = 420;
 constexpr int kPictureWidth = 7425;  // names stand 0.99 pixels a unit: 495 pixels bring them over their columns
-constexpr int kNamesTop = 470;
-constexpr int kNamesHeight = 2130;  // 25 letters
+constexpr int kNamesTop = 350;
+constexpr int kNamesHeight = 2105;  // room for 25 letters
 constexpr int kPictureTop = kNamesTop + kNamesHeight;
-constexpr int kPictureHeight = 4080;
+constexpr int kPictureHeight = 4560;
 constexpr int kTreeWidth = 2000;
 constexpr int kSelectorLeft = 8115;
 constexpr int kSelectorWidth = kDiagramWidth - kDiagramRightEdge - kSelectorLeft;
 constexpr int kArrowsWidth = 240;
-constexpr int kStatusHeight = 300;
+constexpr int kStatusHeight = 180;
 }  // namespace
 
 DiagramWindow::DiagramWindow() : Window("frmDiagram", "Diagram", kDiagramWidth, kDiagramHeight) {
@@ -29,17 +29,17 @@ DiagramWindow::DiagramWindow() : Window("frmDiagram", "Diagram", kDiagramWidth, 
 }
 
 void DiagramWindow::PlaceTopRow() {
-    Add(Slider2, "Slider2", -1, nullptr, {kPictureLeft, 60, 2400, 360});
+    Add(Slider2, "Slider2", -1, nullptr, {kPictureLeft, 10, 2400, 330});
     Slider2.SetRange(0, 10);
     Slider2.SetSteps(1, 1);
     Slider2.SetValue(5);
     Slider2.SetToolTip("Horizontal scale");
     Slider2.accessible_name = "Horizontal scale";
-    Add(Command1, "Command1", -1, nullptr, {2940, 80, 960, 320});
+    Add(Command1, "Command1", -1, nullptr, {2940, 25, 960, 300});
     Command1.SetCaption("Last move");
-    Add(Text1, "Text1", -1, nullptr, {3960, 80, 480, 320});
+    Add(Text1, "Text1", -1, nullptr, {3960, 25, 480, 300});
     Text1.accessible_name = "Moved from";
-    Add(Text2, "Text2", -1, nullptr, {4500, 80, 480, 320});
+    Add(Text2, "Text2", -1, nullptr, {4500, 25, 480, 300});
     Text2.accessible_name = "Moved to";
     for (TextBox* box : {&Text1, &Text2}) {
         box->centred = true;
@@ -57,10 +57,10 @@ void DiagramWindow::PlacePictures() {
     Picture2.SetVisible(false);
     Picture2.accessible_name = "Cluster tree";
     const int below = kPictureTop + kPictureHeight;
-    Add(HScroll1, "HScroll1", -1, nullptr, {kPictureLeft, below + 30, kPictureWidth, 270});
+    Add(HScroll1, "HScroll1", -1, nullptr, {kPictureLeft, below + 20, kPictureWidth, 240});
     HScroll1.SetRange(0, 0);
     HScroll1.accessible_name = "Columns in view";
-    Add(Picture3, "Picture3", -1, nullptr, {0, below + 330, kDiagramWidth, 210});
+    Add(Picture3, "Picture3", -1, nullptr, {0, below + 270, kDiagramWidth, 70});
     Picture3.SetBackColor(kFormColour);
     for (PictureBox* picture : {&Picture1, &Picture2, &Picture3, &Picture4}) picture->tab_stop = false;
     Add(StatusBar1, "StatusBar1", -1, nullptr, {0, kDiagramHeight - kStatusHeight, kDiagramWidth, kStatusHeight});

@@ -1,5 +1,7 @@
 #include "platform/qt/control_widget.h"
 
+#include <utility>
+
 #include "platform/qt/look.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/scaling.h"
@@ -104,9 +106,10 @@ bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
 
 bool ControlWidget::TakeMove(const QMouseEvent& event, QPointF at) {
     const MouseButton held = ButtonOf(event.buttons());
-    if (held == MouseButton::None && pressed_ != MouseButton::None) {  // the release went elsewhere
-        pressed_ = MouseButton::None;
+    if (held == MouseButton::None && pressed_ != MouseButton::None) {  // a menu or another program has had the release
+        const MouseButton lost = std::exchange(pressed_, MouseButton::None);
         ShowPressed(false);
+        TheRenderer().Run([&] { Release(MouseAt(lost, at), false); });
     }
     TheRenderer().Run([&] { MoveMouse(control_, MouseAt(held, at)); });
     return held == MouseButton::None || !PassesMouse();

@@ -44,7 +44,7 @@ protected:
     virtual void Release(const Mouse& mouse, bool clicks);
     virtual bool PassesMouse() const { return false; }  // the widget itself answers the mouse too
     virtual void ShowPressed(bool /*pressed*/) {}
-    virtual Mouse MouseAt(MouseButton button, QPointF at) const;  // the other way
+    virtual Mouse MouseAt(MouseButton button, QPointF at) const;  // PlaceOf, the other way round
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -2,13 +2,11 @@
 // a widget. While counting nothing is left for the widgets: a key ends when the program has heard it.
 #pragma once
 #include <QObject>
-#include <QPointer>
 
 #include "platform/window.h"
 
 class QKeyEvent;
 class QWidget;
-class WindowWidget;
 
 class KeyFilter : public QObject {
 public:

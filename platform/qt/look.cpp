@@ -12,6 +12,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "platform/qt/scaled_slider.h"
 #include "platform/qt/scaling.h"
 
 namespace {
@@ -34,21 +35,29 @@ public:
         }
     }
 
-    // The handle of a slider and the arrows of a scroll bar are as large as there is room across.
+    // The arrows of a scroll bar are as large as there is room across.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-        if (!widget || widget->objectName() != kScaledRange) return usual;
-        const int across = std::min(widget->width(), widget->height());
-        switch (metric) {
-            case PM_SliderThickness:
-            case PM_SliderLength:
-                return std::max(usual, across * 4 / 5);
-            case PM_ScrollBarExtent:
-                return std::max(usual, across);
-            default:
-                return usual;
-        }
+        return metric == PM_ScrollBarExtent && IsScaled(widget) ? std::max(usual, std::min(widget->width(), widget->height())) : usual;
     }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const override {
+        const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        if (control != CC_Slider || !slider || !IsScaled(widget)) return QProxyStyle::subControlRect(control, option, part, widget);
+        return part == SC_SliderHandle ? SliderHandle(*slider) : slider->rect;
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        if (control == CC_Slider && slider && IsScaled(widget))
+            PaintSlider(*painter, *slider);
+        else
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+
+private:
+    static bool IsScaled(const QWidget* widget) { return widget && widget->objectName() == kScaledRange; }
 };
 
 QPalette LightPalette() {

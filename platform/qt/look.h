@@ -15,7 +15,7 @@ constexpr QColor kAccent{0x1c, 0x6e, 0x8c};   // what is chosen, pressed, in foc
 constexpr QColor kOutline{0xb4, 0xbc, 0xc4};  // around boxes, buttons and frames
 constexpr QColor kButtonFace{0xfb, 0xfc, 0xfd};
 constexpr QColor kRestingBox{0xe4, 0xe8, 0xeb};    // a white box that takes no text now
-constexpr QColor kRestingWords{0x7c, 0x84, 0x8c};  // captions of what cannot be used now
+constexpr QColor kRestingWords{0x6c, 0x74, 0x7c};  // captions of what cannot be used now
 
 inline constexpr const char* kScaledRange = "scaled range";  // the name of sliders and scroll bars that are drawn in the window's size
 

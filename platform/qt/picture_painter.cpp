@@ -9,7 +9,7 @@
 
 namespace {
 constexpr double kPixelsPerPoint = 20.0 / 15;
-constexpr double kNameWidth = 5;     // of a letter on the average, in pixels of the program
+constexpr double kNameWidth = 5;    // of a letter on the average, in pixels of the program
 constexpr double kNameSize = 10.5;  // pixels of the program: letters that stand in a row 12 high
 
 class OperationPainter {

@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "drive/hands.h"
+#include "platform/hands.h"
 
 // Makes the application object and binds the views, before the program starts; `argc` and `argv` outlive the hands. All services are in
 // place already, but popups, which open for real. `has_ended` tells whether the program has ended.

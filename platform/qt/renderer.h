@@ -5,7 +5,6 @@
 // widgets are made to agree with it after every event. There is one renderer, from before the start of the program to its end.
 #pragma once
 #include <QObject>
-#include <QPointer>
 #include <functional>
 #include <map>
 #include <memory>

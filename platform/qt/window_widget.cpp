@@ -91,9 +91,11 @@ void WindowWidget::ChooseSize() {
     setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor * kSmallest));
     QSize size = CoversScreen() ? here.size() : ClientSize(factor);
     if (!menus_->Bar().isHidden()) size.rheight() += menus_->Bar().heightForWidth(size.width());
-    const QPoint middle = geometry().center();
-    resize(size);
-    if (isVisible()) MoveAround(middle);
+    if (size != this->size()) {
+        const QPoint middle = geometry().center();
+        resize(size);
+        if (isVisible()) MoveAround(middle);
+    }
     sized_ = true;
     Fit();
 }
@@ -126,9 +128,8 @@ void WindowWidget::resizeEvent(QResizeEvent*) {
 void WindowWidget::TakeUserSize() {
     resize_soon_.stop();
     const QSize client = Client().size();
-    const int wide = static_cast<int>(std::lround(client.width() / factor_)),
-              high = static_cast<int>(std::lround(client.height() / factor_));
-    TheRenderer().Run([&] { ResizeWindow(window_, wide, high); });
+    const auto twips = [this](int pixels) { return static_cast<int>(std::lround(pixels / factor_)); };
+    TheRenderer().Run([&] { ResizeWindow(window_, twips(client.width()), twips(client.height())); });
 }
 
 // ---- Front and focus ----
@@ -144,14 +145,14 @@ void WindowWidget::ShowAbove(WindowWidget* below) {
 void WindowWidget::PlaceAbove(const WindowWidget* below) {
     if (CoversScreen()) return move(screen()->geometry().topLeft());
     if (!below && std::exchange(placed_, true)) return;
-    const QRect room = screen()->availableGeometry();
-    MoveAround((below && below->isVisible() ? below->frameGeometry() : room).center());
+    const QRect around = below && below->isVisible() ? below->frameGeometry() : screen()->availableGeometry();
+    MoveAround(around.center() + QPoint(0, kTitleBar / 2));
 }
 
 void WindowWidget::MoveAround(QPoint middle) {
     const QRect room = screen()->availableGeometry().adjusted(0, kTitleBar, 0, 0);
     QRect place(QPoint(), size());
-    place.moveCenter(middle + QPoint(0, kTitleBar / 2));
+    place.moveCenter(middle);
     place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
     place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
     setGeometry(place);
@@ -159,6 +160,7 @@ void WindowWidget::MoveAround(QPoint middle) {
 
 void WindowWidget::BringToFront() {
     waits_.start(kWaitForFrontMs);
+    if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
 }

@@ -54,7 +54,7 @@ private:
     void Fit();  // the factor and all places, after a change of size
     void LayOut();
     void PlaceAbove(const WindowWidget* below);
-    void MoveAround(QPoint middle);  // as far as the screen allows
+    void MoveAround(QPoint middle);  // its inner middle goes there, as far as the screen allows
 
     Window& window_;
     double factor_ = 0;

@@ -53,7 +53,7 @@ TEST_F(TaxonNamesTest, NamesStandInWholePixelsOverTheirColumns) {
     EXPECT_EQ(Written(1).x1, 5);    // 5 units: 4.95
     EXPECT_EQ(Written(2).x1, 54);   // 55 units: 54.45
     EXPECT_EQ(Written(3).x1, 139);  // 140 units: 138.6
-    EXPECT_EQ(Written(1).y1, 102);  // 1650 twips are 110 pixels, less 8
+    EXPECT_EQ(Written(1).y1, 132);  // 2105 twips are 140.4 pixels, less 8
     frmDiagram.Slider2.SetValue(10);
     EXPECT_EQ(Written(1).x1, 10);
 }
