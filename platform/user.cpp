@@ -9,22 +9,6 @@ namespace {
 MenuItem* open_popup = nullptr;
 Control* pressed = nullptr;  // the control that the mouse went down on
 
-bool TakesFocus(Kind kind) {
-    switch (kind) {
-        case Kind::TextBox:
-        case Kind::Button:
-        case Kind::OptionButton:
-        case Kind::CheckBox:
-        case Kind::ComboBox:
-        case Kind::Slider:
-        case Kind::TabControl:
-        case Kind::PictureBox:
-            return true;
-        default:
-            return false;
-    }
-}
-
 bool IsOnFrontTab(const Control& control) {
     return control.page < 0 || static_cast<const TabControl*>(control.container)->Tab() == control.page;
 }
@@ -91,6 +75,22 @@ void Replace(Control& box, int start, int count, const std::string& text) {
     EnterText(box, old.substr(0, from) + text + old.substr(to), start + static_cast<int>(Length(text)));
 }
 }  // namespace
+
+bool TakesFocus(Kind kind) {
+    switch (kind) {
+        case Kind::TextBox:
+        case Kind::Button:
+        case Kind::OptionButton:
+        case Kind::CheckBox:
+        case Kind::ComboBox:
+        case Kind::Slider:
+        case Kind::TabControl:
+        case Kind::PictureBox:
+            return true;
+        default:
+            return false;
+    }
+}
 
 bool IsUsable(const Control& control) {
     if (control.kind() == Kind::MenuItem) return MenuIsUsable(static_cast<const MenuItem&>(control));

@@ -8,6 +8,7 @@
 // Its window is loaded, shown and enabled, it and what contains it are visible and enabled, and it lies on the tab in front. An item
 // of a menu that is hidden from the bar can be reached while its popup is open.
 bool CanReach(const Control& control);
+bool TakesFocus(Kind kind);             // at a click
 bool IsUsable(const Control& control);  // the same but for the state of its window
 
 // Brings a window to the front, as a press in it does. A disabled one stays where it is.

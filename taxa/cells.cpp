@@ -59,10 +59,13 @@ void TakeTaxonName(int slot) {
 
 void TakeCount(int slot) {
     if (frmMain.ChangingSample || !frmMain.KeysEnabled) return;
+    const std::int32_t last = Counts[slot][CurrentSample];
     try {
         StoreCount(slot);
     } catch (const Failure&) {
-        // A count beyond 32 bits: the array keeps the last one that it could hold.
+        // A count or a total beyond 32 bits: cell and array go back, in silence, to the last that could be held.
+        Counts[slot][CurrentSample] = last;
+        ShowCountOf(slot, last);
     }
 }
 

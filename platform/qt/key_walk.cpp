@@ -9,19 +9,9 @@
 #include "platform/user.h"
 
 namespace {
+// A picture takes the focus at a click and is no stop: there is nothing to type in it.
 bool IsTabStop(const Control& control) {
-    switch (control.kind()) {
-        case Kind::TextBox:
-        case Kind::Button:
-        case Kind::OptionButton:
-        case Kind::CheckBox:
-        case Kind::ComboBox:
-        case Kind::Slider:
-        case Kind::TabControl:
-            return control.tab_stop && CanReach(control);
-        default:
-            return false;
-    }
+    return TakesFocus(control.kind()) && control.kind() != Kind::PictureBox && control.tab_stop && CanReach(control);
 }
 
 // Of options that stand together only the selected one is a stop, as everywhere on the desktop.
