@@ -1,7 +1,7 @@
 // A new sheet: from nothing, or from a template that has been opened.
 #pragma once
 
-void NewSheet();                   // mnuNew: asks every time
+void NewSheet();  // mnuNew: asks every time
 void LoadSiteNameWindow();
-void TakeFirstSampleName();        // its Text1 has changed
-void AcceptFirstSample();          // its OK: the template becomes a sheet with one sample
+void TakeFirstSampleName();  // its Text1 has changed
+void AcceptFirstSample();    // its OK: the template becomes a sheet with one sample

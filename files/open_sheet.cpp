@@ -79,8 +79,8 @@ int RepeatedKeyIndex() {
 
 void StartAfresh(int key_index) {
     PlayIfOn(WaveError);
-    services.messages->Show({"Error", "Same key index (" + std::to_string(key_index) + ") is being used more than once.",
-                             Icon::Exclamation, Buttons::Ok});
+    services.messages->Show(
+        {"Error", "Same key index (" + std::to_string(key_index) + ") is being used more than once.", Icon::Exclamation, Buttons::Ok});
     InitialiseSheet();
     RecountTotals(CurrentSample);
 }

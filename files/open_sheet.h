@@ -2,5 +2,5 @@
 // fails halfway leaves what was read. Anything but a good open ends in silence, with the sheet marked clean.
 #pragma once
 
-void OpenSheet();             // asks first if the sheet has changed; then shows the file dialog
-void OpenSheetFromButton();   // Command4[0]
+void OpenSheet();            // asks first if the sheet has changed; then shows the file dialog
+void OpenSheetFromButton();  // Command4[0]

@@ -14,8 +14,8 @@ void Control::SetFocus() {
 
 void Control::ReturnToDesign() {
     now_ = design_;
-    for (const Property property : {Property::Text, Property::Caption, Property::Value, Property::Range, Property::Items, Property::Caret,
-                                    Property::Enabled, Property::Visible, Property::Checked, Property::Font, Property::Colours,
-                                    Property::Place, Property::ToolTip, Property::Drawing})
+    for (const Property property :
+         {Property::Text, Property::Caption, Property::Value, Property::Range, Property::Items, Property::Caret, Property::Enabled,
+          Property::Visible, Property::Checked, Property::Font, Property::Colours, Property::Place, Property::ToolTip, Property::Drawing})
         Tell(property);
 }

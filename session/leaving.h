@@ -2,9 +2,9 @@
 // leaves after asking.
 #pragma once
 
-void RestoreSheet();     // counts, names, flags and Additional info of the snapshot; samples added since keep their counts
-void AbortCount();       // Reset
+void RestoreSheet();  // counts, names, flags and Additional info of the snapshot; samples added since keep their counts
+void AbortCount();    // Reset
 void QuitProgram();
-void CloseMainWindow();  // by its frame
-void UnloadAll();        // every other window
-void CheckIfReallyEnd(); // a snapshot and a plain save
+void CloseMainWindow();   // by its frame
+void UnloadAll();         // every other window
+void CheckIfReallyEnd();  // a snapshot and a plain save

@@ -10,9 +10,9 @@ constexpr Colour kModifying{200, 100, 100};
 
 // What counts, saves or leaves the sheet, and comes back with counting. mnuNext does not: it waits for the next change of the total.
 Control* const kCountingCommands[] = {
-    &frmMain.Command2[0], &frmMain.Command4[0], &frmMain.Command5[0], &frmMain.mnuSave,    &frmMain.Command5[1], &frmMain.Command3[0],
-    &frmMain.mnuStartAmend, &frmMain.Text3[0],  &frmMain.Text3[1],    &frmMain.Text3[2],   &frmMain.mnuUndo,     &frmMain.mnuReset,
-    &frmMain.mnuNew,      &frmMain.mnuOpen,     &frmMain.mnuSaveAs,   &frmMain.mnuPercent, &frmMain.mnuSaveCopy};
+    &frmMain.Command2[0],   &frmMain.Command4[0], &frmMain.Command5[0], &frmMain.mnuSave,    &frmMain.Command5[1], &frmMain.Command3[0],
+    &frmMain.mnuStartAmend, &frmMain.Text3[0],    &frmMain.Text3[1],    &frmMain.Text3[2],   &frmMain.mnuUndo,     &frmMain.mnuReset,
+    &frmMain.mnuNew,        &frmMain.mnuOpen,     &frmMain.mnuSaveAs,   &frmMain.mnuPercent, &frmMain.mnuSaveCopy};
 
 void ShowParamNames(bool visible) {
     for (int p = 1; p <= kParams; ++p) frmMain.Label10[p].SetVisible(visible);

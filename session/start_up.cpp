@@ -124,8 +124,7 @@ bool LoadKeySettings() {
     } catch (const Failure&) {
         KeySettingsLoaded = false;
         services.sounds->Beep();
-        ShowExclamation(
-            "Marlbrook could not find reference file(s). Please use installer package to installe Marlbrook in your computer.");
+        ShowExclamation("Marlbrook could not find reference file(s). Please use installer package to installe Marlbrook in your computer.");
         AskForKeyboardIfUnknown();
         return false;
     }
@@ -136,8 +135,8 @@ struct WaveFile {
     Wave* wave;
 };
 const WaveFile kWaveFiles[] = {
-    {"Key-1.wav", &WaveKey1},       {"Key-2.wav", &WaveKey2}, {"Key-3.wav", &WaveKey3}, {"Opening.wav", &WaveOpening},
-    {"Undo.wav", &WaveUndo},        {"Save.wav", &WaveSave},  {"Alarm.wav", &WaveAlarm}, {"Error.wav", &WaveError},
+    {"Key-1.wav", &WaveKey1}, {"Key-2.wav", &WaveKey2}, {"Key-3.wav", &WaveKey3},  {"Opening.wav", &WaveOpening},
+    {"Undo.wav", &WaveUndo},  {"Save.wav", &WaveSave},  {"Alarm.wav", &WaveAlarm}, {"Error.wav", &WaveError},
 };
 
 // False: a wave is missing, and there is no sound at all.

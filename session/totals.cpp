@@ -54,8 +54,7 @@ void TakeChangedTotal() {
 }
 
 void ChooseBasis(int option) {
-    for (int slot = 1; slot <= kSlots; ++slot)
-        frmMain.Text1[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
+    for (int slot = 1; slot <= kSlots; ++slot) frmMain.Text1[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
     AlarmArmed = true;
     FollowBasis();
 }

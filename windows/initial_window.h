@@ -10,12 +10,12 @@ struct InitialWindow : Window {
     InitialWindow();
 
     Label Label1[kWelcomeLabels];  // the words of welcome
-    Label Label2[2];             // heads of the two columns
-    Label Label4[kNamedKeys];    // names of the keys
-    TextBox Text1[kNamedKeys];   // their codes
-    Button Command1;             // OK
+    Label Label2[2];               // heads of the two columns
+    Label Label4[kNamedKeys];      // names of the keys
+    TextBox Text1[kNamedKeys];     // their codes
+    Button Command1;               // OK
 
-    float AllKnown = 0;          // 1: the keyboard was known when the window came up
+    float AllKnown = 0;  // 1: the keyboard was known when the window came up
 
 private:
     void ForgetMembers() override { AllKnown = 0; }

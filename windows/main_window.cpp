@@ -10,7 +10,7 @@ namespace {
 constexpr Colour kPanel{250, 251, 252};  // the blocks of the pad
 constexpr Colour kQuiet{90, 98, 106};    // words that name what stands beside them
 constexpr int kPadTop = 60;
-constexpr int kColumnTop = 4800;         // the four columns below the pad
+constexpr int kColumnTop = 4800;  // the four columns below the pad
 constexpr int kColumnHeight = 2660;
 constexpr int kCommandTop = 7520;
 constexpr int kCommandHeight = 400;

@@ -9,17 +9,17 @@
 struct NextWindow : Window {
     NextWindow();
 
-    Frame Frame2;                  // start face
+    Frame Frame2;  // start face
     PictureBox Picture1;
     Label Label5[2];
-    Button Command4;               // create
-    Button Command2;               // open
+    Button Command4;  // create
+    Button Command2;  // open
 
-    Frame Frame1;                  // sample face
+    Frame Frame1;  // sample face
     Label Label1, Label2;
-    TextBox Text1;                 // name
-    TextBox Text2;                 // note
-    Label Label3[kParams + 1];     // [0] unused, so below
+    TextBox Text1;              // name
+    TextBox Text2;              // note
+    Label Label3[kParams + 1];  // [0] unused, so below
     TextBox Text3[kParams + 1];
     Button Command5[kParams + 1];  // rename
     Button Command1;               // OK

@@ -9,12 +9,12 @@ struct SiteNameWindow : Window {
 
     Frame Frame1;
     Label Label1, Label2;
-    TextBox Text1;                 // name
-    TextBox Text2;                 // note
-    Label Label3[kParams + 1];     // [0] unused, so below
+    TextBox Text1;              // name
+    TextBox Text2;              // note
+    Label Label3[kParams + 1];  // [0] unused, so below
     TextBox Text3[kParams + 1];
-    Button Command1;               // OK
-    Button Command3;               // Cancel, which does nothing
+    Button Command1;  // OK
+    Button Command3;  // Cancel, which does nothing
 };
 
 extern SiteNameWindow frmSiteName;
