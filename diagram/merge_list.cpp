@@ -2,9 +2,7 @@
 
 #include "diagram/coniss.h"
 #include "files/busy.h"
-#include "files/cell_writer.h"
-#include "platform/failure.h"
-#include "platform/services.h"
+#include "files/exports.h"
 #include "platform/text.h"
 #include "session/sound.h"
 #include "windows/main_window.h"
@@ -28,14 +26,5 @@ void WriteMerges(CellWriter& cells) {
 
 void SaveMergeList() {
     const Busy busy(kSlots);
-    if (!frmMain.CommonDialog1.AskForSaving()) return;
-    try {
-        const auto file = services.files->OpenForWriting(frmMain.CommonDialog1.FileName);
-        CellWriter cells(*file);
-        WriteMerges(cells);
-        cells.Close();
-        PlayIfOn(WaveSave);
-    } catch (const Failure&) {
-        // The file stays as the disk left it; the list can be saved again.
-    }
+    if (Export(WriteMerges)) PlayIfOn(WaveSave);
 }

@@ -1,10 +1,8 @@
 #include "files/exports.h"
 
-#include <functional>
 #include <string>
 
 #include "files/busy.h"
-#include "files/cell_writer.h"
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
 #include "session/sheet_state.h"
@@ -12,8 +10,6 @@
 #include "session/stamps.h"
 #include "windows/main_window.h"
 
-namespace {
-// Asks where to, then writes what `write` has to say. False: cancelled, or the disk would not take it.
 bool Export(const std::function<void(CellWriter&)>& write) {
     if (!frmMain.CommonDialog1.AskForSaving()) return false;
     try {
@@ -27,6 +23,7 @@ bool Export(const std::function<void(CellWriter&)>& write) {
     }
 }
 
+namespace {
 void WriteTemplate(CellWriter& cells) {
     constexpr int kNoSamples = 0;
     StampHeader("Last saved (dd/mm/yyyy):");
