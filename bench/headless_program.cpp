@@ -10,7 +10,6 @@
 HeadlessProgram::HeadlessProgram() {
     ::services.files = &files;
     files.LayDownProgram(kFolder);
-    files.bytes[kLargeSheet] = Joined(DataSheet(kSampleLimit));
     StartProgram();
     ClickControl(frmNext.Command4);
     InsertText(frmNext.Text1, "10");
@@ -27,4 +26,11 @@ void HeadlessProgram::Open(const std::string& path) {
 HeadlessProgram& TheProgram() {
     static HeadlessProgram program;
     return program;
+}
+
+std::string SheetOf(int samples) {
+    const std::string path = "/sheets/" + std::to_string(samples) + ".csv";
+    std::string& bytes = TheProgram().files.bytes[path];
+    if (bytes.empty()) bytes = Joined(DataSheet(samples));
+    return path;
 }

@@ -16,4 +16,4 @@ struct HeadlessProgram {
 
 HeadlessProgram& TheProgram();  // the shared state stands for one program, so there is one; starts it at the first call
 
-constexpr const char* kLargeSheet = "/sheets/large.csv";  // 135 taxa by 250 samples, in TheProgram().files
+std::string SheetOf(int samples);  // the path of a sheet of 135 taxa, which it lays down in TheProgram().files

@@ -43,7 +43,7 @@ void PressKeysOnSmallSheet(benchmark::State& state) {
 }
 
 void PressKeysOnLargeSheet(benchmark::State& state) {
-    TheProgram().Open(kLargeSheet);
+    TheProgram().Open(SheetOf(kSampleLimit));
     PressKeys(state);
 }
 

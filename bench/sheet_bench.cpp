@@ -1,4 +1,4 @@
-// Reading, writing and reckoning of the largest sheet.
+// Reading and writing of the largest sheet, and its percentage tables.
 #include <benchmark/benchmark.h>
 
 #include "bench/headless_program.h"
@@ -13,7 +13,7 @@
 namespace {
 // The cells alone, each as the value that it is.
 void ReadCells(benchmark::State& state) {
-    const std::string& bytes = TheProgram().files.bytes[kLargeSheet];
+    const std::string bytes = TheProgram().files.bytes[SheetOf(kSampleLimit)];
     for (auto _ : state) {
         CellReader cells(DecodeFile(bytes));
         while (!cells.AtEnd()) benchmark::DoNotOptimize(cells.Next());
@@ -22,8 +22,8 @@ void ReadCells(benchmark::State& state) {
 
 // From the bytes of the file into the arrays and the cells on the screen.
 void ReadSheet(benchmark::State& state) {
-    TheProgram().Open(kLargeSheet);
-    const std::string& bytes = TheProgram().files.bytes[kLargeSheet];
+    TheProgram().Open(SheetOf(kSampleLimit));
+    const std::string bytes = TheProgram().files.bytes[SheetOf(kSampleLimit)];
     for (auto _ : state) {
         CellReader cells(DecodeFile(bytes));
         SheetHeader[6] = cells.Next();
@@ -37,28 +37,23 @@ void ReadSheet(benchmark::State& state) {
 
 // All of it: the question's way in, totals, the curve, the master back-up.
 void Open(benchmark::State& state) {
-    for (auto _ : state) TheProgram().Open(kLargeSheet);
+    for (auto _ : state) TheProgram().Open(SheetOf(kSampleLimit));
 }
 
 void Save(benchmark::State& state) {
-    TheProgram().Open(kLargeSheet);
+    TheProgram().Open(SheetOf(kSampleLimit));
     for (auto _ : state) SaveSheet(kSave);
 }
 
 void BackUp(benchmark::State& state) {
-    TheProgram().Open(kLargeSheet);
+    TheProgram().Open(SheetOf(kSampleLimit));
     for (auto _ : state) BackUpSheet();
 }
 
 void Percentages(benchmark::State& state) {
-    TheProgram().Open(kLargeSheet);
+    TheProgram().Open(SheetOf(kSampleLimit));
     for (auto _ : state)
         for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
-}
-
-void DiagramData(benchmark::State& state) {
-    TheProgram().Open(kLargeSheet);
-    for (auto _ : state) ComputeDiagramData();
 }
 
 BENCHMARK(ReadCells)->Unit(benchmark::kMicrosecond);
@@ -67,5 +62,4 @@ BENCHMARK(Open)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Save)->Unit(benchmark::kMicrosecond);
 BENCHMARK(BackUp)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Percentages)->Unit(benchmark::kMicrosecond);
-BENCHMARK(DiagramData)->Unit(benchmark::kMicrosecond);
 }  // namespace

@@ -1,81 +1,42 @@
-// 10,000 keys at 200 a second through the real window: each must count, and this tells how long each took from the keyboard to the
-// updated model, to the sound handed over, and to the picture on the screen. It takes a minute. Run it by bench/window_bench.sh, which passes on another
-// number of keys.
-#include <QApplication>
-#include <QGuiApplication>
+// Acts of a user through the real window, and how long each took from the keyboard or the mouse to the updated model, to the sound
+// handed over, and to the picture on the screen. Run it by bench/window_bench.sh:
+//     window_bench plain [KEYS]      counting keys, 200 a second; 10,000 if no number is given
+//     window_bench diagram [KEYS]    the same, 40 a second, beside an open diagram of 135 taxa by 250 samples of 1600 by 1000 pixels
+//     window_bench tree [KEYS]       the same, with the cluster tree
+//     window_bench drag [MOVES]      the line of the selected sample dragged over that diagram
+// Fails if a key does not count.
 #include <QTimer>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <random>
 #include <string>
 #include <thread>
-#include <vector>
 
-#include "bench/key_sender.h"
+#include "bench/stages.h"
+#include "bench/x_user.h"
+#include "diagram/sample_position.h"
 #include "events/program.h"
+#include "platform/headless/scripted_dialogs.h"
+#include "platform/qt/control_widget.h"
+#include "platform/qt/desktop_services.h"
 #include "platform/qt/key_filter.h"
 #include "platform/qt/look.h"
-#include "platform/qt/qt_clipboard.h"
-#include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_file_dialogs.h"
-#include "platform/qt/qt_files.h"
-#include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/qt_sounds.h"
 #include "platform/qt/renderer.h"
+#include "platform/qt/window_widget.h"
 #include "platform/user.h"
 #include "session/sheet_state.h"
+#include "unit/sheet_file.h"
+#include "windows/diagram_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
 namespace {
-using Time = std::chrono::steady_clock::time_point;
-int key_count = 10000;  // of one sample: its taxa curve grows as long as that
-constexpr std::chrono::microseconds kPause(5000);
 constexpr unsigned kSeed = 20261114;
 // X key codes of the first 27 counter keys, all of them letters but two.
 constexpr int kCodes[] = {24, 25, 26, 38, 39, 40, 52, 53, 54, 27, 28, 29, 41, 42, 43, 55, 56, 57, 30, 31, 32, 44, 45, 46, 58, 59, 60};
-
-struct Stages {
-    std::vector<Time> sent, counted, sounded, painted;
-};
-Stages stages;
-
-Time Now() {
-    return std::chrono::steady_clock::now();
-}
-
-// Each counted key plays one sound, as the last thing that it does.
-class TimedSounds : public Sounds {
-public:
-    void Play(const Wave& wave) override {
-        if (&wave == &WaveOpening) return sounds_.Play(wave);
-        stages.counted.push_back(Now());
-        sounds_.Play(wave);
-        stages.sounded.push_back(Now());
-    }
-    void Beep() override { sounds_.Beep(); }
-
-private:
-    QtSounds sounds_;
-};
-
-// What has been counted is on the screen when the server has carried out the painting.
-class TimedApplication : public QApplication {
-public:
-    using QApplication::QApplication;
-    bool notify(QObject* receiver, QEvent* event) override {
-        const bool paints = event->type() == QEvent::UpdateRequest;
-        const bool handled = QApplication::notify(receiver, event);
-        if (paints) {
-            WaitForServer(nativeInterface<QNativeInterface::QX11Application>()->display());
-            stages.painted.resize(stages.sounded.size(), Now());
-        }
-        return handled;
-    }
-};
 
 class BenchHost : public ProgramHost {
 public:
@@ -92,6 +53,14 @@ private:
     std::string folder_;
 };
 
+struct Task {
+    std::string name = "plain";
+    int acts = 10000;
+    bool HasDiagram() const { return name != "plain"; }
+    bool Drags() const { return name == "drag"; }
+    std::chrono::milliseconds Pause() const { return std::chrono::milliseconds(HasDiagram() ? 25 : 5); }
+};
+
 void BeginSample() {
     Renderer& renderer = TheRenderer();
     renderer.Run(StartProgram);
@@ -99,28 +68,64 @@ void BeginSample() {
     if (frmNext.Visible()) renderer.Run([] { CloseWindow(frmNext); });
 }
 
-void SendKeys() {
-    KeySender sender;
-    std::mt19937 random(kSeed);
-    std::uniform_int_distribution<std::size_t> any(0, std::size(kCodes) - 1);
-    const Time start = Now();
-    for (int i = 0; i < key_count; ++i) {
-        std::this_thread::sleep_until(start + i * kPause);
-        stages.sent.push_back(Now());
-        sender.Stroke(kCodes[any(random)]);
-    }
-    std::this_thread::sleep_for(std::chrono::seconds(1));
-    QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(0); });
+void OpenLargeSheet(const std::filesystem::path& folder) {
+    const std::string path = (folder / "large.csv").string();
+    std::ofstream(path, std::ios::binary) << Joined(DataSheet(kSampleLimit));
+    ScriptedMessageBoxes messages;
+    ScriptedFileDialogs dialogs;
+    messages.answers = {Answer::Yes};
+    dialogs.answers = {path};
+    MessageBoxes* const real_messages = std::exchange(services.messages, &messages);
+    FileDialogs* const real_dialogs = std::exchange(services.dialogs, &dialogs);
+    TheRenderer().Run([] { ClickControl(frmMain.mnuOpen); });
+    services.messages = real_messages;
+    services.dialogs = real_dialogs;
 }
 
-void Report(const char* stage, const std::vector<Time>& reached) {
-    std::vector<double> milliseconds;
-    for (std::size_t i = 0; i < std::min(reached.size(), stages.sent.size()); ++i)
-        milliseconds.push_back(std::chrono::duration<double, std::milli>(reached[i] - stages.sent[i]).count());
-    if (milliseconds.empty()) return;
-    std::sort(milliseconds.begin(), milliseconds.end());
-    const auto at = [&](double share) { return milliseconds[static_cast<std::size_t>(share * (milliseconds.size() - 1))]; };
-    std::printf("%-16s median %6.2f ms   99 %% within %6.2f ms   longest %6.2f ms\n", stage, at(0.5), at(0.99), at(1));
+// Of so many pixels of the screen, which shows the window enlarged if it is a large one.
+int Twips(int pixels) {
+    return static_cast<int>(pixels / TheRenderer().WidgetOf(frmDiagram)->Factor());
+}
+
+void OpenDiagram(const Task& task) {
+    TheRenderer().Run([] { ClickControl(frmMain.mnuCurve); });
+    TheRenderer().Run([] { ResizeWindow(frmDiagram, Twips(1600), Twips(1000)); });
+    if (task.name == "tree") TheRenderer().Run([] { ClickControl(frmDiagram.nmuConiss); });
+}
+
+// Where the line of a sample is on the screen, in the middle of the diagram.
+QPoint PlaceOfLine(int sample) {
+    const ControlWidget& picture = *TheRenderer().WidgetOf(frmDiagram)->Find(frmDiagram.Picture1);
+    return picture.Widget()->mapToGlobal(picture.PlaceOf(kUnitsAcross / 2, SamplePositions().Y(sample)).toPoint());
+}
+
+void SendKeys(XUser& user, const Task& task) {
+    std::mt19937 random(kSeed);
+    std::uniform_int_distribution<std::size_t> any(0, std::size(kCodes) - 1);
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < task.acts; ++i) {
+        std::this_thread::sleep_until(start + i * task.Pause());
+        stages.sent.push_back(std::chrono::steady_clock::now());
+        user.Stroke(kCodes[any(random)]);
+    }
+}
+
+// Up and down between the ends of the line's way, a few pixels a move.
+void DragLine(XUser& user, const Task& task, QPoint grip, QPoint top) {
+    user.MoveMouse(grip.x(), grip.y());
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    user.PressMouse(true);
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    stages.reached.clear();
+    const int length = grip.y() - top.y();
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < task.acts; ++i) {
+        std::this_thread::sleep_until(start + i * task.Pause());
+        const int way = 7 * (i + 1) % (2 * length);
+        stages.sent.push_back(std::chrono::steady_clock::now());
+        user.MoveMouse(grip.x(), grip.y() - std::min(way, 2 * length - way));
+    }
+    user.PressMouse(false);
 }
 
 int Counted() {
@@ -128,39 +133,51 @@ int Counted() {
     for (int slot = 1; slot <= kSlots; ++slot) sum += Counts[slot][CurrentSample];
     return sum;
 }
+
+std::thread Begin(const Task& task) {
+    const QPoint grip = task.Drags() ? PlaceOfLine(SampleCount) : QPoint(), top = task.Drags() ? PlaceOfLine(1) : QPoint();
+    return std::thread([=] {
+        XUser user;
+        task.Drags() ? DragLine(user, task, grip, top) : SendKeys(user, task);
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(0); });
+    });
+}
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc > 1) key_count = std::atoi(argv[1]);
-    for (auto* stage : {&stages.sent, &stages.counted, &stages.sounded, &stages.painted}) stage->reserve(key_count + 1);
+    Task task;
+    if (argc > 1) task.name = argv[1];
+    if (argc > 2) task.acts = std::atoi(argv[2]);
+    stages.Expect(task.acts);
     const std::filesystem::path folder = std::filesystem::temp_directory_path() / "marlbrook-bench";
     std::filesystem::remove_all(folder);
     std::filesystem::copy(MARLBROOK_TREE, folder, std::filesystem::copy_options::recursive);
 
     TimedApplication application(argc, argv);
+    application.moves_are_acts = task.Drags();
     ApplyLook(application);
     Renderer renderer;
     KeyFilter keys;
     BenchHost host(folder);
+    DesktopServices desktop(host);
     TimedSounds sounds;
-    QtMessageBoxes messages;
-    QtFileDialogs dialogs;
-    QtClock clock;
-    QtClipboard clipboard;
-    QtPopups popups;
-    QtFiles files;
-    services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host};
+    services.sounds = &sounds;
     BeginSample();
+    if (task.HasDiagram()) OpenLargeSheet(folder);
+    if (task.HasDiagram()) OpenDiagram(task);
+    const int counted_before = Counted();
 
-    std::thread sender;
-    QTimer::singleShot(1500, [&sender] { sender = std::thread(SendKeys); });
+    std::thread user;
+    QTimer::singleShot(1000, [&] { renderer.Run([&] { BringToFront(task.Drags() ? static_cast<Window&>(frmDiagram) : frmMain); }); });
+    QTimer::singleShot(2500, [&] { user = Begin(task); });
     QApplication::exec();
-    sender.join();
+    user.join();
     std::filesystem::remove_all(folder);
 
-    std::printf("%d keys sent, %d counted\n", key_count, Counted());
-    Report("key to model", stages.counted);
-    Report("key to sound", stages.sounded);
-    Report("key to picture", stages.painted);
-    return Counted() == key_count ? 0 : 1;
+    const int counted = Counted() - counted_before;
+    std::printf("%s: %d sent, %d %s\n", task.name.c_str(), task.acts, task.Drags() ? static_cast<int>(stages.reached.size()) : counted,
+                task.Drags() ? "arrived" : "counted");
+    stages.Report();
+    return task.Drags() || counted == task.acts ? 0 : 1;
 }

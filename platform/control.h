@@ -141,6 +141,7 @@ public:
 
     void BindView(ControlView* view) { view_ = view; }
     void KeepDesign() { design_ = now_; }
+    const Box& DesignBox() const { return design_.box; }
     virtual void ReturnToDesign();
 
 protected:

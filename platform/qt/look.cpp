@@ -84,7 +84,7 @@ QPalette LightPalette() {
 }
 
 QIcon ProgramIcon() {
-    QSvgRenderer drawing(QStringLiteral(":/pictures/logo.svg"));
+    QSvgRenderer drawing(QStringLiteral(":/icon.svg"));
     QIcon icon;
     for (const int size : {16, 32, 48, 128}) {
         QPixmap pixmap(size, size);

@@ -99,7 +99,7 @@ private:
         UseFont(kNameSize * scale_.pixel, name.italic);
         UsePen(name.rim);
         painter_.save();
-        painter_.translate(name.x1 * scale_.pixel, name.y1 * scale_.pixel);
+        painter_.translate(name.x1 * scale_.pixel * scale_.spread, name.y1 * scale_.pixel);
         painter_.rotate(-90);
         painter_.scale(std::min(1.0, kNameWidth * scale_.pixel / QFontMetricsF(painter_.font()).averageCharWidth()), 1);
         painter_.drawText(QPointF(0, painter_.fontMetrics().ascent()), ToQt(name.text));

@@ -6,8 +6,9 @@
 #include "platform/picture_box.h"
 
 struct PictureScale {
-    QSizeF size;       // of the picture, in pixels of the painter
-    double pixel = 1;  // a pixel of the program (15 twips) in pixels of the painter
+    QSizeF size;        // of the picture, in pixels of the painter
+    double pixel = 1;   // a pixel of the program (15 twips) in pixels of the painter
+    double spread = 1;  // how much wider the picture is than its design: names stay over the columns that spread below them
 };
 
 void PaintOperations(QPainter& painter, std::span<const DrawOperation> operations, const PictureScale& scale);

@@ -42,7 +42,8 @@ private:
     void Paint(QPainter& painter) {
         if (canvas_->size().isEmpty()) return;
         const double density = canvas_->devicePixelRatioF();
-        const PictureScale scale{QSizeF(canvas_->size()) * density, kTwipsPerPixel * Factor() * density};
+        const PictureScale scale{QSizeF(canvas_->size()) * density, kTwipsPerPixel * Factor() * density,
+                                 static_cast<double>(picture_.Width()) / picture_.DesignBox().width};
         const std::span operations(picture_.Operations());
         painter.drawPixmap(0, 0, Persistent(scale, density));
         painter.scale(1 / density, 1 / density);

@@ -1,4 +1,4 @@
-#include "bench/key_sender.h"
+#include "bench/x_user.h"
 
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
@@ -12,19 +12,29 @@ Display* AsDisplay(void* display) {
 }
 }  // namespace
 
-KeySender::KeySender() : display_(XOpenDisplay(nullptr)) {
+XUser::XUser() : display_(XOpenDisplay(nullptr)) {
     if (display_) return;
     std::fputs("window_bench: there is no X display; use bench/window_bench.sh\n", stderr);
     std::exit(1);
 }
 
-KeySender::~KeySender() {
+XUser::~XUser() {
     XCloseDisplay(AsDisplay(display_));
 }
 
-void KeySender::Stroke(int key_code) {
+void XUser::Stroke(int key_code) {
     XTestFakeKeyEvent(AsDisplay(display_), static_cast<unsigned>(key_code), True, CurrentTime);
     XTestFakeKeyEvent(AsDisplay(display_), static_cast<unsigned>(key_code), False, CurrentTime);
+    XFlush(AsDisplay(display_));
+}
+
+void XUser::MoveMouse(int x, int y) {
+    XTestFakeMotionEvent(AsDisplay(display_), -1, x, y, CurrentTime);
+    XFlush(AsDisplay(display_));
+}
+
+void XUser::PressMouse(bool down) {
+    XTestFakeButtonEvent(AsDisplay(display_), 1, down ? True : False, CurrentTime);
     XFlush(AsDisplay(display_));
 }
 

@@ -1,0 +1,56 @@
+#include "bench/stages.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstdio>
+
+#include "bench/x_user.h"
+#include "session/sheet_state.h"
+
+Stages stages;
+
+namespace {
+Stages::Time Now() {
+    return std::chrono::steady_clock::now();
+}
+
+void ReportStage(const char* stage, const std::vector<Stages::Time>& ends) {
+    std::vector<double> milliseconds;
+    for (std::size_t i = 0; i < std::min(ends.size(), stages.sent.size()); ++i)
+        milliseconds.push_back(std::chrono::duration<double, std::milli>(ends[i] - stages.sent[i]).count());
+    if (milliseconds.empty()) return;
+    std::sort(milliseconds.begin(), milliseconds.end());
+    const auto at = [&](double share) { return milliseconds[static_cast<std::size_t>(share * (milliseconds.size() - 1))]; };
+    std::printf("  to %-8s median %6.2f ms   99 %% within %6.2f ms   longest %6.2f ms\n", stage, at(0.5), at(0.99), at(1));
+}
+}  // namespace
+
+void Stages::Expect(std::size_t acts) {
+    for (auto* stage : {&sent, &reached, &sounded, &painted}) stage->reserve(acts + 1);
+}
+
+void Stages::Report() const {
+    ReportStage("model", reached);
+    ReportStage("sound", sounded);
+    ReportStage("picture", painted);
+}
+
+void TimedSounds::Play(const Wave& wave) {
+    if (&wave == &WaveOpening) return sounds_.Play(wave);
+    stages.reached.push_back(Now());
+    sounds_.Play(wave);
+    stages.sounded.push_back(Now());
+}
+
+bool TimedApplication::notify(QObject* receiver, QEvent* event) {
+    const QEvent::Type type = event->type();
+    const bool handled = QApplication::notify(receiver, event);
+    if (moves_are_acts && type == QEvent::MouseMove && receiver->isWindowType()) stages.reached.push_back(Now());
+    if (type == QEvent::UpdateRequest) {
+        WaitForServer(nativeInterface<QNativeInterface::QX11Application>()->display());
+        stages.painted.resize(stages.reached.size(), Now());
+        if (!stages.painted.empty()) stages.painted.back() = Now();  // one act may change two windows
+    }
+    return handled;
+}

@@ -1,0 +1,34 @@
+// How long each act of the user took to reach the model, the sound and the picture on the screen.
+#pragma once
+#include <QApplication>
+#include <chrono>
+#include <vector>
+
+#include "platform/qt/qt_sounds.h"
+
+struct Stages {
+    using Time = std::chrono::steady_clock::time_point;
+    std::vector<Time> sent, reached, sounded, painted;  // one entry an act, in their order
+
+    void Expect(std::size_t acts);  // makes room, so that no entry waits for memory
+    void Report() const;
+};
+extern Stages stages;
+
+// Each counted key plays one sound, as the last thing that it does.
+class TimedSounds : public Sounds {
+public:
+    void Play(const Wave& wave) override;
+    void Beep() override { sounds_.Beep(); }
+
+private:
+    QtSounds sounds_;
+};
+
+// What has been done is on the screen when the server has carried out the painting.
+class TimedApplication : public QApplication {
+public:
+    using QApplication::QApplication;
+    bool moves_are_acts = false;  // a move of the mouse is an act, not a key
+    bool notify(QObject* receiver, QEvent* event) override;
+};

@@ -1,0 +1,21 @@
+// The services of the desktop, together.
+#pragma once
+#include "platform/qt/qt_clipboard.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_files.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_sounds.h"
+
+struct DesktopServices {
+    QtMessageBoxes messages;
+    QtFileDialogs dialogs;
+    QtSounds sounds;
+    QtClock clock;
+    QtClipboard clipboard;
+    QtPopups popups;
+    QtFiles files;
+
+    // Puts them all into `services`, with `host`; they must live as long as the program uses them.
+    explicit DesktopServices(ProgramHost& host) { services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host}; }
+};

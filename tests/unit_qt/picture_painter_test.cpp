@@ -1,0 +1,85 @@
+#include "platform/qt/picture_painter.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+
+namespace {
+constexpr int kWidth = 100;
+constexpr int kHeight = 60;
+
+class PicturePainterTest : public testing::Test {
+protected:
+    PicturePainterTest() {
+        picture_.SetScaleWidth(kWidth);
+        picture_.SetScaleHeight(kHeight);
+    }
+
+    QImage Painted(double density, double spread = 1) const {
+        QImage image(QSize(kWidth, kHeight) * density, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        PaintOperations(painter, picture_.Operations(), {QSizeF(image.size()), density, spread});
+        return image;
+    }
+    static bool HasInk(const QImage& image, int column) {
+        for (int y = 0; y < image.height(); ++y)
+            if (image.pixelColor(column, y) != Qt::white) return true;
+        return false;
+    }
+    static int FirstInk(const QImage& image) {
+        int column = 0;
+        while (column < image.width() && !HasInk(image, column)) ++column;
+        return column;
+    }
+
+    char name_[5] = "test";
+    char* arguments_[1] = {name_};
+    int count_ = 1;
+    QApplication application_{count_, arguments_};
+    PictureBox picture_;
+};
+
+TEST_F(PicturePainterTest, AnUprightLineIsACrispBarAtEveryDensity) {
+    picture_.Line(50, 0, 50, kHeight, kBlack);
+    for (const int density : {1, 2, 3}) {
+        const QImage image = Painted(density);
+        int inked = 0;
+        for (int column = 0; column < image.width(); ++column) {
+            const QColor colour = image.pixelColor(column, kHeight / 2);
+            EXPECT_TRUE(colour == Qt::black || colour == Qt::white) << "a blurred edge at density " << density;
+            inked += colour == Qt::black;
+        }
+        EXPECT_EQ(inked, density);
+    }
+}
+
+TEST_F(PicturePainterTest, LinesThatMeetLeaveNoHole) {
+    picture_.Line(10, 20, 40, 20, kBlack);
+    picture_.Line(40, 20, 40, 50, kBlack);
+    const QImage image = Painted(1);
+    EXPECT_EQ(image.pixelColor(10, 20), Qt::black);
+    EXPECT_EQ(image.pixelColor(40, 20), Qt::black);
+    EXPECT_EQ(image.pixelColor(40, 50), Qt::black);
+}
+
+TEST_F(PicturePainterTest, NamesSpreadWithTheColumnsBelowThem) {
+    picture_.Name(20, 50, false, "Pinus");
+    const int plain = FirstInk(Painted(1));
+    EXPECT_NEAR(plain, 20, 4);
+    EXPECT_EQ(FirstInk(Painted(1, 2)) - plain, 20) << "in a picture twice as wide as its design";
+}
+
+TEST_F(PicturePainterTest, ANameReadsUpward) {
+    picture_.Name(20, 50, false, "Pinus sylvestris");
+    const QImage image = Painted(1);
+    bool above = false, below = false;
+    for (int column = 15; column < 40; ++column) {
+        above = above || image.pixelColor(column, 30) != Qt::white || image.pixelColor(column, 31) != Qt::white;
+        below = below || image.pixelColor(column, 56) != Qt::white;
+    }
+    EXPECT_TRUE(above);
+    EXPECT_FALSE(below);
+}
+}  // namespace
