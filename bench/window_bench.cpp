@@ -43,6 +43,7 @@ public:
     explicit BenchHost(const std::filesystem::path& folder) : folder_(folder.string()) {}
     std::string Folder() override { return folder_; }
     Box ScreenSize() override { return {}; }
+    bool CanShow(const std::string&) override { return false; }
     void End() override { QCoreApplication::exit(0); }
     void Fail(const char* word) override {
         std::fprintf(stderr, "window_bench: %s\n", word);

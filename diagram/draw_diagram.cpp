@@ -108,6 +108,7 @@ float HorizontalScale() {
 
 void Whiten(PictureBox& picture) {
     picture.SetBackColor(kWhite);
+    picture.Clear();  // a scale of no width has no area to be covered
     picture.FilledRectangle(picture.ScaleLeft(), picture.ScaleTop(), picture.ScaleLeft() + picture.ScaleWidth(),
                             picture.ScaleTop() + picture.ScaleHeight(), kWhite);
 }

@@ -30,7 +30,7 @@ void NameTaxonAt(float x) {
         frmDiagram.Picture1.SetToolTip("");
         return;
     }
-    const float scale = HorizontalScale();
+    const double scale = HorizontalScale();
     for (int row = 1; row <= kSlots; ++row)
         if (scale * ColumnOffset[row] < x && scale * ColumnOffset[row + 1] > x)
             frmDiagram.Picture1.SetToolTip(TaxonTable[KeyIndex[row]][4].Text());

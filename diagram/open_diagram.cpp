@@ -76,6 +76,11 @@ void EndDiagram() {
     if (MousePointer == kPointerSize) MousePointer = kPointerDefault;  // nobody is left to take it back from the sample line
 }
 
+void CloseDiagram() {
+    frmDiagram.Unload();
+    DiagramOpen = false;
+}
+
 void RebuildDiagram() {
     if (!DiagramOpen) return;
     ComputeDiagramData();

@@ -11,4 +11,5 @@ void TakeStyle(const DiagramStyle& style);      // an item of the diagram
 
 void LoadDiagramWindow();
 void EndDiagram();      // the window is being unloaded: its size is kept
+void CloseDiagram();    // nothing if none is open
 void RebuildDiagram();  // the sheet has got a sample: scale, list, selection, drawing and open tree follow; nothing if none is open

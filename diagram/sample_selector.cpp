@@ -28,14 +28,10 @@ void PlaceSampleSelector() {
     frmDiagram.UpDown1.SetTop(frmDiagram.Frame3.Top() + 240);
 }
 
-void ShowSelectedSample() {
-    DrawSampleMarker();
-    PlaceSampleSelector();
-}
-
 void TakeSelectedSample() {
     frmDiagram.SelectedSample = static_cast<std::int16_t>(frmDiagram.Slider1.Value());
-    ShowSelectedSample();
+    DrawSampleMarker();
+    PlaceSampleSelector();
 }
 
 void SelectNextSample() {

@@ -64,7 +64,6 @@ void JoinSliders() {
     frmDiagram.Slider2.Change.Calls(TakeHorizontalScale);
     frmDiagram.HScroll1.Change.Calls(TakeScroll);
     frmDiagram.Slider1.Change.Calls(TakeSelectedSample);
-    frmDiagram.Slider1.Scroll.Calls(TakeSelectedSample);
     frmDiagram.Slider1.KeyUp.Calls([](int) { TakeSelectedSample(); });
 }
 

@@ -1,4 +1,5 @@
 #include "accessories/rest_pictures.h"
+#include "events/boxes.h"
 #include "events/join.h"
 #include "files/exports.h"
 #include "files/new_sheet.h"
@@ -22,7 +23,6 @@
 #include "taxa/edit_boxes.h"
 #include "taxa/move_taxon.h"
 #include "taxa/param_names.h"
-#include "taxa/quotation_guard.h"
 #include "windows/about_windows.h"
 #include "windows/initial_window.h"
 #include "windows/key_code_window.h"
@@ -48,6 +48,7 @@ void JoinGrounds() {
         });
     for (ComboBox* list : {&frmMain.Combo1, &frmMain.Combo2}) {
         list->MouseUp.Calls([](Mouse) { ReturnFocus(); });
+        list->KeyDown.Calls([](int) { ReturnFocus(); });  // before the character: a counted key is no name
         list->KeyUp.Calls([](int) { ReturnFocus(); });
     }
     frmMain.SSTab1.MouseDown.Calls([](Mouse) { HoldTab(); });
@@ -74,7 +75,7 @@ void JoinNameBox(int slot) {
     JoinBox(box);
     box.GotFocus.Calls([slot] { EnterNameBox(slot); });
     box.LostFocus.Calls([slot] { LeaveNameBox(slot); });
-    box.KeyDown.Calls(NoteEditKey);
+    JoinGuardedKeys(box);
     box.MouseDown.Calls([slot](Mouse mouse) { PressInCell(slot, mouse); });
     box.DoubleClick.Calls([slot] { DoubleClickCell(slot, false); });
     box.Change.Calls([slot] { slot == 0 ? TakeSampleName() : TakeTaxonName(slot); });
@@ -120,8 +121,8 @@ void JoinParam(int p) {
     TextBox& box = frmMain.Text5[p];
     JoinBox(box);
     box.GotFocus.Calls([p] { EnterParam(p); });
-    box.LostFocus.Calls([p] { LeaveParam(p); });
-    box.KeyDown.Calls(NoteEditKey);
+    box.LostFocus.Calls([&box] { RestoreDashes(box); });
+    JoinGuardedKeys(box);
     box.Change.Calls([p] { TakeParam(p); });
     frmMain.Label10[p].Change.Calls([p] { EndWithColon(p); });
     frmMain.Command7[p].Click.Calls([p] { RenameParamOfSheet(p); });
@@ -131,7 +132,7 @@ void JoinParam(int p) {
 void JoinSample() {
     JoinBox(frmMain.Text4);
     frmMain.Text4.GotFocus.Calls(EnterNote);
-    frmMain.Text4.KeyDown.Calls(NoteEditKey);
+    JoinGuardedKeys(frmMain.Text4);
     frmMain.Text4.DoubleClick.Calls(DoubleClickNote);
     frmMain.Text4.Change.Calls(TakeNote);
     for (int p = 1; p <= kParams; ++p) JoinParam(p);
@@ -178,6 +179,7 @@ void JoinCommands() {
     frmMain.mnuReset.Click.Calls(AbortCount);
     frmMain.mnuItalic.Click.Calls(ToggleItalics);
 }
+
 void JoinDialogs() {
     frmMain.mnuKeyCodeReader.Click.Calls([] { OpenDialog(frmKeyCode); });
     frmMain.mnuSubtotal.Click.Calls([] { OpenDialog(frmSubtotal); });

@@ -1,8 +1,9 @@
+#include "events/boxes.h"
 #include "events/join.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
-#include "platform/text.h"
 #include "session/sheet_state.h"
+#include "taxa/edit_boxes.h"
 #include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
 #include "windows/next_window.h"
@@ -11,23 +12,21 @@ namespace {
 void JoinNote() {
     TextBox& note = frmNext.Text2;
     note.GotFocus.Calls([&note] {
-        note.SetSelStart(static_cast<int>(Length(note.Text())));
+        PutCaretBehind(note);
         EnterGuardedBox();
     });
-    note.KeyDown.Calls(NoteEditKey);
+    JoinGuardedKeys(note);
     note.Change.Calls([&note] { RefuseQuotationMark(note); });
     note.DoubleClick.Calls(AddSample);  // a short cut for OK
 }
 
 void JoinParam(TextBox& value) {
     value.GotFocus.Calls([&value] {
-        if (value.Text() == kEmpty) value.SetText("");
+        ClearDashes(value);
         EnterGuardedBox();
     });
-    value.LostFocus.Calls([&value] {
-        if (value.Text().empty()) value.SetText(kEmpty);
-    });
-    value.KeyDown.Calls(NoteEditKey);
+    value.LostFocus.Calls([&value] { RestoreDashes(value); });
+    JoinGuardedKeys(value);
     value.Change.Calls([&value] { RefuseQuotationMark(value); });
 }
 }  // namespace

@@ -1,3 +1,4 @@
+#include "events/boxes.h"
 #include "events/join.h"
 #include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
@@ -6,7 +7,7 @@
 void JoinParaNameEvents() {
     TextBox& name = frmParaName.Text1;
     name.GotFocus.Calls(EnterGuardedBox);
-    name.KeyDown.Calls(NoteEditKey);
+    JoinGuardedKeys(name);
     name.Change.Calls([&name] { RefuseQuotationMark(name); });
     frmParaName.FrameClosed.Calls(CancelParamName);
     frmParaName.Command1.Click.Calls(AcceptParamName);

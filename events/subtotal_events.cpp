@@ -1,3 +1,4 @@
+#include "events/boxes.h"
 #include "events/join.h"
 #include "taxa/quotation_guard.h"
 #include "taxa/subtotals.h"
@@ -9,7 +10,7 @@ void JoinSubtotalEvents() {
     for (int subtotal = 1; subtotal <= kSubtotals; ++subtotal) {
         TextBox& name = frmSubtotal.Text1[subtotal];
         name.GotFocus.Calls(EnterGuardedBox);
-        name.KeyDown.Calls(NoteEditKey);
+        JoinGuardedKeys(name);
         name.Change.Calls([subtotal] { TakeSubtotalName(subtotal); });
         frmSubtotal.Option1[subtotal].Click.Calls(ShowChosenSubtotal);
     }

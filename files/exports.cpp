@@ -5,6 +5,7 @@
 #include "files/busy.h"
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
+#include "session/focus_rule.h"
 #include "session/sheet_state.h"
 #include "session/sound.h"
 #include "session/stamps.h"
@@ -51,21 +52,17 @@ void WriteHistory(CellWriter& cells) {
     cells.Write(NoteStamp());
     cells.EndRow();
 }
-
-void GiveFocusBack() {
-    if (!AmendMode) frmMain.Text99.SetFocus();
-}
 }  // namespace
 
 void CreateTemplate() {
     const Busy busy(kSlots);
     if (!Export(WriteTemplate)) return;
-    GiveFocusBack();
+    ReturnFocus();
     PlayIfOn(WaveSave);
 }
 
 void SaveHistory() {
     const Busy busy(HistoryCount);
     frmMain.CommonDialog1.FileName = ProgramFile("References/History.csv");
-    if (Export(WriteHistory)) GiveFocusBack();
+    if (Export(WriteHistory)) ReturnFocus();
 }

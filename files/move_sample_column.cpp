@@ -34,8 +34,10 @@ std::int16_t MovedPlace(std::int16_t column) {
     return column;
 }
 
-// The sample on show stays on show, and what is undone later is taken back where it was counted.
+// The sample on show stays on show, what is undone later is taken back where it was counted, and a reset finds each sample's own state.
 void FollowSamples() {
+    if (static_cast<int>(CountsAtOpen.size()) > SampleCount) MoveInRow(CountsAtOpen.data());
+    for (int p = 1; p <= kParams; ++p) MoveInRow(ParamValuesAtOpen[p]);
     CurrentSample = MovedPlace(CurrentSample);
     for (auto& entry : UndoList)
         if (entry[1] != 0) entry[0] = MovedPlace(entry[0]);

@@ -2,16 +2,18 @@
 
 #include <string>
 
+#include "diagram/open_diagram.h"
 #include "files/sample_fields.h"
 #include "files/sheet_base_name.h"
 #include "platform/text.h"
 #include "session/history.h"
+#include "session/leaving.h"
+#include "session/modify_mode.h"
 #include "session/sheet_state.h"
 #include "session/sound.h"
 #include "session/stamps.h"
 #include "session/start_up.h"
 #include "session/totals.h"
-#include "windows/diagram_window.h"
 #include "windows/main_window.h"
 #include "windows/site_name_window.h"
 
@@ -57,18 +59,17 @@ void ShowFirstSample() {
 
 void NewSheet() {
     if (frmMain.Text3[0].Text() != "0") PlayIfOn(WaveError);
-    const Message question{"Caution!", "This action will abort current data. Do you proceed?", Icon::None, Buttons::YesNo};
-    if (services.messages->Show(question) == Answer::Yes) {
+    if (MayAbortData()) {
+        if (AmendMode) LeaveModifyMode();
         ShowEmptying();
         InitialiseSheet();
-        frmDiagram.Unload();
-        DiagramOpen = false;
+        CloseDiagram();
     }
     frmMain.SSTab1.SetVisible(true);
 }
 
 void LoadSiteNameWindow() {
-    frmSiteName.Text2.SetText("Created: " + NoteStamp() + "\r\nNote: ");
+    frmSiteName.Text2.SetText(FreshNote());
 }
 
 void TakeFirstSampleName() {

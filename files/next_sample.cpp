@@ -10,6 +10,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/dialog.h"
 #include "session/history.h"
 #include "session/sample_on_show.h"
 #include "session/sheet_state.h"
@@ -57,10 +58,7 @@ void SnapshotWithNewColumn() {
         CountsAtOpen[SampleCount][slot] = 0;
         for (int sample = 1; sample < SampleCount; ++sample) CountsAtOpen[sample][slot] = Counts[slot][sample];
     }
-    for (int p = 1; p <= kParams; ++p) {
-        ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
-        for (int sample = 1; sample <= SampleCount; ++sample) ParamValuesAtOpen[p][sample] = ParamValues[p][sample];
-    }
+    SnapshotParams();
 }
 
 // Where the new name belongs among numeric names in order.
@@ -75,6 +73,10 @@ void MoveIntoOrder(const std::string& name) {
     MoveFrom = SampleCount;
     MoveTo = PlaceByValue(Val(name));
     MoveSampleColumnUnseen();
+}
+
+void OfferParamNames() {
+    for (int p = 1; p <= kParams; ++p) frmNext.Label3[p].SetCaption(frmMain.Label10[p].Caption());
 }
 
 void ShowStartFace() {
@@ -107,10 +109,6 @@ void ShowRenameButtons(bool visible) {
     for (int p = 1; p <= kParams; ++p) frmNext.Command5[p].SetVisible(visible);
 }
 
-void GiveMainWindowBack() {
-    frmMain.SetEnabled(true);
-    frmMain.Show();
-}
 }  // namespace
 
 std::int16_t LargestSerial() {
@@ -121,16 +119,14 @@ std::int16_t LargestSerial() {
 }
 
 void LoadNextWindow() {
-    frmNext.Text2.SetText("Created: " + NoteStamp() + "\r\nNote: ");
+    frmNext.Text2.SetText(FreshNote());
     if (SampleCount >= 1)
         ShowSampleFace();
     else
         ShowStartFace();
     frmMain.Load();
-    for (int p = 1; p <= kParams; ++p) {
-        frmNext.Label3[p].SetCaption(frmMain.Label10[p].Caption());
-        frmNext.Text3[p].SetText(kEmpty);
-    }
+    for (int p = 1; p <= kParams; ++p) frmNext.Text3[p].SetText(kEmpty);
+    OfferParamNames();
     frmMain.SetEnabled(false);
     if (KeyboardKnown != 0) {
         frmMain.Show();
@@ -159,6 +155,7 @@ void NextFile() {
             {"Format regulation", "Sample number reached 250. Please create new data sheet.", Icon::Information, Buttons::Ok});
         return;
     }
+    if (frmNext.IsLoaded()) OfferParamNames();  // a cancelled window waited, and the names may have changed
     frmNext.Show();
 }
 
@@ -191,6 +188,7 @@ void AddSample() {
     SnapshotWithNewColumn();
     EmptyCountCells();
     TakeSampleFields(SampleCount, frmNext.Text2, frmNext.Label3, frmNext.Text3);
+    SnapshotParamNames();  // the start face may have renamed them
     frmNext.Unload();
     GiveMainWindowBack();
     CurrentSample = SampleCount;
@@ -208,13 +206,14 @@ void AcceptSample() {
         frmNext.Frame2.SetVisible(true);
     }
     frmMain.SetEnabled(true);
+    if (SampleUntouched) CloseDiagram();
 }
 
 void CancelSample() {
     ShowRenameButtons(true);
     frmNext.Frame2.SetVisible(true);
     frmMain.SetEnabled(true);
-    frmNext.Hide();
+    frmNext.Hide();  // what was typed waits for the next opening
 }
 
 void CloseNextByFrame() {

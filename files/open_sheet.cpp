@@ -4,6 +4,7 @@
 #include <string>
 
 #include "diagram/diversity_curve.h"
+#include "diagram/open_diagram.h"
 #include "files/back_up.h"
 #include "files/read_sheet.h"
 #include "files/sample_names.h"
@@ -14,6 +15,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/dialog.h"
 #include "session/history.h"
 #include "session/italics.h"
 #include "session/leaving.h"
@@ -21,18 +23,12 @@
 #include "session/sound.h"
 #include "session/start_up.h"
 #include "session/totals.h"
-#include "windows/diagram_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 #include "windows/site_name_window.h"
 
 namespace {
 constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter title gives its first 15 characters all the same
-
-void CloseDiagram() {
-    frmDiagram.Unload();
-    DiagramOpen = false;
-}
 
 // False: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
 bool MayReplaceSheet() {
@@ -41,8 +37,7 @@ bool MayReplaceSheet() {
     const bool has_sample = frmMain.Label4.Caption() != "1/0";
     if (has_sample) PlayIfOn(WaveError);
     if (!has_sample && AllTotal == 0) return true;
-    const Message question{"Caution!", "This action will abort current data. Do you proceed?", Icon::None, Buttons::YesNo};
-    if (services.messages->Show(question) != Answer::Yes) return false;
+    if (!MayAbortData()) return false;
     RestoreSheet();
     CloseDiagram();
     return true;
@@ -56,7 +51,7 @@ void ClearCounts() {
 void MakeColumnOfTemplate() {
     TemplateOpened = SampleCount == 0;
     if (!TemplateOpened) return;
-    SampleCount = CurrentSample = 1;
+    SampleCount = CurrentSample = MaxSerial = 1;
     frmMain.Label4.SetCaption("1/1");
     SampleTable[1][1] = 1;
     SampleTable[2][1] = frmMain.Text1[0].Text();
@@ -121,7 +116,6 @@ void ShowOpenedSheet() {
     frmMain.ProgressBar1.SetVisible(false);
     frmMain.Option1[0].SetValue(true);
     for (int slot = 1; slot <= kSlots; ++slot) frmMain.Text1[slot].SetUnderline(false);
-    ShowParams();
 }
 
 void HandOver() {
@@ -131,12 +125,10 @@ void HandOver() {
     CheckSampleNames();
     SheetClean = true;
     SampleUntouched = false;
-    if (TemplateOpened) {
-        frmSiteName.Show();
-        return;
-    }
-    frmMain.SetEnabled(true);
-    frmMain.Show();
+    if (TemplateOpened)
+        OpenDialog(frmSiteName);
+    else
+        GiveMainWindowBack();
 }
 
 // False: a key index repeats, and the session has started afresh.
@@ -154,7 +146,8 @@ void ReadRest(CellReader& cells) {
     if (FileVersion > 1) ReadParamRows(cells);
     if (TemplateOpened) {
         frmSiteName.Load();
-        for (int p = 1; p <= kParams; ++p) frmSiteName.Label3[p].SetCaption(ParamHeader[p][4]);
+        for (int p = 1; p <= kParams; ++p)  // an older file has no names: those on the screen go on
+            frmSiteName.Label3[p].SetCaption(FileVersion > 1 ? ParamHeader[p][4] : WithoutTrailingColon(frmMain.Label10[p].Caption()));
     }
     ReadNotes(cells);
 }
@@ -178,8 +171,9 @@ bool ReadFile(const std::string& path) {
 }
 
 void FinishOpening() {
-    PlaceKeyCells();
-    SnapshotSheet();
+    PlaceKeyCellsIfKnown();
+    ShowParams();
+    SnapshotSheet();  // the names of the parameters come from the screen
     BeginCurve();
     ForgetUndos();
     AddHistoryLine("(Open) " + SheetPath);

@@ -120,6 +120,7 @@ void ReadSampleNames(CellReader& cells) {
 }
 
 void ReadTaxonRows(CellReader& cells) {
+    RowOfSlot[0] = 0;  // a key index of 0 in an earlier file may have taken it
     for (std::int16_t row = 1; row <= kSlots; ++row) {
         frmMain.ProgressBar1.SetValue(row);
         const int slot = ReadTaxonLabels(cells, row);

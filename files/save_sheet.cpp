@@ -13,6 +13,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/focus_rule.h"
 #include "session/history.h"
 #include "session/sheet_state.h"
 #include "session/sound.h"
@@ -162,7 +163,7 @@ void SaveSheet(std::int16_t mode) {
     try {
         WriteFile(path, mode, sums);
         TellSaved();
-        if (mode == kSave && !AmendMode) frmMain.Text99.SetFocus();
+        if (mode == kSave) ReturnFocus();
     } catch (const Failure&) {
         TellFailed();
     }
@@ -171,7 +172,7 @@ void SaveSheet(std::int16_t mode) {
 void SaveFromMenu() {
     SnapshotSheet();
     SaveSheet(SheetClean ? kSaveClean : kSave);
-    if (!AmendMode) frmMain.Text99.SetFocus();
+    ReturnFocus();
 }
 
 void SaveFromButton() {

@@ -58,7 +58,7 @@ void NameUntitledParams() {
         for (int i = 1; i <= 3; ++i)
             if (ParamHeader[p][i].empty()) ParamHeader[p][i] = kEmpty;
         ParamHeader[p][4] = frmMain.Label10[p].Caption();
-        if (ParamHeader[p][4].empty()) ParamHeader[p][4] = "Additional info-" + std::to_string(p);
+        if (WithoutTrailingColon(ParamHeader[p][4]).empty()) ParamHeader[p][4] = "Additional info-" + std::to_string(p);
     }
 }
 

@@ -10,8 +10,15 @@ void SnapshotSheet() {
         for (int slot = 0; slot <= kSlots; ++slot) CountsAtOpen[sample][slot] = Counts[slot][sample];
     for (int slot = 0; slot <= kSlots; ++slot)
         for (int field = 1; field <= 4; ++field) TaxonTableAtOpen[slot][field] = TaxonTable[slot][field];
-    for (int p = 1; p <= kParams; ++p) {
-        ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
+    SnapshotParams();
+}
+
+void SnapshotParams() {
+    SnapshotParamNames();
+    for (int p = 1; p <= kParams; ++p)
         for (int sample = 1; sample <= SampleCount; ++sample) ParamValuesAtOpen[p][sample] = ParamValues[p][sample];
-    }
+}
+
+void SnapshotParamNames() {
+    for (int p = 1; p <= kParams; ++p) ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
 }

@@ -53,9 +53,16 @@ void FocusNext(int key) {
     next.SetFocus();
 }
 
+// While the keyboard counts as unknown, the load of frmNext would hide every window; its start face may still wait, unseen.
+void LeaveForCounting() {
+    KeyboardKnown = 1;
+    if (frmNext.IsLoaded() && frmNext.Command2.Visible()) frmNext.Unload();
+    CloseDialog(frmInitial);
+}
+
 void LeaveToProgram() {
     if (frmInitial.AllKnown == 1) {
-        CloseDialog(frmInitial);
+        LeaveForCounting();
         return;
     }
     frmInitial.Unload();
@@ -107,7 +114,5 @@ void AcceptNamedKeys() {
 }
 
 void CloseInitialByFrame() {
-    if (frmInitial.AllKnown == 0) frmNext.Unload();  // in a first run its start face still waits, unseen
-    KeyboardKnown = 1;                               // whoever will not tell is not asked again before the settings are read anew
-    CloseDialog(frmInitial);
+    LeaveForCounting();  // whoever will not tell is not asked again before the settings are read anew
 }

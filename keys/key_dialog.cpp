@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "keys/key_settings.h"
-#include "platform/failure.h"
 #include "session/dialog.h"
 #include "session/sheet_state.h"
 #include "windows/key_code_window.h"
@@ -86,10 +85,6 @@ void ClearOpenMap() {
 
 void CancelKeySettings() {
     CopyRows(frmKeyCode.SettingsAtOpening, KeySettings);
-    try {
-        PlaceKeyCells();
-    } catch (const Failure&) {
-        // Settings that could not be read have placed no cell either: the session goes on by the built-in keys.
-    }
+    PlaceKeyCellsIfKnown();
     CloseDialog(frmKeyCode);
 }

@@ -15,6 +15,8 @@ constexpr int kLastNamedRow = 62;
 constexpr int kF1Row = 58;
 constexpr int kTopRow[] = {28, 29, 30, 34, 35, 36, 40, 41, 42};  // the keys that F1..F9 count on by default
 constexpr int kKeyOfThree = 51;
+constexpr int kBackspace = 8;
+constexpr int kDelete = 46;
 
 // "[Esc]", "[F5]"; empty for a key without a name. Only F1 is known by itself: the other function keys follow it.
 std::string BracketedName(int code) {
@@ -39,6 +41,11 @@ void Blacken(TextBox (&boxes)[kSize]) {
 void ShowCharacterCode(const std::string& character) {
     const std::string bytes = EncodeFile(character);
     frmKeyCode.Label4.SetCaption(bytes.size() == 1 ? std::to_string(static_cast<unsigned char>(bytes[0])) : "");
+}
+
+// Keys that type a character which no box takes, under its own number: BkSp, Tab, Enter, Esc.
+bool TypesControlCharacter(int code) {
+    return code == kBackspace || code == 9 || code == 13 || code == 27;
 }
 
 void RestoreDefinition(int key) {
@@ -67,11 +74,12 @@ void TakeDefinitionKey(int key, int code) {
     frmKeyCode.OldCode = frmKeyCode.Text2[key].Text();
     GiveCode(key, code);
     NoteEditKey(code);
+    if (TypesControlCharacter(code)) frmKeyCode.Label4.SetCaption(std::to_string(code));
 }
 
 void TakeDefinition(int key) {
     const TextBox& box = frmKeyCode.Text1[key];
-    if (!IsTyped(box)) return;
+    if (!IsTyped(box) || LastEditKey == kBackspace || LastEditKey == kDelete) return;
     ShowCharacterCode(Mid(box.Text(), static_cast<std::size_t>(box.SelStart()), 1));
     if (LastEditKey != kKeyOfThree || box.Text() == "3") return;
     services.messages->Show({"Are you an AZERTY keyboard user?",
@@ -80,6 +88,7 @@ void TakeDefinition(int key) {
 }
 
 void NameDefinition(int key, int code) {
+    ForgetEditKey();
     ShowName(frmKeyCode.Text1[key], code);
 }
 

@@ -47,9 +47,18 @@ void PlaceKeyCells() {
     for (int place = 1; place <= kKeys; ++place) {
         const std::int16_t key = ToInteger(KeySettings[place][2].Number());
         if (key < 1 || key > kSlots) throw Failure(kSubscriptOutOfRange);
+        if (key > kKeys) continue;
         frmMain.Text1[key].SetPlace(KeyLeft[place], KeyTop[place]);
         frmMain.Text2[key].SetPlace(KeyLeft[place], KeyTop[place] + 270);
         frmMain.Label1[key].SetPlace(KeyLeft[place], KeyTop[place] + 550);
+    }
+}
+
+void PlaceKeyCellsIfKnown() {
+    try {
+        PlaceKeyCells();
+    } catch (const Failure&) {
+        // Settings that could not be read: the session goes on by the built-in keys, its cells where they are.
     }
 }
 

@@ -20,5 +20,6 @@ void WriteKeySettings();  // all rows as held; raises "File error"
 // The cells of bank 0 lie where field 2 of their place's row says; those of the other banks stay where they are. Raises "Subscript
 // out of range" for a key number outside 1..135.
 void PlaceKeyCells();
+void PlaceKeyCellsIfKnown();  // the same; a number that is none leaves the cells behind it where they are
 
 int KeyNumber(const Any& field);  // the counter key that a key number means, rounded; 0 for one outside 1..45

@@ -94,6 +94,10 @@ void ComboBox::AddItem(const std::string& item) {
     Tell(Property::Items);
 }
 
+void ComboBox::SetItem(int item, const std::string& text) {
+    if (item < ListCount()) Assign(now_.items[static_cast<std::size_t>(item)], text, Property::Items);
+}
+
 void ComboBox::Clear() {
     if (now_.items.empty() && now_.text.empty()) return;
     now_.items.clear();

@@ -9,9 +9,9 @@ class TextBox : public Control {
 public:
     TextBox() : Control(Kind::TextBox) { now_.back = kWhite; }
 
-    bool multiline = false;     // set once, with the design
+    bool multiline = false;  // set once, with the design
     bool centred = false;
-    bool takes_text = true;     // false: it can hold the focus, but what is typed lands nowhere
+    bool takes_text = true;  // false: it can hold the focus, but what is typed lands nowhere
 
     const std::string& Text() const { return now_.text; }
     // The program sets the text: the caret goes to its front, and Change is raised before SetText returns.
@@ -80,8 +80,9 @@ public:
     const std::vector<std::string>& List() const { return now_.items; }
     int ListCount() const { return static_cast<int>(now_.items.size()); }
     void AddItem(const std::string& item);
-    void Clear();                  // the list and the text, with no event
-    void Choose(int item);         // the user picks an item: the text takes it, Click is raised even if it shows already
+    void SetItem(int item, const std::string& text);  // nothing if there is no such item
+    void Clear();                                     // the list and the text, with no event
+    void Choose(int item);                            // the user picks an item: the text takes it, Click is raised even if it shows already
 
 private:
     int selected_ = 0;
@@ -115,17 +116,16 @@ public:
     void SetRange(int minimum, int maximum);
 };
 
-// A value between two ends, moved by the user or the program; raises Change. Scroll is raised while the user drags.
+// A value between two ends, moved by the user or the program; raises Change, also while the user drags.
 class RangeControl : public Control {
 public:
-    Event<> Scroll;
     int Value() const { return now_.value; }
     int Min() const { return now_.minimum; }
     int Max() const { return now_.maximum; }
     int SmallChange() const { return now_.small_change; }
     int LargeChange() const { return now_.large_change; }
-    void SetValue(int value);                     // kept within the ends
-    void SetRange(int minimum, int maximum);      // a value outside is brought back without an event
+    void SetValue(int value);                 // kept within the ends
+    void SetRange(int minimum, int maximum);  // a value outside is brought back without an event
     void SetSteps(int small_change, int large_change);
 
 protected:

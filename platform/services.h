@@ -77,8 +77,9 @@ public:
     virtual ~ProgramHost() = default;
     virtual std::string Folder() = 0;  // the program's own folder, where References and Sound files lie; no separator at its end
     virtual Box ScreenSize() = 0;      // of the screen that windows come up on, in twips
-    virtual void End() = 0;            // the program ends when the event that runs is over
-    virtual void Fail(const char* word) = 0;  // shows the word of a failure that nothing caught, then ends the program
+    virtual bool CanShow(const std::string& picture) = 0;  // the bytes of a file: a picture of a kind that the platform can draw
+    virtual void End() = 0;                                // the program ends when the event that runs is over
+    virtual void Fail(const char* word) = 0;               // shows the word of a failure that nothing caught, then ends the program
 };
 
 struct Services {
@@ -108,7 +109,7 @@ std::string ProgramFile(const std::string& parts);
 class CommonDialog {
 public:
     std::string FileName;
-    bool AskForSaving();   // False: cancelled, and FileName is as it was
+    bool AskForSaving();  // False: cancelled, and FileName is as it was
     bool AskForOpening();
 
 private:

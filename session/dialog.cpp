@@ -9,6 +9,10 @@ void OpenDialog(Window& dialog) {
 
 void CloseDialog(Window& dialog) {
     dialog.Unload();
+    GiveMainWindowBack();
+}
+
+void GiveMainWindowBack() {
     frmMain.SetEnabled(true);
     frmMain.Show();
 }

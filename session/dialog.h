@@ -3,4 +3,5 @@
 #include "platform/window.h"
 
 void OpenDialog(Window& dialog);
-void CloseDialog(Window& dialog);  // unloads it and brings the main window back, enabled
+void CloseDialog(Window& dialog);  // unloads it and gives the main window back
+void GiveMainWindowBack();         // enabled, in front

@@ -9,6 +9,7 @@
 #include "files/snapshot.h"
 #include "platform/failure.h"
 #include "platform/text.h"
+#include "session/focus_rule.h"
 #include "session/history.h"
 #include "session/sheet_state.h"
 #include "session/sound.h"
@@ -95,12 +96,16 @@ void AbortCount() {
         }
     }
     RedrawDiagram();
-    if (!AmendMode) frmMain.Text99.SetFocus();
+    ReturnFocus();
+}
+
+bool MayAbortData() {
+    return Confirm("This action will abort current data. Do you proceed?");
 }
 
 void QuitProgram() {
     PlayIfOn(WaveError);
-    if (!Confirm("This action will abort current data. Do you proceed?")) return;
+    if (!MayAbortData()) return;
     RestoreSheet();
     SoundOn = false;
     UnloadAll();

@@ -2,7 +2,8 @@
 // leaves after asking.
 #pragma once
 
-void RestoreSheet();  // counts, names, flags and Additional info of the snapshot; samples added since keep their counts
+void RestoreSheet();  // counts, names, flags and Additional info of the snapshot; samples that it does not hold keep their counts
+bool MayAbortData();  // asks whether the data on the screen may go
 void AbortCount();    // Reset
 void QuitProgram();
 void CloseMainWindow();   // by its frame

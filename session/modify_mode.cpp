@@ -73,6 +73,13 @@ void StartCounting() {
     AddHistoryLine("(Resume)");
     ShowSlotNumbers(false);
 }
+void CloseBoxes() {
+    frmMain.Text4.SetEnabled(false);
+    ShowParamNames(false);
+    OpenParams(false);
+    ApplyItalics();
+    AmendingOnOff(1);
+}
 }  // namespace
 
 void AmendingOnOff(std::int16_t mode) {
@@ -92,14 +99,11 @@ void EnterModifyMode() {
 }
 
 void LeaveModifyMode() {
-    frmMain.Text4.SetEnabled(false);
-    ShowParamNames(false);
-    OpenParams(false);
-    ApplyItalics();
-    AmendingOnOff(1);
+    frmMain.Text99.SetFocus();  // the box in hand is left while its edit still counts as one
+    CloseBoxes();
 }
 
 void LeaveModifyModeByDoubleClick() {
-    LeaveModifyMode();
+    CloseBoxes();
     EnableParamNames(false);
 }

@@ -34,6 +34,7 @@ void ShowTotalsInPercent() {
 }  // namespace
 
 void ShowPercentages() {
+    if (!frmMain.KeysEnabled) return;  // by a second mouse button: what is parked are the counts
     ParkCells();
     SamplePercentages(CurrentSample);
     frmMain.KeysEnabled = false;

@@ -16,3 +16,7 @@ std::string NoteStamp() {
 std::string FileStamp() {
     return services.clock->DateText() + "_" + TimeInBrackets();
 }
+
+std::string FreshNote() {
+    return "Created: " + NoteStamp() + "\r\nNote: ";
+}

@@ -9,6 +9,7 @@
 #include "session/history.h"
 #include "session/sheet_state.h"
 #include "session/stamps.h"
+#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
@@ -78,10 +79,12 @@ void FreshHeader() {
     frmMain.Text1[0].SetText(kUnnamed);
     frmMain.Combo2.Clear();
     frmMain.Combo2.SetText(kUnnamed);
+    if (frmMain.FormLoaded) ShowSubtotalNames();  // at the start the menu has words of its own
 }
 
 void FreshTaxa() {
     CountsAtOpen.assign(2, {});
+    RowOfSlot[0] = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
         RowOfSlot[slot] = KeyIndex[slot] = static_cast<std::int16_t>(slot);
         TaxonTable[slot][0] = TaxonTable[slot][1] = slot;
@@ -96,7 +99,11 @@ void FreshNotes() {
     SheetFooter[4] = "Note: ";
     SampleNotes[1] = kEmpty;
     frmMain.Text4.SetText(kEmpty);
-    SheetClean = true;  // emptying the note of an earlier sheet is no edit of this one
+    for (int p = 1; p <= kParams; ++p) {
+        ParamValues[p][1] = kEmpty;
+        frmMain.Text5[p].SetText(kEmpty);
+    }
+    SheetClean = true;  // emptying the fields of an earlier sheet is no edit of this one
 }
 
 void SwitchOffCommands() {

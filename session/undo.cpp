@@ -52,6 +52,7 @@ void UndoNewest() {
 }  // namespace
 
 void Undo() {
+    if (!frmMain.KeysEnabled) return;  // the cells show percentages
     if (UndoList[0][1] != 0) UndoNewest();
     RecountTotals(CurrentSample);
     if (UndoList[0][1] == 0) frmMain.mnuUndo.SetEnabled(false);

@@ -15,6 +15,12 @@
 #include "windows/main_window.h"
 
 namespace {
+// The list goes along: by the old name the sample could not be brought up any more.
+void NameSampleOnShow(const std::string& name) {
+    SampleTable[2][CurrentSample] = name;
+    frmMain.Combo2.SetItem(CurrentSample - 1, name);
+}
+
 bool IsWholeNumber(const std::string& text) {
     return text == NumberText(std::trunc(Val(text)));
 }
@@ -34,6 +40,8 @@ void StoreCount(int slot) {
         }
         Counts[slot][CurrentSample] = ToLong(Val(box.Text()));
         SampleUntouched = false;
+        SheetClean = false;
+        frmMain.mnuNew.SetEnabled(true);
         RecountTotals(CurrentSample);
     }
     Counts[slot][CurrentSample] = ToLong(Val(box.Text()));
@@ -49,7 +57,7 @@ void TakeSampleName() {
     RefuseQuotationMark(frmMain.Text1[0]);
     frmMain.Combo2.SetText(frmMain.Text1[0].Text());
     ShowSerial();
-    if (AmendMode) SampleTable[2][CurrentSample] = frmMain.Text1[0].Text();
+    if (AmendMode) NameSampleOnShow(frmMain.Text1[0].Text());
 }
 
 void TakeTaxonName(int slot) {
@@ -89,7 +97,8 @@ void EndWithColon(int p) {
 }
 
 void RenameSampleOnShow() {
-    SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
+    NameSampleOnShow(frmMain.Combo2.Text());
+    frmMain.Text1[0].SetText(frmMain.Combo2.Text());
     frmMain.Text4.SetText(SampleNotes[CurrentSample]);
     WarnOldSample = true;
     frmMain.Text99.SetEnabled(true);

@@ -48,7 +48,7 @@ void DoubleClickCell(int slot, bool in_count_box) {
 
 void EnterNote() {
     EnterGuardedBox();
-    frmMain.Text4.SetSelStart(static_cast<int>(Length(frmMain.Text4.Text())));
+    PutCaretBehind(frmMain.Text4);
 }
 
 void DoubleClickNote() {
@@ -57,9 +57,17 @@ void DoubleClickNote() {
 
 void EnterParam(int p) {
     EnterGuardedBox();
-    if (frmMain.Text5[p].Text() == kEmpty) frmMain.Text5[p].SetText("");
+    ClearDashes(frmMain.Text5[p]);
 }
 
-void LeaveParam(int p) {
-    if (frmMain.Text5[p].Text().empty()) frmMain.Text5[p].SetText(kEmpty);
+void PutCaretBehind(TextBox& box) {
+    box.SetSelStart(static_cast<int>(Length(box.Text())));
+}
+
+void ClearDashes(TextBox& box) {
+    if (box.Text() == kEmpty) box.SetText("");
+}
+
+void RestoreDashes(TextBox& box) {
+    if (box.Text().empty()) box.SetText(kEmpty);
 }

@@ -45,6 +45,10 @@ void NoteEditKey(int code) {
     key_awaits_text = true;
 }
 
+void ForgetEditKey() {
+    key_awaits_text = false;
+}
+
 bool IsTyped(const TextBox& box) {
     return std::exchange(key_awaits_text, false) && box.SelStart() >= 1;
 }

@@ -10,6 +10,7 @@
 
 struct MainWindow : Window {
     MainWindow();
+    void Amend() {}  // a reserved entry
 
     // The pad. Cells lie on the tab of their bank; Text1[0] shows the name of the sample, Label1[0] is its caption, Text2[0] is unused.
     PictureBox Picture1;        // the ground around the pad: red in Modify mode

@@ -43,6 +43,7 @@ public:
 
     std::string Folder() override { return folder; }
     Box ScreenSize() override { return {0, 0, 15 * 1024, 15 * 768}; }
+    bool CanShow(const std::string& picture) override;  // goes by its first bytes
     void End() override { ended = true; }
     void Fail(const char* word) override {
         if (failure.empty()) failure = word;

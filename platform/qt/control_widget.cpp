@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/qt/look.h"
+#include "platform/qt/made_mouse.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/scaling.h"
 #include "platform/qt/window_widget.h"
@@ -111,8 +112,26 @@ bool ControlWidget::TakeMove(const QMouseEvent& event, QPointF at) {
         ShowPressed(false);
         TheRenderer().Run([&] { Release(MouseAt(lost, at), false); });
     }
+    if (LeavesWith(event, at)) {
+        MoveElsewhere(at);
+        return true;
+    }
     TheRenderer().Run([&] { MoveMouse(control_, MouseAt(held, at)); });
     return held == MouseButton::None || !PassesMouse();
+}
+
+// A script says by itself what its mouse is on.
+bool ControlWidget::LeavesWith(const QMouseEvent& event, QPointF at) const {
+    const bool is_made = event.source() == Qt::MouseEventSynthesizedByApplication;
+    return pressed_ != MouseButton::None && GivesDragAway() && !is_made && !QRectF(widget_->rect()).contains(at);
+}
+
+// To what lies under the pointer; beyond the window that is its ground.
+void ControlWidget::MoveElsewhere(QPointF at) {
+    const QPoint place = widget_->mapTo(window_.Ground(), at.toPoint());
+    QWidget* const under = window_.Ground()->childAt(place);
+    MadeMouse().Send(under ? *under : *window_.Ground(), QEvent::MouseMove, MouseButton::None,
+                     under ? under->mapFrom(window_.Ground(), place) : place);
 }
 
 bool ControlWidget::TakeRelease(const QMouseEvent& event, QPointF at) {

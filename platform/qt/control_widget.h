@@ -42,7 +42,8 @@ protected:
     // What the kind does at a press, besides its events; at the widget's own coordinates.
     virtual void Press(const Mouse& mouse, QPointF at);
     virtual void Release(const Mouse& mouse, bool clicks);
-    virtual bool PassesMouse() const { return false; }  // the widget itself answers the mouse too
+    virtual bool PassesMouse() const { return false; }    // the widget itself answers the mouse too
+    virtual bool GivesDragAway() const { return false; }  // a held mouse that leaves it moves over what it is then on
     virtual void ShowPressed(bool /*pressed*/) {}
     virtual Mouse MouseAt(MouseButton button, QPointF at) const;  // PlaceOf, the other way round
 
@@ -51,6 +52,8 @@ protected:
 private:
     bool TakePress(const QMouseEvent& event, QPointF at);
     bool TakeMove(const QMouseEvent& event, QPointF at);
+    bool LeavesWith(const QMouseEvent& event, QPointF at) const;
+    void MoveElsewhere(QPointF at);
     bool TakeRelease(const QMouseEvent& event, QPointF at);
 
     Control& control_;

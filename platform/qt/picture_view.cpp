@@ -4,6 +4,7 @@
 #include <QToolTip>
 
 #include "platform/qt/look.h"
+#include "platform/qt/picture_file.h"
 #include "platform/qt/picture_painter.h"
 #include "platform/qt/views.h"
 #include "platform/services.h"
@@ -27,6 +28,8 @@ private:
         if (changes.Has(Property::ToolTip) && canvas_->underMouse())  // it follows the pointer from column to column
             QToolTip::showText(QCursor::pos(), ToQt(picture_.ToolTip()), canvas_);
     }
+
+    bool GivesDragAway() const override { return true; }  // a line that is dragged off the picture is dropped there
 
     Mouse MouseAt(MouseButton button, QPointF at) const override {
         return {button, picture_.ScaleLeft() + at.x() / canvas_->width() * picture_.ScaleWidth(),
@@ -71,7 +74,7 @@ private:
             return QRectF(QPointF((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2), fitted);
         };
         if (const std::string& bytes = picture_.ImageBytes(); !bytes.empty()) {
-            const QImage image = QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
+            const QImage image = ReadPicture(bytes);
             painter.setRenderHint(QPainter::SmoothPixmapTransform);
             painter.drawImage(place(image.size()), image);
         }

@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include "platform/qt/look.h"
+#include "platform/qt/picture_file.h"
 #include "platform/qt/program_folder.h"
 #include "platform/qt/qt_message_boxes.h"
 
@@ -26,6 +27,10 @@ bool QtHost::HasFolderAlone() {
 Box QtHost::ScreenSize() {
     const QSize pixels = QGuiApplication::primaryScreen()->size();
     return {0, 0, pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
+}
+
+bool QtHost::CanShow(const std::string& picture) {
+    return IsPicture(picture);
 }
 
 void QtHost::End() {

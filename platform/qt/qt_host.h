@@ -13,6 +13,7 @@ public:
 
     std::string Folder() override { return folder_; }
     Box ScreenSize() override;
+    bool CanShow(const std::string& picture) override;
     void End() override;
     void Fail(const char* word) override;
 

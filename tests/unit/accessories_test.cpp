@@ -39,6 +39,14 @@ TEST_F(AccessoriesTest, APictureCoversTheScreenAloneUntilItIsClicked) {
     }
 }
 
+TEST_F(AccessoriesTest, AClickOnThePictureHidesItsWindowAndKeepsItLoaded) {
+    Begin("10");
+    ClickControl(frmMain.mnuBeach);
+    ClickControl(frmPicture.imgBeach);
+    EXPECT_FALSE(frmPicture.Visible());
+    EXPECT_TRUE(frmPicture.IsLoaded());
+}
+
 TEST_F(AccessoriesTest, TheFavoriteIsAnyPictureByItsFirstBytes) {
     const struct {
         std::string bytes;

@@ -137,4 +137,19 @@ TEST_F(AlarmTest, ChoosingABasisArmsItAndUnderlinesItsMembers) {
         for (int slot = 1; slot <= kSlots; ++slot) EXPECT_EQ(frmMain.Text1[slot].Underline(), slot == basis) << basis << ", slot " << slot;
     }
 }
+
+TEST_F(AlarmTest, OneBelowAFullHundredArmsItOnBothSidesOf0) {
+    struct {
+        int before;
+        bool armed;
+    } cases[] = {{98, true}, {97, false}, {198, true}, {-2, true}, {-3, false}, {-102, true}, {-103, false}};
+    for (const auto& each : cases) {
+        CountedSoFar(each.before);
+        AlarmArmed = false;
+        KeyNumber(1);
+        EXPECT_EQ(AlarmArmed, each.armed) << each.before + 1;
+        EXPECT_EQ(Played(), Texts{"WaveKey1"}) << each.before + 1;
+        PutInCell(1, "0");
+    }
+}
 }  // namespace

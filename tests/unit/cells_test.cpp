@@ -59,6 +59,17 @@ TEST_F(CellsTest, TheCountFromBeforeThePressComesBackNotTheOneTypedSince) {
     EXPECT_EQ(Counts[5][1], 3);
 }
 
+TEST_F(CellsTest, TheCountThatComesBackHasThePrecisionOfASingle) {
+    for (const auto& [count, kept] : {std::pair{"16777216", "16777216"}, {"16777217", "16777216"}, {"123456789", "123456790"}}) {
+        frmMain.Text2[5].SetText(count);
+        Edit("x");
+        EXPECT_EQ(MessageCount(), 1u) << count;
+        EXPECT_EQ(frmMain.Text2[5].Text(), kept) << count;
+        EXPECT_EQ(std::to_string(Counts[5][1]), kept) << count;
+        services_.messages.shown.clear();
+    }
+}
+
 TEST_F(CellsTest, ACountPast32BitsIsPassedOverInSilence) {
     AmendMode = true;
     Edit("2147483648");
@@ -161,6 +172,23 @@ TEST_F(CellsTest, ARenameInModifyModeCanBeSavedOnLeavingIt) {
     EXPECT_FALSE(frmMain.Command5[0].Enabled() || frmMain.mnuSave.Enabled());
     ClickControl(frmMain.Command3[1]);
     EXPECT_TRUE(frmMain.Command5[0].Enabled() && frmMain.mnuSave.Enabled());
+}
+
+TEST_F(CellsTest, TheLabelOfTheSampleNameSelectsNoSlotAndLeavesNoNumberBold) {
+    SelectedSlot = 6;
+    frmMain.Label1[6].SetBold(true);
+    ClickControl(frmMain.Label1[0]);
+    EXPECT_EQ(SelectedSlot, 0);
+    EXPECT_FALSE(frmMain.Label1[6].Bold());
+    EXPECT_FALSE(frmMain.Label1[0].Bold());
+    EXPECT_FALSE(CanReach(frmMain.mnuMoveTo1[0])) << "the menu is of Modify mode";
+}
+
+TEST_F(CellsTest, TheMenuOfACellOffersTheFarthestBankFirst) {
+    Texts banks;
+    for (const Control* control : frmMain.Controls())
+        if (control->container == &frmMain.mnuMove2) banks.push_back(control->State().text);
+    EXPECT_EQ(banks, (Texts{"91-135 (Shift 1 and 2)", "46-90 (Shift 1 or 2)", "1-45 (Neutral)"}));
 }
 
 TEST_F(CellsTest, ATextThatTheProgramPutsIntoTheListRenamesNothing) {

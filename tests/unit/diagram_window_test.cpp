@@ -228,6 +228,21 @@ TEST_F(DiagramWindowTest, SteppingGoesRoundBothEnds) {
     EXPECT_EQ(frmDiagram.Combo2.Text(), "40");
 }
 
+TEST_F(DiagramWindowTest, AKeyReleasedOnTheSliderBringsMarkerAndNameBack) {
+    Open(frmMain.mnuBar);
+    ClickControl(frmDiagram.mnuVertical);
+    MoveMouse(frmDiagram.Picture1, {MouseButton::None, 120, 20});
+    ClickControl(frmDiagram.Combo2);
+    InsertText(frmDiagram.Combo2, "x");
+    ClickControl(frmDiagram.Slider1);
+    PressKey(37);
+    ASSERT_NE(frmDiagram.Combo2.Text(), "40");
+    ASSERT_EQ(Drawn(frmDiagram.Picture1, "line * * * * 255,50,0"), 1);
+    ReleaseKey(37);
+    EXPECT_EQ(frmDiagram.Combo2.Text(), "40");
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line * * * * 255,50,0"), 0);
+}
+
 TEST_F(DiagramWindowTest, OfTwoSamplesOfOneNameTheListSelectsTheRightHandOne) {
     Sheet({"A", "B", "A"}, {{1}, {1}, {1}});
     Open(frmMain.mnuBar);

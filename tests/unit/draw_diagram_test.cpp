@@ -69,6 +69,18 @@ TEST_F(DrawDiagramTest, ADotStandsForMoreThanHalfAPercent) {
     EXPECT_EQ(Drawn(frmDiagram.Picture1, "circle * 20 1.5 0,128,0 255,255,255"), 2);
 }
 
+TEST_F(DrawDiagramTest, AShareBelow0StandsLeftOfTheBaseLineWithoutADot) {
+    Sheet({"a", "b"}, {{-1, 3}, {1, 1}});  // shares of -50 and 150 percent, then halves
+    Open(frmMain.mnuCurve);
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 10 -45 10 0,128,0"), 1);
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line -45 10 55 20 0,128,0"), 1);
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 10 5 20 0,0,0"), 1);
+    Open(frmMain.mnuDot);
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "circle * 10 1.5 0,128,0 255,255,255"), 1);  // of the second taxon
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "circle -45 10 1.5 0,128,0 255,255,255"), 0);
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "circle 55 20 1.5 0,128,0 255,255,255"), 1);
+}
+
 TEST_F(DrawDiagramTest, ATickNeedsAColumnMoreThanFiveWider) {
     // 50 + 10 wide, then a bare gap of 10, then the last taxon.
     Open(frmMain.mnuBar);
@@ -155,6 +167,23 @@ TEST_F(DrawDiagramTest, ThePointerAndTheBarAreGivenBack) {
     EXPECT_EQ(MousePointer, kPointerDefault);
     EXPECT_FALSE(frmMain.ProgressBar1.Visible());
     EXPECT_EQ(frmMain.ProgressBar1.Value(), 0);
+}
+
+TEST_F(DrawDiagramTest, TheBarCountsThe135RowsOfTheSheet) {
+    Open(frmMain.mnuBar);
+    struct : ControlView {
+        Texts seen;
+        void Changed(Property) override {
+            const ProgressBar& bar = frmMain.ProgressBar1;
+            if (bar.Visible() && bar.Value() > 0) seen.push_back(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max()));
+        }
+    } view;
+    frmMain.ProgressBar1.BindView(&view);
+    DrawDiagram();
+    frmMain.ProgressBar1.BindView(nullptr);
+    ASSERT_EQ(view.seen.size(), 135u);
+    EXPECT_EQ(view.seen.front(), "1 of 135");
+    EXPECT_EQ(view.seen.back(), "135 of 135");
 }
 
 TEST_F(DrawDiagramTest, DepthsOutOfOrderStandByTheColumnsOfTheSheet) {

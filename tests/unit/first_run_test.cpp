@@ -137,6 +137,33 @@ TEST_F(FirstRunTest, ALeadingBlankIsForgiven) {
     EXPECT_EQ(MessageCount(), 1u) << "one blank, not two";
 }
 
+TEST_F(FirstRunTest, AnyNumberOtherThan0IsTakenForACode) {
+    Begin("10");
+    for (const auto& [text, code] : {std::pair{"-5", -5.0}, {"1.5", 1.5}, {"999", 999.0}}) {
+        frmInitial.Show();
+        for (int key = 0; key < kNamedKeys; ++key) frmInitial.Text1[key].SetText(std::to_string(kCodes[key]));
+        frmInitial.Text1[0].SetText(text);
+        AcceptNamedKeys();
+        EXPECT_EQ(MessageCount(), 0u) << text;
+        EXPECT_FALSE(frmInitial.IsLoaded()) << text;
+        EXPECT_TRUE(KeySettings[51][1].IsNumber()) << text;
+        EXPECT_EQ(KeySettings[51][1].Number(), code);
+        EXPECT_EQ(FileLine(kFile, 52), "\"Shift\"," + std::string(text) + ",\"-\"");
+    }
+}
+
+TEST_F(FirstRunTest, The999ThatOkTookAsksAgainAtTheNextStart) {
+    Begin("10");
+    frmInitial.Show();
+    for (int key = 0; key < kNamedKeys; ++key) frmInitial.Text1[key].SetText(key == 11 ? "999" : std::to_string(kCodes[key]));
+    ClickControl(frmInitial.Command1);
+    EXPECT_EQ(ActiveWindow(), &frmMain);
+    for (Window* window : AllWindows()) window->Unload();
+    Start();
+    EXPECT_EQ(ActiveWindow(), &frmInitial);
+    EXPECT_EQ(Boxes(), Texts(kNamedKeys));
+}
+
 TEST_F(FirstRunTest, WithoutSettingsOkWritesAFileOfEmptyRowsButForTheTwelve) {
     files_.bytes.erase(kFile);
     Start();

@@ -62,6 +62,27 @@ TEST_F(KeyDialogTest, AKeyWithANameShowsItInBrackets) {
     }
 }
 
+TEST_F(KeyDialogTest, ABoxThatGetsTheFocusForgetsTheLastKey) {
+    Open();
+    ClickControl(frmKeyCode.Text1[1]);
+    Press(51, "3");
+    EXPECT_EQ(LastEditKey, 51);
+    ClickControl(frmKeyCode.Text1[2]);
+    EXPECT_EQ(LastEditKey, 9999);
+}
+
+TEST_F(KeyDialogTest, TheThreeMapsHaveBoxesOfOneSize) {
+    Open();
+    for (const bool left_handed : {false, true}) {
+        ClickControl(frmKeyCode.Option1[left_handed ? 0 : 1]);
+        for (int row = 1; row <= kMapRows; ++row)
+            for (const TextBox* box : {&frmKeyCode.Text2[row], &frmKeyCode.Text3[row]}) {
+                EXPECT_EQ(box->Width(), frmKeyCode.Text1[row].Width()) << box->name << " " << row;
+                EXPECT_EQ(box->Height(), frmKeyCode.Text1[row].Height()) << box->name << " " << row;
+            }
+    }
+}
+
 TEST_F(KeyDialogTest, TheMapsAreLaidOutByTheKeyNumbersRounded) {
     Open();
     ShowTab(2);
@@ -87,6 +108,24 @@ TEST_F(KeyDialogTest, AKeyNumberLiesBetween1And45) {
         SetNumber(5, test.number);
         EXPECT_EQ(MessageCount(), test.good ? 0u : 1u) << test.number;
         EXPECT_EQ(frmKeyCode.Text3[5].Text(), test.good ? test.number : "5");
+    }
+}
+
+TEST_F(KeyDialogTest, CancelJudgesANumberInHandAndTheFrameDoesNot) {
+    Begin("10");
+    for (const bool by_frame : {false, true}) {
+        ClickControl(frmMain.mnuKeyCodeReader);
+        ShowTab(2);
+        ClickControl(frmKeyCode.Text3[5]);
+        InsertText(frmKeyCode.Text3[5], "99");
+        services_.messages.shown.clear();
+        if (by_frame)
+            CloseWindow(frmKeyCode);
+        else
+            ClickControl(frmKeyCode.Command1);
+        EXPECT_EQ(MessageCount(), by_frame ? 0u : 1u);
+        EXPECT_FALSE(frmKeyCode.IsLoaded());
+        EXPECT_EQ(KeySettings[5][2].Number(), 5);
     }
 }
 
@@ -151,6 +190,25 @@ TEST_F(KeyDialogTest, TheHandednessIsForgottenWithTheWindow) {
     EXPECT_EQ(frmKeyCode.Text1[1].Left(), key);
 }
 
+TEST_F(KeyDialogTest, APressBesideTheBoxesLeavesThemOnTheNumbersAlone) {
+    Open();
+    const struct {
+        int tab;
+        TextBox* box;
+        Frame* ground;
+        bool leaves;
+    } cases[] = {{0, &frmKeyCode.Text1[1], &frmKeyCode.Frame1, false}, {0, &frmKeyCode.Text1[1], &frmKeyCode.Frame4, false},
+                 {1, &frmKeyCode.Text4[0], &frmKeyCode.Frame2, false}, {1, &frmKeyCode.Text4[0], &frmKeyCode.Frame4, false},
+                 {2, &frmKeyCode.Text3[1], &frmKeyCode.Frame4, false}, {2, &frmKeyCode.Text3[1], &frmKeyCode.Frame3, true}};
+    for (const auto& each : cases) {
+        ShowTab(each.tab);
+        ClickControl(*each.box);
+        ClickControl(*each.ground);
+        EXPECT_EQ(frmKeyCode.Focus() == each.box, !each.leaves) << each.ground->name << " on tab " << each.tab;
+    }
+    EXPECT_EQ(frmKeyCode.Focus(), &frmKeyCode.Command4);
+}
+
 TEST_F(KeyDialogTest, OnlyATypedTextIsJudgedForTheKeyOf3) {
     Open();
     ClickControl(frmKeyCode.Text1[1]);
@@ -199,6 +257,36 @@ TEST_F(KeyDialogTest, TheFirstPairThatAgreesIsReported) {
     EXPECT_TRUE(frmKeyCode.Command5.Visible()) << "it belongs to that tab";
     EXPECT_EQ(frmKeyCode.Text1[7].ForeColor(), kBlack);
     EXPECT_EQ(MessageCount(), 1u);
+}
+
+TEST_F(KeyDialogTest, WithoutSoundARefusalAndAGoodOkAreSilent) {
+    Open();
+    SoundOn = false;
+    frmKeyCode.Text1[7].SetText("q");
+    ClickControl(frmKeyCode.Command4);
+    EXPECT_EQ(MessageCount(), 1u);
+    frmKeyCode.Text1[7].SetText("z");
+    ClickControl(frmKeyCode.Command4);
+    EXPECT_FALSE(frmKeyCode.IsLoaded());
+    EXPECT_EQ(Played(), Texts{});
+}
+
+TEST_F(KeyDialogTest, TheBarIsSeenFrom1To62OutOf62WhileTheRowsAreStored) {
+    Open();
+    struct : ControlView {
+        Texts seen;
+        void Changed(Property) override {
+            const ProgressBar& bar = frmKeyCode.ProgressBar1;
+            if (bar.Visible() && bar.Value() > 0)
+                seen.push_back(std::to_string(bar.Min()) + " " + std::to_string(bar.Value()) + " " + std::to_string(bar.Max()));
+        }
+    } view;
+    frmKeyCode.ProgressBar1.BindView(&view);
+    ClickControl(frmKeyCode.Command4);
+    frmKeyCode.ProgressBar1.BindView(nullptr);
+    ASSERT_EQ(view.seen.size(), 62u);
+    EXPECT_EQ(view.seen.front(), "0 1 62");
+    EXPECT_EQ(view.seen.back(), "0 62 62");
 }
 
 TEST_F(KeyDialogTest, AFullDiskEndsTheProgram) {

@@ -9,6 +9,7 @@
 
 namespace {
 constexpr const char* kFile = "/program/References/KeySetting.csv";
+constexpr const char* kShiftsAndUndo[][3] = {{"\";\"", "186", "\"46\""}, {"\"p\"", "80", "\"47\""}, {"\"[BkSp]\"", "8", "\"49\""}};
 
 class KeySettingsTest : public SheetTest {
 protected:
@@ -19,6 +20,11 @@ protected:
         const std::size_t at = text.find(old_row + "\r\n");
         ASSERT_NE(at, std::string::npos) << old_row;
         text.replace(at, old_row.size(), new_row);
+    }
+    void GiveFunctionalCode(int key, const std::string& code) {
+        const auto& [text, old_code, number] = kShiftsAndUndo[key];
+        const auto row = [&](const std::string& middle) { return std::string(text) + "," + middle + "," + number; };
+        Rewrite(row(old_code), row(code));
     }
     void KeepLines(int lines) {
         std::string& text = files_.bytes[kFile];
@@ -48,6 +54,18 @@ TEST_F(KeySettingsTest, ShiftAndUndoCodesComeFromTheirRows) {
     EXPECT_EQ(Shift1Code, 186);
     EXPECT_EQ(Shift2Code, 301);
     EXPECT_EQ(UndoKeyCode, 8);
+}
+
+TEST_F(KeySettingsTest, AFunctionalKeyWhoseCodeIsNoNumberHasTheCode0) {
+    for (const char* code : {"\"x\"", "x", "\"\"", ""}) {
+        files_.bytes[kFile] = KnownKeySettings();
+        for (const int key : {0, 1, 2}) GiveFunctionalCode(key, code);
+        Shift1Code = Shift2Code = UndoKeyCode = 1;
+        ReadKeySettings();
+        EXPECT_EQ(Shift1Code, 0) << code;
+        EXPECT_EQ(Shift2Code, 0) << code;
+        EXPECT_EQ(UndoKeyCode, 0) << code;
+    }
 }
 
 TEST_F(KeySettingsTest, A63rdRowIsNeededAndMoreDoNoHarm) {
@@ -128,6 +146,20 @@ TEST_F(KeySettingsTest, ANumberOutOfRangeInTheFileIsTreatedAsAMissingFile) {
     InitialiseSheet();
     EXPECT_EQ(MessageCount(), 1u);
     EXPECT_FALSE(KeySettingsLoaded);
+}
+
+TEST_F(KeySettingsTest, AFunctionalCodeBeyond16BitsIsTreatedAsAMissingFile) {
+    for (const auto& [code, good] : {std::pair{"32767", true}, {"32768", false}, {"-32768", true}, {"-32769", false}, {"\"99999\"", false}})
+        for (const int key : {0, 1, 2}) {
+            files_.bytes[kFile] = KnownKeySettings();
+            GiveFunctionalCode(key, code);
+            services_.messages.shown.clear();
+            frmInitial.Unload();
+            InitialiseSheet();
+            EXPECT_EQ(MessageCount(), good ? 0u : 1u) << kShiftsAndUndo[key][0] << " " << code;
+            EXPECT_EQ(KeySettingsLoaded, good) << kShiftsAndUndo[key][0] << " " << code;
+            EXPECT_EQ(frmInitial.Visible(), !good) << kShiftsAndUndo[key][0] << " " << code;
+        }
 }
 
 TEST_F(KeySettingsTest, AFractionOfANumberIsRoundedHalfToEven) {

@@ -1,11 +1,34 @@
 #include "session/leaving.h"
 
+#include "platform/failure.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
+#include "windows/about_windows.h"
+#include "windows/diagram_window.h"
+#include "windows/initial_window.h"
+#include "windows/key_code_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
+#include "windows/note_window.h"
+#include "windows/para_name_window.h"
+#include "windows/picture_window.h"
+#include "windows/site_name_window.h"
+#include "windows/subtotal_window.h"
 
 namespace {
+Window* const kOthers[] = {&frmParaName, &frmPicture, &frmSubtotal, &frmSiteName, &frmNote,    &frmNext,
+                           &frmKeyCode,  &frmInitial, &frmDiagram,  &frmAboutMB1, &frmAboutDX1};
+
+class ClosedWindows : public WindowView {
+public:
+    Texts names;
+
+private:
+    void Changed(Window& window, WindowProperty property) override {
+        if (property == WindowProperty::Title && !window.IsLoaded()) names.push_back(window.name);
+    }
+};
+
 class LeavingTest : public SheetTest {
 protected:
     LeavingTest() {
@@ -132,5 +155,45 @@ TEST_F(LeavingTest, LeavingClosesEveryOtherWindow) {
     UnloadAll();
     for (const Window* window : AllWindows()) EXPECT_TRUE(window == &frmMain || !window->IsLoaded()) << window->name;
     EXPECT_TRUE(frmMain.IsLoaded());
+}
+
+TEST_F(LeavingTest, TheWindowsCloseInThisOrder) {
+    for (Window* window : kOthers) window->Load();
+    ClosedWindows closed;
+    BindWindowView(&closed);
+    UnloadAll();
+    BindWindowView(nullptr);
+    EXPECT_EQ(closed.names, (Texts{"frmAboutDX1", "frmAboutMB1", "frmDiagram", "frmInitial", "frmKeyCode", "frmNext", "frmNote",
+                                   "frmParaName", "frmSiteName", "frmSubtotal", "frmPicture"}));
+}
+
+TEST_F(LeavingTest, AWindowThatFailsToCloseHoldsNoOtherBack) {
+    for (Window* stuck : kOthers) {
+        for (Window* window : kOthers) window->Load();
+        const Event<> usual = stuck->Unloading;
+        stuck->Unloading.Calls([] { throw Failure(kOverflow); });
+        UnloadAll();
+        stuck->Unloading = usual;
+        for (const Window* window : kOthers) EXPECT_EQ(window->IsLoaded(), window == stuck) << window->name << ", stuck " << stuck->name;
+    }
+}
+
+TEST_F(LeavingTest, QuitFromModifyModeLosesItsEditsAndEnds) {
+    SheetPath = "/sheets/Mere.csv";
+    ClickControl(frmMain.Command5[0]);
+    ClickControl(frmMain.Command3[0]);
+    frmMain.Text2[1].Enter("9", 1);
+    frmMain.Text1[1].Enter("Pinus", 5);
+    ASSERT_EQ(Counts[1][1], 9);
+    Played();
+    AnswerNext(Answer::Yes);
+    ClickControl(frmMain.mnuQuit);
+    EXPECT_EQ(MessageCount(), 1u);
+    EXPECT_EQ(Played(), Texts{"WaveError"});
+    EXPECT_EQ(Counts[1][1], 1);
+    EXPECT_EQ(TaxonTable[1][4].Text(), "---");
+    EXPECT_FALSE(SoundOn);
+    EXPECT_TRUE(services_.host.ended);
+    EXPECT_EQ(FileLine("/sheets/Mere.csv", 3), "1,0,0,\"---\",1");
 }
 }  // namespace

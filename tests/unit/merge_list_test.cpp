@@ -1,5 +1,8 @@
 #include "diagram/merge_list.h"
 
+#include <filesystem>
+#include <random>
+
 #include "diagram/coniss.h"
 #include "platform/services.h"
 #include "platform/user.h"
@@ -33,6 +36,47 @@ TEST_F(MergeListTest, TheRootStandsFirstAndNumbersAreShort) {
     EXPECT_EQ(files_.bytes[kList], "\"Depth from\",\"Depth to\",\"Sum square\"\r\n15,30,0.22222221\r\n10,20,0\r\n");
     EXPECT_EQ(Played(), Texts{"WaveSave"});
     ExpectAtRest();
+}
+
+TEST_F(MergeListTest, NothingOfALongerFileIsLeft) {
+    const std::string path = PathText(std::filesystem::path(testing::TempDir()) / ("merges " + std::to_string(std::random_device()())));
+    services_.disk.OpenForWriting(path)->Replace(std::string(1000, 'x'));
+    Sheet({"a", "b"}, {{1}, {0, 1}});
+    OpenTree();
+    services.files = &services_.disk;
+    AnswerDialog(path);
+    SaveMergeList();
+    EXPECT_EQ(services_.disk.ReadAll(path), "\"Depth from\",\"Depth to\",\"Sum square\"\r\n10,20,2\r\n");
+    std::filesystem::remove(path);
+}
+
+TEST_F(MergeListTest, TheDialogOffersDataFilesAndAsksBeforeOverwriting) {
+    Sheet({"a", "b"}, {{1}, {0, 1}});
+    OpenTree();
+    CancelDialog();
+    SaveMergeList();
+    ASSERT_EQ(services_.dialogs.asked.size(), 1U);
+    const FileQuestion& question = services_.dialogs.asked[0];
+    EXPECT_EQ(question.kind, FileQuestion::Kind::Save);
+    EXPECT_EQ(question.filter, "DataFile(*.csv)|*.csv");
+    EXPECT_TRUE(question.ask_before_overwriting);
+}
+
+TEST_F(MergeListTest, TheBarCountsTheLinesAgainst135) {
+    Sheet({"a", "b", "c", "d"}, {{1}, {0, 1}, {1}, {1}});
+    OpenTree();
+    struct : ControlView {
+        Texts seen;
+        void Changed(Property) override {
+            const ProgressBar& bar = frmMain.ProgressBar1;
+            if (bar.Visible() && bar.Value() > 0) seen.push_back(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max()));
+        }
+    } view;
+    frmMain.ProgressBar1.BindView(&view);
+    AnswerDialog(kList);
+    SaveMergeList();
+    frmMain.ProgressBar1.BindView(nullptr);
+    EXPECT_EQ(view.seen, (Texts{"1 of 135", "2 of 135", "3 of 135"}));
 }
 
 TEST_F(MergeListTest, WithoutSoundItIsSilent) {

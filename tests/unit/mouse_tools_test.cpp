@@ -20,6 +20,10 @@ protected:
     static void Move(double x, double y) { MoveMouse(Diagram(), {MouseButton::None, x, y}); }
     static void Press(MouseButton button, double y) { PressMouse(Diagram(), {button, 250, y}); }
     static void Release(double y) { ReleaseMouse(Diagram(), {MouseButton::None, 250, y}); }
+    static void TypeInList(const std::string& text) {
+        ClickControl(frmDiagram.Combo2);
+        InsertText(frmDiagram.Combo2, text);
+    }
 };
 
 // The same with five samples that have names.
@@ -86,6 +90,59 @@ TEST_F(MouseToolsTest, LeavingThePicturesDropsTheDrag) {
         EXPECT_EQ(MousePointer, kPointerDefault) << place;
         Release(10);
     }
+}
+
+TEST_F(MouseToolsTest, AGuideLineGoesWithThePointerButStaysOverTheGroupOfTheSample) {
+    const Mouse mouse{MouseButton::None, 0, 0};
+    ClickControl(frmDiagram.mnuVertical);
+    const auto guides = [] { return Drawn(Diagram(), "line * * * * 255,50,0"); };
+    Move(120, 20);
+    MoveMouse(frmDiagram.Frame3, mouse);
+    EXPECT_EQ(guides(), 1);
+    MoveMouse(frmDiagram.UpDown1, mouse);
+    EXPECT_EQ(guides(), 1);
+    MoveMouseOverWindow(frmDiagram, mouse);
+    EXPECT_EQ(guides(), 0);
+    Move(120, 20);
+    ASSERT_EQ(guides(), 1);
+    MoveMouse(frmDiagram.Picture4, mouse);
+    EXPECT_EQ(guides(), 0);
+}
+
+TEST_F(MouseToolsTest, LeavingThePicturesBringsATickedNameBack) {
+    const Mouse mouse{MouseButton::None, 0, 0};
+    const struct {
+        const char* name;
+        void (*leave)(Mouse);
+    } places[] = {{"window", [](Mouse where) { MoveMouseOverWindow(frmDiagram, where); }},
+                  {"Frame3", [](Mouse where) { MoveMouse(frmDiagram.Frame3, where); }},
+                  {"UpDown1", [](Mouse where) { MoveMouse(frmDiagram.UpDown1, where); }},
+                  {"Picture4", [](Mouse where) { MoveMouse(frmDiagram.Picture4, where); }}};
+    TypeInList("x");
+    const std::string typed = frmDiagram.Combo2.Text();
+    ASSERT_NE(typed, "40");
+    for (const auto& place : places) {
+        place.leave(mouse);
+        EXPECT_EQ(frmDiagram.Combo2.Text(), typed) << place.name;
+    }
+    ClickControl(frmDiagram.Check1);
+    for (const auto& place : places) {
+        TypeInList("x");
+        ASSERT_NE(frmDiagram.Combo2.Text(), "40");
+        place.leave(mouse);
+        EXPECT_EQ(frmDiagram.Combo2.Text(), "40") << place.name;
+    }
+}
+
+TEST_F(MouseToolsTest, TheRightButtonDuringADragIsPassedOver) {
+    Move(250, 30);
+    Press(MouseButton::Left, 30);
+    Press(MouseButton::Right, 30);
+    EXPECT_FALSE(CanReach(frmDiagram.mnuCopyDiagram));
+    EXPECT_EQ(MousePointer, kPointerSize);
+    EXPECT_TRUE(frmDiagram.SliderDragging);
+    Move(250, 10);
+    EXPECT_EQ(frmDiagram.SelectedSample, 1);
 }
 
 TEST_F(MouseToolsTest, OnDepthsTheRightButtonOpensTheMenuOnTheLineToo) {
@@ -165,6 +222,37 @@ TEST_F(MouseToolsTest, TheTipNamesTheTaxonOfTheColumn) {
     EXPECT_EQ(Diagram().ToolTip(), "");
 }
 
+TEST_F(MouseToolsTest, OnTheEdgeOfAColumnTheOldTipStays) {
+    TaxonTable[1][4] = "Pinus";
+    TaxonTable[2][4] = "Quercus";
+    ClickControl(frmDiagram.mnuTaxaName);
+    Move(ColumnOffset[1], 20);
+    EXPECT_EQ(Diagram().ToolTip(), "");
+    Move(ColumnOffset[1] + 0.25, 20);
+    EXPECT_EQ(Diagram().ToolTip(), "Pinus");
+    Move(ColumnOffset[2], 20);
+    EXPECT_EQ(Diagram().ToolTip(), "Pinus");
+    Move(ColumnOffset[2] + 0.25, 20);
+    EXPECT_EQ(Diagram().ToolTip(), "Quercus");
+    Move(ColumnOffset[2], 20);
+    EXPECT_EQ(Diagram().ToolTip(), "Quercus");
+    Move(ColumnOffset[2] - 0.25, 20);
+    EXPECT_EQ(Diagram().ToolTip(), "Pinus");
+}
+
+TEST_F(MouseToolsTest, TheTipOfTheLastTaxonBeginsPastTheEdgeOfItsColumn) {
+    TaxonTable[1][4] = "Pinus";
+    TaxonTable[135][4] = "Fagus";
+    ClickControl(frmDiagram.mnuTaxaName);
+    Move(30, 20);
+    frmDiagram.HScroll1.SetValue(frmDiagram.HScroll1.Max());
+    const double edge = ColumnOffset[135] - static_cast<double>(frmDiagram.HScroll1.Value());
+    Move(edge, 20);
+    EXPECT_EQ(Diagram().ToolTip(), "Pinus");
+    Move(edge + 0.25, 20);
+    EXPECT_EQ(Diagram().ToolTip(), "Fagus");
+}
+
 TEST_F(MouseToolsTest, TheTipAddsTheScrollValueUnscaledAndTheLastColumnStandsUnscaled) {
     TaxonTable[1][4] = "Pinus";
     TaxonTable[3][4] = "Alnus";
@@ -228,6 +316,17 @@ TEST_F(MoveSampleTest, DroppedOutsideItMovesNothing) {
     EXPECT_EQ(SampleTable[2][2], "B");
     EXPECT_FALSE(frmMain.Command5[0].Enabled());
     EXPECT_EQ(frmDiagram.SelectedSample, 2);
+}
+
+TEST_F(MoveSampleTest, TheRedLineOfADroppedMoveStaysOverTheGroupUntilTheNextEvent) {
+    Move(250, 50);
+    Press(MouseButton::Right, 50);
+    MoveMouse(frmDiagram.Frame3, {MouseButton::Right, 0, 0});
+    EXPECT_FALSE(frmDiagram.MovingSample);
+    EXPECT_EQ(Drawn(Diagram(), "line 0 50 500 50 255,0,0"), 1);
+    MoveMouseOverWindow(frmDiagram, {MouseButton::Right, 0, 0});
+    EXPECT_EQ(Drawn(Diagram(), "line 0 50 500 50 255,0,0"), 0);
+    EXPECT_EQ(Drawn(Diagram(), "line 0 50 500 50 0,0,255"), 0);
 }
 
 TEST_F(MoveSampleTest, TheLineKeepsToTheSamplesHoweverFarItIsDragged) {

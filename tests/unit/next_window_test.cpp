@@ -151,4 +151,18 @@ TEST_F(NextWindowTest, TheNoteGetsItsCaretAtTheEnd) {
     InsertText(frmNext.Text2, "sand");
     EXPECT_EQ(frmNext.Text2.Text(), "Created: 14/11/2026 (10:11:12)\r\nNote: sand");
 }
+
+TEST_F(NextWindowTest, ADoubleClickOnTheNoteUnderANameThatIsTakenLeavesTheWindowInFront) {
+    Begin("10");
+    KeyNumber(1);
+    ClickControl(frmMain.Command5[1]);
+    InsertText(frmNext.Text1, "10");
+    DoubleClickControl(frmNext.Text2);
+    EXPECT_EQ(MessageCount(), 1u);
+    EXPECT_EQ(LastMessage().text, "The sample name is already used. Choose another name.");
+    EXPECT_EQ(ActiveWindow(), &frmNext);
+    EXPECT_EQ(frmNext.Text1.Text(), "10");
+    EXPECT_FALSE(frmMain.Enabled());
+    EXPECT_EQ(SampleCount, 1);
+}
 }  // namespace

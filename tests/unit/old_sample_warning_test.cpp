@@ -101,4 +101,30 @@ TEST_F(OldSampleWarningTest, AReverseCountIsAskedAboutToo) {
     EXPECT_EQ(MessageCount(), 1u);
     EXPECT_EQ(Counts[1][1], 1);
 }
+
+TEST_F(OldSampleWarningTest, NoComesAfterTheKeyHasMarkedTheSheetChanged) {
+    SaveAs("/sheets/mere.csv");
+    SheetClean = true;  // as it is after an open
+    ASSERT_FALSE(frmMain.Command5[0].Enabled());
+    ASSERT_TRUE(frmMain.mnuNext.Enabled());
+    AnswerNext(Answer::No);
+    KeyNumber(1);
+    EXPECT_TRUE(frmMain.Command5[0].Enabled());
+    EXPECT_FALSE(frmMain.mnuNext.Enabled());
+    EXPECT_FALSE(SheetClean);
+    EXPECT_EQ(Counts[1][1], 1);
+}
+
+TEST_F(OldSampleWarningTest, AReverseCountThatIsLostStillKeepsTheUndoKeyFromUndoing) {
+    PressKey(kUndo);
+    AnswerNext(Answer::No);
+    KeyNumber(1);
+    EXPECT_EQ(UndoKeyState, 2);
+    ReleaseKey(kUndo);
+    EXPECT_EQ(UndoKeyState, 0);
+    EXPECT_EQ(CurrentSample, 1);
+    EXPECT_EQ(Counts[1][1], 1);
+    EXPECT_EQ(Counts[1][2], 1);
+    EXPECT_EQ(LastLines(1), Texts{"(Change sample: 10)"});
+}
 }  // namespace

@@ -51,6 +51,35 @@ TEST_F(OpenFailureTest, ANoLeavesTheSheetAndTheNextOpenAsksNothing) {
     EXPECT_EQ(MessageCount(), 1u);
 }
 
+TEST_F(OpenFailureTest, TheQuestionSoundsOnceAndOnceMoreAboveATotalOf0) {
+    struct {
+        int count;  // of the file, before a key adds 1
+        Texts waves;
+    } cases[] = {{-3, {"WaveError"}}, {-1, {"WaveError"}}, {0, {"WaveError", "WaveError"}}};
+    for (const auto& each : cases) {
+        Rows rows = DataSheet(1);
+        for (int row = 0; row < kSlots; ++row) rows[static_cast<std::size_t>(kTaxonRow + row)][4] = "0";
+        rows[kTaxonRow][4] = std::to_string(each.count);
+        ASSERT_TRUE(Open(rows));
+        KeyNumber(1);
+        Played();
+        AnswerNext(Answer::No);
+        OpenSheet();
+        EXPECT_EQ(Played(), each.waves) << each.count + 1;
+    }
+    EXPECT_EQ(MessageCount(), 3u);
+}
+
+TEST_F(OpenFailureTest, WithoutSoundTheQuestionIsSilent) {
+    KeyNumber(1);
+    Played();
+    SoundOn = false;
+    AnswerNext(Answer::No);
+    OpenSheet();
+    EXPECT_EQ(MessageCount(), 1u);
+    EXPECT_EQ(Played(), Texts{});
+}
+
 TEST_F(OpenFailureTest, ACancelledDialogLeavesTheSheet) {
     CancelDialog();
     ExpectSilence(OpenSheet);

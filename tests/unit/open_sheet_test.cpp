@@ -259,6 +259,24 @@ TEST_F(OpenSheetTest, AnOlderSheetNeedsNoCellBeforeItsSerials) {
     EXPECT_EQ(SampleCount, 1);
 }
 
+TEST_F(OpenSheetTest, AnOlderSheetWithoutSerialsIsATemplateWithTheAdditionalInfoOfTheSheetBefore) {
+    ASSERT_TRUE(Open(DataSheet(2)));
+    ASSERT_TRUE(Open(OlderSheet(0)));
+    EXPECT_EQ(FileVersion, 1);
+    EXPECT_TRUE(TemplateOpened);
+    EXPECT_EQ(SampleCount, 1);
+    EXPECT_EQ(frmMain.Label4.Caption(), "1/1");
+    EXPECT_EQ(frmMain.Text1[135].Text(), "Taxon 135");
+    EXPECT_EQ(frmMain.Text2[135].Text(), "0");
+    EXPECT_EQ(ActiveWindow(), &frmSiteName);
+    EXPECT_EQ(frmSiteName.Label3[3].Caption(), "Info 3");
+    InsertText(frmSiteName.Text1, "5");
+    ClickControl(frmSiteName.Command1);
+    EXPECT_EQ(SampleTable[2][1], "5");
+    EXPECT_EQ(frmMain.Label10[3].Caption(), "Info 3:");
+    EXPECT_EQ(ParamValues[3][1], "---");
+}
+
 TEST_F(OpenSheetTest, ABackUpOpensLikeASheetAndIsWrittenOverBySave) {
     ASSERT_TRUE(Open(DataSheet(2)));
     const std::string master = "/program/References/Back up files/Master_back_up.csv";

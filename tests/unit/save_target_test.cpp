@@ -83,6 +83,15 @@ TEST_F(SaveTargetTest, TheDialogKeepsTheNameFromItsLastUse) {
     EXPECT_EQ(LastQuestion().proposed_name, "/sheets/other.csv");
 }
 
+TEST_F(SaveTargetTest, ACopyThatIsCancelledLeavesItsNameInTheDialog) {
+    SaveAs("/sheets/Mere.csv");
+    CancelDialog();
+    ClickControl(frmMain.mnuSaveCopy);
+    CancelDialog();
+    ClickControl(frmMain.mnuSaveAs);
+    EXPECT_EQ(LastQuestion().proposed_name, "/sheets/Mere_(14.11.2026).csv");
+}
+
 TEST_F(SaveTargetTest, ACancelledDialogIsSilentAndLeavesEverythingButTheOutcome) {
     Played();
     CancelDialog();
@@ -145,5 +154,22 @@ TEST_F(SaveTargetTest, OnlyAPlainSaveWhileCountingGivesTheFocusBack) {
     AmendMode = true;
     SaveSheet(kSave);
     EXPECT_EQ(frmMain.Focus(), &frmMain.Command6);
+}
+
+TEST_F(SaveTargetTest, FromTheMenuASaveOfACleanSheetGivesTheFocusBackToo) {
+    SheetPath = "/sheets/Mere.csv";
+    SheetClean = true;
+    frmMain.Command6.SetFocus();
+    ClickControl(frmMain.mnuSave);
+    EXPECT_EQ(LastLines(1), Texts{"(Save)"});
+    EXPECT_EQ(frmMain.Focus(), &frmMain.Text99);
+}
+
+TEST_F(SaveTargetTest, FromTheMenuADroppedDialogGivesTheFocusBackToo) {
+    frmMain.Command6.SetFocus();
+    CancelDialog();
+    ClickControl(frmMain.mnuSave);
+    EXPECT_EQ(SaveOutcome, 2);
+    EXPECT_EQ(frmMain.Focus(), &frmMain.Text99);
 }
 }  // namespace

@@ -196,4 +196,28 @@ TEST_F(SnapshotAndRestoreTest, InModifyModeResetLeavesTheFocusAlone) {
     AbortCount();
     EXPECT_EQ(frmMain.Focus(), &frmMain.Text4);
 }
+
+TEST_F(SnapshotAndRestoreTest, AResetAfterAnUndoIntoASampleOfTheSheetBeforeLeavesItsCounts) {
+    KeyNumber(1);
+    NextSample("20");
+    KeyNumber(2, 3);
+    ShowSample(1);  // else the new sheet empties the cells, and with them the counts, of sample 2
+    AnswerNext(Answer::Yes);
+    ClickControl(frmMain.mnuNew);
+    KeyNumber(1);
+    frmMain.Text1[1].SetText("Pinus");
+    Key(kUndo);
+    Key(kUndo);
+    ASSERT_EQ(SampleCount, 1);
+    ASSERT_EQ(CurrentSample, 2);
+    AnswerNext(Answer::Yes);
+    ClickControl(frmMain.Command2[0]);
+    EXPECT_EQ(LastLines(1), Texts{"(Reset)"});
+    EXPECT_EQ(frmMain.Text2[2].Text(), "2");
+    EXPECT_EQ(Counts[2][2], 2);
+    EXPECT_EQ(frmMain.Text3[0].Text(), "2");
+    EXPECT_EQ(frmMain.Text1[1].Text(), "---") << "names are those of the snapshot";
+    EXPECT_EQ(frmMain.Text5[1].Text(), "---");
+    EXPECT_EQ(CurrentSample, 2);
+}
 }  // namespace

@@ -23,6 +23,17 @@ const std::set<std::string> kGrounds = {"frmMain.Picture1", "frmMain.Frame3"};
 // Below the lower edge of the start face: the window grows down to them.
 const std::set<std::string> kBelowTheEdge = {"frmNext.Command1", "frmNext.Command3"};
 
+// What stands on a menu, from its first item to its last: a word each, with a dash before the name of a separator.
+std::string ItemsOf(const Control* menu) {
+    std::string items;
+    for (const Control* control : frmMain.Controls()) {
+        if (control->kind() != Kind::MenuItem || control->container != menu || !control->Visible()) continue;
+        const bool separator = static_cast<const MenuItem*>(control)->Caption() == "-";
+        items += (items.empty() ? "" : " ") + std::string(separator ? "-" : "") + control->name;
+    }
+    return items;
+}
+
 // Does nothing by design: its window is left by OK alone.
 const std::set<std::string> kIdleButtons = {"frmSiteName.Command3"};
 
@@ -153,6 +164,39 @@ TEST_F(WindowsTest, EveryFieldAndListThatShowsAValueHasAnAccessibleName) {
             if (control->kind() != Kind::TextBox && control->kind() != Kind::ComboBox) continue;
             EXPECT_NE(control->accessible_name, "") << NameOf(*control);
         }
+    }
+}
+
+TEST_F(WindowsTest, TheMenusOfTheMainWindowHaveTheirItemsInThisOrder) {
+    struct {
+        const Control* menu;  // nullptr: the bar
+        const char* items;
+    } cases[] = {
+        {nullptr, "mnuFile mnuEdit mnuTool mnuDiagram mnuAbout nmuRefresh"},
+        {&frmMain.mnuFile,
+         "mnuNew mnuOpen -break7 mnuNext -break5 mnuSave mnuSaveAs mnuSaveCopy -break99 mnuTemplate -break4 mnuSaveHistory -Brake2 "
+         "mnuPercent -break999 mnuQuit"},
+        {&frmMain.mnuPercent, "mnuPercentSub1 mnuPercentSub2 mnuPercentAll"},
+        {&frmMain.mnuEdit, "mnuUndo mnuReset -break6 mnuStartAmend mnuFinishAmend"},
+        {&frmMain.mnuTool, "mnuItalic -break8 mnuKeyCodeReader mnuSubtotal -break3 mnuInitial"},
+        {&frmMain.mnuDiagram, "mnuBar mnuArea mnuDot -Break10 mnuCurve mnuDotCurve"},
+        {&frmMain.mnuAbout, "mnuAboutMB1 mnuAboutDX1"},
+        {&frmMain.nmuRefresh, "mnuCoffee mnuBeach mnuFavorite"},
+    };
+    for (const auto& each : cases) EXPECT_EQ(ItemsOf(each.menu), each.items);
+}
+
+TEST_F(WindowsTest, EveryLetterWithCtrlIsTakenByAnItemThatNobodyReachesAndThatDoesNothing) {
+    Begin("10");
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        const auto* item = static_cast<MenuItem*>(frmMain.Find(std::string("mnu") + letter, -1));
+        ASSERT_NE(item, nullptr) << letter;
+        EXPECT_EQ(item->Caption(), std::string(1, letter));
+        EXPECT_EQ(item->control_letter, letter);
+        EXPECT_EQ(item->container, &frmMain.mnuByPass) << letter;
+        EXPECT_TRUE(item->Enabled()) << letter;
+        EXPECT_FALSE(CanReach(*item)) << letter;
+        EXPECT_FALSE(item->Click.IsJoined()) << letter;
     }
 }
 }  // namespace

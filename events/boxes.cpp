@@ -1,0 +1,8 @@
+#include "events/boxes.h"
+
+#include "taxa/quotation_guard.h"
+
+void JoinGuardedKeys(TextBox& box) {
+    box.KeyDown.Calls(NoteEditKey);
+    box.KeyUp.Calls([](int) { ForgetEditKey(); });
+}
