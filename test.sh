@@ -2,7 +2,7 @@
 # Installs what is missing, builds Marlbrook and runs its tests:
 #     ./test.sh                       everything but what follows
 #     ./test.sh --quick               the unit tests and the scripts without windows
-#     ./test.sh --with-spreadsheet    everything, and sheets that LibreOffice saves again
+#     ./test.sh --with-spreadsheet    everything, sheets that LibreOffice saves again, and the manual's examples for pandas and R
 #     ./test.sh --fuzz                everything, and a minute of opening files that were spoiled at random
 # Unit tests and scripts without windows run under the address and undefined-behaviour sanitizers; whatever shows windows runs in the
 # release build, as users get it. The last line is "N passed, N failed"; the status is 0 if nothing failed.
@@ -56,6 +56,8 @@ if [ "${1:-}" != --quick ]; then
     Tally "Unit tests of the toolkit layer" UnitTests build/release/bin/unit_tests_qt
     Tally "Scripts on windows" tests/run_scripts.sh build/release/bin/marlbrook-drive --windows tests/scripts
     Tally "Demonstration" Demo
+    Tally "Packages" tests/packages/run.sh build/release
+    Tally "The manual" tests/manual/run.sh build/release/bin/marlbrook-drive "${1:-}"
     if [ -x tests/windows/run_all.sh ]; then Tally "The real window" tests/windows/run_all.sh; fi
 fi
 if [ "${1:-}" = --with-spreadsheet ]; then

@@ -13,15 +13,17 @@ for_build=(
     qt6-svg-dev     # the drawn pictures
     qt6-wayland     # desktops without X11
     libsdl2-mixer-dev
-    fonts-dejavu-core
+    fonts-dejavu-core fonts-dejavu-extra  # the second has the slanted faces, for genera
+    python3-markdown  # the manual
 )
 for_test=(
     libgtest-dev libbenchmark-dev
     xvfb openbox xdotool x11-xkb-utils x11-xserver-utils python3  # the real window, with real keys on several layouts
     libxtst-dev                                                   # keys for the benchmark of the window
-    imagemagick
+    imagemagick xclip
+    dpkg-dev file debootstrap lintian desktop-file-utils appstream  # packages made, looked over and installed in a clean root
 )
-for_spreadsheet=(libreoffice-calc-nogui)
+for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)
 for_fuzz=(clang libclang-rt-dev)
 
 Fail() {

@@ -41,15 +41,15 @@ class Desk:
     def __init__(self, size="1366x768", layout="us", variant=""):
         read, write = os.pipe()
         self.processes = []
-        self._start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"], pass_fds=[write])
+        self.start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"], pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as number:
             self.env = dict(os.environ, DISPLAY=":" + number.readline().strip(), QT_QPA_PLATFORM="xcb")
-        self._start(["openbox"], env=self.env)
+        self.start(["openbox"], env=self.env)
         self.use_layout(layout, variant)
         self.run("xset", "r", "rate", "200", "50")
 
-    def _start(self, command, **options):
+    def start(self, command, **options):
         process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
         self.processes.append(process)
         return process
@@ -84,36 +84,25 @@ class Desk:
             process.wait(timeout=10)
 
 
-class Program:
-    """The program in a folder of its own, as after its first run, its sounds written to a file."""
+class StartedProgram:
+    """A program that runs on a desk, started by this command, and a user's hands on its keys and its mouse."""
 
-    def __init__(self, desk, first_run=False, environment=()):
+    def __init__(self, desk, command, **options):
         self.desk = desk
-        self.work = pathlib.Path(tempfile.mkdtemp(prefix="marlbrook-window-"))
-        self.folder = self.work / "program"
-        shutil.copytree(BIN.parent / "tree", self.folder)
-        shutil.copy(BIN / "marlbrook", self.folder)
-        if not first_run:
-            self._know_keyboard()
-        self.sound = self.work / "sound.raw"
-        own_places = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": str(self.sound), "HOME": str(self.work)}
-        self.env = {**desk.env, **own_places, **dict(environment)}
-        self._start()
+        self.command = command
+        self.options = options
+        self.start()
 
-    def _start(self):
-        self.process = self.desk._start([str(self.folder / "marlbrook")], env=self.env, cwd=self.work)
+    def start(self):
+        self.process = self.desk.start(self.command, **self.options)
 
-    def restart(self):
+    def stop(self):
         self.process.terminate()
         self.process.wait(timeout=10)
-        self._start()
 
-    def _know_keyboard(self):
-        settings = self.folder / "References/KeySetting.csv"
-        text = settings.read_bytes().decode()
-        for code in NAMED_KEY_CODES:
-            text = text.replace(",999,", f",{code},", 1)
-        settings.write_bytes(text.encode())
+    def restart(self):
+        self.stop()
+        self.start()
 
     def point(self, window, size, x, y, menu_bar=False):
         """The pixels of x, y in a window; size is its design in twips, as are x and y."""
@@ -170,7 +159,29 @@ class Program:
         wait_for(f"a newer {path}", lambda: path.stat().st_mtime_ns != before and path.stat().st_size)
         return path.read_bytes()
 
+
+class Program(StartedProgram):
+    """The program in a folder of its own, as after its first run, its sounds written to a file."""
+
+    def __init__(self, desk, first_run=False, environment=()):
+        self.work = pathlib.Path(tempfile.mkdtemp(prefix="marlbrook-window-"))
+        self.folder = self.work / "program"
+        shutil.copytree(BIN.parent / "tree", self.folder)
+        shutil.copy(BIN / "marlbrook", self.folder)
+        if not first_run:
+            self._know_keyboard()
+        self.sound = self.work / "sound.raw"
+        own_places = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": str(self.sound), "HOME": str(self.work)}
+        self.env = {**desk.env, **own_places, **dict(environment)}
+        super().__init__(desk, [str(self.folder / "marlbrook")], env=self.env, cwd=self.work)
+
+    def _know_keyboard(self):
+        settings = self.folder / "References/KeySetting.csv"
+        text = settings.read_bytes().decode()
+        for code in NAMED_KEY_CODES:
+            text = text.replace(",999,", f",{code},", 1)
+        settings.write_bytes(text.encode())
+
     def end(self):
-        self.process.terminate()
-        self.process.wait(timeout=10)
+        self.stop()
         shutil.rmtree(self.work, ignore_errors=True)

@@ -1,0 +1,171 @@
+"""What the packages hold is right, and who installs one can count with it.
+
+    packages_test.py BUILD    the build folder whose packages are made and tried; run.sh calls it in a mount namespace of its own
+"""
+import io
+import pathlib
+import shutil
+import sys
+import tempfile
+import unittest
+
+from clean_root import ENVIRONMENT, CleanRoot, run
+
+TOP = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(TOP / "tests/windows"))
+from count_test import STAMP, expected_sheet  # noqa: E402
+from desk import NAMED_KEY_CODES, PAD, SHIFT_1, SHIFT_2, UNDO, Desk, StartedProgram, wait_for  # noqa: E402
+from first_run_test import ENTER, NAMED_KEYS  # noqa: E402
+
+BUILD = pathlib.Path(sys.argv[1]).resolve()
+APPLICATION = "org.marlbrook.Marlbrook"
+SYSTEM_TREE = "usr/share/marlbrook"
+
+
+class Packages(unittest.TestCase):
+    """All tests have one root and one desk; each has a user of its own."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.work = pathlib.Path(tempfile.mkdtemp(prefix="marlbrook-packages-"))
+        cls.addClassCleanup(shutil.rmtree, cls.work)
+        cls.work.chmod(0o755)
+        run("cpack", "-B", cls.work, cwd=BUILD)
+        cls.deb, = cls.work.glob("*.deb")
+        cls.archive, = cls.work.glob("*.tar.gz")
+        cls.desk = Desk()
+        cls.addClassCleanup(cls.desk.close)
+        cls.root = CleanRoot(BUILD / "clean_root", cls.work)
+        cls.root.apt_get("install", cls.deb)
+
+    def new_user(self):
+        """Her name and her home."""
+        name = "user" + str(len(list(self.work.glob("user*"))))
+        self.root.add_user(name, self.work / name)
+        return name, self.work / name
+
+    def start(self, user, home, program="marlbrook"):
+        own = {"HOME": str(home), "DISPLAY": self.desk.env["DISPLAY"]}
+        started = StartedProgram(self.desk, self.root.as_user(user, program), env={**ENVIRONMENT, **own})
+        self.addCleanup(started.stop)
+        return started
+
+    def make_keyboard_known(self, program):
+        self.desk.window("^Initialize$")
+        program.press(*NAMED_KEYS, delay=40)
+        program.press(ENTER)
+        self.desk.gone("^Initialize$")
+        self.desk.window(r"^Marlbrook 2\.7$")
+
+    def files(self, folder):
+        """The bytes of each file below the folder, by its path there."""
+        return {str(file.relative_to(folder)): file.read_bytes() for file in folder.rglob("[!.]*") if file.is_file()}
+
+    def assert_same_files(self, files, expected, when):
+        self.assertEqual([name for name in sorted({*files, *expected}) if files.get(name) != expected.get(name)], [], when)
+
+    def files_of_known_keyboard(self):
+        """The installed files as the first run leaves them."""
+        files = self.files(self.root.path / SYSTEM_TREE)
+        for code in NAMED_KEY_CODES:
+            files["References/KeySetting.csv"] = files["References/KeySetting.csv"].replace(b",999,", b",%d," % code, 1)
+        return files
+
+    def test_menu_entry_and_software_centre_entry_are_valid(self):
+        share = self.root.path / "usr/share"
+        run("desktop-file-validate", share / f"applications/{APPLICATION}.desktop")
+        run("appstreamcli", "validate", "--no-net", share / f"metainfo/{APPLICATION}.metainfo.xml")
+
+    def test_what_the_menu_entry_names_is_installed(self):
+        entry = (self.root.path / f"usr/share/applications/{APPLICATION}.desktop").read_text(encoding="utf-8").splitlines()
+        self.assertIn("Exec=marlbrook", entry)
+        self.assertTrue(self.root.holds("usr/bin/marlbrook"))
+        self.assertIn(f"Icon={APPLICATION}", entry)
+        for size in [16, 22, 24, 32, 48, 64, 128, 256, 512]:
+            icon = self.root.path / f"usr/share/icons/hicolor/{size}x{size}/apps/{APPLICATION}.png"
+            self.assertEqual(run("identify", "-format", "%m %wx%h", icon), f"PNG {size}x{size}")
+        self.assertTrue(self.root.holds(f"usr/share/icons/hicolor/scalable/apps/{APPLICATION}.svg"))
+
+    def test_the_package_follows_the_rules_of_debian(self):
+        run("lintian", "--fail-on", "error", self.deb)
+
+    def test_a_new_user_counts_and_saves(self):
+        user, home = self.new_user()
+        program = self.start(user, home)
+        self.make_keyboard_known(program)
+        own = home / ".local/share/marlbrook"
+        self.assert_same_files(self.files(own), self.files_of_known_keyboard(), "after the first run")
+        self.assertEqual({file.owner() for file in own.rglob("*")}, {own.owner()}, "all is hers")
+        self.assertTrue((own / "References/Back up files").is_dir())
+
+        program.begin("12.5")
+        program.press(*PAD[:10])
+        program.hold(SHIFT_1)
+        program.press(*PAD[10:20])
+        program.hold(SHIFT_2)
+        program.press(*PAD[20:30])
+        program.release(SHIFT_1, SHIFT_2)
+        program.press(UNDO)
+        sheet = home / "core.csv"
+        saved = program.save_as(sheet)
+        counts = {slot: 1 for slot in [*range(1, 11), *range(56, 66), *range(111, 120)]}
+        self.assertEqual(STAMP.sub(b"STAMP", saved).decode(), expected_sheet(sheet, counts).decode())
+
+    def test_what_is_the_users_own_outlives_starts_and_packages(self):
+        user, home = self.new_user()
+        program = self.start(user, home)
+        self.make_keyboard_known(program)
+        own = home / ".local/share/marlbrook"
+        (own / "References/My_favorite.jpg").write_bytes(b"her picture")
+        (own / "Sound files/Key-1.wav").write_bytes(b"her sound")
+        hers = self.files(own)
+
+        def start_again(after):
+            program.start()
+            self.desk.window(r"^Marlbrook 2\.7$")
+            program.stop()
+            self.assert_same_files(self.files(own), hers, "after " + after)
+
+        program.stop()
+        start_again("a second start")
+        self.root.apt_get("install", "--reinstall", self.deb)
+        start_again("the package was installed over itself")
+        self.addCleanup(self.root.apt_get, "install", self.deb)
+        self.root.apt_get("purge", "marlbrook")
+        self.assertFalse(self.root.holds(SYSTEM_TREE))
+        self.assertFalse(self.root.holds("usr/bin/marlbrook"))
+        self.assert_same_files(self.files(own), hers, "after the package was removed")
+        self.root.apt_get("install", self.deb)
+        start_again("the package was installed anew")
+
+    def test_the_driver_plays_the_demonstration(self):
+        user, home = self.new_user()
+        shutil.copy(TOP / "docs/demo.drive", home)
+        run(*self.root.as_user(user, "sh", "-c", f"QT_QPA_PLATFORM=offscreen marlbrook-drive --windows {home}/demo.drive"),
+            env={**ENVIRONMENT, "HOME": str(home)})
+        self.assertIn(b'"Sample name","12.5","15"', (home / "mere.csv").read_bytes())
+
+    def test_the_folder_of_the_archive_is_the_programs_folder(self):
+        user, home = self.new_user()
+        run(*self.root.as_user(user, "tar", "--extract", "--file", self.archive, "--directory", home))
+        folder, = home.glob("marlbrook*")
+        program = self.start(user, home, folder / "marlbrook")
+        self.make_keyboard_known(program)
+        files = self.files(folder)
+        files.pop("marlbrook")
+        self.assert_same_files(files, self.files_of_known_keyboard(), "after the first run")
+        self.assertFalse((home / ".local/share/marlbrook").exists())
+        program.begin("3")
+        program.press(*[PAD[6]] * 100, delay=20)
+        back_ups = folder / "References/Back up files"
+        wait_for(f"a back-up in {back_ups}", lambda: any(back_ups.iterdir()))
+
+
+if __name__ == "__main__":
+    log = io.StringIO()
+    result = unittest.TextTestRunner(log, verbosity=2).run(unittest.defaultTestLoader.loadTestsFromTestCase(Packages))
+    failures = len(result.failures) + len(result.errors)
+    if failures:
+        print(log.getvalue())
+    print(f"{max(0, result.testsRun - failures)} passed, {failures} failed")
+    sys.exit(failures > 0)
