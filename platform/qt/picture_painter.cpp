@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
+#include <QImage>
 #include <algorithm>
 #include <cmath>
 
@@ -9,8 +10,10 @@
 
 namespace {
 constexpr double kPixelsPerPoint = 20.0 / 15;
-constexpr double kNameWidth = 5;    // of a letter on the average, in pixels of the program
-constexpr double kNameSize = 10.5;  // pixels of the program: letters that stand in a row 12 high
+constexpr double kFarOut = 100'000;  // pixels: nothing beyond is on any screen
+constexpr double kLargestDot = 100;  // pixels
+constexpr double kNameWidth = 5;     // of a letter on the average, in pixels of the program
+constexpr double kNameSize = 10.5;   // pixels of the program: letters that stand in a row 12 high
 
 class OperationPainter {
 public:
@@ -48,16 +51,18 @@ private:
     void Line(const DrawOperation& line) {
         const double x1 = X(line.x1), y1 = Y(line.y1), x2 = X(line.x2), y2 = Y(line.y2);
         if (IsCovered(QPointF(x1, y1), QPointF(x2, y2), line.rim)) return;
-        const double thick = Thickness(), half = std::floor(thick / 2);
-        if (std::abs(x1 - x2) < 0.5 || std::abs(y1 - y2) < 0.5) {
-            const QPointF from(std::floor(std::min(x1, x2)) - half, std::floor(std::min(y1, y2)) - half);
-            const QPointF to(std::floor(std::max(x1, x2)) - half + thick, std::floor(std::max(y1, y2)) - half + thick);
-            painter_.fillRect(QRectF(from, to), ToQt(line.rim));
-            return;
-        }
+        if (std::abs(x1 - x2) < 0.5 || std::abs(y1 - y2) < 0.5) return Bar(x1, y1, x2, y2, line.rim);
         painter_.setRenderHint(QPainter::Antialiasing, true);
         UsePen(line.rim);
         painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+    }
+
+    void Bar(double x1, double y1, double x2, double y2, Colour colour) {
+        const auto pixel = [this](double place) { return static_cast<int>(std::floor(std::clamp(place, -kFarOut, kFarOut))); };
+        const int thick = static_cast<int>(Thickness()), half = thick / 2;
+        const QPoint from(pixel(std::min(x1, x2)) - half, pixel(std::min(y1, y2)) - half);
+        const QPoint to(pixel(std::max(x1, x2)) - half + thick, pixel(std::max(y1, y2)) - half + thick);
+        painter_.fillRect(QRect(from, QSize(to.x() - from.x(), to.y() - from.y())), ToQt(colour));
     }
 
     // A long curve has many lines a pixel: one that stays in the pixel where the last one of its colour ended shows nothing new.
@@ -77,13 +82,25 @@ private:
         painter_.fillRect(QRectF(from, QPointF(std::max(to.x(), from.x() + 1), std::max(to.y(), from.y() + 1))), ToQt(rectangle.fill));
     }
 
+    // A diagram has thousands of dots of one size: the first is drawn, the others are copies of it, each in the middle of a pixel.
     void Circle(const DrawOperation& circle) {
-        painter_.setRenderHint(QPainter::Antialiasing, true);
-        UsePen(circle.rim);
-        painter_.setBrush(ToQt(circle.fill));
-        const double radius = X(circle.radius);
-        painter_.drawEllipse(QPointF(X(circle.x1), Y(circle.y1)), radius, radius);
-        painter_.setBrush(Qt::NoBrush);
+        if (dot_.isNull() || circle.radius != dot_of_.radius || circle.rim != dot_of_.rim || circle.fill != dot_of_.fill) MakeDot(circle);
+        const int half = dot_.width() / 2;
+        painter_.drawImage(static_cast<int>(std::floor(std::clamp(X(circle.x1), -kFarOut, kFarOut))) - half,
+                           static_cast<int>(std::floor(std::clamp(Y(circle.y1), -kFarOut, kFarOut))) - half, dot_);
+    }
+
+    void MakeDot(const DrawOperation& circle) {
+        dot_of_ = circle;
+        const double radius = std::min(X(circle.radius), kLargestDot);
+        const int half = static_cast<int>(std::ceil(radius + Thickness()));
+        dot_ = QImage(2 * half + 1, 2 * half + 1, QImage::Format_ARGB32_Premultiplied);
+        dot_.fill(Qt::transparent);
+        QPainter painter(&dot_);
+        painter.setRenderHint(QPainter::Antialiasing, true);
+        painter.setPen(QPen(ToQt(circle.rim), Thickness()));
+        painter.setBrush(ToQt(circle.fill));
+        painter.drawEllipse(QPointF(half + 0.5, half + 0.5), radius, radius);
     }
 
     void Text(const DrawOperation& text) {
@@ -121,6 +138,8 @@ private:
     const PictureScale& scale_;
     Colour pen_;
     bool pen_is_set_ = false;
+    QImage dot_;  // of the last circle
+    DrawOperation dot_of_;
     bool follows_line_ = false;  // nothing else was drawn since the last line
     QPoint line_end_;            // of that line
     Colour line_colour_;
