@@ -29,7 +29,7 @@ HeadlessProgram& TheProgram() {
 }
 
 std::string SheetOf(int samples) {
-    const std::string path = "/sheets/" + std::to_string(samples) + ".csv";
+    std::string path = "/sheets/" + std::to_string(samples) + ".csv";
     std::string& bytes = TheProgram().files.bytes[path];
     if (bytes.empty()) bytes = Joined(DataSheet(samples));
     return path;

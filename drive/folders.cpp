@@ -26,7 +26,7 @@ fs::path MakeFolder(const std::string& purpose) {
     while (true) {
         char number[9];
         std::snprintf(number, sizeof number, "%08x", random());
-        const fs::path folder = parent / ("marlbrook-" + purpose + "-" + number);
+        fs::path folder = parent / ("marlbrook-" + purpose + "-" + number);
         if (fs::create_directory(folder)) return folder;
     }
 }

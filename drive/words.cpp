@@ -50,7 +50,7 @@ std::string TakePlain(std::string_view& rest) {
         if (rest[end] == '"') throw ScriptFault("a quotation mark inside a word: put the whole word in quotes and write \\\"");
         ++end;
     }
-    const std::string word(rest.substr(0, end));
+    std::string word(rest.substr(0, end));
     rest.remove_prefix(end);
     return word;
 }

@@ -5,6 +5,10 @@
 #include "windows/note_window.h"
 #include "windows/picture_window.h"
 
+namespace {
+constexpr int kEscape = 27;
+}
+
 void JoinAccessoryEvents() {
     frmAboutMB1.FrameClosed.Calls([] { CloseDialog(frmAboutMB1); });
     frmAboutMB1.Command1.Click.Calls([] { CloseDialog(frmAboutMB1); });
@@ -13,5 +17,8 @@ void JoinAccessoryEvents() {
     frmNote.Command1.Click.Calls([] { frmNote.Unload(); });
     frmPicture.Loaded.Calls(CoverScreen);
     frmPicture.FrameClosed.Calls([] { frmPicture.Hide(); });
+    frmPicture.KeyDown.Calls([](int code) {
+        if (code == kEscape) frmPicture.Hide();
+    });
     for (PictureBox* picture : frmPicture.pictures) picture->Click.Calls([] { frmPicture.Hide(); });
 }

@@ -11,12 +11,12 @@
 namespace {
 void JoinNote() {
     TextBox& note = frmNext.Text2;
-    note.GotFocus.Calls([&note] {
-        PutCaretBehind(note);
+    note.GotFocus.Calls([] {
+        PutCaretBehind(frmNext.Text2);
         EnterGuardedBox();
     });
     JoinGuardedKeys(note);
-    note.Change.Calls([&note] { RefuseQuotationMark(note); });
+    note.Change.Calls([] { RefuseQuotationMark(frmNext.Text2); });
     note.DoubleClick.Calls(AddSample);  // a short cut for OK
 }
 

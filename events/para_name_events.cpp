@@ -8,7 +8,7 @@ void JoinParaNameEvents() {
     TextBox& name = frmParaName.Text1;
     name.GotFocus.Calls(EnterGuardedBox);
     JoinGuardedKeys(name);
-    name.Change.Calls([&name] { RefuseQuotationMark(name); });
+    name.Change.Calls([] { RefuseQuotationMark(frmParaName.Text1); });
     frmParaName.FrameClosed.Calls(CancelParamName);
     frmParaName.Command1.Click.Calls(AcceptParamName);
     frmParaName.Command2.Click.Calls(CancelParamName);

@@ -41,7 +41,7 @@ void MakeColumn() {
 std::string NameNewSample() {
     frmMain.Text1[0].SetText("");
     if (frmNext.Text1.Text().empty()) frmNext.Text1.SetText(std::to_string(SampleCount) + ": " + kEmpty);
-    const std::string name = frmNext.Text1.Text();
+    std::string name = frmNext.Text1.Text();
     frmMain.Text1[0].SetText(name);
     AddHistoryLine("(New sample: " + name + ")");
     frmMain.Combo2.AddItem(name);
@@ -88,7 +88,7 @@ void ShowStartFace() {
 }
 
 void PutOkBelowSampleFace() {
-    frmNext.Command1.SetPlace(kOkLeft, kSampleFaceHeight + 130);
+    frmNext.Command1.SetPlace(kOkLeft, kSampleFaceHeight + 150);
 }
 
 void ShowSampleFace() {
@@ -97,7 +97,7 @@ void ShowSampleFace() {
     frmNext.Frame1.SetBorder(false);
     frmNext.Frame1.SetVisible(true);
     PutOkBelowSampleFace();
-    frmNext.Command3.SetTop(frmNext.Command1.Top());
+    frmNext.Command3.SetPlace(kCancelLeft, frmNext.Command1.Top());
     frmNext.SetSize(kNextWidth, kSampleFaceHeight + kOkRowHeight);
     frmNext.Label1.SetCaption("Name of the next sample: ");
     frmNext.Command2.SetVisible(false);

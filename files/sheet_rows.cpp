@@ -6,6 +6,7 @@
 #include "platform/text.h"
 #include "session/sheet_state.h"
 #include "session/stamps.h"
+#include "session/totals.h"
 #include "windows/main_window.h"
 
 void StampHeader(const char* label) {
@@ -76,6 +77,5 @@ void FillEmptyNotes() {
 
 void TakeShownSample() {
     SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
-    if (!frmMain.KeysEnabled) return;  // the cells show percentages, and no key has counted since they do
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
+    if (frmMain.KeysEnabled) CopyCellsToCounts();  // else they show percentages, and no key has counted since they do
 }

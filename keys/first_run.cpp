@@ -14,17 +14,10 @@
 
 namespace {
 constexpr int kFirstRow = 51;  // of the named keys in the key settings
-constexpr double kUnknownCode = 999;
 constexpr int kDelete = 46;
 
 Any& CodeOf(int key) {
     return KeySettings[kFirstRow + key][1];
-}
-
-bool KeyboardWasKnown() {
-    for (int key = 0; key < kNamedKeys; ++key)
-        if (CodeOf(key) == 0 || CodeOf(key) == kUnknownCode) return false;
-    return true;
 }
 
 bool HoldsCode(TextBox& box) {
@@ -74,7 +67,7 @@ void LeaveToProgram() {
 }  // namespace
 
 void LoadInitialWindow() {
-    frmInitial.AllKnown = KeyboardWasKnown() ? 1 : 0;
+    frmInitial.AllKnown = AreNamedKeysKnown() ? 1 : 0;
     const bool known = frmInitial.AllKnown == 1;
     for (int key = 0; key < kNamedKeys; ++key) {
         const bool usable = known || key == 0;  // a first run goes down the boxes one by one

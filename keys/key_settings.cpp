@@ -7,16 +7,12 @@
 #include "platform/number.h"
 #include "session/sheet_state.h"
 #include "windows/main_window.h"
+#include "windows/pad_places.h"
 
 namespace {
 constexpr const char* kFile = "References/KeySetting.csv";
 constexpr double kUnknownCode = 999;
 
-bool AllNamedKeysKnown() {
-    for (int row = 51; row <= 62; ++row)
-        if (KeySettings[row][1] == 0 || KeySettings[row][1] == kUnknownCode) return false;
-    return true;
-}
 }  // namespace
 
 void ReadKeySettings() {
@@ -30,7 +26,7 @@ void ReadKeySettings() {
     for (int place = 1; place <= kKeys; ++place)
         for (const int slot : {place, place + kKeys, place + 2 * kKeys}) frmMain.Label1[slot].SetCaption(std::to_string(slot));
     PlaceKeyCells();
-    KeyboardKnown = AllNamedKeysKnown() ? 1 : 0;
+    KeyboardKnown = AreNamedKeysKnown() ? 1 : 0;
 }
 
 void WriteKeySettings() {
@@ -49,8 +45,8 @@ void PlaceKeyCells() {
         if (key < 1 || key > kSlots) throw Failure(kSubscriptOutOfRange);
         if (key > kKeys) continue;
         frmMain.Text1[key].SetPlace(KeyLeft[place], KeyTop[place]);
-        frmMain.Text2[key].SetPlace(KeyLeft[place], KeyTop[place] + 270);
-        frmMain.Label1[key].SetPlace(KeyLeft[place], KeyTop[place] + 550);
+        frmMain.Text2[key].SetPlace(KeyLeft[place], KeyTop[place] + kCountBelowName);
+        frmMain.Label1[key].SetPlace(KeyLeft[place], KeyTop[place] + kNumberBelowName);
     }
 }
 
@@ -60,6 +56,12 @@ void PlaceKeyCellsIfKnown() {
     } catch (const Failure&) {
         // Settings that could not be read: the session goes on by the built-in keys, its cells where they are.
     }
+}
+
+bool AreNamedKeysKnown() {
+    for (int row = 51; row <= 62; ++row)
+        if (KeySettings[row][1] == 0 || KeySettings[row][1] == kUnknownCode) return false;
+    return true;
 }
 
 int KeyNumber(const Any& field) {

@@ -12,14 +12,17 @@
 #include "platform/any.h"
 
 // Reads the file into KeySettings, derives the codes of the shift and undo keys, places the cells and tells KeyboardKnown. Raises
-// "File error", "Input past end of file", or "Subscript out of range" for a key number outside 1..135; KeyboardKnown is then 0.
+// "File error", "Input past end of file", "Subscript out of range" for a key number outside 1..135, or "Overflow" for a number or a
+// functional code past 16 bits; KeyboardKnown is then 0.
 void ReadKeySettings();
 
 void WriteKeySettings();  // all rows as held; raises "File error"
 
 // The cells of bank 0 lie where field 2 of their place's row says; those of the other banks stay where they are. Raises "Subscript
-// out of range" for a key number outside 1..135.
+// out of range" for a key number outside 1..135, or "Overflow"; the cells of the places before it have then moved.
 void PlaceKeyCells();
 void PlaceKeyCellsIfKnown();  // the same; a number that is none leaves the cells behind it where they are
+
+bool AreNamedKeysKnown();  // no code of the last twelve rows is 0 or 999
 
 int KeyNumber(const Any& field);  // the counter key that a key number means, rounded; 0 for one outside 1..45

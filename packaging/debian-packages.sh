@@ -3,7 +3,8 @@
 #     packaging/debian-packages.sh build          what building and running take
 #     packaging/debian-packages.sh test           that, and what the tests take
 #     packaging/debian-packages.sh spreadsheet    what the tests take that send sheets through a spreadsheet
-#     packaging/debian-packages.sh fuzz           what the fuzzer takes
+#     packaging/debian-packages.sh fuzz           what the fuzzers take
+#     packaging/debian-packages.sh bench          the programs that the benchmarks compare with
 # or several of these words.
 set -euo pipefail
 
@@ -24,7 +25,8 @@ for_test=(
     dpkg-dev file debootstrap lintian desktop-file-utils appstream  # packages made, looked over and installed in a clean root
 )
 for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)
-for_fuzz=(clang libclang-rt-dev)
+for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)
+for_fuzz=(clang libclang-rt-dev libgtest-dev)
 
 Fail() {
     echo "debian-packages.sh: $*" >&2
@@ -49,11 +51,12 @@ for purpose in "$@"; do
         build) wanted+=("${for_build[@]}") ;;
         test) wanted+=("${for_build[@]}" "${for_test[@]}") ;;
         spreadsheet) wanted+=("${for_spreadsheet[@]}") ;;
+        bench) wanted+=("${for_bench[@]}") ;;
         fuzz) wanted+=("${for_fuzz[@]}") ;;
         *) wanted=() && break ;;
     esac
 done
-[ "${#wanted[@]}" -gt 0 ] || Fail "say build, test, spreadsheet or fuzz"
+[ "${#wanted[@]}" -gt 0 ] || Fail "say build, test, spreadsheet, fuzz or bench"
 
 if ! command -v apt-get >/dev/null; then
     echo "debian-packages.sh: no apt-get here, so nothing is installed; needed are: ${wanted[*]}" >&2

@@ -11,7 +11,7 @@ int WithinText(const std::string& text, int characters) {
 }
 }  // namespace
 
-void TextBox::SetText(const std::string& text) {
+void TextHolder::SetText(const std::string& text) {
     if (text == now_.text) return;
     now_.text = text;
     now_.caret = 0;
@@ -20,7 +20,7 @@ void TextBox::SetText(const std::string& text) {
     Change.Raise();
 }
 
-void TextBox::Enter(const std::string& text, int caret) {
+void TextHolder::Enter(const std::string& text, int caret) {
     selected_ = 0;
     now_.caret = WithinText(text, caret);
     Tell(Property::Caret);
@@ -28,14 +28,15 @@ void TextBox::Enter(const std::string& text, int caret) {
     now_.text = text;
     Tell(Property::Text);
     Change.Raise();
+    HasBeenEdited();
 }
 
-void TextBox::SetSelStart(int characters) {
+void TextHolder::SetSelStart(int characters) {
     selected_ = 0;
     Assign(now_.caret, WithinText(now_.text, characters), Property::Caret);
 }
 
-void TextBox::Select(int start, int length) {
+void TextHolder::Select(int start, int length) {
     now_.caret = WithinText(now_.text, start);
     selected_ = WithinText(now_.text, now_.caret + length) - now_.caret;
 }
@@ -57,36 +58,6 @@ void OptionButton::SetValue(bool selected) {
 
 void CheckBox::SetValue(int value) {
     if (Assign(now_.value, value, Property::Value)) Click.Raise();
-}
-
-void ComboBox::SetText(const std::string& text) {
-    if (text == now_.text) return;
-    now_.text = text;
-    now_.caret = 0;
-    selected_ = 0;
-    Tell(Property::Text);
-    Change.Raise();
-}
-
-void ComboBox::Enter(const std::string& text, int caret) {
-    selected_ = 0;
-    now_.caret = WithinText(text, caret);
-    Tell(Property::Caret);
-    if (text == now_.text) return;
-    now_.text = text;
-    Tell(Property::Text);
-    Change.Raise();
-    Edited.Raise();
-}
-
-void ComboBox::SetSelStart(int characters) {
-    selected_ = 0;
-    Assign(now_.caret, WithinText(now_.text, characters), Property::Caret);
-}
-
-void ComboBox::Select(int start, int length) {
-    now_.caret = WithinText(now_.text, start);
-    selected_ = WithinText(now_.text, now_.caret + length) - now_.caret;
 }
 
 void ComboBox::AddItem(const std::string& item) {

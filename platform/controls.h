@@ -5,14 +5,9 @@
 
 #include "platform/control.h"
 
-class TextBox : public Control {
+// What text boxes and combo boxes have in common: a text that is typed, a caret, and what is selected behind it.
+class TextHolder : public Control {
 public:
-    TextBox() : Control(Kind::TextBox) { now_.back = kWhite; }
-
-    bool multiline = false;  // set once, with the design
-    bool centred = false;
-    bool takes_text = true;  // false: it can hold the focus, but what is typed lands nowhere
-
     const std::string& Text() const { return now_.text; }
     // The program sets the text: the caret goes to its front, and Change is raised before SetText returns.
     void SetText(const std::string& text);
@@ -24,8 +19,22 @@ public:
     int SelLength() const { return selected_; }  // characters selected behind the caret, by the user alone
     void Select(int start, int length);
 
+protected:
+    explicit TextHolder(Kind kind) : Control(kind) { now_.back = kWhite; }
+    virtual void HasBeenEdited() {}  // by the user, after Change
+
 private:
     int selected_ = 0;
+};
+
+class TextBox : public TextHolder {
+public:
+    TextBox() : TextHolder(Kind::TextBox) {}
+
+    bool multiline = false;  // set once, with the design
+    bool centred = false;
+    bool takes_keys = false;  // each key counts as itself, whatever it types or does elsewhere: Tab, Enter and dead keys too
+    bool takes_text = true;   // false: it can hold the focus, but what is typed lands nowhere
 };
 
 class Label : public Control {
@@ -63,19 +72,11 @@ public:
     void SetValue(int value);  // 0 or 1; raises Click
 };
 
-class ComboBox : public Control {
+class ComboBox : public TextHolder {
 public:
-    ComboBox() : Control(Kind::ComboBox) { now_.back = kWhite; }
+    ComboBox() : TextHolder(Kind::ComboBox) {}
 
     Event<> Edited;  // the user typed into the text box; Change is raised as well
-
-    const std::string& Text() const { return now_.text; }
-    void SetText(const std::string& text);  // raises Change
-    void Enter(const std::string& text, int caret);
-    int SelStart() const { return now_.caret; }
-    void SetSelStart(int characters);
-    int SelLength() const { return selected_; }
-    void Select(int start, int length);
 
     const std::vector<std::string>& List() const { return now_.items; }
     int ListCount() const { return static_cast<int>(now_.items.size()); }
@@ -85,7 +86,7 @@ public:
     void Choose(int item);                            // the user picks an item: the text takes it, Click is raised even if it shows already
 
 private:
-    int selected_ = 0;
+    void HasBeenEdited() override { Edited.Raise(); }
 };
 
 class Frame : public Control {

@@ -54,12 +54,8 @@ struct Edit {
 };
 
 Edit EditOf(const Control& box) {
-    if (box.kind() == Kind::ComboBox) {
-        const auto& combo = static_cast<const ComboBox&>(box);
-        return {combo.Text(), combo.SelStart(), combo.SelLength()};
-    }
-    const auto& text_box = static_cast<const TextBox&>(box);
-    return {text_box.Text(), text_box.SelStart(), text_box.SelLength()};
+    const auto& holder = static_cast<const TextHolder&>(box);
+    return {holder.Text(), holder.SelStart(), holder.SelLength()};
 }
 
 bool TakesText(const Control& control) {
@@ -215,10 +211,7 @@ void FinishDoubleClick(Control& control) {
 
 void EnterText(Control& box, const std::string& text, int caret) {
     if (!HasKeyFocus(box) || !TakesText(box)) return;
-    if (box.kind() == Kind::ComboBox)
-        static_cast<ComboBox&>(box).Enter(text, caret);
-    else
-        static_cast<TextBox&>(box).Enter(text, caret);
+    static_cast<TextHolder&>(box).Enter(text, caret);
 }
 
 void InsertText(Control& box, const std::string& text) {

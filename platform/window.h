@@ -23,12 +23,14 @@ public:
 
     const std::string name;
     bool key_preview = false;   // the window sees a key before the control with the focus
-    bool resizable = false;     // the user's size is the window's own; otherwise a larger window is the same one, enlarged
-    Event<> Loaded;             // raised once by Load
+    Button* confirm = nullptr;  // Enter presses it and Esc the other, wherever the focus is, unless the control there wants the key
+    Button* dismiss = nullptr;
+    bool resizable = false;  // the user's size is the window's own; otherwise a larger window is the same one, enlarged
+    Event<> Loaded;          // raised once by Load
     Event<> Unloading;
-    Event<> Activated;          // it has become the active window
-    Event<> FrameClosed;        // the user closes it by its frame; if nothing is joined, it is just unloaded
-    Event<> Resized;            // by the user, or by SetSize
+    Event<> Activated;    // it has become the active window
+    Event<> FrameClosed;  // the user closes it by its frame; if nothing is joined, it is just unloaded
+    Event<> Resized;      // by the user, or by SetSize
     Event<int> KeyDown;
     Event<int> KeyUp;
     Event<Mouse> MouseDown;
@@ -84,7 +86,7 @@ private:
     Control* first_focus_ = nullptr;
 };
 
-const std::vector<Window*>& AllWindows();     // in no special order
-const std::vector<Window*>& ShownWindows();   // from the back to the front
-Window* ActiveWindow();                       // nullptr if none is shown and enabled
-void BindWindowView(WindowView* view);        // nullptr: nobody looks
+const std::vector<Window*>& AllWindows();    // in no special order
+const std::vector<Window*>& ShownWindows();  // from the back to the front
+Window* ActiveWindow();                      // nullptr if none is shown and enabled
+void BindWindowView(WindowView* view);       // nullptr: nobody looks

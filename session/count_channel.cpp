@@ -8,12 +8,6 @@
 #include "session/totals.h"
 #include "windows/main_window.h"
 
-namespace {
-void CopyCellsToCounts() {
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
-}
-}  // namespace
-
 void CountSlotInChannel() {
     const std::string text = frmMain.Text0.Text();
     if (Length(text) == 1) return;  // a slot is never written with one digit
@@ -23,6 +17,5 @@ void CountSlotInChannel() {
     if (slot >= 1 && slot <= kSlots) ShowCountOf(slot, Val(frmMain.Text2[slot].Text()) + step);
     RecountTotals(CurrentSample);
     frmMain.Text0.SetText("");  // comes back here once more with no slot, and only recounts
-    frmMain.Text3[0].SetText(NumberText(AllTotal));
     CopyCellsToCounts();
 }

@@ -25,8 +25,8 @@ void LayOutCells() {
         KeyTop[place] = static_cast<std::int16_t>(name.top);
         for (const int slot : {place + kKeys, place + 2 * kKeys}) {
             frmMain.Text1[slot].SetPlace(name.left, name.top);
-            frmMain.Text2[slot].SetPlace(name.left, name.top + 270);
-            frmMain.Label1[slot].SetPlace(name.left, name.top + 550);
+            frmMain.Text2[slot].SetPlace(name.left, name.top + kCountBelowName);
+            frmMain.Label1[slot].SetPlace(name.left, name.top + kNumberBelowName);
         }
     }
 }
@@ -59,8 +59,7 @@ void BeginFirstSample() {
     CurrentSample = 1;
     MaxSerial = 1;
     frmMain.Label4.SetCaption("1/1");
-    for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
-        style->SetEnabled(false);
+    EnableDiagramItems(false);
     frmMain.mnuItalic.SetChecked(true);
 }
 

@@ -67,10 +67,13 @@ void ShowCountsOfSample() {
     for (int slot = 1; slot <= kSlots; ++slot) ShowCountOf(slot, Counts[slot][CurrentSample]);
 }
 
-void OfferDiagram() {
-    if (SampleCount < 2) return;
+void EnableDiagramItems(bool enabled) {
     for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
-        style->SetEnabled(true);
+        style->SetEnabled(enabled);
+}
+
+void OfferDiagram() {
+    if (SampleCount >= 2) EnableDiagramItems(true);
 }
 
 void EmptyCountCells() {
@@ -79,6 +82,10 @@ void EmptyCountCells() {
         frmMain.Text2[slot].SetText("0");
         Counts[slot][CurrentSample] = 0;  // a column of an earlier sheet may have left its counts
     }
+}
+
+void CopyCellsToCounts() {
+    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
 }
 
 void ShowZeroTotals() {

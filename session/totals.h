@@ -11,6 +11,8 @@ void ChooseBasis(int option);  // Option1[option] was selected: underlines the m
                                // an open diagram follows
 void ShowCountOf(int slot, double count);  // puts the count into its cell
 void ShowCountsOfSample();                 // all cells take the counts of CurrentSample
+void EnableDiagramItems(bool enabled);     // of the main window: the five styles
 void OfferDiagram();                       // Label4 has changed: two samples make a diagram
 void EmptyCountCells();                    // all cells read 0 and lose their bold; the column of CurrentSample follows
+void CopyCellsToCounts();                  // the other way round. Raises "Overflow" past 32 bits
 void ShowZeroTotals();                     // of a sample in which nothing is counted yet

@@ -39,6 +39,7 @@ AboutProgramWindow::AboutProgramWindow() : Window("frmAboutMB1", "Marlbrook 2.7"
     Add(Command1, "Command1", -1, nullptr, {5380, 2560, 1280, 420});
     Command1.SetCaption("OK");
     FirstFocus(Command1);
+    confirm = dismiss = &Command1;
     KeepDesign();
 }
 
@@ -55,5 +56,6 @@ AboutKeypadWindow::AboutKeypadWindow() : Window("frmAboutDX1", "Ergodex DX-1 inp
     Add(Command1, "Command1", -1, nullptr, {6080, 2700, 1280, 420});
     Command1.SetCaption("OK");
     FirstFocus(Command1);
+    confirm = dismiss = &Command1;
     KeepDesign();
 }

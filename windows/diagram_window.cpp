@@ -79,6 +79,7 @@ void DiagramWindow::PlaceSelector() {
     Add(Frame3, "Frame3", -1, nullptr, {kSelectorLeft, kPictureTop, kSelectorWidth, 600});
     Frame3.SetBorder(false);
     Add(Check1, "Check1", -1, &Frame3, {30, 0, kSelectorWidth - 30, 240});
+    Check1.accessible_name = "Line of the selected sample stays";
     Add(Combo2, "Combo2", -1, &Frame3, {0, 255, kSelectorWidth, 330});
     Combo2.accessible_name = "Selected sample";
 }

@@ -40,6 +40,7 @@ InitialWindow::InitialWindow() : Window("frmInitial", "Initialize", 7200, 5660) 
         Label4[key].SetCaption(kKeyNames[key]);
         Add(Text1[key], "Text1", key, nullptr, {left + 1200, top, 1400, 330});
         Text1[key].centred = true;
+        Text1[key].takes_keys = true;
         Text1[key].accessible_name = kKeyNames[key];
     }
     Add(Command1, "Command1", -1, nullptr, {2960, 5080, 1280, 420});

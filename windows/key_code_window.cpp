@@ -55,6 +55,8 @@ KeyCodeWindow::KeyCodeWindow() : Window("frmKeyCode", "Key settings", kWidth, 65
     Add(Command1, "Command1", -1, nullptr, {7080, kBottomTop, 960, 400});
     Command1.SetCaption("Cancel");
     FirstFocus(Command4);
+    confirm = &Command4;
+    dismiss = &Command1;
     KeepDesign();
 }
 
@@ -75,7 +77,8 @@ void KeyCodeWindow::PlaceMaps() {
         Text1[row].SetEnabled(!functional);
         Text2[row].SetEnabled(false);
         Text3[row].SetEnabled(!functional);
-        Text1[row].tab_stop = false;  // Tab is a key like any other there: it would not lead out again
+        Text1[row].takes_keys = true;
+        Text1[row].tab_stop = false;  // Tab would not lead out again
     }
 }
 
@@ -104,7 +107,7 @@ void KeyCodeWindow::PlaceFunctionalKeys() {
         Label6[key].SetCaption(kFunctionalWords[key]);
         Add(Text4[key], "Text4", key, &Frame4, {kBoxLeft, top, 1060, 300});
     }
-    Add(Command3, "Command3", -1, &Frame4, {6300, 620, 1380, 400});
+    Add(Command3, "Command3", -1, &Frame4, {kSideLeft - 120, 620, 1445, 400});
     Command3.SetCaption("Notice");
     Add(Label7, "Label7", -1, nullptr, {360, kBottomTop + 60, 4240, 280});
     Label7.SetCaption("Place the cursor in the box and press [F1] key: ");
@@ -112,6 +115,7 @@ void KeyCodeWindow::PlaceFunctionalKeys() {
     for (int key = 0; key <= kF1Box; ++key) {
         Text4[key].centred = true;
         Text4[key].accessible_name = kSpokenNames[key];
+        Text4[key].takes_keys = true;
         Text4[key].tab_stop = false;
     }
 }

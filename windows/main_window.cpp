@@ -35,15 +35,15 @@ void MainWindow::PlacePad() {
     Add(SSTab1, "SSTab1", -1, nullptr, {60, kPadTop, 11280, 4640});
     SSTab1.SetTabCaptions({"Neutral", "Shift 1 or 2", "Shift 1 and 2"});
     for (int block = 0; block < 3; ++block) {
-        Add(Frame3[block], "Frame3", block, &SSTab1, {160 + 3840 * block, 320, 3360, 4240});
+        Add(Frame3[block], "Frame3", block, &SSTab1, {160 + 3840 * block, 300, 3360, 4130});
         Frame3[block].SetBackColor(kPanel);
     }
     for (int slot = 1; slot <= kSlots; ++slot) {
         const int bank = (slot - 1) / kKeys;
         const Box name = PadPlace((slot - 1) % kKeys + 1);
         Add(Text1[slot], "Text1", slot, &SSTab1, name);
-        Add(Text2[slot], "Text2", slot, &SSTab1, {name.left, name.top + 270, name.width, 270});
-        Add(Label1[slot], "Label1", slot, &SSTab1, {name.left, name.top + 550, name.width, 190});
+        Add(Text2[slot], "Text2", slot, &SSTab1, {name.left, name.top + kCountBelowName, name.width, 270});
+        Add(Label1[slot], "Label1", slot, &SSTab1, {name.left, name.top + kNumberBelowName, name.width, 190});
         Text1[slot].page = Text2[slot].page = Label1[slot].page = bank;
         Text1[slot].SetText(kEmpty);
         Text1[slot].accessible_name = "Name of taxon " + std::to_string(slot);
@@ -64,23 +64,25 @@ void MainWindow::PlacePad() {
 }
 
 void MainWindow::PlaceSample() {
-    Add(Frame1, "Frame1", -1, nullptr, {60, kColumnTop, 2700, kColumnHeight});
-    Add(Label1[0], "Label1", 0, &Frame1, {80, 90, 1080, 270});
+    Add(Frame1, "Frame1", -1, nullptr, {60, kColumnTop, 2560, kColumnHeight});
+    Add(Label1[0], "Label1", 0, &Frame1, {80, 90, 1140, 270});
     Label1[0].SetCaption("Sample name: ");
+    Label1[0].SetFontSize(8);
     Label1[0].SetForeColor(kQuiet);
-    Add(Text1[0], "Text1", 0, &Frame1, {1180, 70, 1440, 300});
+    Add(Text1[0], "Text1", 0, &Frame1, {1240, 70, 1240, 300});
     Text1[0].SetText("-9999");
     Text1[0].SetBold(true);
     Text1[0].accessible_name = "Sample name";
-    Add(Combo2, "Combo2", -1, &Frame1, {1180, 420, 1440, 300});
+    Add(Combo2, "Combo2", -1, &Frame1, {1240, 420, 1240, 300});
     Combo2.SetText("-9999");
     Combo2.accessible_name = "Sample on show";
-    Add(Label3, "Label3", -1, &Frame1, {80, 800, 1080, 270});
+    Add(Label3, "Label3", -1, &Frame1, {80, 800, 1140, 270});
     Label3.SetCaption("Serial No.:");
+    Label3.SetFontSize(8);
     Label3.SetForeColor(kQuiet);
-    Add(Label4, "Label4", -1, &Frame1, {1180, 800, 1440, 270});
+    Add(Label4, "Label4", -1, &Frame1, {1240, 800, 1240, 270});
     Label4.SetCaption("1/1");
-    Add(Text4, "Text4", -1, &Frame1, {80, 1140, 2540, 1440});
+    Add(Text4, "Text4", -1, &Frame1, {80, 1140, 2400, 1440});
     Text4.SetText(kEmpty);
     Text4.multiline = true;
     Text4.SetFontSize(8);
@@ -89,56 +91,56 @@ void MainWindow::PlaceSample() {
 
 void MainWindow::PlaceTotals() {
     static constexpr const char* kNames[3] = {"All total:", "Subtotal-1:", "Subtotal-2:"};
-    Add(Frame2, "Frame2", -1, nullptr, {2820, kColumnTop, 2760, kColumnHeight});
-    Add(Label6, "Label6", -1, &Frame2, {80, 80, 2600, 260});
+    Add(Frame2, "Frame2", -1, nullptr, {2680, kColumnTop, 2900, kColumnHeight});
+    Add(Label6, "Label6", -1, &Frame2, {80, 80, 2740, 260});
     Label6.SetCaption("Set alarm and % basis");
     Label6.SetForeColor(kQuiet);
     Label6.right_aligned = true;
     for (int i = 0; i < 3; ++i) {
         const int top = 400 + 620 * i;
-        Add(Label2[i], "Label2", i, &Frame2, {80, top + 50, 960, 400});
+        Add(Label2[i], "Label2", i, &Frame2, {80, top + 50, 920, 400});
         Label2[i].SetCaption(kNames[i]);
-        Add(Text3[i], "Text3", i, &Frame2, {1060, top, 760, 480});
+        Add(Text3[i], "Text3", i, &Frame2, {1020, top, 760, 480});
         Text3[i].SetText("0");
         Text3[i].SetFontSize(16);
         Text3[i].centred = true;
         Text3[i].accessible_name = kNames[i];
-        Add(Option1[i], "Option1", i, &Frame2, {1870, top + 90, 850, 300});
+        Add(Option1[i], "Option1", i, &Frame2, {1820, top + 90, 1060, 300});
         Option1[i].SetCaption("Set alarm");
         Option1[i].SetFontSize(8);
     }
     Option1[0].SetValue(true);
-    Add(ProgressBar1, "ProgressBar1", -1, &Frame2, {80, 2300, 2600, 220});
+    Add(ProgressBar1, "ProgressBar1", -1, &Frame2, {80, 2300, 2740, 220});
     ProgressBar1.SetVisible(false);
 }
 
 void MainWindow::PlaceParams() {
-    Add(Frame4, "Frame4", -1, nullptr, {5640, kColumnTop, 3200, kColumnHeight});
+    Add(Frame4, "Frame4", -1, nullptr, {5640, kColumnTop, 3420, kColumnHeight});
     for (int p = 1; p <= kParams; ++p) {
         const std::string number = std::to_string(p);
         const int top = 70 + 380 * (p - 1);
-        Add(Label10[p], "Label10", p, &Frame4, {80, top + 20, 1240, 280});
+        Add(Label10[p], "Label10", p, &Frame4, {80, top + 20, 1480, 280});
         Label10[p].SetCaption("Additional info-" + number + ":");
         Label10[p].SetFontSize(8);
         Label10[p].SetForeColor(kQuiet);
-        Add(Text5[p], "Text5", p, &Frame4, {1340, top, 1080, 320});
+        Add(Text5[p], "Text5", p, &Frame4, {1580, top, 1080, 320});
         Text5[p].SetText(kEmpty);
         Text5[p].accessible_name = "Additional info " + number;
-        Add(Command7[p], "Command7", p, &Frame4, {2460, top, 660, 320});
+        Add(Command7[p], "Command7", p, &Frame4, {2700, top, 660, 320});
         Command7[p].SetCaption("Rename");
         Command7[p].SetFontSize(8);
     }
-    Add(Label8, "Label8", -1, &Frame4, {1340, 2370, 1780, 220});
+    Add(Label8, "Label8", -1, &Frame4, {1580, 2370, 1780, 220});
     Label8.SetFontSize(7);
     Label8.SetForeColor(kQuiet);
 }
 
 void MainWindow::PlaceCurve() {
-    Add(Frame5, "Frame5", -1, nullptr, {8900, kColumnTop, 2440, kColumnHeight});
-    Add(Label9, "Label9", -1, &Frame5, {80, 60, 2280, 260});
+    Add(Frame5, "Frame5", -1, nullptr, {9120, kColumnTop, 2220, kColumnHeight});
+    Add(Label9, "Label9", -1, &Frame5, {80, 60, 2060, 260});
     Label9.SetCaption("Diversity");
     Label9.SetForeColor(kQuiet);
-    Add(Picture2, "Picture2", -1, &Frame5, {80, 340, 2280, 2240});
+    Add(Picture2, "Picture2", -1, &Frame5, {80, 340, 2060, 2240});
     Picture2.accessible_name = "Taxa diversity vs. total count";
 }
 

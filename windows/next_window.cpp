@@ -13,6 +13,8 @@ NextWindow::NextWindow() : Window("frmNext", "Marlbrook 2.7", kNextWidth, kStart
     PlaceStartFace();
     PlaceSampleFace();
     FirstFocus(Command4);
+    confirm = &Command1;
+    dismiss = &Command3;
     KeepDesign();
 }
 
@@ -60,8 +62,8 @@ void NextWindow::PlaceSampleFace() {
         Add(Command5[p], "Command5", p, &Frame1, {5760, top, 1000, 320});
         Command5[p].SetCaption("Rename");
     }
-    Add(Command1, "Command1", -1, nullptr, {kOkLeft, kStartFaceHeight + kSampleFaceHeight + 130, 1280, 420});
+    Add(Command1, "Command1", -1, nullptr, {5800, kStartFaceHeight + kSampleFaceHeight + 150, 1280, 420});
     Command1.SetCaption("OK");
-    Add(Command3, "Command3", -1, nullptr, {kOkLeft + 1380, kStartFaceHeight + kSampleFaceHeight + 130, 1280, 420});
+    Add(Command3, "Command3", -1, nullptr, {4420, kStartFaceHeight + kSampleFaceHeight + 150, 1280, 420});
     Command3.SetCaption("Cancel");
 }

@@ -34,7 +34,8 @@ private:
 constexpr int kNextWidth = 7200;
 constexpr int kStartFaceHeight = 2560;
 constexpr int kSampleFaceHeight = 4060;
-constexpr int kOkRowHeight = 660;
-constexpr int kOkLeft = 4300;
+constexpr int kOkRowHeight = 780;
+constexpr int kOkLeft = 4100;  // beside Cancel, both below the boxes
+constexpr int kCancelLeft = 5480;
 
 extern NextWindow frmNext;

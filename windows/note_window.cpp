@@ -36,5 +36,6 @@ NoteWindow::NoteWindow() : Window("frmNote", "Message from Marlbrook", kWidth, 5
     Add(Command1, "Command1", -1, nullptr, {kWidth - 240 - 1280, 4520, 1280, 420});
     Command1.SetCaption("OK");
     FirstFocus(Command1);
+    confirm = dismiss = &Command1;
     KeepDesign();
 }

@@ -8,4 +8,7 @@ struct PadCell {
 };
 
 PadCell CellOfPlace(int place);
+constexpr int kCountBelowName = 270;  // twips
+constexpr int kNumberBelowName = 550;
+
 Box PadPlace(int place);  // the box of a name in the main window, in twips from the corner of the tab control

@@ -22,5 +22,7 @@ ParaNameWindow::ParaNameWindow() : Window("frmParaName", "Parameter name", 5400,
     Add(Label4, "Label4", -1, nullptr, {0, 0, 0, 0});
     Label4.SetVisible(false);
     FirstFocus(Text1);
+    confirm = &Command1;
+    dismiss = &Command2;
     KeepDesign();
 }

@@ -11,6 +11,7 @@ constexpr int kHeight = 11520;
 }  // namespace
 
 PictureWindow::PictureWindow() : Window("frmPicture", "Marlbrook 2.5", kWidth, kHeight) {
+    key_preview = true;
     Add(imgFavorite, "imgFavorite", -1, nullptr, {0, 0, kWidth, kHeight});
     imgFavorite.SetBackColor(kBlack);
     imgFavorite.accessible_name = "My favorite";

@@ -29,10 +29,11 @@ SiteNameWindow::SiteNameWindow() : Window("frmSiteName", "New data sheet", 7200,
         Text3[p].SetText(kEmpty);
         Text3[p].accessible_name = "Additional info " + std::to_string(p);
     }
-    Add(Command1, "Command1", -1, nullptr, {4300, 4370, 1280, 420});
+    Add(Command1, "Command1", -1, nullptr, {4420, 4370, 1280, 420});
     Command1.SetCaption("OK");
-    Add(Command3, "Command3", -1, nullptr, {5680, 4370, 1280, 420});
+    Add(Command3, "Command3", -1, nullptr, {5800, 4370, 1280, 420});
     Command3.SetCaption("Cancel");
     FirstFocus(Text1);
+    confirm = &Command1;
     KeepDesign();
 }

@@ -5,12 +5,12 @@
 SubtotalWindow frmSubtotal;
 
 namespace {
-constexpr int kWidth = 10240;
+constexpr int kWidth = 12280;
 constexpr int kFrameTop = 660;
 constexpr int kFramePitch = 1930;
 constexpr int kFrameHeight = 1830;
 constexpr int kCommandTop = kFrameTop + 3 * kFramePitch + 40;
-constexpr int kBoxWidth = 1050;
+constexpr int kBoxWidth = 1280;
 constexpr int kBlockGap = 100;
 constexpr int kBoxHeight = 285;
 constexpr int kRowTops[5] = {260, 560, 900, 1200, 1500};
@@ -27,6 +27,8 @@ SubtotalWindow::SubtotalWindow() : Window("frmSubtotal", "Subtotal setting", kWi
     PlaceBanks();
     PlaceCommands();
     FirstFocus(Command1);
+    confirm = &Command1;
+    dismiss = &Command3;
     KeepDesign();
 }
 
@@ -65,6 +67,6 @@ void SubtotalWindow::PlaceCommands() {
     };
     put(Command2[0], "Command2", 0, "Clear", 120);
     put(Command2[1], "Command2", 1, "Select all", 1500);
-    put(Command1, "Command1", -1, "OK", 7460);
-    put(Command3, "Command3", -1, "Cancel", 8840);
+    put(Command1, "Command1", -1, "OK", kWidth - 2780);
+    put(Command3, "Command3", -1, "Cancel", kWidth - 1400);
 }

@@ -22,10 +22,7 @@ void TellText(Control& box, ModelView& view, const QString& shown, int caret) {
 void TellSelection(Control& box, const QString& shown, int start, int length) {
     const int before = CharactersBefore(shown, start);
     const int selected = CharactersBefore(shown, start + length) - before;
-    if (box.kind() == Kind::ComboBox)
-        static_cast<ComboBox&>(box).Select(before, selected);
-    else
-        static_cast<TextBox&>(box).Select(before, selected);
+    static_cast<TextHolder&>(box).Select(before, selected);
 }
 
 int BoxMargin(double factor) {
@@ -37,7 +34,7 @@ bool HoldsFocus(const Control& box) {
 }
 
 bool TakesKeysAsInput(const Control& control) {
-    return control.kind() == Kind::TextBox && control.KeyUp.IsJoined();
+    return control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_keys;
 }
 
 // An input method would keep dead keys to itself.

@@ -12,7 +12,6 @@ void TellText(Control& box, ModelView& view, const QString& shown, int caret);
 void TellSelection(Control& box, const QString& shown, int start, int length);  // in units of `shown`
 
 int BoxMargin(double factor);  // pixels left and right of the text
-// It waits for the release of keys: it takes keys for themselves, whatever they type or do elsewhere.
 bool TakesKeysAsInput(const Control& control);
 bool HoldsFocus(const Control& box);  // of the active window
 void PrepareEditor(QWidget& editor, const Control& box);

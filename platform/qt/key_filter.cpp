@@ -44,13 +44,6 @@ bool IsSink(const Control& control) {
     return control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).takes_text;
 }
 
-MenuItem* ItemWithLetter(const Window& window, char letter) {
-    for (Control* control : window.Controls())
-        if (control->kind() == Kind::MenuItem && static_cast<MenuItem*>(control)->control_letter == letter && CanReach(*control))
-            return static_cast<MenuItem*>(control);
-    return nullptr;
-}
-
 bool OpensMenu(const QKeyEvent& key) {
     WindowWidget* const active = TheRenderer().ActiveWidget();
     return active && key.modifiers() == Qt::AltModifier && IsLetterKey(key) && active->Menus().OpenByAccessKey(QChar(key.key()));
@@ -89,12 +82,28 @@ bool KeyFilter::TakeInPopup(QWidget& popup, QKeyEvent& key) {
 }
 
 void KeyFilter::Release(const QKeyEvent& key) {
+    released_ = key.key();
+    released_at_ = key.timestamp();
     if (key.isAutoRepeat()) return;  // X11 sends one with each repeated press
     if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { ReleaseKey(*code); });
 }
 
+// The first repeat that a new window gets is not always marked as one: on X11 it follows its release in no time.
+bool KeyFilter::Repeats(const QKeyEvent& key) const {
+    return key.isAutoRepeat() || (key.key() == released_ && key.timestamp() == released_at_ && key.spontaneous());
+}
+
+// A key that is still held when its window has gone, such as the Enter that closed a dialog, is no key of the next window.
 void KeyFilter::Press(QKeyEvent& key) {
+    if (held_over_ == key.key() && Repeats(key)) return;
+    held_over_ = 0;
     if (OpensMenu(key)) return;
+    Window* const window = ActiveWindow();
+    TakePress(key);
+    if (window != ActiveWindow()) held_over_ = key.key();
+}
+
+void KeyFilter::TakePress(QKeyEvent& key) {
     Window* const window = ActiveWindow();
     Control* const focus = window ? window->Focus() : nullptr;
     const int text_changes = TheRenderer().TextChanges();
@@ -106,19 +115,15 @@ void KeyFilter::Press(QKeyEvent& key) {
         if (!used_as_input && (!window->key_preview || (focus && TakesText(*focus)))) WalkFocus(*window, key);
         return;
     }
+    const bool by_hand = key.spontaneous();  // a script presses buttons by name
+    if (by_hand && !used_as_input && PressAnswer(*window, key)) return;
     if (focus) Finish(key, *focus);
 }
 
 // A window that hears the keys first has its buttons for the mouse: a counter key is never also a click, nor does it move the focus to a
 // box where the next one would be typed.
 void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
-    if (IsControlChord(key)) {
-        if (MenuItem* const item = ItemWithLetter(*focus.window, static_cast<char>(key.key()))) {
-            TheRenderer().Run([item] { ClickControl(*item); });
-            return;
-        }
-        if (!TakesText(focus) || !IsClipboardKey(key)) return;
-    }
+    if (IsControlChord(key) && (!TakesText(focus) || !IsClipboardKey(key))) return;
     if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) return;  // the program knows nothing of them
     if (!TakesText(focus) && focus.window->key_preview) return;
     if (!key.isAutoRepeat() && PressFocused(focus, key)) return;

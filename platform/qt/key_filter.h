@@ -18,8 +18,13 @@ protected:
 private:
     bool TakeInPopup(QWidget& popup, QKeyEvent& key);
     void Press(QKeyEvent& key);
+    void TakePress(QKeyEvent& key);
     void Release(const QKeyEvent& key);
+    bool Repeats(const QKeyEvent& key) const;
     void Finish(QKeyEvent& key, Control& focus);
 
     bool passing_ = false;  // a key is on its way to a widget
+    int held_over_ = 0;     // the toolkit's number of the key that has changed the window in front; 0: none
+    int released_ = 0;      // the key that went up last, and when
+    unsigned long released_at_ = 0;
 };

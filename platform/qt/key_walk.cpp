@@ -39,6 +39,15 @@ Control* Next(const std::vector<Control*>& controls, const Control* from, int st
     return controls[static_cast<std::size_t>((place + step + count) % count)];
 }
 
+// A window that shows only its upper part has buttons below its edge.
+bool IsInSight(const Button& button) {
+    return CanReach(button) && button.Top() < button.window->Height();
+}
+
+bool HasUseForEnter(const Control& control) {
+    return control.kind() == Kind::Button || (control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).multiline);
+}
+
 bool SelectSibling(OptionButton& option, int step) {
     Control* const next = Next(Siblings(option), &option, step);
     if (next && next != &option) TheRenderer().Run([next] { ClickControl(*next); });
@@ -77,5 +86,14 @@ bool PressFocused(Control& focus, const QKeyEvent& key) {
             return false;
     }
     TheRenderer().Run([&focus] { ClickControl(focus); });
+    return true;
+}
+
+bool PressAnswer(Window& window, const QKeyEvent& key) {
+    const bool is_enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    Button* const button = is_enter ? window.confirm : key.key() == Qt::Key_Escape ? window.dismiss : nullptr;
+    if (!button || !IsInSight(*button) || key.isAutoRepeat()) return false;
+    if (is_enter && window.Focus() && HasUseForEnter(*window.Focus())) return false;
+    TheRenderer().Run([button] { ClickControl(*button); });
     return true;
 }

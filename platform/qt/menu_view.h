@@ -17,6 +17,8 @@ class MenuView {
 public:
     MenuView(Window& window, QWidget& widget);
     ~MenuView();
+    MenuView(const MenuView&) = delete;
+    MenuView& operator=(const MenuView&) = delete;
 
     QMenuBar& Bar() const { return *bar_; }
     void SetFont(const QFont& font);

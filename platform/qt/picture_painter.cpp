@@ -58,7 +58,7 @@ private:
     }
 
     void Bar(double x1, double y1, double x2, double y2, Colour colour) {
-        const auto pixel = [this](double place) { return static_cast<int>(std::floor(std::clamp(place, -kFarOut, kFarOut))); };
+        const auto pixel = [](double place) { return static_cast<int>(std::floor(std::clamp(place, -kFarOut, kFarOut))); };
         const int thick = static_cast<int>(Thickness()), half = thick / 2;
         const QPoint from(pixel(std::min(x1, x2)) - half, pixel(std::min(y1, y2)) - half);
         const QPoint to(pixel(std::max(x1, x2)) - half + thick, pixel(std::max(y1, y2)) - half + thick);

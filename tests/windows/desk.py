@@ -126,7 +126,7 @@ class StartedProgram:
         self.click(start, (7200, 2560), 4700, 1420)  # Create new data file
         time.sleep(0.3)
         self.desk.xdotool("type", "--delay", 30, name)
-        self.click(start, (7200, 7280), 4900, 6960)  # OK
+        self.desk.xdotool("key", "Return")  # OK
         self.desk.gone(r"^Marlbrook 2\.7$")
         self.main = self.desk.window(r"^Marlbrook 2\.7\.5$")
         time.sleep(0.3)
