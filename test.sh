@@ -3,7 +3,7 @@
 #     ./test.sh                       everything but what follows
 #     ./test.sh --quick               the unit tests and the scripts without windows
 #     ./test.sh --with-spreadsheet    everything, sheets that LibreOffice saves again, and the manual's examples for pandas and R
-#     ./test.sh --fuzz                everything, and a minute of opening files that were spoiled at random
+#     ./test.sh --fuzz                everything, and a minute of sheets, key settings and scripts that were spoiled at random
 # Unit tests and scripts without windows run under the address and undefined-behaviour sanitizers; whatever shows windows runs in the
 # release build, as users get it. The last line is "N passed, N failed"; the status is 0 if nothing failed.
 set -euo pipefail
@@ -53,6 +53,7 @@ export ASAN_OPTIONS=${ASAN_OPTIONS:-exitcode=99} UBSAN_OPTIONS=${UBSAN_OPTIONS:-
 Tally "Unit tests" UnitTests build/sanitize/bin/unit_tests
 Tally "Scripts" tests/run_scripts.sh build/sanitize/bin/marlbrook-drive tests/scripts
 if [ "${1:-}" != --quick ]; then
+    Tally "A long run" tests/long/run.sh 20000
     Tally "Unit tests of the toolkit layer" UnitTests build/release/bin/unit_tests_qt
     Tally "Scripts on windows" tests/run_scripts.sh build/release/bin/marlbrook-drive --windows tests/scripts
     Tally "Demonstration" Demo

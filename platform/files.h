@@ -13,10 +13,13 @@ public:
     virtual void Replace(std::string_view bytes) = 0;
 };
 
+constexpr std::size_t kLargestFile = 64 << 20;  // bytes, far beyond any sheet: what is larger, or never ends, is not read
+
 class Files {
 public:
     virtual ~Files() = default;
-    // Paths are UTF-8; `/` and `\` both separate folders where the system's own separator is `/`.
-    virtual std::string ReadAll(const std::string& path) = 0;                              // raises "File error" if it cannot be opened
-    virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;       // makes the file if there is none; "File error"
+    // Paths are UTF-8; `/` and `\` both separate folders where the system's own separator is `/`. Reading raises "File error" if the file
+    // cannot be opened, is no ordinary file, or is larger than kLargestFile; opening makes a file that is not there, or raises the same.
+    virtual std::string ReadAll(const std::string& path) = 0;
+    virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;
 };

@@ -34,8 +34,9 @@ private:
 std::string DiskFiles::ReadAll(const std::string& path) {
     const std::filesystem::path file = DiskPath(path);
     std::error_code error;
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream || std::filesystem::is_directory(file, error)) throw Failure(kFileError);
+    if (!std::filesystem::is_regular_file(file, error) || std::filesystem::file_size(file, error) > kLargestFile) throw Failure(kFileError);
+    std::ifstream stream(file, std::ios::binary);  // only now: opening a pipe would wait
+    if (!stream) throw Failure(kFileError);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 

@@ -105,9 +105,9 @@ QFont FontOfSize(double points, double factor) {
 }  // namespace
 
 void ApplyLook(QApplication& application) {
-    application.setStyle(new Look);
-    application.setPalette(LightPalette());
-    application.setWindowIcon(ProgramIcon());
+    QApplication::setStyle(new Look);
+    QApplication::setPalette(LightPalette());
+    QGuiApplication::setWindowIcon(ProgramIcon());
     const QFont plain = PlainFont(CommonFactor(*QGuiApplication::primaryScreen()));
     QApplication::setFont(plain);
     QToolTip::setFont(plain);

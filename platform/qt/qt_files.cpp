@@ -1,6 +1,7 @@
 #include "platform/qt/qt_files.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "platform/failure.h"
 #include "platform/qt/paths.h"
@@ -47,8 +48,10 @@ private:
 }  // namespace
 
 std::string QtFiles::ReadAll(const std::string& path) {
-    QFile file(SystemPath(path));
-    if (!file.open(QIODevice::ReadOnly)) throw Failure(kFileError);
+    const QFileInfo info(SystemPath(path));
+    QFile file(info.filePath());
+    const bool is_sheet_like = info.isFile() && info.size() <= static_cast<qint64>(kLargestFile);
+    if (!is_sheet_like || !file.open(QIODevice::ReadOnly)) throw Failure(kFileError);
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) throw Failure(kFileError);
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};

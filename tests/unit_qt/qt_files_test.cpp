@@ -53,3 +53,10 @@ TEST_F(QtFilesTest, FullDiskIsAFileError) {
     EXPECT_THROW(files_.OpenForWriting(Path("full.csv"))->Replace("x"), Failure);
 }
 #endif
+
+TEST_F(QtFilesTest, WhatIsNoOrdinaryFileOrFarTooLargeIsNotRead) {
+    files_.OpenForWriting(Path("huge.csv"))->Replace("");
+    QFile(QString::fromStdString(Path("huge.csv"))).resize(static_cast<qint64>(kLargestFile) + 1);  // sparse
+    QFile::link("/dev/zero", QString::fromStdString(Path("endless.csv")));
+    for (const char* name : {"huge.csv", "endless.csv", "."}) EXPECT_THROW(files_.ReadAll(Path(name)), Failure) << name;
+}
