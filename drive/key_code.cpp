@@ -30,7 +30,10 @@ int HeldCode(const std::string& word) {
     if (!row) throw ScriptFault("unknown key " + word + " (known: @1 to @45, @shift1, @shift2, @undo, @save)");
     const Any& code = KeySettings[*row][1];
     if (code.Text().empty()) throw ScriptFault("the program holds no key settings yet that give " + word + " a code");
-    return static_cast<int>(code.Number());
+    constexpr double kLargestCode = 65535;
+    const double number = code.Number();
+    if (!(number >= 0 && number <= kLargestCode)) throw ScriptFault("the code that the key settings give " + word + " is no key");
+    return static_cast<int>(number);
 }
 
 }  // namespace

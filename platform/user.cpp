@@ -269,7 +269,8 @@ void Spin(UpDown& arrows, bool up) {
 
 void ResizeWindow(Window& window, int width, int height) {
     if (!window.Visible() || !window.Enabled()) return;
-    window.TakeSize(width, height);
+    constexpr int kLargest = 1'000'000;  // twips: no screen is as large
+    window.TakeSize(std::clamp(width, 0, kLargest), std::clamp(height, 0, kLargest));
 }
 
 void CloseWindow(Window& window) {

@@ -11,6 +11,7 @@
 BoxOpens::BoxOpens() {
     TheRenderer().Agree();
     WindowWidget* const active = TheRenderer().ActiveWidget();
-    if (active && active->isVisible()) parent_ = active;
-    font_ = PlainFont(parent_ ? active->Factor() : CommonFactor(*QApplication::primaryScreen()));
+    const bool is_seen = active && active->isVisible();
+    if (is_seen) parent_ = active;
+    font_ = PlainFont(is_seen ? active->Factor() : CommonFactor(*QApplication::primaryScreen()));
 }

@@ -10,7 +10,7 @@ constexpr double kSmall = 0.55;       // of the font, before words are
 constexpr int kNarrow[] = {85, 70};   // percent of their width, for letters that would else be too small
 constexpr int kSmallestPixels = 6;    // nobody reads less
 constexpr int kBeyondAnyLine = 500;   // characters
-constexpr double kTight = 0.9;        // several lines stand closer than single ones
+constexpr double kTight = 0.9;        // several lines stand closer than single ones where they must
 
 // How many characters go in a line; a long text is not measured beyond it.
 qsizetype CharactersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
@@ -68,7 +68,9 @@ bool FittedText::FitAt(const Question& question, int pixels, Break where, Layout
             if (lines.size() > most || IsTooHigh(metrics, lines.size(), question.room.height())) return false;
             rest = rest.mid(length).trimmed();
         } while (!rest.isEmpty());
-    layout = {std::move(lines), font, Pitch(metrics, lines.size())};
+    const double loose = Pitch(metrics, 1), count = static_cast<double>(lines.size());
+    const double pitch = loose * count <= question.room.height() ? loose : Pitch(metrics, lines.size());
+    layout = {std::move(lines), font, pitch};
     return true;
 }
 

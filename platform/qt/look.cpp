@@ -105,9 +105,9 @@ QFont FontOfSize(double points, double factor) {
 }  // namespace
 
 void ApplyLook(QApplication& application) {
-    QApplication::setStyle(new Look);
-    QApplication::setPalette(LightPalette());
-    QGuiApplication::setWindowIcon(ProgramIcon());
+    application.setStyle(new Look);
+    application.setPalette(LightPalette());
+    application.setWindowIcon(ProgramIcon());
     const QFont plain = PlainFont(CommonFactor(*QGuiApplication::primaryScreen()));
     QApplication::setFont(plain);
     QToolTip::setFont(plain);

@@ -47,9 +47,9 @@ void LayDown(const QString& from, const QString& to) {
 }  // namespace
 
 QString FindProgramFolder() {
-    const QString program = QCoreApplication::applicationDirPath();
+    QString program = QCoreApplication::applicationDirPath();
     if (HoldsReferences(program) && CanBeWritten(program)) return program;
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/" + kName;
+    QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/" + kName;
     if (QFileInfo::exists(own + "/References/KeySetting.csv")) return own;
     QDir().mkpath(own);
     if (const QString tree = InstalledTree(); !tree.isEmpty()) LayDown(tree, own);

@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Opens sheets that were spoiled at random, for some seconds:
+# Runs the fuzzers side by side, each for some seconds:
 #     tests/fuzz/run.sh SECONDS
-# What it learns stays in build/fuzz/corpus, and the next run goes on from there. A file that the program cannot bear is left in
-# build/fuzz/found; open_sheet_fuzzer FILE shows it again. Ends with "N passed, N failed".
+# open_sheet opens sheets that were spoiled at random, key_settings starts the program with spoiled key settings, script plays spoiled
+# scripts. They begin with what lies in corpus/ here, with fresh sheets and with the scripts of the tests; what they learn stays in
+# build/fuzz/corpus, and the next run goes on from there. Bytes that the program cannot bear are left in build/fuzz/found;
+# NAME_fuzzer FILE shows them again. Ends with "N passed, N failed".
 set -euo pipefail
-top=$(readlink -f "$(dirname "$0")/../..")
+here=$(readlink -f "$(dirname "$0")")
+top=$(readlink -f "$here/../..")
 build=$top/build/fuzz
 
 Fail() {
@@ -13,18 +16,40 @@ Fail() {
 }
 
 [[ ${1:-} =~ ^[0-9]+$ ]] || Fail "say for how many seconds"
+seconds=$1
 command -v clang++ >/dev/null || Fail "clang++ is not there"
-cmake -S "$top/tests/fuzz" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER=clang++ >/dev/null
+cmake -S "$here" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER=clang++ >/dev/null
 cmake --build "$build"
-mkdir -p "$build/corpus" "$build/found"
-"$build/make_corpus" "$build/seeds"
+"$build/make_corpus" "$build/sheets"
 
-if "$build/open_sheet_fuzzer" -max_total_time="$1" -max_len=40000 -timeout=10 -rss_limit_mb=1024 -dict="$top/tests/fuzz/sheet.dict" \
-    -artifact_prefix="$build/found/" -print_final_stats=1 -verbosity=1 "$build/corpus" "$build/seeds" >"$build/log" 2>&1; then
-    grep -E '^stat::(number_of_executed_units|average_exec_per_sec)' "$build/log"
-    echo "1 passed, 0 failed"
-else
-    tail -n 40 "$build/log"
-    echo "0 passed, 1 failed"
-    exit 1
-fi
+Fuzz() {  # NAME LENGTH FOLDER...: begins with the files in the folders, and none that it makes is longer
+    local name=$1 length=$2
+    shift 2
+    mkdir -p "$build/corpus/$name" "$build/found" "$build/tmp/$name"
+    TMPDIR=$build/tmp/$name "$build/${name}_fuzzer" -max_total_time="$seconds" -max_len="$length" -timeout=20 -rss_limit_mb=1500 \
+        -dict="$here/$name.dict" -artifact_prefix="$build/found/$name-" -print_final_stats=1 -verbosity=1 \
+        "$build/corpus/$name" "$here/corpus/$name" "$@" >"$build/$name.log" 2>&1
+}
+
+rm -rf "$build/tmp"
+names=(open_sheet key_settings script)
+Fuzz open_sheet 40000 "$build/sheets" &
+runs=($!)
+Fuzz key_settings 4000 &
+runs+=($!)
+Fuzz script 6000 "$top/tests/scripts" &
+runs+=($!)
+
+passed=0
+for place in "${!names[@]}"; do
+    name=${names[place]}
+    if wait "${runs[place]}"; then
+        echo "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$build/$name.log") runs"
+        passed=$((passed + 1))
+    else
+        tail -n 40 "$build/$name.log"
+    fi
+done
+rm -rf "$build/tmp"
+echo "$passed passed, $((${#names[@]} - passed)) failed"
+[ "$passed" = "${#names[@]}" ]

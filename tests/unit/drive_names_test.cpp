@@ -25,6 +25,7 @@ TEST_F(DriveNamesTest, AControlAloneStandsForItsMainProperty) {
 
 TEST_F(DriveNamesTest, PropertiesFollowTheirControlOrWindow) {
     EXPECT_EQ(ValueOf("frmMain.Title"), frmMain.Title());
+    EXPECT_EQ(ValueOf("frmNote.BackColor"), "236,238,240");
     EXPECT_EQ(ValueOf("frmMain.Option1(1).Caption"), "Set alarm");
     EXPECT_EQ(ValueOf("frmMain.Text1(7).BackColor"), "255,255,255");
     EXPECT_EQ(ValueOf("frmMain.SSTab1.TabCaption(1)"), "Shift 1 or 2");

@@ -12,6 +12,7 @@
 #include "platform/services.h"
 #include "session/sheet_state.h"
 #include "unit/program_test.h"
+#include "windows/main_window.h"
 
 namespace {
 
@@ -92,6 +93,9 @@ TEST_F(DriveRunTest, AWrongScriptStopsAtItsLine) {
         {"copy ./none.csv $W/b.csv", "there is no file ./none.csv"},
         {"paste \"a", "a quotation mark is not closed"},
         {"image frmMain $W/a.png", "no image of frmMain: there are no windows to show it (run with --windows)"},
+        {"mousedown frmMain middle 1 1", "unknown mouse button middle (known: left, right)"},
+        {"tab frmMain.SSTab1 3", "frmMain.SSTab1 has no tab 3"},
+        {"tab frmMain.SSTab1 -1", "frmMain.SSTab1 has no tab -1"},
     };
     for (const auto& [line, sentence] : faults) {
         const Outcome run = Play(std::string("expect SampleCount 0\n") + line + "\nexpect SampleCount 1\n");
@@ -101,11 +105,44 @@ TEST_F(DriveRunTest, AWrongScriptStopsAtItsLine) {
     }
 }
 
+TEST_F(DriveRunTest, AnItemThatAListDoesNotHoldIsAFaultOnlyWhereItCouldBeChosen) {
+    const std::string choose = "start\nchoose frmMain.Combo2 none\nexpect SampleCount 0\n";
+    EXPECT_EQ(Play(choose).status, 0);
+    const Outcome shown = Play(choose, [] { frmMain.Show(); });
+    EXPECT_EQ(shown.status, 2);
+    EXPECT_EQ(shown.errors, "a.drive:2: the list of frmMain.Combo2 has no item \"none\"\n");
+}
+
+TEST_F(DriveRunTest, APathThatTheDiskDoesNotBearStopsTheScript) {
+    const Outcome run = Play("expect SampleCount 0\nexpect-no-file $W/" + std::string(300, 'a') + "\n");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_TRUE(run.errors.starts_with("a.drive:2: ")) << run.errors;
+}
+
+TEST_F(DriveRunTest, AButtonOfTheMouseIsUpAgainWhereverItIsLetGo) {
+    struct Seen {
+        MouseButton held = MouseButton::None;
+    } seen;
+    const auto listen = [&seen] {
+        frmMain.Show();
+        frmMain.MouseMove.Calls([&seen](Mouse mouse) { seen.held = mouse.button; });
+    };
+    Play("start\nmousedown frmMain left 9 9\nmousemove frmMain 12 12\n", listen);
+    EXPECT_EQ(seen.held, MouseButton::Left);
+    Play("start\nmousedown frmMain left 9 9\nmouseup frmMain left 9 9\nmousemove frmMain 12 12\n", listen);
+    EXPECT_EQ(seen.held, MouseButton::None);
+    frmMain.MouseMove.Calls([](Mouse) {});
+}
+
 TEST_F(DriveRunTest, AnUnansweredQuestionStopsTheScriptAndIsNamed) {
     const auto ask = [] { services.messages->Show({"Caution!", "Go on?", Icon::None, Buttons::YesNo}); };
     const Outcome unanswered = Play("start\nexpect SampleCount 9\n", ask);
     EXPECT_EQ(unanswered.status, 2);
     EXPECT_EQ(unanswered.errors, "a.drive:1: unanswered message box \"Caution!\", \"Go on?\": no answer waits (Yes or No)\n");
+    EXPECT_EQ(Play("answer Yes\nstart\nexpect-message Caution! \"Stop?\"\n", ask).errors,
+              "a.drive:3: message: expected \"Caution!: Stop?\", got \"Caution!: Go on?\"\n");
+    EXPECT_EQ(Play("answer Yes\nstart\nexpect-no-message\n", ask).errors,
+              "a.drive:3: message: expected \"(no message)\", got \"Caution!: Go on?\"\n");
     const Outcome answered = Play("answer Yes\nstart\nexpect-message Caution! \"Go on?\" none\nexpect-no-message\n", ask);
     EXPECT_EQ(answered.status, 0) << answered.errors;
     const auto save = [] { services.dialogs->Ask({FileQuestion::Kind::Save, "", services.host->Folder() + "/a.csv", true}); };

@@ -36,6 +36,7 @@ TEST(DriveMessageBoxesTest, AQuestionWithoutAFittingAnswerIsNotedAndClosed) {
     ScriptedMessageBoxes none;
     EXPECT_EQ(none.Show(Question(Buttons::YesNo)), Answer::No);
     EXPECT_NE(none.unanswered.find("Do you proceed?"), std::string::npos);
+    EXPECT_EQ(none.Show(Question(Buttons::YesNoCancel)), Answer::Cancel);
     ScriptedMessageBoxes wrong;
     wrong.answers = {Answer::Cancel};
     EXPECT_EQ(wrong.Show(Question(Buttons::YesNo)), Answer::No) << "that box has no Cancel";

@@ -22,9 +22,9 @@ protected:
         text.replace(at, old_row.size(), new_row);
     }
     void GiveFunctionalCode(int key, const std::string& code) {
-        const auto& [text, old_code, number] = kShiftsAndUndo[key];
-        const auto row = [&](const std::string& middle) { return std::string(text) + "," + middle + "," + number; };
-        Rewrite(row(old_code), row(code));
+        const auto& cells = kShiftsAndUndo[key];
+        const auto row = [&](const std::string& middle) { return std::string(cells[0]) + "," + middle + "," + cells[2]; };
+        Rewrite(row(cells[1]), row(code));
     }
     void KeepLines(int lines) {
         std::string& text = files_.bytes[kFile];

@@ -1,6 +1,7 @@
 // A sheet that can be read to its end takes the place of the one before.
 #include "files/open_sheet.h"
 
+#include "diagram/diversity_curve.h"
 #include "files/next_sample.h"
 #include "files/save_sheet.h"
 #include "platform/failure.h"
@@ -31,6 +32,16 @@ TEST_F(OpenSheetTest, TheSheetStandsAtItsLastSample) {
     EXPECT_EQ(frmMain.Text5[6].Text(), "6/3");
     EXPECT_EQ(frmMain.Text99.Text(), "3");
     EXPECT_EQ(frmMain.Text3[0].Text(), std::to_string(AllTotal));
+}
+
+TEST_F(OpenSheetTest, ASampleWithoutAGrainBeginsACurveOfItsOwn) {
+    Rows rows = DataSheet(1);
+    for (int row = 0; row < kSlots; ++row) rows[kTaxonRow + row][4] = "0";
+    DiversityCurve = {0, 10, 20, 30};
+    ASSERT_TRUE(Open(rows));
+    EXPECT_EQ(frmMain.Text3[0].Text(), "0");
+    EXPECT_EQ(DiversityCurve, std::vector<std::int16_t>{0});
+    EXPECT_TRUE(frmMain.mnuNext.Enabled()) << "no change of a total has enabled it";
 }
 
 TEST_F(OpenSheetTest, EveryCellOfTheGridFindsItsPlace) {

@@ -1,6 +1,7 @@
 #include "diagram/percentages.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <random>
 
@@ -101,6 +102,21 @@ TEST_F(PercentagesTest, SharesStandInSheetRowsAndDisplayPlaces) {
     EXPECT_EQ(DiagramNames[3], "Pinus");
     EXPECT_EQ(Counts[0][1], 3);
     EXPECT_EQ(Counts[0][2], 5);
+}
+
+TEST_F(PercentagesTest, TheLargestShareOfARowIsFoundWhereverItStandsAndNowhereElse) {
+    for (const int samples : {1, 2, 7, 8, 9, 16, 17, kColumns - 1}) {
+        Names(Texts(samples, "1"));
+        for (int largest = 1; largest <= samples; ++largest) {
+            for (int sample = 1; sample <= samples; ++sample) {
+                Counts[1][sample] = sample == largest ? 3 : 2;
+                Counts[2][sample] = sample == largest ? 1 : 2;
+            }
+            std::fill(&SamplePercent[1][samples + 1], std::end(SamplePercent[1]), 9.0F);  // what a longer sheet has left behind
+            ComputeDiagramData();
+            ASSERT_EQ(ColumnOffset[2], 5 + 75 + ColumnGap) << "place " << largest << " of " << samples;
+        }
+    }
 }
 
 TEST_F(PercentagesTest, TheBasisIsTheChosenTotal) {

@@ -217,6 +217,11 @@ TEST_F(UserTest, DeletingTakesTheSelectionOrOneCharacter) {
     DeleteBackward(box);
     DeleteForward(box);
     EXPECT_EQ(box.Text(), "");
+    InsertText(box, "abc");
+    box.Select(1, 2);
+    DeleteBackward(box);
+    EXPECT_EQ(box.Text(), "a");
+    EXPECT_EQ(box.SelStart(), 1);
 }
 
 TEST_F(UserTest, TextGoesOnlyWhereTheFocusIsAndIsTaken) {

@@ -1,0 +1,62 @@
+// Plays as the program does, and worse: before the device is open, many keys at once, waves that are read anew while they sound, broken
+// ones, and ends at any moment. Nothing is checked here but by the sanitizer that it is built with.
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <random>
+#include <string>
+#include <thread>
+
+#include "platform/qt/qt_sounds.h"
+
+namespace {
+void Append(std::string& bytes, std::uint32_t number, int size) {
+    for (int i = 0; i < size; ++i) bytes += static_cast<char>(number >> (8 * i));
+}
+
+// So many frames of silence, 16 bits mono, 44100 a second.
+std::string SilentWave(std::uint32_t frames) {
+    std::string bytes = "RIFF";
+    Append(bytes, 36 + 2 * frames, 4);
+    bytes += "WAVEfmt ";
+    Append(bytes, 16, 4);
+    Append(bytes, 1, 2);
+    Append(bytes, 1, 2);
+    Append(bytes, 44100, 4);
+    Append(bytes, 88200, 4);
+    Append(bytes, 2, 2);
+    Append(bytes, 16, 2);
+    bytes += "data";
+    Append(bytes, 2 * frames, 4);
+    return bytes + std::string(2 * frames, '\0');
+}
+
+void Rest(int milliseconds) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+void PlayMany(Sounds& sounds, Wave (&waves)[3], std::mt19937& dice, int keys) {
+    for (int key = 0; key < keys; ++key) {
+        Wave& wave = waves[dice() % 3];
+        if (dice() % 8 == 0) wave.bytes = dice() % 4 == 0 ? "broken" : SilentWave(100 + dice() % 4000);
+        sounds.Play(wave);
+        if (dice() % 4 == 0) Rest(static_cast<int>(dice() % 12));
+    }
+}
+}  // namespace
+
+int main() {
+    const unsigned seed = std::random_device()();
+    std::cout << "seed " << seed << "\n";
+    std::mt19937 dice(seed);
+    Wave waves[] = {{"WaveKey1", SilentWave(3000)}, {"WaveKey2", SilentWave(500)}, {"WaveAlarm", SilentWave(40000)}};
+    for (int start = 0; start < 20; ++start) {
+        QtSounds sounds;
+        PlayMany(sounds, waves, dice, start % 5 == 0 ? 0 : 10);  // some end before the device is open
+        if (start % 2 == 0) continue;
+        Rest(200);
+        PlayMany(sounds, waves, dice, 500);
+    }
+    std::cout << "1 passed, 0 failed\n";
+}
