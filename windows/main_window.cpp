@@ -98,14 +98,14 @@ void MainWindow::PlaceTotals() {
     Label6.right_aligned = true;
     for (int i = 0; i < 3; ++i) {
         const int top = 400 + 620 * i;
-        Add(Label2[i], "Label2", i, &Frame2, {80, top + 50, 920, 400});
+        Add(Label2[i], "Label2", i, &Frame2, {80, top + 50, 880, 400});
         Label2[i].SetCaption(kNames[i]);
-        Add(Text3[i], "Text3", i, &Frame2, {1020, top, 760, 480});
+        Add(Text3[i], "Text3", i, &Frame2, {980, top, 760, 480});
         Text3[i].SetText("0");
         Text3[i].SetFontSize(16);
         Text3[i].centred = true;
         Text3[i].accessible_name = kNames[i];
-        Add(Option1[i], "Option1", i, &Frame2, {1820, top + 90, 1060, 300});
+        Add(Option1[i], "Option1", i, &Frame2, {1780, top + 90, 1060, 300});
         Option1[i].SetCaption("Set alarm");
         Option1[i].SetFontSize(8);
     }

@@ -185,7 +185,8 @@ private:
     int back_ups_ = 0;
 
     int pressed_ = 0, sheets_ = 0, saves_ = 0, alarms_ = 0, openings_ = 0, samples_ = 0;
-    std::size_t deepest_undo_ = 0, bytes_at_first_sheet_ = 0, largest_rest_ = 0;
+    std::size_t deepest_undo_ = 0;
+    std::ptrdiff_t bytes_at_first_sheet_ = 0, largest_rest_ = 0;
     int keys_at_last_line_ = 0, next_rate_ = 0, history_limit_ = 0;
     bool numeric_names_ = true;
     std::chrono::steady_clock::time_point last_line_ = std::chrono::steady_clock::now();
@@ -463,8 +464,8 @@ void LongRun::OpenBackUpAndComeBack() {
 
 // All that a sheet held goes with it. What stays is the list of what was done.
 void LongRun::CompareMemory() {
-    constexpr std::size_t kSlack = 1 << 20;  // the largest sheet, its curve, and the second count of it
-    const std::size_t rest = BytesInUse() - BytesOfHistory();
+    constexpr std::ptrdiff_t kSlack = 1 << 20;  // the largest sheet, its curve, and the second count of it
+    const auto rest = static_cast<std::ptrdiff_t>(BytesInUse() - BytesOfHistory());  // the history is reckoned to a few bytes a line
     if (bytes_at_first_sheet_ == 0) bytes_at_first_sheet_ = rest;
     largest_rest_ = std::max(largest_rest_, rest);
     Check(rest <= bytes_at_first_sheet_ + kSlack, "memory grows by the history alone: " + std::to_string(rest) +
@@ -499,7 +500,7 @@ void LongRun::Run() {
     CompareAll();
     std::printf("%d sheets, %d samples, %d saves, %d back-ups at alarms, %d openings; undo went up to %zu steps deep\n", sheets_, samples_,
                 saves_, alarms_, openings_, deepest_undo_);
-    std::printf("beside the history: first %zu bytes, at the most %zu\n", bytes_at_first_sheet_, largest_rest_);
+    std::printf("beside the history: first %td bytes, at the most %td\n", bytes_at_first_sheet_, largest_rest_);
 }
 }  // namespace
 

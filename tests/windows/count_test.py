@@ -7,7 +7,7 @@ from desk import PAD, SAVE, SHIFT_1, SHIFT_2, UNDO, Desk, Program
 from heard import heard
 
 STAMP = re.compile(rb"\d\d/\d\d/\d\d\d\d(_| )\(\d\d:\d\d:\d\d\)")
-PAUSE = 110  # milliseconds between keys: every sound is heard to its end
+PAUSE = 180  # milliseconds between keys: every sound is heard to its end
 
 
 def expected_sheet(path, counts):
