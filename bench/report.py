@@ -117,7 +117,8 @@ def table(head, rows):
 
 def page(times, acts, start, bare, flushed, others):
     per = lambda name: times[name]
-    keys = [[what, *(f"{text(median)} / {text(most)}" for median, most in (acts[task].get(stage, (0, 0)) for stage in ("model", "sound", "picture")))]
+    reached = lambda task, stage: " / ".join(text(time) for time in acts[task].get(stage, ()))
+    keys = [[what, *(reached(task, stage) for stage in ("model", "sound", "picture"))]
             for task, what in (("plain", "a key, no diagram"), ("diagram", "a key, diagram of 135 x 250 open"),
                                ("tree", "the same with the cluster tree"), ("drag", "a move of the sample's line"))]
     jobs = [["open a sheet, whole", text(per("Open")), f"pandas read_csv {text(others['pandas read'])}, R read.csv {text(others['R read'])}",
