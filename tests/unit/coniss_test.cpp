@@ -218,16 +218,8 @@ TEST_F(ConissTest, TheBarCountsTheMergesAgainstTheSamples) {
     Sheet({"a", "b", "c", "d"}, {{1}, {1}, {1}, {1}});
     for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[0][sample] = SampleTable[2][sample];
     ComputeDiagramData();
-    struct : ControlView {
-        Texts seen;
-        void Changed(Property) override {
-            const ProgressBar& bar = frmMain.ProgressBar1;
-            if (bar.Visible() && bar.Value() > 0) seen.push_back(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max()));
-        }
-    } view;
-    frmMain.ProgressBar1.BindView(&view);
+    const BarWatch bar;
     ComputeConiss();
-    frmMain.ProgressBar1.BindView(nullptr);
-    EXPECT_EQ(view.seen, (Texts{"1 of 4", "2 of 4", "3 of 4"}));
+    EXPECT_EQ(bar.seen, (Texts{"1 of 4", "2 of 4", "3 of 4"}));
 }
 }  // namespace

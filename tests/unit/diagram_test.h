@@ -6,6 +6,21 @@
 #include "platform/control.h"
 #include "platform/picture_box.h"
 #include "unit/sheet_test.h"
+#include "windows/main_window.h"
+
+// Notes each step of the main window's bar while it lives: "3 of 135".
+class BarWatch : private ControlView {
+public:
+    BarWatch() { frmMain.ProgressBar1.BindView(this); }
+    ~BarWatch() override { frmMain.ProgressBar1.BindView(nullptr); }
+    Texts seen;
+
+private:
+    void Changed(Property) override {
+        const ProgressBar& bar = frmMain.ProgressBar1;
+        if (bar.Visible() && bar.Value() > 0) seen.push_back(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max()));
+    }
+};
 
 class DiagramTest : public SheetTest {
 protected:

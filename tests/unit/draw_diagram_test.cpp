@@ -171,19 +171,11 @@ TEST_F(DrawDiagramTest, ThePointerAndTheBarAreGivenBack) {
 
 TEST_F(DrawDiagramTest, TheBarCountsThe135RowsOfTheSheet) {
     Open(frmMain.mnuBar);
-    struct : ControlView {
-        Texts seen;
-        void Changed(Property) override {
-            const ProgressBar& bar = frmMain.ProgressBar1;
-            if (bar.Visible() && bar.Value() > 0) seen.push_back(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max()));
-        }
-    } view;
-    frmMain.ProgressBar1.BindView(&view);
+    const BarWatch bar;
     DrawDiagram();
-    frmMain.ProgressBar1.BindView(nullptr);
-    ASSERT_EQ(view.seen.size(), 135u);
-    EXPECT_EQ(view.seen.front(), "1 of 135");
-    EXPECT_EQ(view.seen.back(), "135 of 135");
+    ASSERT_EQ(bar.seen.size(), 135u);
+    EXPECT_EQ(bar.seen.front(), "1 of 135");
+    EXPECT_EQ(bar.seen.back(), "135 of 135");
 }
 
 TEST_F(DrawDiagramTest, DepthsOutOfOrderStandByTheColumnsOfTheSheet) {

@@ -65,18 +65,10 @@ TEST_F(MergeListTest, TheDialogOffersDataFilesAndAsksBeforeOverwriting) {
 TEST_F(MergeListTest, TheBarCountsTheLinesAgainst135) {
     Sheet({"a", "b", "c", "d"}, {{1}, {0, 1}, {1}, {1}});
     OpenTree();
-    struct : ControlView {
-        Texts seen;
-        void Changed(Property) override {
-            const ProgressBar& bar = frmMain.ProgressBar1;
-            if (bar.Visible() && bar.Value() > 0) seen.push_back(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max()));
-        }
-    } view;
-    frmMain.ProgressBar1.BindView(&view);
+    const BarWatch bar;
     AnswerDialog(kList);
     SaveMergeList();
-    frmMain.ProgressBar1.BindView(nullptr);
-    EXPECT_EQ(view.seen, (Texts{"1 of 135", "2 of 135", "3 of 135"}));
+    EXPECT_EQ(bar.seen, (Texts{"1 of 135", "2 of 135", "3 of 135"}));
 }
 
 TEST_F(MergeListTest, WithoutSoundItIsSilent) {
