@@ -21,7 +21,7 @@ for_test=(
     libgtest-dev libbenchmark-dev
     xvfb openbox xdotool x11-xkb-utils x11-xserver-utils python3  # the real window, with real keys on several layouts
     libxtst-dev                                                   # keys for the benchmark of the window
-    imagemagick xclip x11-utils
+    imagemagick xclip
     dpkg-dev file debootstrap lintian desktop-file-utils appstream  # packages made, looked over and installed in a clean root
 )
 for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)

@@ -3,9 +3,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QTimer>
-#include <algorithm>
-#include <utility>
 
 #include "platform/controls.h"
 #include "platform/qt/box_editing.h"
@@ -55,21 +52,13 @@ bool OpensMenu(const QKeyEvent& key) {
 
 KeyFilter::KeyFilter() {
     qApp->installEventFilter(this);
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationInactive) LetGoOfAll();  // what is released in another program is not heard here
-    });
 }
 
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride) return false;
-    if (!watched->isWidgetType()) return false;
+    if (passing_ || !watched->isWidgetType() || QApplication::activeModalWidget()) return false;
     auto& key = *static_cast<QKeyEvent*>(event);
-    if (QApplication::activeModalWidget()) {  // it may have opened while a key was on its way
-        if (type == QEvent::KeyRelease) NoteRelease(key);
-        return false;
-    }
-    if (passing_) return false;
     auto* const top = static_cast<QWidget*>(watched)->window();
     if (top->windowType() == Qt::Popup) return TakeInPopup(*top, key);
     if (!dynamic_cast<WindowWidget*>(top)) return false;
@@ -96,36 +85,7 @@ void KeyFilter::Release(const QKeyEvent& key) {
     released_ = key.key();
     released_at_ = key.timestamp();
     if (key.isAutoRepeat()) return;  // X11 sends one with each repeated press
-    if (const auto code = VirtualKey(key)) TellRelease(*code);
-}
-
-void KeyFilter::NoteRelease(const QKeyEvent& key) {
-    const auto code = key.isAutoRepeat() ? std::nullopt : VirtualKey(key);
-    if (!code || std::erase(held_, *code) == 0) return;
-    late_.push_back(*code);
-    TellLateReleases();
-}
-
-void KeyFilter::TellRelease(int code) {
-    const bool is_counters = std::erase(held_, code) > 0 && counter_ != ActiveWindow();
-    TheRenderer().Run([this, code, is_counters] { is_counters ? counter_->KeyUp.Raise(code) : ReleaseKey(code); });
-}
-
-// When the event that they fell into is over: a count that waits for an answer keeps the bank that its key was pressed in.
-void KeyFilter::TellLateReleases() {
-    if (late_.empty()) return;
-    if (TheRenderer().InEvent()) {
-        constexpr int kSoonMs = 20;
-        QTimer::singleShot(kSoonMs, this, [this] { TellLateReleases(); });
-        return;
-    }
-    for (const int code : std::exchange(late_, {})) TheRenderer().Run([this, code] { counter_->KeyUp.Raise(code); });
-}
-
-void KeyFilter::LetGoOfAll() {
-    late_.insert(late_.end(), held_.begin(), held_.end());
-    held_.clear();
-    TellLateReleases();
+    if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { ReleaseKey(*code); });
 }
 
 // The first repeat that a new window gets is not always marked as one: on X11 it follows its release in no time.
@@ -135,7 +95,6 @@ bool KeyFilter::Repeats(const QKeyEvent& key) const {
 
 // A key that is still held when its window has gone, such as the Enter that closed a dialog, is no key of the next window.
 void KeyFilter::Press(QKeyEvent& key) {
-    TellLateReleases();
     if (held_over_ == key.key() && Repeats(key)) return;
     held_over_ = 0;
     if (OpensMenu(key)) return;
@@ -148,13 +107,7 @@ void KeyFilter::TakePress(QKeyEvent& key) {
     Window* const window = ActiveWindow();
     Control* const focus = window ? window->Focus() : nullptr;
     const int text_changes = TheRenderer().TextChanges();
-    if (const auto code = VirtualKey(key)) {
-        if (window && window->KeyUp.IsJoined() && std::ranges::find(held_, *code) == held_.end()) {
-            counter_ = window;
-            held_.push_back(*code);
-        }
-        TheRenderer().Run([code] { PressKey(*code); });
-    }
+    if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { PressKey(*code); });
     if (!window || window != ActiveWindow() || window->Focus() != focus) return;
     if (focus && (IsSink(*focus) || !CanReach(*focus))) return;
     const bool used_as_input = focus && (TakesKeysAsInput(*focus) || TheRenderer().TextChanges() != text_changes);

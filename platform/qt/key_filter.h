@@ -2,7 +2,6 @@
 // a widget. While counting nothing is left for the widgets: a key ends when the program has heard it.
 #pragma once
 #include <QObject>
-#include <vector>
 
 #include "platform/window.h"
 
@@ -21,10 +20,6 @@ private:
     void Press(QKeyEvent& key);
     void TakePress(QKeyEvent& key);
     void Release(const QKeyEvent& key);
-    void NoteRelease(const QKeyEvent& key);
-    void TellRelease(int code);
-    void TellLateReleases();
-    void LetGoOfAll();
     bool Repeats(const QKeyEvent& key) const;
     void Finish(QKeyEvent& key, Control& focus);
 
@@ -32,9 +27,4 @@ private:
     int held_over_ = 0;     // the toolkit's number of the key that has changed the window in front; 0: none
     int released_ = 0;      // the key that went up last, and when
     unsigned long released_at_ = 0;
-
-    // A window that counts must hear of every release, wherever it falls: a shift or undo key that seems held makes the next count wrong.
-    Window* counter_ = nullptr;  // the window that heard the keys below go down
-    std::vector<int> held_;
-    std::vector<int> late_;  // released while an event of the program ran, in a message box for instance
 };
