@@ -7,7 +7,7 @@ from desk import PAD, SAVE, SHIFT_1, SHIFT_2, UNDO, Desk, Program
 from heard import heard
 
 STAMP = re.compile(rb"\d\d/\d\d/\d\d\d\d(_| )\(\d\d:\d\d:\d\d\)")
-PAUSE = 180  # milliseconds between keys: every sound is heard to its end
+PAUSE = 110  # milliseconds between keys: every sound is heard to its end
 
 
 def expected_sheet(path, counts):
@@ -32,6 +32,7 @@ class CountTest(unittest.TestCase):
 
     def test_thirty_grains_reach_the_file_and_the_ear(self):
         program, path = self.program, self.program.work / "core.csv"
+        time.sleep(2)  # the opening sound is heard to its end
         program.press(*PAD[:10], delay=PAUSE)
         program.hold(SHIFT_1)
         program.press(*PAD[10:20], delay=PAUSE)
