@@ -8,6 +8,7 @@
 #include "session/dialog.h"
 #include "session/sheet_state.h"
 #include "session/sound.h"
+#include "taxa/edit_boxes.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -86,7 +87,7 @@ void EmptyNamedKey(int key) {
 void TakeNamedKey(int key, int code) {
     TextBox& box = frmInitial.Text1[key];
     box.SetText(std::to_string(code));
-    if (code == kDelete) box.SetSelStart(static_cast<int>(Length(box.Text())));  // it would take the first digit of its own code away
+    if (code == kDelete) PutCaretBehind(box);  // it would take the first digit of its own code away
     if (key < kNamedKeys - 1) {
         FocusNext(key);
     } else {

@@ -15,8 +15,6 @@
 #include "windows/main_window.h"
 
 namespace {
-constexpr Colour kUndone{255, 255, 135};  // paler than a count's
-
 void GoToSampleOf(std::int16_t sample) {
     if (sample == CurrentSample) return;
     CurrentSample = sample;
@@ -45,7 +43,7 @@ void UndoNewest() {
     const bool alarm_due = AlarmDueAfterUndo();
     TakeBack(slot, direction);
     PlayIfOn(alarm_due ? WaveAlarm : WaveUndo);
-    MoveHighlight(slot, kUndone);
+    MoveHighlight(slot, kPaleHighlight);
     PopUndoList();
     AddHistoryLine((direction < 0 ? "(Undo-amend) " : "(Undo) ") + SlotAndName(slot));
 }

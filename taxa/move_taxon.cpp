@@ -11,8 +11,6 @@
 #include "windows/main_window.h"
 
 namespace {
-constexpr Colour kMoved{255, 255, 135};
-
 bool HasCounts(int slot) {
     std::int64_t sum = 0;
     for (int sample = 0; sample <= SampleCount; ++sample) sum += Counts[slot][sample];
@@ -64,7 +62,7 @@ void TransferTaxa(std::int16_t target) {
     MoveCells(from, target);
     frmMain.Label1[from].SetBold(false);
     PaintCell(LastSlot, kWhite);
-    if (target != 0) MoveHighlight(target, kMoved);
+    if (target != 0) MoveHighlight(target, kPaleHighlight);
     AddHistoryLine("(Move) " + name + ": " + std::to_string(from) + " to " + std::to_string(target));
     RecountTotals(CurrentSample);
     SheetClean = false;

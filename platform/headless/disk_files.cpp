@@ -16,6 +16,7 @@ public:
         if (!stream_.is_open()) throw Failure(kFileError);
     }
 
+    // Scripts and tests do not wait for the disk: nothing is flushed here.
     void Replace(std::string_view bytes) override {
         std::error_code error;
         std::filesystem::resize_file(path_, 0, error);
