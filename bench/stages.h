@@ -4,7 +4,7 @@
 #include <chrono>
 #include <vector>
 
-#include "platform/qt/qt_sounds.h"
+#include "platform/services.h"
 
 struct Stages {
     using Time = std::chrono::steady_clock::time_point;
@@ -18,11 +18,12 @@ extern Stages stages;
 // Each counted key plays one sound, as the last thing that it does.
 class TimedSounds : public Sounds {
 public:
+    explicit TimedSounds(Sounds& sounds) : sounds_(sounds) {}
     void Play(const Wave& wave) override;
     void Beep() override { sounds_.Beep(); }
 
 private:
-    QtSounds sounds_;
+    Sounds& sounds_;
 };
 
 // What has been done is on the screen when the server has carried out the painting.

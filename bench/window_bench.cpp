@@ -2,8 +2,9 @@
 // handed over, and to the picture on the screen. Run it by bench/window_bench.sh:
 //     window_bench plain [KEYS]      counting keys, 200 a second; 10,000 if no number is given
 //     window_bench diagram [KEYS]    the same, 40 a second, beside an open diagram of 135 taxa by 250 samples of 1600 by 1000 pixels
-//     window_bench tree [KEYS]       the same, with the cluster tree
-//     window_bench drag [MOVES]      the line of the selected sample dragged over that diagram
+//     window_bench fresh [KEYS]      the same, but the sample has no counts yet: its percentages are high, and the columns move with each
+//     key window_bench tree [KEYS]       as diagram, with the cluster tree window_bench drag [MOVES]      the line of the selected sample
+//     dragged over that diagram
 // Fails if a key does not count.
 #include <QTimer>
 #include <algorithm>
@@ -69,9 +70,16 @@ void BeginSample() {
     if (frmNext.Visible()) renderer.Run([] { CloseWindow(frmNext); });
 }
 
-void OpenLargeSheet(const std::filesystem::path& folder) {
+Rows LargeSheet(const Task& task) {
+    Rows rows = DataSheet(kSampleLimit);
+    if (task.name == "fresh")
+        for (int row = kTaxonRow; row < kParamRow; ++row) rows[row].back() = "0";
+    return rows;
+}
+
+void OpenSheet(const std::filesystem::path& folder, const Rows& rows) {
     const std::string path = (folder / "large.csv").string();
-    std::ofstream(path, std::ios::binary) << Joined(DataSheet(kSampleLimit));
+    std::ofstream(path, std::ios::binary) << Joined(rows);
     ScriptedMessageBoxes messages;
     ScriptedFileDialogs dialogs;
     messages.answers = {Answer::Yes};
@@ -162,10 +170,10 @@ int main(int argc, char** argv) {
     KeyFilter keys;
     BenchHost host(folder);
     DesktopServices desktop(host);
-    TimedSounds sounds;
+    TimedSounds sounds(desktop.sounds);
     services.sounds = &sounds;
     BeginSample();
-    if (task.HasDiagram()) OpenLargeSheet(folder);
+    if (task.HasDiagram()) OpenSheet(folder, LargeSheet(task));
     if (task.HasDiagram()) OpenDiagram(task);
     const int counted_before = Counted();
 

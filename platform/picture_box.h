@@ -19,6 +19,7 @@ struct DrawOperation {
     Colour rim;             // the colour of a line, a circle's rim, a text
     Colour fill;            // Rectangle and Circle alone
     std::string text;
+    bool operator==(const DrawOperation&) const = default;
 };
 
 class PictureBox : public Control {

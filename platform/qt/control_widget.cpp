@@ -51,7 +51,7 @@ void ControlWidget::Show(Changes changes) {
     if (changes.Has(Property::Enabled)) widget_->setEnabled(control_.Enabled());
     if (changes.Has(Property::ToolTip)) widget_->setToolTip(ToQt(control_.ToolTip()));
     ShowContent(changes);
-    widget_->update();
+    Repaint(changes);
     if (changes.Has(Property::Visible)) widget_->setVisible(control_.Visible());
 }
 

@@ -38,6 +38,7 @@ protected:
     QFont Font() const;
     void Show(Changes changes) override;  // what all kinds have in common
     virtual void ShowContent(Changes changes) = 0;
+    virtual void Repaint(Changes /*changes*/) { widget_->update(); }
 
     // What the kind does at a press, besides its events; at the widget's own coordinates.
     virtual void Press(const Mouse& mouse, QPointF at);

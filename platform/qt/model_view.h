@@ -20,6 +20,7 @@ protected:
         void Add(Property property) { bits_ |= Bit(property); }
         bool Any() const { return bits_ != 0; }
         bool Has(Property property) const { return (bits_ & Bit(property)) != 0; }
+        bool HasOnly(Property property) const { return bits_ == Bit(property); }
 
     private:
         explicit Changes(unsigned bits) : bits_(bits) {}

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "platform/qt/look.h"
 
@@ -15,12 +16,25 @@ constexpr double kLargestDot = 100;  // pixels
 constexpr double kNameWidth = 5;     // of a letter on the average, in pixels of the program
 constexpr double kNameSize = 10.5;   // pixels of the program: letters that stand in a row 12 high
 
+double Thickness(const PictureScale& scale) {
+    return std::max(1.0, std::round(scale.pixel));
+}
+
 class OperationPainter {
 public:
     OperationPainter(QPainter& painter, const PictureScale& scale) : painter_(painter), scale_(scale) {}
+    ~OperationPainter() { PaintBars(); }
+    OperationPainter(const OperationPainter&) = delete;
+    OperationPainter& operator=(const OperationPainter&) = delete;
+
+    // Instead of painting what cannot be seen.
+    void PassOver() { follows_line_ = false; }
 
     void Paint(const DrawOperation& operation) {
-        if (operation.shape != DrawOperation::Shape::Line) follows_line_ = false;
+        if (operation.shape != DrawOperation::Shape::Line) {
+            follows_line_ = false;
+            PaintBars();
+        }
         switch (operation.shape) {
             case DrawOperation::Shape::Line:
                 return Line(operation);
@@ -38,7 +52,7 @@ public:
 private:
     double X(double fraction) const { return fraction * scale_.size.width(); }
     double Y(double fraction) const { return fraction * scale_.size.height(); }
-    double Thickness() const { return std::max(1.0, std::round(scale_.pixel)); }
+    double Thickness() const { return ::Thickness(scale_); }
 
     void UsePen(Colour colour) {
         if (pen_is_set_ && colour == pen_) return;
@@ -52,6 +66,7 @@ private:
         const double x1 = X(line.x1), y1 = Y(line.y1), x2 = X(line.x2), y2 = Y(line.y2);
         if (IsCovered(QPointF(x1, y1), QPointF(x2, y2), line.rim)) return;
         if (std::abs(x1 - x2) < 0.5 || std::abs(y1 - y2) < 0.5) return Bar(x1, y1, x2, y2, line.rim);
+        PaintBars();
         painter_.setRenderHint(QPainter::Antialiasing, true);
         UsePen(line.rim);
         painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
@@ -62,7 +77,20 @@ private:
         const int thick = static_cast<int>(Thickness()), half = thick / 2;
         const QPoint from(pixel(std::min(x1, x2)) - half, pixel(std::min(y1, y2)) - half);
         const QPoint to(pixel(std::max(x1, x2)) - half + thick, pixel(std::max(y1, y2)) - half + thick);
-        painter_.fillRect(QRect(from, QSize(to.x() - from.x(), to.y() - from.y())), ToQt(colour));
+        if (colour != bar_colour_) PaintBars();
+        bar_colour_ = colour;
+        bars_.push_back(QRect(from, QSize(to.x() - from.x(), to.y() - from.y())));
+    }
+
+    // All at once: a painter takes longer to get ready for a bar than to fill it.
+    void PaintBars() {
+        if (bars_.empty()) return;
+        painter_.setRenderHint(QPainter::Antialiasing, false);
+        painter_.setPen(Qt::NoPen);
+        pen_is_set_ = false;
+        painter_.setBrush(ToQt(bar_colour_));
+        painter_.drawRects(bars_.data(), static_cast<int>(bars_.size()));
+        bars_.clear();
     }
 
     // A long curve has many lines a pixel: one that stays in the pixel where the last one of its colour ended shows nothing new.
@@ -140,6 +168,8 @@ private:
     bool pen_is_set_ = false;
     QImage dot_;  // of the last circle
     DrawOperation dot_of_;
+    std::vector<QRect> bars_;  // of one colour, to be painted before anything else
+    Colour bar_colour_;
     bool follows_line_ = false;  // nothing else was drawn since the last line
     QPoint line_end_;            // of that line
     Colour line_colour_;
@@ -151,4 +181,33 @@ private:
 void PaintOperations(QPainter& painter, std::span<const DrawOperation> operations, const PictureScale& scale) {
     OperationPainter one(painter, scale);
     for (const DrawOperation& operation : operations) one.Paint(operation);
+}
+
+// A line that ends beyond the part is painted whole and then cut, for a painter that clips it gives its edges another shade.
+void RepaintPart(QPixmap& picture, const QRect& part, Colour ground, std::span<const DrawOperation> operations, const PictureScale& scale) {
+    if (part.isEmpty()) return;
+    QPixmap fresh(picture.size());
+    {
+        QPainter painter(&fresh);
+        painter.fillRect(part, ToQt(ground));
+        OperationPainter one(painter, scale);
+        for (const DrawOperation& operation : operations)
+            Reach(operation, scale).intersects(QRectF(part)) ? one.Paint(operation) : one.PassOver();
+    }
+    const double density = picture.devicePixelRatio();
+    picture.setDevicePixelRatio(1);
+    QPainter(&picture).drawPixmap(part.topLeft(), fresh, part);
+    picture.setDevicePixelRatio(density);
+}
+
+QRectF Reach(const DrawOperation& operation, const PictureScale& scale) {
+    using Shape = DrawOperation::Shape;
+    if (operation.shape == Shape::Text || operation.shape == Shape::Name) return {QPointF(), scale.size};
+    const bool is_circle = operation.shape == Shape::Circle;
+    const double margin = Thickness(scale) + 2 + (is_circle ? std::min(operation.radius * scale.size.width(), kLargestDot) : 0);
+    const auto place = [&scale](double x, double y) {
+        return QPointF(std::clamp(x * scale.size.width(), -kFarOut, kFarOut), std::clamp(y * scale.size.height(), -kFarOut, kFarOut));
+    };
+    const QPointF from = place(operation.x1, operation.y1), to = is_circle ? from : place(operation.x2, operation.y2);
+    return QRectF(from, to).normalized().adjusted(-margin, -margin, margin, margin);
 }

@@ -1,6 +1,7 @@
 // Paints the display list of a picture, pixel by pixel of the screen: lines of the axis directions are crisp at every density.
 #pragma once
 #include <QPainter>
+#include <QPixmap>
 #include <span>
 
 #include "platform/picture_box.h"
@@ -12,3 +13,9 @@ struct PictureScale {
 };
 
 void PaintOperations(QPainter& painter, std::span<const DrawOperation> operations, const PictureScale& scale);
+
+// Paints a part of a picture again, on a ground of one colour; the rest stays. The pixels are those of PaintOperations.
+void RepaintPart(QPixmap& picture, const QRect& part, Colour ground, std::span<const DrawOperation> operations, const PictureScale& scale);
+
+// The pixels that an operation may colour, and some around them.
+QRectF Reach(const DrawOperation& operation, const PictureScale& scale);

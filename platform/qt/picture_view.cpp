@@ -2,17 +2,20 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 #include <QToolTip>
+#include <utility>
 
 #include "platform/qt/look.h"
 #include "platform/qt/picture_file.h"
 #include "platform/qt/picture_painter.h"
+#include "platform/qt/shown_operations.h"
 #include "platform/qt/views.h"
 #include "platform/services.h"
 
 namespace {
 constexpr int kTwipsPerPixel = 15;
 
-// What has been made persistent is kept as an image at the resolution of the screen; each paint adds only the overlay.
+// What has been made persistent is kept as an image at the resolution of the screen; each paint adds only the overlay. Of a drawing that
+// changes, only the part that looks different is painted again: a key counts one sample, and its row alone is new in the diagram.
 class PictureView : public ControlWidget {
 public:
     PictureView(PictureBox& picture, WindowWidget& window, ControlWidget* owner)
@@ -24,7 +27,7 @@ public:
 
 private:
     void ShowContent(Changes changes) override {
-        if (changes.Has(Property::Colours)) persistent_ = {};
+        if (changes.Has(Property::Colours)) ground_image_ = {};
         if (changes.Has(Property::ToolTip) && canvas_->underMouse())  // it follows the pointer from column to column
             QToolTip::showText(QCursor::pos(), ToQt(picture_.ToolTip()), canvas_);
     }
@@ -42,29 +45,64 @@ private:
                 (y - picture_.ScaleTop()) / span(picture_.ScaleHeight()) * canvas_->height()};
     }
 
-    void Paint(QPainter& painter) {
-        if (canvas_->size().isEmpty()) return;
-        const double density = canvas_->devicePixelRatioF();
-        const PictureScale scale{QSizeF(canvas_->size()) * density, kTwipsPerPixel * Factor() * density,
-                                 static_cast<double>(picture_.Width()) / picture_.DesignBox().width};
-        const std::span operations(picture_.Operations());
-        painter.drawPixmap(0, 0, Persistent(scale, density));
-        painter.scale(1 / density, 1 / density);
-        PaintOperations(painter, operations.subspan(picture_.PersistentCount()), scale);
+    void Repaint(Changes changes) override {
+        const QRect part = ShowDrawing();
+        if (!changes.HasOnly(Property::Drawing))
+            canvas_->update();
+        else if (!part.isEmpty())
+            canvas_->update(QRectF(QPointF(part.topLeft()) / Density(), QSizeF(part.size()) / Density()).toAlignedRect());
     }
 
-    const QPixmap& Persistent(const PictureScale& scale, double density) {
-        const QSize size(qRound(scale.size.width()), qRound(scale.size.height()));
-        if (persistent_.size() == size && version_ == picture_.PersistentVersion()) return persistent_;
-        persistent_ = QPixmap(size);
+    double Density() const { return canvas_->devicePixelRatioF(); }
+
+    PictureScale Scale() const {
+        return {QSizeF(canvas_->size()) * Density(), kTwipsPerPixel * Factor() * Density(),
+                static_cast<double>(picture_.Width()) / picture_.DesignBox().width};
+    }
+
+    // The pixels that look different from before.
+    QRect ShowDrawing() {
+        if (canvas_->size().isEmpty()) return {};
+        const PictureScale scale = Scale();
+        const std::span operations(picture_.Operations());
+        const QRect in_overlay = overlay_.Show(operations.subspan(picture_.PersistentCount()), scale);
+        return in_overlay | ShowGround(operations.first(picture_.PersistentCount()), scale);
+    }
+
+    QRect ShowGround(std::span<const DrawOperation> operations, const PictureScale& scale) {
+        const QSize size = scale.size.toSize();
+        const bool is_new = ground_image_.size() != size;
+        if (!is_new && version_ == picture_.PersistentVersion()) return {};
         version_ = picture_.PersistentVersion();
-        persistent_.fill(ToQt(picture_.BackColor()));
-        QPainter painter(&persistent_);
-        PaintImage(painter, size);
-        PaintOperations(painter, std::span(picture_.Operations()).first(picture_.PersistentCount()), scale);
+        QRect part = ground_.Show(operations, scale);
+        const bool had_image = std::exchange(has_image_, !picture_.image.empty() || !picture_.ImageBytes().empty());
+        if (is_new || had_image || has_image_ || IsMost(part, size)) part = QRect(QPoint(), size);
+        if (part.size() == size)
+            PaintGround(scale);
+        else
+            RepaintPart(ground_image_, part, picture_.BackColor(), ground_.All(), scale);
+        return part;
+    }
+
+    static bool IsMost(const QRect& part, const QSize& of) { return 2LL * part.width() * part.height() > 1LL * of.width() * of.height(); }
+
+    void PaintGround(const PictureScale& scale) {
+        if (const QSize size = scale.size.toSize(); ground_image_.size() != size) ground_image_ = QPixmap(size);
+        ground_image_.setDevicePixelRatio(1);
+        ground_image_.fill(ToQt(picture_.BackColor()));
+        QPainter painter(&ground_image_);
+        if (has_image_) PaintImage(painter, ground_image_.size());
+        PaintOperations(painter, ground_.All(), scale);
         painter.end();
-        persistent_.setDevicePixelRatio(density);
-        return persistent_;
+        ground_image_.setDevicePixelRatio(Density());
+    }
+
+    void Paint(QPainter& painter) {
+        if (canvas_->size().isEmpty()) return;
+        if (ground_image_.size() != Scale().size.toSize()) ShowDrawing();
+        painter.drawPixmap(0, 0, ground_image_);
+        painter.scale(1 / Density(), 1 / Density());
+        PaintOperations(painter, overlay_.All(), Scale());
     }
 
     // Fitted into the picture, in its middle.
@@ -85,8 +123,10 @@ private:
 
     PictureBox& picture_;
     QWidget* canvas_;
-    QPixmap persistent_;
-    int version_ = 0;
+    QPixmap ground_image_;  // what is persistent
+    ShownOperations ground_, overlay_;
+    bool has_image_ = false;
+    int version_ = 0;  // of what is persistent
 };
 }  // namespace
 

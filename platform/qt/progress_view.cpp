@@ -7,9 +7,9 @@
 #include "platform/qt/views.h"
 
 namespace {
-constexpr int kShortestMs = 15;  // between two repaints: nobody sees more, and a save is not to wait for its bar
+constexpr int kShortestMs = 15;  // up to the first repaint and between two: nobody sees more, and a save is not to wait for its bar
 
-// The bar moves while an event still runs, so it is repainted at once.
+// The bar moves while an event still runs, so it is repainted at once; what is over sooner than that shows no bar.
 class ProgressView : public ControlWidget {
 public:
     ProgressView(ProgressBar& bar, WindowWidget& window, ControlWidget* owner) : ControlWidget(bar, window, owner), bar_(bar) {
@@ -20,6 +20,7 @@ public:
 
     void Changed(Property property) override {
         ControlWidget::Changed(property);
+        if (property == Property::Visible) since_repaint_.restart();
         if (property != Property::Value || !bar_.Visible() || !TheRenderer().InEvent() || since_repaint_.elapsed() < kShortestMs) return;
         TheRenderer().Agree();
         shown_->repaint();

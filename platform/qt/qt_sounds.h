@@ -1,7 +1,7 @@
 // Sounds from memory, one at a time, on a device that stays open. Without a device there is silence and nothing else changes.
 //
 // The device opens on a thread of its own, for that can take longer than the first window; what is played meanwhile sounds once it is
-// open.
+// open. A process has one device, and so one of these at a time.
 #pragma once
 #include <map>
 #include <mutex>
