@@ -7,12 +7,17 @@ import platform
 import re
 import statistics
 import subprocess
+import sys
 import tempfile
 import time
 
 TOP = pathlib.Path(__file__).resolve().parents[1]
 BIN = TOP / "build/release/bin"
 SAMPLES, TAXA = 250, 135
+GROWTH = (10, 50, 100, 250)  # samples
+
+sys.path.insert(0, str(TOP / "tests/windows"))
+import desk
 
 
 def milliseconds(job, times=7):
@@ -29,12 +34,13 @@ def text(value):
     return f"{value:.3g}" if value < 100 else f"{value:.0f}"
 
 
-def core():
+def benchmarks(program):
     """Name of a benchmark: milliseconds."""
-    out = subprocess.run([BIN / "sheet_bench", "--benchmark_format=json"], capture_output=True, text=True, check=True).stdout
+    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
+    out = subprocess.run([BIN / program, "--benchmark_format=json"], capture_output=True, text=True, check=True, env=environment).stdout
     runs = json.loads(out)["benchmarks"]
     times = {run["name"].split("/iterations")[0]: run["real_time"] / 1000 for run in runs}
-    times["press_p99"] = next(run["p99_us"] for run in runs if run["name"].startswith("PressKeysOnLargeSheet")) / 1000
+    times.update({run["name"].split("/")[0] + " 99 %": run["p99_us"] / 1000 for run in runs if "p99_us" in run})
     return times
 
 
@@ -45,13 +51,42 @@ def window(task, acts):
             re.findall(r"to (\w+)\s+median\s+([\d.]+) ms\s+99 % within\s+([\d.]+)", out)}
 
 
-def start_up():
-    """Milliseconds from the command to the start face on the screen, and the megabytes that the program then holds."""
-    code = ("import sys,time;sys.path.insert(0,'tests/windows');import desk;d=desk.Desk();b=time.perf_counter();p=desk.Program(d);"
-            "exec(\"while not d.windows('^Marlbrook 2'): pass\");print((time.perf_counter()-b)*1000);"
-            "print(open(f'/proc/{p.process.pid}/status').read().split('VmRSS:')[1].split()[0]);p.end();d.close()")
-    runs = [subprocess.run(["python3", "-c", code], cwd=TOP, capture_output=True, text=True, check=True).stdout.split() for _ in range(5)]
-    return statistics.median(float(run[0]) for run in runs), statistics.median(float(run[1]) for run in runs) / 1024
+def memory(samples):
+    """What the program holds, in megabytes: with a sheet of so many samples, with its diagram, with the tree."""
+    out = subprocess.run(["bench/window_bench.sh", "memory", str(samples)], cwd=TOP, capture_output=True, text=True, check=True).stdout
+    return {what: float(size) for what, size in re.findall(r"with (\w+)\s+([\d.]+) MB", out)}
+
+
+def start_up(start, title):
+    """Milliseconds until a window of that title is on the screen, and the megabytes that its program then holds: medians."""
+    runs = []
+    for _ in range(5):
+        screen = desk.Desk()
+        begin = time.perf_counter()
+        process, end = start(screen)
+        while not screen.windows(title):
+            pass
+        spent = (time.perf_counter() - begin) * 1000
+        resident = pathlib.Path(f"/proc/{process.pid}/status").read_text().split("VmRSS:")[1].split()[0]
+        runs.append((spent, float(resident) / 1024))
+        end()
+        screen.close()
+    return [statistics.median(column) for column in zip(*runs)]
+
+
+def start_program(screen):
+    program = desk.Program(screen)
+    return program.process, program.end
+
+
+def start_bare_window(screen):
+    process = subprocess.Popen([BIN / "bare_window"], env=screen.env)
+
+    def end():
+        process.terminate()
+        process.wait()
+
+    return process, end
 
 
 def large_sheet(folder):
@@ -64,23 +99,6 @@ def large_sheet(folder):
              for slot in range(1, TAXA + 1)]
     sheet.write_text("\r\n".join(rows) + "\r\n")
     return sheet
-
-
-def limits(folder, sheet):
-    """The same bytes written and flushed in one piece."""
-    data = sheet.read_bytes() * 2  # a saved sheet is about twice as long, with its notes and sums
-
-    def write():
-        with open(folder / "bytes", "wb") as file:
-            file.write(data)
-
-    def write_and_flush():
-        with open(folder / "bytes", "wb") as file:
-            file.write(data)
-            file.flush()
-            os.fsync(file.fileno())
-
-    return milliseconds(write), milliseconds(write_and_flush)
 
 
 def peers(folder, sheet):
@@ -98,11 +116,11 @@ def peers(folder, sheet):
     r_code = (f'x <- c(); for (i in 1:7) {{ t <- proc.time()[["elapsed"]]; d <- read.csv("{sheet}", skip = 1, check.names = FALSE); '
               'x <- c(x, proc.time()[["elapsed"]] - t) }; cat(median(x) * 1000)')
     return {
-        "pandas read": milliseconds(lambda: pandas.read_csv(sheet, skiprows=1, encoding="cp1252")),
-        "pandas write": milliseconds(lambda: frame.to_csv(folder / "out.csv", index=False)),
+        "pandas read_csv": milliseconds(lambda: pandas.read_csv(sheet, skiprows=1, encoding="cp1252")),
+        "pandas to_csv": milliseconds(lambda: frame.to_csv(folder / "out.csv", index=False)),
         "pandas percentages": milliseconds(lambda: numpy.round(counts / counts.sum() * 100, 4)),
-        "scikit-learn tree": milliseconds(lambda: tree.fit(shares)),
-        "R read": float(subprocess.run(["Rscript", "-e", r_code], capture_output=True, text=True, check=True).stdout),
+        "scikit-learn constrained tree": milliseconds(lambda: tree.fit(shares)),
+        "R read.csv": float(subprocess.run(["Rscript", "-e", r_code], capture_output=True, text=True, check=True).stdout),
     }
 
 
@@ -115,24 +133,30 @@ def table(head, rows):
     return "\n".join(["| " + " | ".join(row) + " |" for row in [head, ["---"] * len(head), *rows]])
 
 
-def page(times, acts, start, bare, flushed, others):
+def page(times, acts, starts, held, others):
     per = lambda name: times[name]
     reached = lambda task, stage: " / ".join(text(time) for time in acts[task].get(stage, ()))
-    keys = [[what, *(reached(task, stage) for stage in ("model", "sound", "picture"))]
-            for task, what in (("plain", "a key, no diagram"), ("diagram", "a key, diagram of 135 x 250 open"),
-                               ("tree", "the same with the cluster tree"), ("drag", "a move of the sample's line"))]
-    jobs = [["open a sheet, whole", text(per("Open")), f"pandas read_csv {text(others['pandas read'])}, R read.csv {text(others['R read'])}",
-             f"{text(others['pandas read'] / per('Open'))} and {text(others['R read'] / per('Open'))} times as long"],
-            ["save it (in memory)", text(per("Save")), f"pandas to_csv {text(others['pandas write'])}",
-             f"{text(others['pandas write'] / per('Save'))} times as long"],
-            ["write its bytes to the disk", text(bare), "with a flush to the disk", text(flushed)],
-            ["back-up", text(per("BackUp")), "", ""],
-            ["percentages of all samples", text(per("Percentages")), f"pandas {text(others['pandas percentages'])}",
-             f"{text(others['pandas percentages'] / per('Percentages'))} times as long"],
-            ["cluster tree of 250 samples", text(per("Coniss/250")), f"scikit-learn, constrained {text(others['scikit-learn tree'])}",
-             f"{text(others['scikit-learn tree'] / per('Coniss/250'))} times as long"]]
-    growth = [[what, *(text(per(f"{name}/{n}")) for n in (10, 50, 100, 250))] for what, name in
-              (("ComputeDiagramData", "DiagramData"), ("ComputeConiss", "Coniss"))]
+    keys = [[what, *(reached(task, stage) for stage in ("model", "sound", "picture")), aim]
+            for task, what, aim in (("plain", "a key, no diagram", "2 / 6"), ("diagram", "a key, diagram of 135 x 250 open", "– / 8"),
+                                    ("fresh", "the same in a sample just begun", "– / 8"),
+                                    ("tree", "a key, diagram and cluster tree open", "– / 10"),
+                                    ("drag", "a move of the sample's line", "– / 2"))]
+    near = lambda job, limit: [text(per(job)), text(per(limit)), f"{per(job) / per(limit):.1f}"]
+    peer = lambda job, *names: ", ".join(f"{name} {text(others[name])}: {others[name] / per(job):.1f} times as long" for name in names)
+    jobs = [["open a sheet", *near("Open/250", "ReadNumbers/250"), peer("Open/250", "pandas read_csv", "R read.csv")],
+            ["save it in memory", *near("Save/250", "WriteNumbers/250"), peer("Save/250", "pandas to_csv")],
+            ["save it on the disk", *near("SaveOnDisk/250", "WriteBytes/250"), ""],
+            ["back-up", *near("BackUp/250", "WriteNumbers/250"), ""],
+            ["percentages of all samples", *near("Percentages/250", "DivideCounts/250"), peer("Percentages/250", "pandas percentages")],
+            ["`ComputeDiagramData`", *near("DiagramData/250", "DivideCounts/250"), ""],
+            ["`ComputeConiss`", *near("Coniss/250", "CompareNeighbours/250"), peer("Coniss/250", "scikit-learn constrained tree")],
+            ["paint the diagram", *near("PaintWhole", "PaintSameLines"), ""],
+            ["repaint the row of a count", *near("RepaintRow", "PaintSameLines"), ""]]
+    growth = [[what, *(text(per(f"{name}/{n}")) for n in GROWTH)] for what, name in
+              (("open", "Open"), ("save in memory", "Save"), ("save on the disk", "SaveOnDisk"), ("back-up", "BackUp"),
+               ("percentages of all samples", "Percentages"), ("`ComputeDiagramData`", "DiagramData"), ("`ComputeConiss`", "Coniss"))]
+    growth += [[f"memory with the {what}, MB", *(f"{held[n][what]:.0f}" for n in GROWTH)] for what in ("sheet", "diagram", "tree")]
+    (start, megabytes), (bare_start, bare_megabytes) = starts
     return f"""# Benchmarks
 
 Written by `./bench.sh` on {datetime.date.today():%d/%m/%Y}; {machine()}. Times are milliseconds. The sheet has {TAXA} taxa by {SAMPLES} samples where nothing else is said.
@@ -140,26 +164,34 @@ Written by `./bench.sh` on {datetime.date.today():%d/%m/%Y}; {machine()}. Times 
 ## From the user's hand to the screen
 
 Through the real window on an X server, which runs on the same machine: median / 99 % within. The picture counts as there when the server has
-carried out the painting. Keys come 200 a second without a diagram, 40 a second beside one of 1600 by 1000 pixels.
+carried out the painting. Keys come 200 a second without a diagram, 40 a second beside one of 1600 by 1000 pixels, bar and curve. In a sample just begun each
+key is a large percentage: the columns move, and the whole diagram is painted again, not one row.
 
-{table(["act", "model", "sound", "picture"], keys)}
+{table(["act", "model", "sound", "picture", "aim"], keys)}
 
-A key in the program alone, with the large sheet, takes {text(per("PressKeysOnLargeSheet"))}; 99 % within {text(times["press_p99"])}.
+A key in the program alone, with the large sheet, takes {text(per("PressKeysOnLargeSheet"))}; 99 % within {text(per("PressKeysOnLargeSheet 99 %"))}.
+The rest of the way to the model belongs to the X server and the toolkit.
 
-The start face is on the screen {text(start[0])} after the command; the program then holds {start[1]:.0f} MB.
+The start face is on the screen {text(start)} after the command, and the program then holds {megabytes:.0f} MB. A window of the toolkit with nothing in it
+takes {text(bare_start)} and {bare_megabytes:.0f} MB.
 
 ## Jobs
 
-The program works on files in memory here; what the disk adds is told apart. Peers do the same job on the same data in the same run.
+The limit is what the machine takes for the least that the job must do. Peers do the same job on the same data in the same run.
 
-{table(["job", "Marlbrook", "beside it", "that is"], jobs)}
+{table(["job", "Marlbrook", "limit", "times the limit", "beside it"], jobs)}
 
-Opening fills the cells of the screen, the lists and the totals, and writes the master back-up; pandas and R read the table alone. The constrained clustering
-of scikit-learn is another criterion (Ward) on the same neighbours.
+- The limit of opening is to find each cell and read it as a number. Opening also fills the cells of the screen, the lists and the totals, and writes the master
+  back-up; pandas and R read the table alone.
+- The limit of saving is to write each count as a number; on the disk it is one write of the same bytes. A save also writes names, notes and sums.
+- The limit of the percentages is to divide each count. They are summed on their basis first; the diagram's are also ranked, and the widths of its columns found.
+- The limit of the clustering is to compare each two neighbours once. The tree then joins all of them, one pair a step. scikit-learn's constrained clustering uses
+  another criterion (Ward) on the same neighbours.
+- The limit of painting is the toolkit's painter with the same bars and lines, all of one colour, in two calls. The diagram has three colours in turn, column by column.
 
 ## Growth with the samples
 
-{table(["", "10", "50", "100", "250"], growth)}
+{table(["samples", *(str(n) for n in GROWTH)], growth)}
 
 ## Drawing
 
@@ -169,13 +201,13 @@ all that a key does to an open diagram before it is painted: {text(per("Redraw")
 
 
 def main():
+    acts = {task: window(task, count) for task, count in (("plain", 5000), ("diagram", 1000), ("fresh", 1000), ("tree", 1000), ("drag", 600))}
+    starts = start_up(start_program, "^Marlbrook 2"), start_up(start_bare_window, "^Bare window")
+    held = {samples: memory(samples) for samples in GROWTH}
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
-        sheet = large_sheet(folder)
-        others = peers(folder, sheet)
-        bare, flushed = limits(folder, sheet)
-        acts = {task: window(task, count) for task, count in (("plain", 5000), ("diagram", 1000), ("tree", 1000), ("drag", 600))}
-        result = page(core(), acts, start_up(), bare, flushed, others)
+        others = peers(folder, large_sheet(folder))
+    result = page(benchmarks("sheet_bench") | benchmarks("paint_bench"), acts, starts, held, others)
     (TOP / "docs/benchmarks.md").write_text(result)
     print(result)
 

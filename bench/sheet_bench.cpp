@@ -1,5 +1,8 @@
-// Reading and writing of the largest sheet, and its percentage tables.
+// Reading and writing of sheets of some samples, and their percentage tables.
 #include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <utility>
 
 #include "bench/headless_program.h"
 #include "diagram/percentages.h"
@@ -11,9 +14,13 @@
 #include "session/sheet_state.h"
 
 namespace {
+int Samples(const benchmark::State& state) {
+    return static_cast<int>(state.range(0));
+}
+
 // The cells alone, each as the value that it is.
 void ReadCells(benchmark::State& state) {
-    const std::string bytes = TheProgram().files.bytes[SheetOf(kSampleLimit)];
+    const std::string bytes = TheProgram().files.bytes[SheetOf(Samples(state))];
     for (auto _ : state) {
         CellReader cells(DecodeFile(bytes));
         while (!cells.AtEnd()) benchmark::DoNotOptimize(cells.Next());
@@ -22,8 +29,8 @@ void ReadCells(benchmark::State& state) {
 
 // From the bytes of the file into the arrays and the cells on the screen.
 void ReadSheet(benchmark::State& state) {
-    TheProgram().Open(SheetOf(kSampleLimit));
-    const std::string bytes = TheProgram().files.bytes[SheetOf(kSampleLimit)];
+    TheProgram().Open(SheetOf(Samples(state)));
+    const std::string bytes = TheProgram().files.bytes[SheetOf(Samples(state))];
     for (auto _ : state) {
         CellReader cells(DecodeFile(bytes));
         SheetHeader[6] = cells.Next();
@@ -37,29 +44,46 @@ void ReadSheet(benchmark::State& state) {
 
 // All of it: the question's way in, totals, the curve, the master back-up.
 void Open(benchmark::State& state) {
-    for (auto _ : state) TheProgram().Open(SheetOf(kSampleLimit));
+    for (auto _ : state) TheProgram().Open(SheetOf(Samples(state)));
 }
 
 void Save(benchmark::State& state) {
-    TheProgram().Open(SheetOf(kSampleLimit));
+    TheProgram().Open(SheetOf(Samples(state)));
     for (auto _ : state) SaveSheet(kSave);
 }
 
+// The same with a file on the disk.
+void SaveOnDisk(benchmark::State& state) {
+    TheProgram().Open(SheetOf(Samples(state)));
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / "marlbrook-bench.csv";
+    const std::string old_path = std::exchange(SheetPath, path.string());
+    Files* const memory = std::exchange(services.files, &TheProgram().services.disk);
+    for (auto _ : state) SaveSheet(kSave);
+    services.files = memory;
+    SheetPath = old_path;
+    std::filesystem::remove(path);
+}
+
 void BackUp(benchmark::State& state) {
-    TheProgram().Open(SheetOf(kSampleLimit));
+    TheProgram().Open(SheetOf(Samples(state)));
     for (auto _ : state) BackUpSheet();
 }
 
 void Percentages(benchmark::State& state) {
-    TheProgram().Open(SheetOf(kSampleLimit));
+    TheProgram().Open(SheetOf(Samples(state)));
     for (auto _ : state)
         for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
 }
 
-BENCHMARK(ReadCells)->Unit(benchmark::kMicrosecond);
-BENCHMARK(ReadSheet)->Unit(benchmark::kMicrosecond);
-BENCHMARK(Open)->Unit(benchmark::kMicrosecond);
-BENCHMARK(Save)->Unit(benchmark::kMicrosecond);
-BENCHMARK(BackUp)->Unit(benchmark::kMicrosecond);
-BENCHMARK(Percentages)->Unit(benchmark::kMicrosecond);
+void Growing(benchmark::internal::Benchmark* bench) {
+    bench->Arg(10)->Arg(50)->Arg(100)->Arg(250)->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK(ReadCells)->Apply(Growing);
+BENCHMARK(ReadSheet)->Apply(Growing);
+BENCHMARK(Open)->Apply(Growing);
+BENCHMARK(Save)->Apply(Growing);
+BENCHMARK(SaveOnDisk)->Apply(Growing);
+BENCHMARK(BackUp)->Apply(Growing);
+BENCHMARK(Percentages)->Apply(Growing);
 }  // namespace

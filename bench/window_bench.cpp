@@ -71,7 +71,7 @@ void BeginSample() {
 }
 
 Rows LargeSheet(const Task& task) {
-    Rows rows = DataSheet(kSampleLimit);
+    Rows rows = DataSheet(task.name == "memory" ? task.acts : kSampleLimit);
     if (task.name == "fresh")
         for (int row = kTaxonRow; row < kParamRow; ++row) rows[row].back() = "0";
     return rows;
@@ -143,6 +143,27 @@ int Counted() {
     return sum;
 }
 
+double ResidentMegabytes() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmRSS:")) return std::stod(line.substr(6)) / 1024;
+    return 0;
+}
+
+void ReportMemory(const std::filesystem::path& folder, const Task& task) {
+    const auto report = [](const char* with) {
+        QApplication::processEvents();
+        std::printf("  with %-8s %6.1f MB\n", with, ResidentMegabytes());
+    };
+    report("start");
+    OpenSheet(folder, LargeSheet(task));
+    report("sheet");
+    OpenDiagram(task);
+    report("diagram");
+    TheRenderer().Run([] { ClickControl(frmDiagram.nmuConiss); });
+    report("tree");
+}
+
 std::thread Begin(const Task& task) {
     const QPoint grip = task.Drags() ? PlaceOfLine(SampleCount) : QPoint(), top = task.Drags() ? PlaceOfLine(1) : QPoint();
     return std::thread([=] {
@@ -173,6 +194,11 @@ int main(int argc, char** argv) {
     TimedSounds sounds(desktop.sounds);
     services.sounds = &sounds;
     BeginSample();
+    if (task.name == "memory") {
+        ReportMemory(folder, task);
+        std::filesystem::remove_all(folder);
+        return 0;
+    }
     if (task.HasDiagram()) OpenSheet(folder, LargeSheet(task));
     if (task.HasDiagram()) OpenDiagram(task);
     const int counted_before = Counted();

@@ -1,0 +1,94 @@
+// Painting of the diagram of the largest sheet, bar and curve in 1600 by 1000 pixels, and of the same lines by the painter alone.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <cmath>
+
+#include "bench/headless_program.h"
+#include "platform/qt/look.h"
+#include "platform/qt/picture_painter.h"
+#include "platform/qt/shown_operations.h"
+#include "platform/user.h"
+#include "session/sheet_state.h"
+#include "windows/diagram_window.h"
+#include "windows/main_window.h"
+
+namespace {
+constexpr QSize kPixels(1600, 1000);
+const PictureScale kScale{kPixels, 1, 1};
+
+const std::vector<DrawOperation>& OpenDiagram() {
+    TheProgram().Open(SheetOf(kSampleLimit));
+    ClickControl(frmMain.mnuCurve);
+    return frmDiagram.Picture1.Operations();
+}
+
+QPixmap White() {
+    QPixmap picture(kPixels);
+    picture.fill(Qt::white);
+    return picture;
+}
+
+void PaintWhole(benchmark::State& state) {
+    const auto& operations = OpenDiagram();
+    QPixmap picture = White();
+    for (auto _ : state) {
+        QPainter painter(&picture);
+        PaintOperations(painter, operations, kScale);
+    }
+}
+
+// The row that a count changes, with the search for it.
+void RepaintRow(benchmark::State& state) {
+    std::vector<DrawOperation> operations = OpenDiagram();
+    std::vector<DrawOperation> counted = operations;
+    const double row = operations[operations.size() / 2].y1;
+    for (DrawOperation& operation : counted)
+        if (operation.shape == DrawOperation::Shape::Line && operation.y1 == row && operation.y2 == row) operation.x2 += 0.0001;
+    QPixmap picture = White();
+    ShownOperations shown;
+    shown.Show(operations, kScale);
+    for (auto _ : state) {
+        operations.swap(counted);
+        RepaintPart(picture, shown.Show(operations, kScale), kWhite, shown.All(), kScale);
+    }
+}
+
+// The bars at once, then the slanted lines at once.
+void PaintSameLines(benchmark::State& state) {
+    std::vector<QRect> bars;
+    std::vector<QLineF> lines;
+    for (const DrawOperation& operation : OpenDiagram()) {
+        if (operation.shape != DrawOperation::Shape::Line) continue;
+        const QLineF line(operation.x1 * kPixels.width(), operation.y1 * kPixels.height(), operation.x2 * kPixels.width(),
+                          operation.y2 * kPixels.height());
+        const bool is_bar = std::abs(line.dx()) < 0.5 || std::abs(line.dy()) < 0.5;
+        if (is_bar)
+            bars.push_back(QRectF(line.p1(), line.p2()).normalized().toAlignedRect().adjusted(0, 0, 1, 1));
+        else
+            lines.push_back(line);
+    }
+    QPixmap picture = White();
+    for (auto _ : state) {
+        QPainter painter(&picture);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Qt::darkGreen);
+        painter.drawRects(bars.data(), static_cast<int>(bars.size()));
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::darkGreen);
+        painter.drawLines(lines.data(), static_cast<int>(lines.size()));
+    }
+}
+
+BENCHMARK(PaintWhole)->Unit(benchmark::kMicrosecond);
+BENCHMARK(RepaintRow)->Unit(benchmark::kMicrosecond);
+BENCHMARK(PaintSameLines)->Unit(benchmark::kMicrosecond);
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    ApplyLook(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
