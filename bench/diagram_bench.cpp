@@ -1,6 +1,7 @@
 // What the diagram of the largest sheet takes before it is painted, and the clustering by the number of samples.
 #include <benchmark/benchmark.h>
 
+#include "bench/growing.h"
 #include "bench/headless_program.h"
 #include "diagram/cluster_tree.h"
 #include "diagram/coniss.h"
@@ -21,12 +22,12 @@ void OpenDiagram(int samples) {
 }
 
 void DiagramData(benchmark::State& state) {
-    OpenDiagram(static_cast<int>(state.range(0)));
+    OpenDiagram(Samples(state));
     for (auto _ : state) ComputeDiagramData();
 }
 
 void Coniss(benchmark::State& state) {
-    OpenDiagram(static_cast<int>(state.range(0)));
+    OpenDiagram(Samples(state));
     for (auto _ : state) ComputeConiss();
 }
 
@@ -59,8 +60,8 @@ void Redraw(benchmark::State& state) {
     for (auto _ : state) RedrawDiagram();
 }
 
-BENCHMARK(DiagramData)->Arg(10)->Arg(50)->Arg(100)->Arg(250)->Unit(benchmark::kMicrosecond);
-BENCHMARK(Coniss)->Arg(10)->Arg(50)->Arg(100)->Arg(250)->Unit(benchmark::kMicrosecond);
+BENCHMARK(DiagramData)->Apply(Growing);
+BENCHMARK(Coniss)->Apply(Growing);
 BENCHMARK(Draw)->Arg(1)->Arg(5)->Arg(10)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Names)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Tree)->Unit(benchmark::kMicrosecond);

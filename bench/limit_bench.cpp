@@ -8,16 +8,13 @@
 #include <filesystem>
 #include <string>
 
+#include "bench/growing.h"
 #include "bench/headless_program.h"
 #include "diagram/percentages.h"
 #include "files/save_sheet.h"
 #include "session/sheet_state.h"
 
 namespace {
-int Samples(const benchmark::State& state) {
-    return static_cast<int>(state.range(0));
-}
-
 // As the program saves it.
 const std::string& BytesOfSheet(int samples) {
     TheProgram().Open(SheetOf(samples));
@@ -91,10 +88,6 @@ void CompareNeighbours(benchmark::State& state) {
             }
         benchmark::DoNotOptimize(sum);
     }
-}
-
-void Growing(benchmark::internal::Benchmark* bench) {
-    bench->Arg(10)->Arg(50)->Arg(100)->Arg(250)->Unit(benchmark::kMicrosecond);
 }
 
 BENCHMARK(ReadNumbers)->Apply(Growing);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "bench/growing.h"
 #include "bench/headless_program.h"
 #include "diagram/percentages.h"
 #include "files/back_up.h"
@@ -14,10 +15,6 @@
 #include "session/sheet_state.h"
 
 namespace {
-int Samples(const benchmark::State& state) {
-    return static_cast<int>(state.range(0));
-}
-
 // The cells alone, each as the value that it is.
 void ReadCells(benchmark::State& state) {
     const std::string bytes = TheProgram().files.bytes[SheetOf(Samples(state))];
@@ -73,10 +70,6 @@ void Percentages(benchmark::State& state) {
     TheProgram().Open(SheetOf(Samples(state)));
     for (auto _ : state)
         for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
-}
-
-void Growing(benchmark::internal::Benchmark* bench) {
-    bench->Arg(10)->Arg(50)->Arg(100)->Arg(250)->Unit(benchmark::kMicrosecond);
 }
 
 BENCHMARK(ReadCells)->Apply(Growing);

@@ -1,4 +1,5 @@
 #include "platform/headless/scripted_dialogs.h"
+#include <utility>
 
 namespace {
 
@@ -52,7 +53,7 @@ std::optional<std::string> ScriptedFileDialogs::Ask(const FileQuestion& question
             unanswered = std::string(saves ? "save" : "open") + " dialog, proposed name \"" + question.proposed_name + "\": no file waits";
         return std::nullopt;
     }
-    const auto answer = answers.front();
+    auto answer = std::move(answers.front());
     answers.pop_front();
     return answer;
 }

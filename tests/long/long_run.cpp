@@ -3,10 +3,7 @@
 // holds, shows and has written is compared with the second count:
 //     long_run KEYS [SEED]
 // Status 0: all was so. The last lines tell the memory and the time that it took.
-#include <malloc.h>
-
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -17,117 +14,30 @@
 #include <vector>
 
 #include "events/program.h"
+#include "long/memory_in_use.h"
+#include "long/second_count.h"
 #include "platform/headless/headless_services.h"
 #include "platform/user.h"
 #include "session/sheet_state.h"
 #include "unit/memory_files.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
-#ifdef __SANITIZE_ADDRESS__
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // not every compiler brings the header
-#endif
 
 namespace {
 constexpr int kShift1 = 186, kShift2 = 80, kUndoKey = 8, kSaveKey = 187, kFirstKey = 81;  // as the installed key settings have them
 constexpr int kHistoryLimit = 31000;  // HistoryCount has 16 bits: a new sheet in good time
 constexpr std::size_t kUndoSteps = kUndoDepth + 1;
 
-// ---- The second count ----
-
-struct Sample {
-    std::string name;
-    int serial = 1;
-    std::string note;
-    std::array<int, kSlots + 1> counts{};
-};
-struct Sheet {
-    std::string path;
-    std::string time;  // of the last save or back-up
-    std::vector<Sample> samples;
-};
 struct Step {
     int serial;  // of the sample that it was counted in
     int slot;
     int count;  // 1, or -1 for a reverse count
 };
 
-int InSubtotal(int slot, int subtotal) {
-    return slot % (subtotal + 1) == 0;
-}
-
-int TotalOf(const Sample& sample) {
-    int total = 0;
-    for (const int count : sample.counts) total += count;
-    return total;
-}
-
-int SubtotalOf(const Sample& sample, int subtotal) {
-    int total = 0;
-    for (int slot = 1; slot <= kSlots; ++slot) total += sample.counts[slot] * InSubtotal(slot, subtotal);
-    return total;
-}
-
-template <class Cell>
-std::string Line(std::string labels, const Sheet& sheet, Cell cell) {
-    for (const Sample& sample : sheet.samples) labels.append(",").append(cell(sample));
-    return labels + "\r\n";
-}
-
-std::string LinesUpToTheNotes(const Sheet& sheet, const std::string& label) {
-    using std::to_string;
-    std::string text = Line("\"" + sheet.path + "\",\"" + label + "\",\"14/11/2026_(" + sheet.time + ")\",\"Serial No.\"", sheet,
-                            [](const Sample& sample) { return to_string(sample.serial); });
-    text += Line("\"Key index\",\"Subtotal-1\",\"Subtotal-2\",\"Sample name\"", sheet,
-                 [](const Sample& sample) { return "\"" + sample.name + "\""; });
-    for (int slot = 1; slot <= kSlots; ++slot)
-        text += Line(to_string(slot) + "," + to_string(InSubtotal(slot, 1)) + "," + to_string(InSubtotal(slot, 2)) + ",\"---\"", sheet,
-                     [slot](const Sample& sample) { return to_string(sample.counts[slot]); });
-    for (int p = 1; p <= kParams; ++p)
-        text += Line("\"---\",\"---\",\"---\",\"Additional info-" + to_string(p) + "\"", sheet, [](const Sample&) { return "\"---\""; });
-    return text + Line("\"---\",\"---\",\"---\",\"Note: \"", sheet, [](const Sample& sample) { return "\"" + sample.note + "\""; });
-}
-
-std::string BackUpOf(const Sheet& sheet) {
-    return LinesUpToTheNotes(sheet, "Backed up (dd/mm/yyyy):");
-}
-
-std::string FileOf(const Sheet& sheet) {
-    using std::to_string;
-    return LinesUpToTheNotes(sheet, "Last saved (dd/mm/yyyy):") +
-           Line("\"---\",\"---\",\"---\",\"Subtotal-1\"", sheet, [](const Sample& sample) { return to_string(SubtotalOf(sample, 1)); }) +
-           Line("\"---\",\"---\",\"---\",\"Subtotal-2\"", sheet, [](const Sample& sample) { return to_string(SubtotalOf(sample, 2)); }) +
-           Line("\"---\",\"---\",\"---\",\"All total\"", sheet, [](const Sample& sample) { return to_string(TotalOf(sample)); });
-}
-
-// ---- Memory ----
-
-#ifdef __SANITIZE_ADDRESS__
-constexpr std::size_t kBlockHead = 16;
-std::size_t BytesInUse() {
-    return __sanitizer_get_current_allocated_bytes();
-}
-#else
-constexpr std::size_t kBlockHead = 8;
-std::size_t BytesInUse() {
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
-}
-#endif
-
-std::size_t BytesOf(const std::vector<std::string>& lines) {
-    constexpr std::size_t kWithinTheString = 15;
-    std::size_t bytes = lines.capacity() * sizeof(std::string);
-    for (const std::string& line : lines)
-        if (line.size() > kWithinTheString) bytes += (line.size() + 1 + kBlockHead + 15) / 16 * 16;
-    return bytes;
-}
-
 // The list on the screen keeps the lines of earlier sheets; the log starts again with each.
 std::size_t BytesOfHistory() {
     return BytesOf(frmMain.Combo1.List()) + BytesOf(HistoryLog);
 }
-
-// ---- The run ----
 
 class LongRun {
 public:
