@@ -87,9 +87,7 @@ void HeadlessHands::Click(Control& control) {
 
 void HeadlessHands::DoubleClick(Control& control) {
     Click(control);
-    Run([&] {
-        if (CanReach(control)) control.DoubleClick.Raise();
-    });
+    Run([&] { FinishDoubleClick(control); });
 }
 
 void HeadlessHands::RightClick(Control& control) {

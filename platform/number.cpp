@@ -38,12 +38,6 @@ std::int32_t ToLong(double number) {
     return ToWhole<std::int32_t>(number);
 }
 
-float ToSingle(double number) {
-    const float single = static_cast<float>(number);
-    if (!std::isfinite(single)) throw Failure(kOverflow);
-    return single;
-}
-
 double RoundHalfEven(double number, int decimals) {
     assert(decimals >= 0 && decimals <= 15);
     if (!std::isfinite(number)) throw Failure(kOverflow);

@@ -5,5 +5,4 @@
 
 std::int16_t ToInteger(double number);
 std::int32_t ToLong(double number);
-float ToSingle(double number);
 double RoundHalfEven(double number, int decimals);  // decimals: 0..15 digits kept after the period

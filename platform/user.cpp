@@ -199,12 +199,6 @@ void ClickControl(Control& control) {
     FinishClick(control);
 }
 
-void DoubleClickControl(Control& control) {
-    if (!CanReach(control)) return;
-    ClickControl(control);
-    FinishDoubleClick(control);
-}
-
 void FinishDoubleClick(Control& control) {
     if (CanReach(control)) control.DoubleClick.Raise();
 }

@@ -23,6 +23,8 @@ inline constexpr const char* kEmpty = "---";
 
 extern Any SheetHeader[15];               // header cells 6..9 and 11..14 of the file's first two rows; the others unused
 extern Any SampleTable[3][kColumns + 1];  // [1][j] Serial No., [2][j] name; row 0: the names as the diagram took them up
+constexpr int kSubtotals = 2;
+constexpr int kSubtotalFlags[kSubtotals] = {2, 3};  // columns of TaxonTable: of Subtotal-1, of Subtotal-2
 extern Any TaxonTable[kSlots + 1][5];  // [s][0] sheet row, [1] key index, [2], [3] subtotal flags, [4] name; row 0: [2], [3] totals on show
 extern std::int32_t Counts[kSlots + 1][kColumns + 1];  // [slot][sample], may be negative; [0][j]: sum of sample j on the percent basis
 extern std::string SampleNotes[kColumns + 1];          // [0] unused

@@ -11,7 +11,7 @@
 
 namespace {
 void AddToTotals(int slot, double count) {
-    for (const int flag : {2, 3})  // Subtotal-1, Subtotal-2
+    for (const int flag : kSubtotalFlags)
         if (TaxonTable[slot][flag] == 1) TaxonTable[0][flag] = TaxonTable[0][flag].Number() + count;
     AllTotal = ToLong(AllTotal + count);  // a whole number: rounded at each addition, not once at the end
 }

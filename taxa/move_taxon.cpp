@@ -22,7 +22,7 @@ void MoveFields(int from, int to) {
         Counts[to][sample] = Counts[from][sample];
         Counts[from][sample] = 0;
     }
-    for (const int flag : {2, 3}) {
+    for (const int flag : kSubtotalFlags) {
         TaxonTable[to][flag] = TaxonTable[from][flag];
         TaxonTable[from][flag] = 0;
     }

@@ -15,7 +15,7 @@ namespace {
 constexpr int kFirstName = 12;  // cell of SheetHeader: the name of Subtotal-1, that of Subtotal-2 behind it
 
 Any& ChosenFlag(int slot) {
-    return TaxonTable[slot][frmSubtotal.Option1[1].Value() ? kFirstFlag : kFirstFlag + 1];
+    return TaxonTable[slot][kSubtotalFlags[frmSubtotal.Option1[1].Value() ? 0 : 1]];
 }
 
 std::string CaptionOf(int slot) {
@@ -34,12 +34,12 @@ void ShowNames() {
 
 void KeepFlags() {
     for (int slot = 1; slot <= kSlots; ++slot)
-        for (int flag = 0; flag < kSubtotals; ++flag) frmSubtotal.FlagsAtOpening[slot][flag] = TaxonTable[slot][kFirstFlag + flag];
+        for (int flag = 0; flag < kSubtotals; ++flag) frmSubtotal.FlagsAtOpening[slot][flag] = TaxonTable[slot][kSubtotalFlags[flag]];
 }
 
 void RestoreFlags() {
     for (int slot = 1; slot <= kSlots; ++slot)
-        for (int flag = 0; flag < kSubtotals; ++flag) TaxonTable[slot][kFirstFlag + flag] = frmSubtotal.FlagsAtOpening[slot][flag];
+        for (int flag = 0; flag < kSubtotals; ++flag) TaxonTable[slot][kSubtotalFlags[flag]] = frmSubtotal.FlagsAtOpening[slot][flag];
 }
 
 void PlaceBoxes() {

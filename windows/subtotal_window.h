@@ -6,9 +6,6 @@
 #include "platform/window.h"
 #include "session/sheet_state.h"
 
-constexpr int kSubtotals = 2;
-constexpr int kFirstFlag = 2;  // column of TaxonTable: the flag of Subtotal-1, that of Subtotal-2 behind it
-
 struct SubtotalWindow : Window {
     SubtotalWindow();
 

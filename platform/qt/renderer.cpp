@@ -80,8 +80,7 @@ WindowWidget* Renderer::ActiveWidget() const {
 
 // Windows that come are shown before those that go are hidden, so that the desktop gives the focus to no stranger in between.
 void Renderer::AgreeAboutWindows() {
-    const std::vector<Window*> shown = ShownWindows();
-    for (Window* window : shown) {
+    for (Window* window : std::vector<Window*>(ShownWindows())) {  // a copy: a window that comes to the front moves in the list
         auto& widget = widgets_[window];
         if (!widget) widget = std::make_unique<WindowWidget>(*window);
         widget->Agree();

@@ -125,7 +125,8 @@ TEST_F(NextWindowTest, ADoubleClickOnTheNoteIsOk) {
     Start();
     ClickControl(frmNext.Command4);
     InsertText(frmNext.Text1, "10");
-    DoubleClickControl(frmNext.Text2);
+    ClickControl(frmNext.Text2);
+    FinishDoubleClick(frmNext.Text2);
     EXPECT_FALSE(frmNext.IsLoaded());
     EXPECT_TRUE(frmMain.Enabled());
     EXPECT_EQ(SampleTable[2][1].Text(), "10");
@@ -157,7 +158,8 @@ TEST_F(NextWindowTest, ADoubleClickOnTheNoteUnderANameThatIsTakenLeavesTheWindow
     KeyNumber(1);
     ClickControl(frmMain.Command5[1]);
     InsertText(frmNext.Text1, "10");
-    DoubleClickControl(frmNext.Text2);
+    ClickControl(frmNext.Text2);
+    FinishDoubleClick(frmNext.Text2);
     EXPECT_EQ(MessageCount(), 1u);
     EXPECT_EQ(LastMessage().text, "The sample name is already used. Choose another name.");
     EXPECT_EQ(ActiveWindow(), &frmNext);

@@ -62,23 +62,6 @@ TEST(NumberTest, AnExponentTooLargeForANumberOverflowsAWholeNumber) {
     EXPECT_EQ(ToLong(Val("1E-400")), 0);
 }
 
-TEST(NumberTest, SingleIsTheNearestSingle) {
-    EXPECT_EQ(ToSingle(0.1), 0.1F);
-    EXPECT_EQ(ToSingle(16777217), 16777216.0F);  // between two Singles: the even one
-    EXPECT_EQ(ToSingle(16777219), 16777220.0F);
-    EXPECT_EQ(ToSingle(1e-60), 0.0F);
-}
-
-TEST(NumberTest, SingleEndsAtItsLargest) {
-    constexpr double kLargest = std::numeric_limits<float>::max();
-    const double halfway = std::ldexp(2 - std::ldexp(1, -24), 127);  // between the largest and what would be the next
-    EXPECT_EQ(ToSingle(kLargest), std::numeric_limits<float>::max());
-    EXPECT_EQ(ToSingle(std::nextafter(halfway, 0)), std::numeric_limits<float>::max());
-    EXPECT_EQ(ToSingle(-std::nextafter(halfway, 0)), std::numeric_limits<float>::lowest());
-    for (const double number : {halfway, -halfway, 1e300, kInfinity, -kInfinity, kNoNumber})
-        EXPECT_EQ(WordOf([&] { ToSingle(number); }), kOverflow) << number;
-}
-
 TEST(RoundHalfEvenTest, KeepsSoManyDecimals) {
     const struct {
         double number;
