@@ -64,13 +64,16 @@ def start_up(start, title):
         screen = desk.Desk()
         begin = time.perf_counter()
         process, end = start(screen)
-        while not screen.windows(title):
-            pass
-        spent = (time.perf_counter() - begin) * 1000
-        resident = pathlib.Path(f"/proc/{process.pid}/status").read_text().split("VmRSS:")[1].split()[0]
+        try:
+            while not screen.windows(title):
+                if time.perf_counter() - begin > desk.PATIENCE:
+                    sys.exit(f"report.py: no window {title} came")
+            spent = (time.perf_counter() - begin) * 1000
+            resident = pathlib.Path(f"/proc/{process.pid}/status").read_text().split("VmRSS:")[1].split()[0]
+        finally:
+            end()
+            screen.close()
         runs.append((spent, float(resident) / 1024))
-        end()
-        screen.close()
     return [statistics.median(column) for column in zip(*runs)]
 
 
@@ -151,7 +154,7 @@ def page(times, acts, starts, held, others):
             ["`ComputeDiagramData`", *near("DiagramData/250", "DivideCounts/250"), ""],
             ["`ComputeConiss`", *near("Coniss/250", "CompareNeighbours/250"), peer("Coniss/250", "scikit-learn constrained tree")],
             ["paint the diagram", *near("PaintWhole", "PaintSameLines"), ""],
-            ["repaint the row of a count", *near("RepaintRow", "PaintSameLines"), ""]]
+            ["repaint the row of a count", text(per("RepaintRow")), "", "", ""]]
     growth = [[what, *(text(per(f"{name}/{n}")) for n in GROWTH)] for what, name in
               (("open", "Open"), ("save in memory", "Save"), ("save on the disk", "SaveOnDisk"), ("back-up", "BackUp"),
                ("percentages of all samples", "Percentages"), ("`ComputeDiagramData`", "DiagramData"), ("`ComputeConiss`", "Coniss"))]

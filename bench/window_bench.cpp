@@ -1,10 +1,12 @@
 // Acts of a user through the real window, and how long each took from the keyboard or the mouse to the updated model, to the sound
 // handed over, and to the picture on the screen. Run it by bench/window_bench.sh:
 //     window_bench plain [KEYS]      counting keys, 200 a second; 10,000 if no number is given
-//     window_bench diagram [KEYS]    the same, 40 a second, beside an open diagram of 135 taxa by 250 samples of 1600 by 1000 pixels
-//     window_bench fresh [KEYS]      the same, but the sample has no counts yet: its percentages are high, and the columns move with each
-//     key window_bench tree [KEYS]       as diagram, with the cluster tree window_bench drag [MOVES]      the line of the selected sample
-//     dragged over that diagram
+//     window_bench diagram [KEYS]    the same, 40 a second, beside a diagram of 135 taxa by 250 samples of 1600 by 1000 pixels
+//     window_bench fresh [KEYS]      as diagram, in a sample just begun: each key is a large percentage and moves the columns
+//     window_bench tree [KEYS]       as diagram, with the cluster tree
+//     window_bench drag [MOVES]      the line of the selected sample dragged over that diagram
+//     window_bench memory [SAMPLES]  what the program holds with such a sheet open, then with its diagram, then with the tree
+//
 // Fails if a key does not count.
 #include <QTimer>
 #include <algorithm>
@@ -57,7 +59,7 @@ private:
 
 struct Task {
     std::string name = "plain";
-    int acts = 10000;
+    int acts = 10000;  // of memory: samples
     bool HasDiagram() const { return name != "plain"; }
     bool Drags() const { return name == "drag"; }
     std::chrono::milliseconds Pause() const { return std::chrono::milliseconds(HasDiagram() ? 25 : 5); }

@@ -66,8 +66,8 @@ bool TakesText(const Control& control) {
 // Puts `text` in place of the `count` characters after the first `start`.
 void Replace(Control& box, int start, int count, const std::string& text) {
     const std::string old = EditOf(box).text;
-    const std::size_t from = ByteOffset(old, static_cast<std::size_t>(start));
-    const std::size_t to = ByteOffset(old, static_cast<std::size_t>(start + count));
+    const auto first = static_cast<std::size_t>(start);
+    const std::size_t from = ByteOffset(old, first), to = ByteOffset(old, first + static_cast<std::size_t>(count));
     EnterText(box, old.substr(0, from) + text + old.substr(to), start + static_cast<int>(Length(text)));
 }
 }  // namespace

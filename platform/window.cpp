@@ -20,9 +20,8 @@ void Tell(Window& window, WindowProperty property) {
 }
 
 Window* Foremost() {
-    for (auto window = shown.rbegin(); window != shown.rend(); ++window)
-        if ((*window)->Enabled()) return *window;
-    return nullptr;
+    const auto found = std::find_if(shown.rbegin(), shown.rend(), [](const Window* window) { return window->Enabled(); });
+    return found == shown.rend() ? nullptr : *found;
 }
 }  // namespace
 

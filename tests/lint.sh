@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
 # What compilers and checkers have to say of the code, warnings as errors: a build with clang, clang-tidy (.clang-tidy has its checks)
 # and cppcheck on every source file of the project:
-#     tests/lint.sh
+#     tests/lint.sh              all of it
+#     tests/lint.sh FOLDER...    the build, and the sources in these folders
 # The build stays in build/lint. Ends with "N passed, N failed", a file that a checker finds fault with counting as one failure. It takes
 # about twenty minutes on two cores, so that ./test.sh leaves it out. Needs clang, clang-tidy and cppcheck.
 set -euo pipefail
 top=$(readlink -f "$(dirname "$0")/..")
 build=$top/build/lint
 jobs=$(nproc)
+folders=("${@:-}")
 cd "$top"
 . tests/tally.sh
 
@@ -19,7 +21,8 @@ Fail() {
 for tool in clang++ clang-tidy cppcheck; do command -v "$tool" >/dev/null || Fail "$tool is not there"; done
 
 Build() {
-    cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
+    cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
+        -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
     if cmake --build "$build" -- -k 0 all unit_tests >"$build/log"; then
         echo "1 passed, 0 failed"
     else
@@ -28,12 +31,13 @@ Build() {
     fi
 }
 
-Sources() {  # of the project itself: what the build made is left out
-    python3 - "$build/compile_commands.json" "$top" "$build" <<'END'
-import json, sys
-commands, top, build = sys.argv[1:]
-print(*sorted({entry["file"] for entry in json.load(open(commands))
-               if entry["file"].startswith(top + "/") and not entry["file"].startswith(build)}), sep="\n")
+Sources() {  # of the project itself, in the folders asked for: what the build made is left out
+    python3 - "$build" "$top" "${folders[@]}" <<'END'
+import json, os, sys
+build, top, *folders = sys.argv[1:]
+places = tuple(os.path.join(top, folder, "") for folder in folders)
+files = {entry["file"] for entry in json.load(open(build + "/compile_commands.json"))}
+print(*sorted(file for file in files if file.startswith(places) and not file.startswith(build)), sep="\n")
 END
 }
 

@@ -20,9 +20,16 @@ double Thickness(const PictureScale& scale) {
     return std::max(1.0, std::round(scale.pixel));
 }
 
+// A picture has tens of thousands of operations: the library's own question takes five times as long.
+bool Meets(const QRectF& reach, const QRect& part) {
+    return reach.left() <= part.right() + 1 && reach.right() >= part.left() && reach.top() <= part.bottom() + 1 &&
+           reach.bottom() >= part.top();
+}
+
 class OperationPainter {
 public:
-    OperationPainter(QPainter& painter, const PictureScale& scale) : painter_(painter), scale_(scale) {}
+    // Of upright and level lines only what lies in `part` is painted; all else is painted whole.
+    OperationPainter(QPainter& painter, const PictureScale& scale, const QRect& part) : painter_(painter), scale_(scale), part_(part) {}
     ~OperationPainter() { PaintBars(); }
     OperationPainter(const OperationPainter&) = delete;
     OperationPainter& operator=(const OperationPainter&) = delete;
@@ -79,7 +86,7 @@ private:
         const QPoint to(pixel(std::max(x1, x2)) - half + thick, pixel(std::max(y1, y2)) - half + thick);
         if (colour != bar_colour_) PaintBars();
         bar_colour_ = colour;
-        bars_.push_back(QRect(from, QSize(to.x() - from.x(), to.y() - from.y())));
+        if (const QRect bar = QRect(from, QSize(to.x() - from.x(), to.y() - from.y())) & part_; !bar.isEmpty()) bars_.push_back(bar);
     }
 
     // All at once: a painter takes longer to get ready for a bar than to fill it.
@@ -164,6 +171,7 @@ private:
 
     QPainter& painter_;
     const PictureScale& scale_;
+    const QRect part_;
     Colour pen_;
     bool pen_is_set_ = false;
     QImage dot_;  // of the last circle
@@ -179,20 +187,20 @@ private:
 }  // namespace
 
 void PaintOperations(QPainter& painter, std::span<const DrawOperation> operations, const PictureScale& scale) {
-    OperationPainter one(painter, scale);
+    constexpr int kFar = static_cast<int>(kFarOut);
+    OperationPainter one(painter, scale, QRect(QPoint(-kFar, -kFar), QPoint(kFar, kFar)));
     for (const DrawOperation& operation : operations) one.Paint(operation);
 }
 
-// A line that ends beyond the part is painted whole and then cut, for a painter that clips it gives its edges another shade.
+// A slanted line that ends beyond the part is painted whole and then cut, for a painter that clips it gives its edges another shade.
 void RepaintPart(QPixmap& picture, const QRect& part, Colour ground, std::span<const DrawOperation> operations, const PictureScale& scale) {
     if (part.isEmpty()) return;
     QPixmap fresh(picture.size());
     {
         QPainter painter(&fresh);
         painter.fillRect(part, ToQt(ground));
-        OperationPainter one(painter, scale);
-        for (const DrawOperation& operation : operations)
-            Reach(operation, scale).intersects(QRectF(part)) ? one.Paint(operation) : one.PassOver();
+        OperationPainter one(painter, scale, part);
+        for (const DrawOperation& operation : operations) Meets(Reach(operation, scale), part) ? one.Paint(operation) : one.PassOver();
     }
     const double density = picture.devicePixelRatio();
     picture.setDevicePixelRatio(1);
@@ -205,9 +213,9 @@ QRectF Reach(const DrawOperation& operation, const PictureScale& scale) {
     if (operation.shape == Shape::Text || operation.shape == Shape::Name) return {QPointF(), scale.size};
     const bool is_circle = operation.shape == Shape::Circle;
     const double margin = Thickness(scale) + 2 + (is_circle ? std::min(operation.radius * scale.size.width(), kLargestDot) : 0);
-    const auto place = [&scale](double x, double y) {
-        return QPointF(std::clamp(x * scale.size.width(), -kFarOut, kFarOut), std::clamp(y * scale.size.height(), -kFarOut, kFarOut));
-    };
-    const QPointF from = place(operation.x1, operation.y1), to = is_circle ? from : place(operation.x2, operation.y2);
-    return QRectF(from, to).normalized().adjusted(-margin, -margin, margin, margin);
+    const auto [left, right] = std::minmax({operation.x1, is_circle ? operation.x1 : operation.x2});
+    const auto [top, bottom] = std::minmax({operation.y1, is_circle ? operation.y1 : operation.y2});
+    const auto pixel = [](double place, double length) { return std::clamp(place * length, -kFarOut, kFarOut); };
+    return {QPointF(pixel(left, scale.size.width()) - margin, pixel(top, scale.size.height()) - margin),
+            QPointF(pixel(right, scale.size.width()) + margin, pixel(bottom, scale.size.height()) + margin)};
 }

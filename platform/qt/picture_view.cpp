@@ -2,6 +2,7 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 #include <QToolTip>
+#include <cmath>
 #include <utility>
 
 #include "platform/qt/look.h"
@@ -60,6 +61,11 @@ private:
                 static_cast<double>(picture_.Width()) / picture_.DesignBox().width};
     }
 
+    // To the last pixel of the screen that the picture has a part of.
+    static QSize PixelsOf(const PictureScale& scale) {
+        return {static_cast<int>(std::ceil(scale.size.width())), static_cast<int>(std::ceil(scale.size.height()))};
+    }
+
     // The pixels that look different from before.
     QRect ShowDrawing() {
         if (canvas_->size().isEmpty()) return {};
@@ -69,25 +75,38 @@ private:
         return in_overlay | ShowGround(operations.first(picture_.PersistentCount()), scale);
     }
 
+    // Painted once, however often it changes before the window is.
     QRect ShowGround(std::span<const DrawOperation> operations, const PictureScale& scale) {
-        const QSize size = scale.size.toSize();
-        const bool is_new = ground_image_.size() != size;
-        if (!is_new && version_ == picture_.PersistentVersion()) return {};
-        version_ = picture_.PersistentVersion();
+        if (std::exchange(version_, picture_.PersistentVersion()) == picture_.PersistentVersion()) return {};
         QRect part = ground_.Show(operations, scale);
         const bool had_image = std::exchange(has_image_, !picture_.image.empty() || !picture_.ImageBytes().empty());
-        if (is_new || had_image || has_image_ || IsMost(part, size)) part = QRect(QPoint(), size);
-        if (part.size() == size)
-            PaintGround(scale);
-        else
-            RepaintPart(ground_image_, part, picture_.BackColor(), ground_.All(), scale);
+        if (had_image || has_image_) part = QRect(QPoint(), PixelsOf(scale));
+        to_mend_ |= part;
         return part;
     }
 
-    static bool IsMost(const QRect& part, const QSize& of) { return 2LL * part.width() * part.height() > 1LL * of.width() * of.height(); }
+    void Paint(QPainter& painter) {
+        if (canvas_->size().isEmpty()) return;
+        const PictureScale scale = Scale();
+        MendGround(scale);
+        painter.drawPixmap(0, 0, ground_image_);
+        painter.scale(1 / Density(), 1 / Density());
+        const QTransform& device = painter.deviceTransform();  // bars in the overlay lie on whole pixels, as in the image
+        painter.translate(std::round(device.dx()) - device.dx(), std::round(device.dy()) - device.dy());
+        PaintOperations(painter, overlay_.All(), scale);
+    }
+
+    void MendGround(const PictureScale& scale) {
+        const QSize size = PixelsOf(scale);
+        const QRect part = std::exchange(to_mend_, {});
+        if (ground_image_.size() != size || 2LL * part.width() * part.height() > 1LL * size.width() * size.height())
+            PaintGround(scale);
+        else
+            RepaintPart(ground_image_, part, picture_.BackColor(), ground_.All(), scale);
+    }
 
     void PaintGround(const PictureScale& scale) {
-        if (const QSize size = scale.size.toSize(); ground_image_.size() != size) ground_image_ = QPixmap(size);
+        if (const QSize size = PixelsOf(scale); ground_image_.size() != size) ground_image_ = QPixmap(size);
         ground_image_.setDevicePixelRatio(1);
         ground_image_.fill(ToQt(picture_.BackColor()));
         QPainter painter(&ground_image_);
@@ -95,14 +114,6 @@ private:
         PaintOperations(painter, ground_.All(), scale);
         painter.end();
         ground_image_.setDevicePixelRatio(Density());
-    }
-
-    void Paint(QPainter& painter) {
-        if (canvas_->size().isEmpty()) return;
-        if (ground_image_.size() != Scale().size.toSize()) ShowDrawing();
-        painter.drawPixmap(0, 0, ground_image_);
-        painter.scale(1 / Density(), 1 / Density());
-        PaintOperations(painter, overlay_.All(), Scale());
     }
 
     // Fitted into the picture, in its middle.
@@ -124,9 +135,10 @@ private:
     PictureBox& picture_;
     QWidget* canvas_;
     QPixmap ground_image_;  // what is persistent
+    QRect to_mend_;         // where it is not yet what `ground_` tells
     ShownOperations ground_, overlay_;
     bool has_image_ = false;
-    int version_ = 0;  // of what is persistent
+    int version_ = -1;  // of what is persistent
 };
 }  // namespace
 

@@ -17,5 +17,5 @@ QRect ShownOperations::Show(std::span<const DrawOperation> now, const PictureSca
         part |= Reach(come, scale);
         shown_.push_back(come);
     }
-    return part.toAlignedRect() & QRect(QPoint(), scale.size.toSize());
+    return (part & QRectF(QPointF(), scale.size)).toAlignedRect();
 }

@@ -3,12 +3,12 @@
 //     power_cut KILLS [SEED]    kills as many; status 0: all was so
 //     power_cut save            saves a large sheet over itself ten times, to be watched by strace
 // The kills leave what the system had taken; what a disk keeps when the mains fail, the flush at the end of each save sees to.
-#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>

@@ -26,7 +26,8 @@ constexpr unsigned kSeed = 20261121;
 constexpr const char* kFolder = "/program";
 constexpr const char* kSheet = "/sheet.csv";
 
-class PictureViewTest : public testing::Test {
+// Its parameter is the density of the screen.
+class PictureViewTest : public testing::TestWithParam<double> {
 protected:
     PictureViewTest() {
         ApplyLook(application_);
@@ -37,6 +38,7 @@ protected:
     }
     ~PictureViewTest() override {
         for (Window* window : AllWindows()) window->Unload();
+        qunsetenv("QT_SCALE_FACTOR");
     }
 
     // Thirty samples, of which `last` makes the last one.
@@ -61,6 +63,15 @@ protected:
     }
     static ControlWidget& Shown(const PictureBox& picture) { return *TheRenderer().WidgetOf(*picture.window)->Find(picture); }
     static QImage Seen(const PictureBox& picture) { return Shown(picture).Widget()->grab().toImage(); }
+    // As it lies in a window: its corner may be in the middle of a pixel of the screen.
+    static QImage SeenAPixelDown(QWidget& widget) {
+        const double density = widget.devicePixelRatioF();
+        QImage image((QSizeF(widget.size()) * density).toSize() + QSize(0, 8), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        image.setDevicePixelRatio(density);
+        widget.render(&image, QPoint(0, 1));
+        return image;
+    }
     static QImage PaintedAnew(const PictureBox& picture) {
         Shown(picture).Rescale();
         return Seen(picture);
@@ -76,13 +87,14 @@ protected:
     char name_[5] = "test";
     char* arguments_[1] = {name_};
     int count_ = 1;
+    bool is_scaled_ = qputenv("QT_SCALE_FACTOR", QByteArray::number(GetParam()));
     QApplication application_{count_, arguments_};
     HeadlessServices services_{kFolder};
     MemoryFiles files_;
     Renderer renderer_;
 };
 
-TEST_F(PictureViewTest, AfterEveryKeyTheDiagramIsWhatItWouldBePaintedAnew) {
+TEST_P(PictureViewTest, AfterEveryKeyTheDiagramIsWhatItWouldBePaintedAnew) {
     Open([](const Row&) { return "0"; });
     std::mt19937 random(kSeed);
     for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuCurve}) {
@@ -106,11 +118,32 @@ TEST_F(PictureViewTest, AfterEveryKeyTheDiagramIsWhatItWouldBePaintedAnew) {
     }
 }
 
-// Of a widget while it lives.
+TEST_P(PictureViewTest, TheLineOfTheSampleHidesItsBars) {
+    Open([](const Row& row) { return row.end()[-10]; });
+    Do([] { ClickControl(frmMain.mnuBar); });
+    Do([] { ClickControl(frmDiagram.Check1); });
+    QWidget& canvas = *Shown(frmDiagram.Picture1).Widget();
+    for (const int sample : {2, 11, 17, 29}) {
+        Do([sample] { SlideTo(frmDiagram.Slider1, sample); });
+        const QImage seen = SeenAPixelDown(canvas);
+        const auto has = [&seen](int row, QColor colour) {
+            for (int x = 0; row >= 0 && row < seen.height() && x < seen.width(); ++x)
+                if (seen.pixelColor(x, row) == colour) return true;
+            return false;
+        };
+        int line = 0;
+        while (line < seen.height() && !has(line, Qt::blue)) ++line;
+        ASSERT_LT(line, seen.height());
+        for (int row = line - 3; row < line + 5; ++row)
+            EXPECT_FALSE(!has(row, Qt::blue) && has(row, QColor(0, 128, 0))) << "sample " << sample << ": line " << line << ", bar " << row;
+    }
+}
+
+// Gathers what a widget repaints while it lives.
 class PaintWatch : public QObject {
 public:
     explicit PaintWatch(QWidget* widget) { widget->installEventFilter(this); }
-    int TakeHeight() { return std::exchange(repainted_, QRegion()).boundingRect().height(); }
+    QRegion Take() { return std::exchange(repainted_, QRegion()); }
 
 private:
     bool eventFilter(QObject*, QEvent* event) override {
@@ -121,18 +154,32 @@ private:
 };
 
 // The last sample repeats another one: no taxon is more frequent there than elsewhere, and a few counts move no column.
-TEST_F(PictureViewTest, ACountThatMovesNoColumnRepaintsARow) {
+TEST_P(PictureViewTest, ACountThatMovesNoColumnRepaintsItsRowAndNoMore) {
     Open([](const Row& row) { return row.end()[-10]; });
     Do([] { ClickControl(frmMain.mnuBar); });
     Press('A');
     QWidget* const canvas = Shown(frmDiagram.Picture1).Widget();
     PaintWatch watch(canvas);
-    for (int key = 0; key < 5; ++key) {
+    int changed = 0;
+    for (int key = 0; key < 40; ++key) {
+        const QImage before = Seen(frmDiagram.Picture1);
+        watch.Take();  // the picture taken
         Press('A');
-        const int height = watch.TakeHeight();
-        EXPECT_GT(height, 0);
-        EXPECT_LT(height, canvas->height() / 6);
+        const QRegion repainted = watch.Take();
+        if (key < 5) {
+            EXPECT_LT(repainted.boundingRect().height(), canvas->height() / 6);
+        }
+        const QImage after = Seen(frmDiagram.Picture1);
+        for (int y = 0; y < after.height(); ++y)
+            for (int x = 0; x < after.width(); ++x)
+                if (after.pixel(x, y) != before.pixel(x, y)) {
+                    ++changed;
+                    ASSERT_TRUE(repainted.contains(QPoint(static_cast<int>(x / GetParam()), static_cast<int>(y / GetParam()))));
+                }
     }
-    ExpectSeenAsItIs("a few counts");
+    EXPECT_GT(changed, 0);
+    ExpectSeenAsItIs("the counts");
 }
+
+INSTANTIATE_TEST_SUITE_P(Densities, PictureViewTest, testing::Values(1, 1.25, 1.5, 2));
 }  // namespace
