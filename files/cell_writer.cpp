@@ -29,6 +29,10 @@ void CellWriter::EndRow() {
     row_begun_ = false;
 }
 
+std::size_t CellWriter::Size() const {
+    return EncodeFile(text_).size();
+}
+
 void CellWriter::Close() {
     file_.Replace(EncodeFile(text_));
 }

@@ -6,6 +6,7 @@
 // A text is quoted and nothing in it escaped; a number is bare, with a period whatever the locale. A comma parts cells, CR LF ends a
 // row. The text is gathered in memory and handed over in one write when the writer is closed.
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -18,7 +19,8 @@ public:
     void Write(const Any& cell);
     void WriteCount(std::int32_t count);  // the same as Write, for the thousands of them
     void EndRow();
-    void Close();  // raises "File error" when the file takes no more; what it took stays in it
+    std::size_t Size() const;  // of what has been written so far, in bytes of the file
+    void Close();              // raises WriteFailure when the file takes no more; what it took stays in it
 
 private:
     void BeginCell();

@@ -1,6 +1,7 @@
 #include "files/open_sheet.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "diagram/diversity_curve.h"
@@ -65,11 +66,11 @@ void CancelOpen() {
     frmMain.ProgressBar1.SetVisible(false);
 }
 
-// The key index that two rows have in common, the first met going down; 0 if each has its own.
-int RepeatedKeyIndex() {
+// The key index that two rows have in common, the first met going down.
+std::optional<int> RepeatedKeyIndex() {
     for (int row = 2; row <= kSlots; ++row)
         if (std::find(&KeyIndex[1], &KeyIndex[row], KeyIndex[row]) != &KeyIndex[row]) return KeyIndex[row];
-    return 0;
+    return std::nullopt;
 }
 
 void StartAfresh(int key_index) {
@@ -137,9 +138,9 @@ bool ReadTaxa(CellReader& cells) {
     AllTotal = 0;
     for (TextBox& total : frmMain.Text3) total.SetText("0");
     ReadTaxonRows(cells);
-    const int repeated = RepeatedKeyIndex();
-    if (repeated != 0) StartAfresh(repeated);
-    return repeated == 0;
+    const std::optional<int> repeated = RepeatedKeyIndex();
+    if (repeated) StartAfresh(*repeated);
+    return !repeated;
 }
 
 void ReadRest(CellReader& cells) {

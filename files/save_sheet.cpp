@@ -111,9 +111,6 @@ void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums
 }
 
 void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
-    StampHeader("Last saved (dd/mm/yyyy):");
-    WriteHeaderRows(cells, SampleCount);
-    frmMain.Command5[0].SetEnabled(false);
     if (IsPercentTable(mode))
         for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
     WriteTaxonRows(cells, mode);
@@ -129,8 +126,18 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
     const auto file = services.files->OpenForWriting(path);
     if (mode == kSaveAs && SaveAsPending) AdoptPath(path);
     CellWriter cells(*file);
+    StampHeader("Last saved (dd/mm/yyyy):");
+    WriteHeaderRows(cells, SampleCount);
+    const std::size_t header_size = cells.Size();
+    const bool was_changed = frmMain.Command5[0].Enabled();
+    frmMain.Command5[0].SetEnabled(false);
     WriteRows(cells, mode, sums);
-    cells.Close();
+    try {
+        cells.Close();
+    } catch (const WriteFailure& failure) {  // a disk that was full from the start has taken nothing worth the name
+        if (failure.taken < header_size) frmMain.Command5[0].SetEnabled(was_changed);
+        throw;
+    }
 }
 
 void TellSaved() {

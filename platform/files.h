@@ -1,15 +1,24 @@
 // The service that opens files. All reading and writing of the program goes through it, so that a test can lock a file or fill a disk.
 #pragma once
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include "platform/failure.h"
+
+// "File error": the disk takes no more than the bytes `taken` of those it was given.
+struct WriteFailure : Failure {
+    explicit WriteFailure(std::size_t taken_bytes) : Failure(kFileError), taken(taken_bytes) {}
+    std::size_t taken;
+};
 
 // A file opened for writing. Nothing of its old content is gone before Replace.
 class OutputFile {
 public:
     virtual ~OutputFile() = default;
-    // Cuts the file, writes the bytes in one go, has them flushed to the disk and closes it. Raises "File error" when the disk takes
-    // no more; what it took stays in the file.
+    // Cuts the file, writes the bytes in one go, has them flushed to the disk and closes it. Raises WriteFailure when the disk
+    // takes no more; what it took stays in the file.
     virtual void Replace(std::string_view bytes) = 0;
 };
 

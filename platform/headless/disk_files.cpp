@@ -1,6 +1,7 @@
 #include "platform/headless/disk_files.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
 #include <iterator>
 
@@ -22,7 +23,9 @@ public:
         std::filesystem::resize_file(path_, 0, error);
         stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         stream_.close();
-        if (error || stream_.fail()) throw Failure(kFileError);
+        if (!error && !stream_.fail()) return;
+        const std::uintmax_t size = std::filesystem::file_size(path_, error);
+        throw WriteFailure(error ? 0 : static_cast<std::size_t>(size));
     }
 
 private:

@@ -16,7 +16,7 @@ public:
 
     void Replace(std::string_view bytes) override {
         beneath_->Replace(bytes.substr(0, room_));
-        if (bytes.size() > room_) throw Failure(kFileError);
+        if (bytes.size() > room_) throw WriteFailure(room_);
     }
 
 private:

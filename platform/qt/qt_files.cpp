@@ -28,19 +28,22 @@ public:
     }
 
     void Replace(std::string_view bytes) override {
-        const bool whole = file_.resize(0) && file_.seek(0) && WriteAll(bytes) && FlushToDisk(file_);
+        const std::size_t taken = file_.resize(0) && file_.seek(0) ? Write(bytes) : 0;
+        const bool is_whole = taken == bytes.size() && FlushToDisk(file_);
         file_.close();
-        if (!whole) throw Failure(kFileError);
+        if (!is_whole) throw WriteFailure(taken);
     }
 
 private:
-    bool WriteAll(std::string_view bytes) {
-        while (!bytes.empty()) {
-            const qint64 written = file_.write(bytes.data(), static_cast<qint64>(bytes.size()));
-            if (written <= 0) return false;
-            bytes.remove_prefix(static_cast<std::size_t>(written));
+    // How many of the bytes the disk took.
+    std::size_t Write(std::string_view bytes) {
+        std::size_t taken = 0;
+        while (taken < bytes.size()) {
+            const qint64 written = file_.write(bytes.data() + taken, static_cast<qint64>(bytes.size() - taken));
+            if (written <= 0) break;
+            taken += static_cast<std::size_t>(written);
         }
-        return true;
+        return taken;
     }
 
     QFile file_;

@@ -20,7 +20,7 @@ struct RecordingFile : OutputFile {
     void Replace(std::string_view bytes) override {
         ++Writes;
         Bytes = bytes.substr(0, Room);
-        if (bytes.size() > Room) throw Failure(kFileError);
+        if (bytes.size() > Room) throw WriteFailure(Room);
     }
 };
 

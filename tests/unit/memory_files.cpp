@@ -15,7 +15,7 @@ public:
         const auto room = files_.room.find(path_);
         const std::size_t taken = room == files_.room.end() ? bytes.size() : std::min(room->second, bytes.size());
         files_.bytes[path_] = bytes.substr(0, taken);
-        if (taken < bytes.size()) throw Failure(kFileError);
+        if (taken < bytes.size()) throw WriteFailure(taken);
     }
 
 private:

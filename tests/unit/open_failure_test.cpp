@@ -192,6 +192,16 @@ TEST_F(OpenFailureTest, AKeyIndexOf0Opens) {
     EXPECT_EQ(RowOfSlot[0], 3);
 }
 
+TEST_F(OpenFailureTest, AKeyIndexOf0IsRepeatedLikeAnyOther) {
+    Rows rows = DataSheet(2);
+    rows[kTaxonRow][0] = rows[kTaxonRow + 1][0] = "0";
+    rows[kTaxonRow + 49][0] = "55";
+    EXPECT_FALSE(Open(rows));
+    ASSERT_FALSE(services_.messages.shown.empty());
+    EXPECT_EQ(services_.messages.shown.back().text, "Same key index (0) is being used more than once.");
+    EXPECT_EQ(SheetPath, "");
+}
+
 TEST_F(OpenFailureTest, ANumberBeyond32BitsStopsTheOpenAtItsCell) {
     for (const std::size_t cell : {1u, 2u, 4u})
         for (const char* number : {"2147483648", "-2147483649", "1E10"}) {

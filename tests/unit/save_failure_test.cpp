@@ -49,11 +49,26 @@ TEST_F(SaveFailureTest, WhenTheFileIsFreeAgainTheNextSaveGoesThrough) {
     EXPECT_EQ(LastLines(1), Texts{"(Save)"});
 }
 
-TEST_F(SaveFailureTest, AFullDiskLeavesACutFileAndTheSaveButtonOff) {
-    files_.room[kPath] = 100;
+// Whoever closes the program then is asked to save.
+TEST_F(SaveFailureTest, ADiskThatDoesNotEvenTakeTheHeaderLeavesTheSaveButtonAsItWas) {
+    SaveSheet(kSave);
+    const std::string whole = files_.bytes[kPath];
+    const std::size_t header = whole.find("\r\n", whole.find("\r\n") + 2) + 2;
+    for (const bool was_changed : {true, false})
+        for (std::size_t room = 0; room <= header; ++room) {
+            frmMain.Command5[0].SetEnabled(was_changed);
+            files_.room[kPath] = room;
+            SaveSheet(kSave);
+            ASSERT_EQ(SaveOutcome, 2);
+            ASSERT_EQ(frmMain.Command5[0].Enabled(), was_changed && room < header) << room << " bytes";
+        }
+}
+
+TEST_F(SaveFailureTest, ADiskThatIsFullAfterTheHeaderLeavesACutFileAndTheSaveButtonOff) {
+    files_.room[kPath] = 1000;
     SaveSheet(kSave);
     ExpectTheMessage();
-    EXPECT_EQ(files_.bytes[kPath].size(), 100u);
+    EXPECT_EQ(files_.bytes[kPath].size(), 1000u);
     EXPECT_FALSE(frmMain.Command5[0].Enabled());
     EXPECT_EQ(LastLines(1), Texts{"1: ---"});
     EXPECT_EQ(MousePointer, kPointerDefault);
