@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <set>
 #include <string>
 
 #include "diagram/percentages.h"
@@ -75,6 +76,11 @@ void CheckSheet() {
     }
 }
 
+// Two rows of one slot would show and save each other's counts.
+void CheckRows() {
+    Check(std::set<int>(&KeyIndex[1], &KeyIndex[kSlots] + 1).size() == kSlots, "every row has a slot of its own");
+}
+
 // What any sheet can fail at: a total beyond 32 bits, a sum beyond 16.
 template <class Procedure>
 bool Succeeds(Procedure procedure) {
@@ -129,6 +135,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     StartAfresh(program);
     const bool opened = Open(program, {reinterpret_cast<const char*>(data), size});
     CheckSheet();
+    if (opened) CheckRows();
     Succeeds(CountOne);
     Succeeds(ComputeDiagramData);
     BackUpSheet();
