@@ -5,5 +5,5 @@ cd "$(dirname "$(readlink -f "$0")")"
 
 packaging/debian-packages.sh test bench
 packaging/build.sh release
-cmake --build --preset release --target sheet_bench paint_bench bare_window window_bench
+cmake --build --preset release --target sheet_bench desktop_bench bare_window window_bench
 exec /usr/bin/python3 bench/report.py

@@ -3,9 +3,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <filesystem>
 #include <string>
 
 #include "bench/growing.h"
@@ -50,18 +49,20 @@ void WriteNumbers(benchmark::State& state) {
     }
 }
 
-// Saving on the disk: one write of the same bytes.
-void WriteBytes(benchmark::State& state) {
-    const std::string bytes = BytesOfSheet(Samples(state));
-    const std::string path = (std::filesystem::temp_directory_path() / "marlbrook-bench.csv").string();
+// A table of percentages: each count is divided, rounded and written as a decimal number.
+void WriteDecimals(benchmark::State& state) {
+    TheProgram().Open(SheetOf(Samples(state)));
+    std::string bytes(static_cast<std::size_t>(kSlots * Samples(state)) * 32, ' ');
     for (auto _ : state) {
-        std::FILE* const file = std::fopen(path.c_str(), "wb");
-        if (file == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size() || std::fclose(file) != 0) {
-            state.SkipWithError("the file cannot be written");
-            return;
-        }
+        char* place = bytes.data();
+        for (int slot = 1; slot <= kSlots; ++slot)
+            for (int sample = 1; sample <= SampleCount; ++sample) {
+                const double percent = std::nearbyint(Counts[slot][sample] / 6700.0 * 1e6) / 1e4;
+                place = std::to_chars(place, bytes.data() + bytes.size(), percent).ptr;
+                *place++ = ',';
+            }
+        benchmark::ClobberMemory();
     }
-    std::filesystem::remove(path);
 }
 
 // Percentages: each count is read and divided.
@@ -92,7 +93,7 @@ void CompareNeighbours(benchmark::State& state) {
 
 BENCHMARK(ReadNumbers)->Apply(Growing);
 BENCHMARK(WriteNumbers)->Apply(Growing);
-BENCHMARK(WriteBytes)->Apply(Growing);
+BENCHMARK(WriteDecimals)->Apply(Growing);
 BENCHMARK(DivideCounts)->Apply(Growing);
 BENCHMARK(CompareNeighbours)->Apply(Growing);
 }  // namespace

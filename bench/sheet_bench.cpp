@@ -1,9 +1,6 @@
 // Reading and writing of sheets of some samples, and their percentage tables.
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-#include <utility>
-
 #include "bench/growing.h"
 #include "bench/headless_program.h"
 #include "diagram/percentages.h"
@@ -49,18 +46,6 @@ void Save(benchmark::State& state) {
     for (auto _ : state) SaveSheet(kSave);
 }
 
-// The same with a file on the disk.
-void SaveOnDisk(benchmark::State& state) {
-    TheProgram().Open(SheetOf(Samples(state)));
-    const std::filesystem::path path = std::filesystem::temp_directory_path() / "marlbrook-bench.csv";
-    const std::string old_path = std::exchange(SheetPath, path.string());
-    Files* const memory = std::exchange(services.files, &TheProgram().services.disk);
-    for (auto _ : state) SaveSheet(kSave);
-    services.files = memory;
-    SheetPath = old_path;
-    std::filesystem::remove(path);
-}
-
 void BackUp(benchmark::State& state) {
     TheProgram().Open(SheetOf(Samples(state)));
     for (auto _ : state) BackUpSheet();
@@ -72,11 +57,20 @@ void Percentages(benchmark::State& state) {
         for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
 }
 
+// The table with its labels and sums, into memory.
+void SavePercentages(benchmark::State& state) {
+    TheProgram().Open(SheetOf(Samples(state)));
+    for (auto _ : state) {
+        TheProgram().services.dialogs.answers = {"/sheets/percent.csv"};
+        SaveSheet(kSavePercentAll);
+    }
+}
+
 BENCHMARK(ReadCells)->Apply(Growing);
 BENCHMARK(ReadSheet)->Apply(Growing);
 BENCHMARK(Open)->Apply(Growing);
 BENCHMARK(Save)->Apply(Growing);
-BENCHMARK(SaveOnDisk)->Apply(Growing);
 BENCHMARK(BackUp)->Apply(Growing);
 BENCHMARK(Percentages)->Apply(Growing);
+BENCHMARK(SavePercentages)->Apply(Growing);
 }  // namespace

@@ -1,13 +1,22 @@
-// Painting of the diagram of the largest sheet, bar and curve in 1600 by 1000 pixels, and of the same lines by the painter alone.
+// What the toolkit has a part in: painting of the diagram of the largest sheet, bar and curve in 1600 by 1000 pixels, and saving on the
+// disk. Beside each the least that it must do: the same lines by the painter alone, one write and flush of the same bytes.
 #include <benchmark/benchmark.h>
+
+#include <unistd.h>
 
 #include <QApplication>
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <utility>
 
+#include "bench/growing.h"
 #include "bench/headless_program.h"
+#include "files/save_sheet.h"
 #include "platform/qt/look.h"
 #include "platform/qt/picture_painter.h"
+#include "platform/qt/qt_files.h"
 #include "platform/qt/shown_operations.h"
 #include "platform/user.h"
 #include "session/sheet_state.h"
@@ -88,9 +97,40 @@ void PaintSameLines(benchmark::State& state) {
     }
 }
 
+std::string FileOnDisk() {
+    return (std::filesystem::temp_directory_path() / "marlbrook-bench.csv").string();
+}
+
+void SaveOnDisk(benchmark::State& state) {
+    TheProgram().Open(SheetOf(Samples(state)));
+    const std::string old_path = std::exchange(SheetPath, FileOnDisk());
+    QtFiles disk;
+    Files* const memory = std::exchange(services.files, &disk);
+    for (auto _ : state) SaveSheet(kSave);
+    if (SaveOutcome != 0) state.SkipWithError("the file cannot be written");
+    services.files = memory;
+    SheetPath = old_path;
+    std::filesystem::remove(FileOnDisk());
+}
+
+void WriteBytes(benchmark::State& state) {
+    TheProgram().Open(SheetOf(Samples(state)));
+    SaveSheet(kSave);
+    const std::string bytes = TheProgram().files.bytes[SheetOf(Samples(state))];
+    for (auto _ : state) {
+        std::FILE* const file = std::fopen(FileOnDisk().c_str(), "wb");
+        const bool is_written = file != nullptr && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() &&
+                                std::fflush(file) == 0 && fsync(fileno(file)) == 0;
+        if (file == nullptr || std::fclose(file) != 0 || !is_written) return state.SkipWithError("the file cannot be written");
+    }
+    std::filesystem::remove(FileOnDisk());
+}
+
 BENCHMARK(PaintWhole)->Unit(benchmark::kMicrosecond);
 BENCHMARK(RepaintRow)->Unit(benchmark::kMicrosecond);
 BENCHMARK(PaintSameLines)->Unit(benchmark::kMicrosecond);
+BENCHMARK(SaveOnDisk)->Apply(Growing)->UseRealTime();
+BENCHMARK(WriteBytes)->Apply(Growing)->UseRealTime();
 }  // namespace
 
 int main(int argc, char** argv) {
