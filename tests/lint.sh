@@ -9,7 +9,7 @@ set -euo pipefail
 top=$(readlink -f "$(dirname "$0")/..")
 build=$top/build/lint
 jobs=$(nproc)
-folders=("${@:-}")
+folders=("${@:-.}")
 cd "$top"
 . tests/tally.sh
 
@@ -19,6 +19,7 @@ Fail() {
 }
 
 for tool in clang++ clang-tidy cppcheck; do command -v "$tool" >/dev/null || Fail "$tool is not there"; done
+for folder in "${folders[@]}"; do [ -d "$folder" ] || Fail "there is no folder $folder in $top"; done
 
 Build() {
     cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
@@ -32,12 +33,13 @@ Build() {
 }
 
 Sources() {  # of the project itself, in the folders asked for: what the build made is left out
-    python3 - "$build" "$top" "${folders[@]}" <<'END'
+    python3 - "$build" "${folders[@]}" <<'END'
 import json, os, sys
-build, top, *folders = sys.argv[1:]
-places = tuple(os.path.join(top, folder, "") for folder in folders)
+build, *folders = sys.argv[1:]
+places = tuple(os.path.join(os.path.realpath(folder), "") for folder in folders)
 files = {entry["file"] for entry in json.load(open(build + "/compile_commands.json"))}
-print(*sorted(file for file in files if file.startswith(places) and not file.startswith(build)), sep="\n")
+for file in sorted(files):
+    if file.startswith(places) and not file.startswith(build): print(file)
 END
 }
 
@@ -56,6 +58,11 @@ CppcheckFile() {
 EachFile() {  # of the project through one of the two above
     local files failures
     files=$(Sources | wc -l)
+    if [ "$files" = 0 ]; then
+        echo "No source in ${folders[*]} belongs to the build"
+        echo "0 passed, 1 failed"
+        return
+    fi
     failures=$(mktemp)
     Sources | xargs -P "$jobs" -I{} bash -c '"$0" "$2" || echo "$2" >>"$1"' "$1" "$failures" {}
     failed=$(wc -l <"$failures")

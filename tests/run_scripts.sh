@@ -24,7 +24,10 @@ if [ "${1:-}" = --windows ]; then
     shift
 fi
 [ -x "$driver" ] || Fail "there is no driver $driver"
-for folder in "$@"; do [ -d "$folder" ] || Fail "there is no folder $folder"; done
+for folder in "$@"; do
+    [ -d "$folder" ] || Fail "there is no folder $folder"
+    [ -n "$(find "$(readlink -f "$folder")" -name '*.drive' -type f -print -quit)" ] || Fail "there is no script in $folder"
+done
 
 results=$(mktemp -d)
 trap 'rm -rf "$results"' EXIT

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # What takes long, built when asked for:
 #     tests/long/run.sh [KEYS]         a session of so many random keys (20000) under the sanitizers, with all that analysts do between them
-#     tests/long/run.sh --power-cut    three hundred processes killed while they save
-#     tests/long/run.sh --large-files  files of ten and of a hundred megabytes
+#     tests/long/run.sh --power-cut    three hundred processes killed while they save and back up
+#     tests/long/run.sh --large-files  files of six and of sixty megabytes
 # BUILD names another build folder than build/sanitize or, for the last two, build/release. Ends with "N passed, N failed".
 set -euo pipefail
 top=$(readlink -f "$(dirname "$0")/../..")

@@ -36,16 +36,23 @@ std::string LinesUpToTheNotes(const Sheet& sheet, const std::string& label) {
         text += Line("\"---\",\"---\",\"---\",\"Additional info-" + to_string(p) + "\"", sheet, [](const Sample&) { return "\"---\""; });
     return text + Line("\"---\",\"---\",\"---\",\"Note: \"", sheet, [](const Sample& sample) { return "\"" + sample.note + "\""; });
 }
+
+// A file has one byte for each letter.
+std::string InBytes(std::string text) {
+    for (std::size_t at = 0; (at = text.find("ö", at)) != std::string::npos;) text.replace(at, 2, "\xF6");
+    return text;
+}
 }  // namespace
 
 std::string BackUpOf(const Sheet& sheet) {
-    return LinesUpToTheNotes(sheet, "Backed up (dd/mm/yyyy):");
+    return InBytes(LinesUpToTheNotes(sheet, "Backed up (dd/mm/yyyy):"));
 }
 
 std::string FileOf(const Sheet& sheet) {
     using std::to_string;
-    return LinesUpToTheNotes(sheet, "Last saved (dd/mm/yyyy):") +
-           Line("\"---\",\"---\",\"---\",\"Subtotal-1\"", sheet, [](const Sample& sample) { return to_string(SubtotalOf(sample, 1)); }) +
-           Line("\"---\",\"---\",\"---\",\"Subtotal-2\"", sheet, [](const Sample& sample) { return to_string(SubtotalOf(sample, 2)); }) +
-           Line("\"---\",\"---\",\"---\",\"All total\"", sheet, [](const Sample& sample) { return to_string(TotalOf(sample)); });
+    return InBytes(
+        LinesUpToTheNotes(sheet, "Last saved (dd/mm/yyyy):") +
+        Line("\"---\",\"---\",\"---\",\"Subtotal-1\"", sheet, [](const Sample& sample) { return to_string(SubtotalOf(sample, 1)); }) +
+        Line("\"---\",\"---\",\"---\",\"Subtotal-2\"", sheet, [](const Sample& sample) { return to_string(SubtotalOf(sample, 2)); }) +
+        Line("\"---\",\"---\",\"---\",\"All total\"", sheet, [](const Sample& sample) { return to_string(TotalOf(sample)); }));
 }
