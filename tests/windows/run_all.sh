@@ -8,6 +8,7 @@ python3 -m unittest discover -p '*_test.py' -v >"$log" 2>&1
 status=$?
 ran=$(sed -n 's/^Ran \([0-9]*\) tests\{0,1\} in.*/\1/p' "$log")
 failed=$(grep -cE '^(FAIL|ERROR): ' "$log")
+[ "${ran:-0}" -gt 0 ] || { status=1 failed=1; echo "no test was found"; }
 [ "$status" = 0 ] || cat "$log"
-echo "$((${ran:-0} - failed)) passed, $failed failed"
+echo "$((${ran:-0} > failed ? ran - failed : 0)) passed, $failed failed"
 exit "$status"
