@@ -5,6 +5,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
@@ -33,16 +34,13 @@ QString InstalledTree() {
     return {};
 }
 
-void LayDown(const QString& from, const QString& to) {
-    QDirIterator entries(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        const QString entry = entries.next();
-        const QString copy = to + "/" + QDir(from).relativeFilePath(entry);
-        if (entries.fileInfo().isDir())
-            QDir().mkpath(copy);
-        else if (QDir().mkpath(QFileInfo(copy).path()) && QFile::copy(entry, copy))  // copy writes over nothing
-            QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
-    }
+// Under its own name only when it is whole, which QFile::copy does not promise on every system: what a full disk or a power cut left
+// half-written would be taken for the user's own.
+void CopyWhole(const QString& file, const QString& copy) {
+    QFile from(file);
+    QSaveFile to(copy);
+    if (!from.open(QIODevice::ReadOnly) || !to.open(QIODevice::WriteOnly)) return;
+    if (to.write(from.readAll()) == from.size() && to.flush()) to.commit();  // which would keep what its own flush cut short
 }
 }  // namespace
 
@@ -50,8 +48,19 @@ QString FindProgramFolder() {
     QString program = QCoreApplication::applicationDirPath();
     if (HoldsReferences(program) && CanBeWritten(program)) return program;
     QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/" + kName;
-    if (QFileInfo::exists(own + "/References/KeySetting.csv")) return own;
     QDir().mkpath(own);
-    if (const QString tree = InstalledTree(); !tree.isEmpty()) LayDown(tree, own);
+    if (const QString tree = InstalledTree(); !tree.isEmpty()) LayDownMissing(tree, own);
     return own;
+}
+
+void LayDownMissing(const QString& from, const QString& to) {
+    QDirIterator entries(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString entry = entries.next();
+        const QString copy = to + "/" + QDir(from).relativeFilePath(entry);
+        if (entries.fileInfo().isDir())
+            QDir().mkpath(copy);
+        else if (!QFileInfo::exists(copy) && QDir().mkpath(QFileInfo(copy).path()))
+            CopyWhole(entry, copy);
+    }
 }

@@ -1,12 +1,22 @@
 #include "platform/qt/text_area.h"
 
 #include <QSignalBlocker>
+#include <QTextBoundaryFinder>
+#include <utility>
 
 #include "platform/qt/text_places.h"
 
 namespace {
 constexpr int kMostLines = 99;
+constexpr qsizetype kLongestWord = 1000;  // units from one place where a line can end to the next
+
+bool HoldsLongerWord(const QString& text) {
+    QTextBoundaryFinder places(QTextBoundaryFinder::Line, text);
+    for (qsizetype start = 0, end = places.toNextBoundary(); end >= 0; start = std::exchange(end, places.toNextBoundary()))
+        if (end - start > kLongestWord) return true;
+    return false;
 }
+}  // namespace
 
 TextArea::TextArea(QWidget* parent, TextBox& box, ModelView& view) : QPlainTextEdit(parent), box_(box) {
     PrepareEditor(*this, box);
@@ -14,11 +24,18 @@ TextArea::TextArea(QWidget* parent, TextBox& box, ModelView& view) : QPlainTextE
     setUndoRedoEnabled(false);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(document(), &QTextDocument::contentsChange, this, &TextArea::ChooseWrapping);
     connect(this, &QPlainTextEdit::textChanged, this, [this, &view] {
         if (const QString text = toPlainText(); text != Shown(box_.Text())) TellText(box_, view, text, textCursor().position());
     });
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextArea::TellCaret);
     connect(this, &QPlainTextEdit::selectionChanged, this, &TextArea::TellCaret);
+}
+
+// Laying out a word takes a time that grows with the square of its length, unless its lines may end anywhere. The document tells of a
+// change, whoever made it, before it lays out what has changed.
+void TextArea::ChooseWrapping() {
+    setWordWrapMode(HoldsLongerWord(toPlainText()) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 void TextArea::TellCaret() {
@@ -30,7 +47,11 @@ void TextArea::Agree(const QFont& font, double factor) {
     const QSignalBlocker blocker(this);
     font_ = font;
     factor_ = factor;
-    if (const QString wanted = Shown(box_.Text()); toPlainText() != wanted) setPlainText(wanted);
+    if (const QString wanted = Shown(box_.Text()); toPlainText() != wanted) {
+        QTextCursor whole(document());
+        whole.select(QTextCursor::Document);
+        whole.insertText(wanted);  // setPlainText would lay it out before the document tells of it
+    }
     if (hasFocus()) AgreeForEditing();
 }
 

@@ -1,4 +1,5 @@
 // The editor of several lines in a text box; like TextLine, it paints its text itself while it does not hold the keyboard.
+// A line ends between words, save where the text holds a word that nobody would write: then it may end anywhere.
 #pragma once
 #include <QPlainTextEdit>
 
@@ -16,6 +17,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void ChooseWrapping();
     void TellCaret();
     void AgreeForEditing();  // what only matters while it holds the keyboard
 

@@ -127,6 +127,7 @@ class Packages(unittest.TestCase):
             self.assert_same_files(self.files(own), hers, "after " + after)
 
         program.stop()
+        (own / "Sound files/Alarm.wav").unlink()  # as if a full disk had broken off the first start
         start_again("a second start")
         self.root.apt_get("install", "--reinstall", self.deb)
         start_again("the package was installed over itself")

@@ -2,10 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <optional>
 
 #include "platform/failure.h"
+
+#ifdef Q_OS_LINUX
+#include <unistd.h>
+
+#include "unit_qt/file_size_limit.h"
+#endif
 
 namespace {
 class QtFilesTest : public testing::Test {
@@ -13,10 +21,37 @@ protected:
     std::string Path(const char* name) const { return folder_.path().toStdString() + "/" + name; }
 
     QtFiles files_;
-
-private:
     QTemporaryDir folder_;
 };
+
+#ifdef Q_OS_LINUX
+// What the disk took before it was full, as Replace tells it; nothing if it went well.
+std::optional<std::size_t> TakenBeforeFailure(OutputFile& file, const std::string& bytes, std::size_t room) {
+    const FileSizeLimit limit(room);
+    try {
+        file.Replace(bytes);
+        return std::nullopt;
+    } catch (const WriteFailure& failure) {
+        return failure.taken;
+    }
+}
+
+// As root nothing is forbidden.
+class NobodySpecial {
+public:
+    NobodySpecial() : user_(geteuid()) {
+        if (user_ == 0) is_other_ = seteuid(kNobody) == 0;
+    }
+    ~NobodySpecial() {
+        if (is_other_) (void)!seteuid(user_);
+    }
+
+private:
+    static constexpr uid_t kNobody = 65534;
+    uid_t user_;
+    bool is_other_ = false;
+};
+#endif
 }  // namespace
 
 TEST_F(QtFilesTest, NothingIsGoneBeforeReplace) {
@@ -52,7 +87,50 @@ TEST_F(QtFilesTest, FullDiskIsAFileError) {
     QFile::link("/dev/full", QString::fromStdString(Path("full.csv")));
     EXPECT_THROW(files_.OpenForWriting(Path("full.csv"))->Replace("x"), Failure);
 }
+
+TEST_F(QtFilesTest, WhatADiskTookBeforeItWasFullStaysAndTheNextSaveIsWhole) {
+    std::string whole;
+    while (whole.size() < 250) whole += std::to_string(whole.size()) + ",\r\n";
+    for (std::size_t room = 0; room <= whole.size(); ++room) {
+        const auto taken = TakenBeforeFailure(*files_.OpenForWriting(Path("a.csv")), whole, room);
+        ASSERT_EQ(taken, room < whole.size() ? std::optional(room) : std::nullopt) << room << " bytes";
+        ASSERT_EQ(files_.ReadAll(Path("a.csv")), whole.substr(0, room));
+        files_.OpenForWriting(Path("a.csv"))->Replace(whole);
+        ASSERT_EQ(files_.ReadAll(Path("a.csv")), whole) << "after a failure at " << room;
+    }
+}
+
+TEST_F(QtFilesTest, AFileThatIsBusyIsAFileError) {
+    QFile::link("/proc/self/exe", QString::fromStdString(Path("busy.csv")));  // no running program can be written
+    EXPECT_THROW(files_.OpenForWriting(Path("busy.csv")), Failure);
+}
+
+TEST_F(QtFilesTest, AFolderThatTakesNoFilesIsAFileError) {
+    constexpr QFile::Permissions kOnlyRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    files_.OpenForWriting(Path("a.csv"))->Replace("old");
+    QFile::setPermissions(QString::fromStdString(Path("a.csv")), kOnlyRead);
+    QFile::setPermissions(folder_.path(), kOnlyRead | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
+    {
+        const NobodySpecial user;
+        EXPECT_THROW(files_.OpenForWriting(Path("new.csv")), Failure);
+        EXPECT_THROW(files_.OpenForWriting(Path("a.csv")), Failure);
+        EXPECT_EQ(files_.ReadAll(Path("a.csv")), "old");
+    }
+    QFile::setPermissions(folder_.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
 #endif
+
+TEST_F(QtFilesTest, AFolderThatHasGoneIsAFileErrorUntilItIsBack) {
+    QDir folder(folder_.path());
+    folder.mkdir("stick");
+    files_.OpenForWriting(Path("stick/a.csv"))->Replace("old");
+    QDir(folder.filePath("stick")).removeRecursively();
+    EXPECT_THROW(files_.OpenForWriting(Path("stick/a.csv")), Failure);
+    EXPECT_THROW(files_.ReadAll(Path("stick/a.csv")), Failure);
+    folder.mkdir("stick");
+    files_.OpenForWriting(Path("stick/a.csv"))->Replace("new");
+    EXPECT_EQ(files_.ReadAll(Path("stick/a.csv")), "new");
+}
 
 TEST_F(QtFilesTest, WhatIsNoOrdinaryFileOrFarTooLargeIsNotRead) {
     files_.OpenForWriting(Path("huge.csv"))->Replace("");

@@ -1,0 +1,123 @@
+// Where the lines of a note end: between its words, unless one is so long that the window would stand still over it.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPlainTextEdit>
+
+#include "events/program.h"
+#include "platform/headless/headless_services.h"
+#include "platform/qt/control_widget.h"
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/window_widget.h"
+#include "platform/user.h"
+#include "unit/memory_files.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+constexpr const char* kFolder = "/program";
+constexpr int kLongestWord = 1000;  // with the blank behind it
+
+class TextAreaTest : public testing::Test {
+protected:
+    TextAreaTest() {
+        ApplyLook(application_);
+        ::services.files = &files_;
+        files_.LayDownProgram(kFolder);
+        renderer_.Run(StartProgram);
+        renderer_.Run([] { CloseWindow(frmNext); });
+        renderer_.Run([] { ClickControl(frmMain.Command3[0]); });  // Modify mode: the note has the focus
+        QApplication::processEvents();
+    }
+    ~TextAreaTest() override {
+        renderer_.Run([] { ClickControl(frmMain.Command3[1]); });
+        for (Window* window : AllWindows()) window->Unload();
+    }
+
+    QPlainTextEdit& Note() { return *qobject_cast<QPlainTextEdit*>(renderer_.WidgetOf(frmMain)->Find(frmMain.Text4)->Widget()); }
+    void Set(const std::string& note) {
+        renderer_.Run([&note] { frmMain.Text4.SetText(note); });
+        Note().grab();
+    }
+    bool EndsLinesAnywhere() { return Note().wordWrapMode() == QTextOption::WrapAnywhere; }
+
+    char name_[5] = "test";
+    char* arguments_[1] = {name_};
+    int count_ = 1;
+    QApplication application_{count_, arguments_};
+    HeadlessServices services_{kFolder};
+    MemoryFiles files_;
+    Renderer renderer_;
+};
+
+std::string Word(int letters) {
+    return std::string(static_cast<std::size_t>(letters), 'a');
+}
+
+TEST_F(TextAreaTest, AWordOfAMillionLettersIsShownWithAndWithoutTheFocus) {
+    for (const int letters : {2 * kLongestWord, 1'000'000}) {
+        ASSERT_TRUE(Note().hasFocus());
+        Set("Note: " + Word(letters));
+        ASSERT_TRUE(EndsLinesAnywhere());
+        Note().clearFocus();
+        Set(Word(letters) + "\r\nand more");
+        ASSERT_TRUE(EndsLinesAnywhere());
+        EXPECT_EQ(Note().blockCount(), 2);
+        Note().setFocus();
+    }
+}
+
+TEST_F(TextAreaTest, LinesEndBetweenWordsAgainOnceTheLongOneHasGone) {
+    Set(Word(kLongestWord + 1));
+    EXPECT_TRUE(EndsLinesAnywhere());
+    Set("an ordinary note");
+    EXPECT_FALSE(EndsLinesAnywhere());
+}
+
+TEST_F(TextAreaTest, OfManyWordsNoneIsLong) {
+    std::string note;
+    for (int word = 0; word < kLongestWord; ++word) note += "word ";
+    Set(note + "\r\n" + Word(kLongestWord - 1) + "\r\n" + Word(kLongestWord));
+    EXPECT_FALSE(EndsLinesAnywhere());
+}
+
+// A line never ends before an exclamation mark, blank or no blank.
+TEST_F(TextAreaTest, WhatNoLineMayEndInIsOneWordWhateverItHolds) {
+    for (const std::string mark : {"! ", " ", "\u00A0"}) {
+        std::string note;
+        for (int i = 0; i <= kLongestWord; ++i) note += mark;
+        Set("x" + note);
+        EXPECT_TRUE(EndsLinesAnywhere()) << '"' << mark << '"';
+        Set("x");
+    }
+}
+
+TEST_F(TextAreaTest, AWordThatGrowsUnderTheUsersHandsIsSeenToo) {
+    Set("");
+    Note().insertPlainText(QString(kLongestWord, 'a'));
+    EXPECT_FALSE(EndsLinesAnywhere());
+    Note().insertPlainText("a");
+    EXPECT_TRUE(EndsLinesAnywhere());
+    Note().textCursor().deletePreviousChar();
+    EXPECT_FALSE(EndsLinesAnywhere());
+    Note().textCursor().deletePreviousChar();
+    Note().insertPlainText(" aa");
+    EXPECT_FALSE(EndsLinesAnywhere());
+    EXPECT_EQ(frmMain.Text4.Text(), Word(kLongestWord - 1) + " aa");
+    QTextCursor blank = Note().textCursor();
+    blank.movePosition(QTextCursor::Left);
+    blank.movePosition(QTextCursor::Left);
+    blank.deletePreviousChar();
+    EXPECT_TRUE(EndsLinesAnywhere());
+}
+
+TEST_F(TextAreaTest, APastedWordIsSeenToo) {
+    QApplication::clipboard()->setText(QString(1'000'000, 'a'));
+    Set("");
+    Note().paste();
+    EXPECT_TRUE(EndsLinesAnywhere());
+    EXPECT_EQ(frmMain.Text4.Text(), Word(1'000'000));
+}
+}  // namespace
