@@ -58,7 +58,7 @@ TEST_F(OpenFailureTest, TheQuestionSoundsOnceAndOnceMoreAboveATotalOf0) {
     } cases[] = {{-3, {"WaveError"}}, {-1, {"WaveError"}}, {0, {"WaveError", "WaveError"}}};
     for (const auto& each : cases) {
         Rows rows = DataSheet(1);
-        for (int row = 0; row < kSlots; ++row) rows[static_cast<std::size_t>(kTaxonRow + row)][4] = "0";
+        for (std::size_t row = kTaxonRow; row < kTaxonRow + kSlots; ++row) rows[row][4] = "0";
         rows[kTaxonRow][4] = std::to_string(each.count);
         ASSERT_TRUE(Open(rows));
         KeyNumber(1);

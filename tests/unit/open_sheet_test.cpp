@@ -179,7 +179,7 @@ TEST_F(OpenSheetTest, TheResetGoesBackToWhatWasRead) {
 
 TEST_F(OpenSheetTest, NegativeCountsAndANegativeTotalOpen) {
     Rows rows = DataSheet(1);
-    for (int row = 0; row < kSlots; ++row) rows[static_cast<std::size_t>(kTaxonRow + row)][4] = "-2";
+    for (std::size_t row = kTaxonRow; row < kTaxonRow + kSlots; ++row) rows[row][4] = "-2";
     ASSERT_TRUE(Open(rows));
     EXPECT_EQ(AllTotal, -270);
     EXPECT_EQ(frmMain.Text2[135].Text(), "-2");
