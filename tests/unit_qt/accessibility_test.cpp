@@ -1,15 +1,9 @@
 // What a screen reader finds in the windows: everything that can be seen and used has a name that can be spoken.
-#include <gtest/gtest.h>
-
 #include <QAccessible>
-#include <QApplication>
 
-#include "events/program.h"
-#include "platform/headless/headless_services.h"
-#include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
+#include "unit_qt/on_screen_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
@@ -32,16 +26,8 @@ bool NeedsName(const QAccessibleInterface& item) {
     }
 }
 
-class AccessibilityTest : public testing::Test {
+class AccessibilityTest : public OnScreenTest {
 protected:
-    AccessibilityTest() {
-        ApplyLook(application_);
-        renderer_.Run(StartProgram);
-    }
-    ~AccessibilityTest() override {
-        for (Window* window : AllWindows()) window->Unload();
-    }
-
     // How many of them have a name; each without one fails the test.
     int Named(QAccessibleInterface* item, const std::string& window) {
         if (!item || item->state().invisible) return 0;
@@ -56,17 +42,9 @@ protected:
         return named;
     }
     int NamedIn(Window& window) {
-        renderer_.Run([&] { window.Show(); });
-        QApplication::processEvents();
+        Do([&] { window.Show(); });
         return Named(QAccessible::queryAccessibleInterface(renderer_.WidgetOf(window)), window.name);
     }
-
-    char name_[5] = "test";
-    char* arguments_[1] = {name_};
-    int count_ = 1;
-    QApplication application_{count_, arguments_};
-    HeadlessServices services_{""};
-    Renderer renderer_;
 };
 
 TEST_F(AccessibilityTest, EverythingThatCanBeUsedInAnyWindowCanBeSpoken) {
@@ -76,8 +54,7 @@ TEST_F(AccessibilityTest, EverythingThatCanBeUsedInAnyWindowCanBeSpoken) {
 
 TEST_F(AccessibilityTest, ACellIsSpokenWithItsNumberAndItsText) {
     NamedIn(frmMain);
-    renderer_.Run([] { frmMain.Text2[7].SetText("12"); });
-    QApplication::processEvents();
+    Do([] { frmMain.Text2[7].SetText("12"); });
     for (QWidget* widget : renderer_.WidgetOf(frmMain)->findChildren<QWidget*>())
         if (widget->accessibleName() == "Count of taxon 7") {
             EXPECT_EQ(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Value), "12");

@@ -1,44 +1,26 @@
 // The diagram on the screen, of which a key repaints a row alone, against the diagram painted anew.
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QPaintEvent>
 #include <functional>
 #include <random>
 #include <utility>
 
-#include "events/program.h"
-#include "platform/headless/headless_services.h"
-#include "platform/qt/control_widget.h"
-#include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
-#include "platform/qt/window_widget.h"
 #include "platform/user.h"
 #include "session/sheet_state.h"
-#include "unit/memory_files.h"
 #include "unit/sheet_file.h"
+#include "unit_qt/on_screen_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
 namespace {
 constexpr unsigned kSeed = 20261121;
-constexpr const char* kFolder = "/program";
 constexpr const char* kSheet = "/sheet.csv";
 
 // Its parameter is the density of the screen.
-class PictureViewTest : public testing::TestWithParam<double> {
+class PictureViewTest : public OnScreenTest, public testing::WithParamInterface<double> {
 protected:
-    PictureViewTest() {
-        ApplyLook(application_);
-        ::services.files = &files_;
-        files_.LayDownProgram(kFolder);
-        renderer_.Run(StartProgram);
-        renderer_.Run([] { CloseWindow(frmNext); });
-    }
-    ~PictureViewTest() override {
-        for (Window* window : AllWindows()) window->Unload();
-        qunsetenv("QT_SCALE_FACTOR");
+    PictureViewTest() : OnScreenTest(GetParam()) {
+        Do([] { CloseWindow(frmNext); });
     }
 
     // Thirty samples, of which `last` makes the last one.
@@ -52,16 +34,11 @@ protected:
         Do([] { BringToFront(frmMain); });
     }
 
-    void Do(const std::function<void()>& act) {
-        renderer_.Run(act);
-        QApplication::processEvents();
-    }
     void Press(int code) {
         Do([] { BringToFront(frmMain); });
         Do([code] { PressKey(code); });
         Do([code] { ReleaseKey(code); });
     }
-    static ControlWidget& Shown(const PictureBox& picture) { return *TheRenderer().WidgetOf(*picture.window)->Find(picture); }
     static QImage Seen(const PictureBox& picture) { return Shown(picture).Widget()->grab().toImage(); }
     // As it lies in a window: its corner may be in the middle of a pixel of the screen.
     static QImage SeenAPixelDown(QWidget& widget) {
@@ -83,15 +60,6 @@ protected:
             ASSERT_EQ(seen, PaintedAnew(*picture)) << picture->window->name << "." << picture->name << " after " << after;
         }
     }
-
-    char name_[5] = "test";
-    char* arguments_[1] = {name_};
-    int count_ = 1;
-    bool is_scaled_ = qputenv("QT_SCALE_FACTOR", QByteArray::number(GetParam()));
-    QApplication application_{count_, arguments_};
-    HeadlessServices services_{kFolder};
-    MemoryFiles files_;
-    Renderer renderer_;
 };
 
 TEST_P(PictureViewTest, AfterEveryKeyTheDiagramIsWhatItWouldBePaintedAnew) {

@@ -1,55 +1,32 @@
 // Where the lines of a note end: between its words, unless one is so long that the window would stand still over it.
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QClipboard>
 #include <QPlainTextEdit>
 
-#include "events/program.h"
-#include "platform/headless/headless_services.h"
-#include "platform/qt/control_widget.h"
-#include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
-#include "platform/qt/window_widget.h"
 #include "platform/user.h"
-#include "unit/memory_files.h"
+#include "unit_qt/on_screen_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
 namespace {
-constexpr const char* kFolder = "/program";
 constexpr int kLongestWord = 1000;  // with the blank behind it
 
-class TextAreaTest : public testing::Test {
+class TextAreaTest : public OnScreenTest {
 protected:
     TextAreaTest() {
-        ApplyLook(application_);
-        ::services.files = &files_;
-        files_.LayDownProgram(kFolder);
-        renderer_.Run(StartProgram);
-        renderer_.Run([] { CloseWindow(frmNext); });
-        renderer_.Run([] { ClickControl(frmMain.Command3[0]); });  // Modify mode: the note has the focus
-        QApplication::processEvents();
+        Do([] { CloseWindow(frmNext); });
+        Do([] { ClickControl(frmMain.Command3[0]); });  // Modify mode: the note has the focus
     }
     ~TextAreaTest() override {
         renderer_.Run([] { ClickControl(frmMain.Command3[1]); });
-        for (Window* window : AllWindows()) window->Unload();
     }
 
-    QPlainTextEdit& Note() { return *qobject_cast<QPlainTextEdit*>(renderer_.WidgetOf(frmMain)->Find(frmMain.Text4)->Widget()); }
+    QPlainTextEdit& Note() { return *qobject_cast<QPlainTextEdit*>(Shown(frmMain.Text4).Widget()); }
     void Set(const std::string& note) {
         renderer_.Run([&note] { frmMain.Text4.SetText(note); });
         Note().grab();
     }
     bool EndsLinesAnywhere() { return Note().wordWrapMode() == QTextOption::WrapAnywhere; }
-
-    char name_[5] = "test";
-    char* arguments_[1] = {name_};
-    int count_ = 1;
-    QApplication application_{count_, arguments_};
-    HeadlessServices services_{kFolder};
-    MemoryFiles files_;
-    Renderer renderer_;
 };
 
 std::string Word(int letters) {

@@ -1,0 +1,26 @@
+#include "unit_qt/on_screen_test.h"
+
+#include "events/program.h"
+#include "platform/qt/look.h"
+#include "platform/qt/window_widget.h"
+
+OnScreenTest::OnScreenTest(double density) : is_scaled_(qputenv("QT_SCALE_FACTOR", QByteArray::number(density))) {
+    ApplyLook(application_);
+    ::services.files = &files_;
+    files_.LayDownProgram(kFolder);
+    Do(StartProgram);
+}
+
+OnScreenTest::~OnScreenTest() {
+    for (Window* window : AllWindows()) window->Unload();
+    qunsetenv("QT_SCALE_FACTOR");
+}
+
+void OnScreenTest::Do(const std::function<void()>& act) {
+    renderer_.Run(act);
+    QApplication::processEvents();
+}
+
+ControlWidget& OnScreenTest::Shown(const Control& control) {
+    return *TheRenderer().WidgetOf(*control.window)->Find(control);
+}
