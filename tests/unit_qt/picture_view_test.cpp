@@ -87,7 +87,7 @@ TEST_P(PictureViewTest, AfterEveryKeyTheDiagramIsWhatItWouldBePaintedAnew) {
 }
 
 TEST_P(PictureViewTest, TheLineOfTheSampleHidesItsBars) {
-    Open([](const Row& row) { return row.end()[-10]; });
+    Open([](const Row& row) { return row[row.size() - 10]; });
     Do([] { ClickControl(frmMain.mnuBar); });
     Do([] { ClickControl(frmDiagram.Check1); });
     QWidget& canvas = *Shown(frmDiagram.Picture1).Widget();
@@ -123,7 +123,7 @@ private:
 
 // The last sample repeats another one: no taxon is more frequent there than elsewhere, and a few counts move no column.
 TEST_P(PictureViewTest, ACountThatMovesNoColumnRepaintsItsRowAndNoMore) {
-    Open([](const Row& row) { return row.end()[-10]; });
+    Open([](const Row& row) { return row[row.size() - 10]; });
     Do([] { ClickControl(frmMain.mnuBar); });
     Press('A');
     QWidget* const canvas = Shown(frmDiagram.Picture1).Widget();

@@ -78,8 +78,8 @@ TEST_F(ShownOperationsTest, APictureMendedInPartsIsThePicturePaintedAnew) {
     for (const double density : {1.0, 1.25, 2.0}) {
         const PictureScale scale{(QSizeF(kSize) * density).toSize(), density, 1};
         const QRect all(QPoint(), scale.size.toSize());
-        std::vector<DrawOperation> operations;
-        for (int i = 0; i < 40; ++i) operations.push_back(AnyOperation());
+        std::vector<DrawOperation> operations(40);
+        for (DrawOperation& operation : operations) operation = AnyOperation();
         ShownOperations shown;
         QPixmap mended = White(scale);
         for (int change = 0; change < 150; ++change) {
