@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Measures Marlbrook and writes docs/benchmarks.md anew, from any folder. It takes about four minutes; nothing else should run meanwhile.
+# Measures Marlbrook and writes docs/benchmarks.md anew, from any folder. It takes about five minutes; nothing else should run meanwhile.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 
