@@ -1,4 +1,5 @@
 #include "platform/headless/scripted_dialogs.h"
+
 #include <utility>
 
 namespace {

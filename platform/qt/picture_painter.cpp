@@ -59,11 +59,10 @@ public:
 private:
     double X(double fraction) const { return fraction * scale_.size.width(); }
     double Y(double fraction) const { return fraction * scale_.size.height(); }
-    double Thickness() const { return ::Thickness(scale_); }
 
     void UsePen(Colour colour) {
         if (pen_is_set_ && colour == pen_) return;
-        painter_.setPen(QPen(ToQt(colour), Thickness(), Qt::SolidLine, Qt::FlatCap));
+        painter_.setPen(QPen(ToQt(colour), Thickness(scale_), Qt::SolidLine, Qt::FlatCap));
         pen_ = colour;
         pen_is_set_ = true;
     }
@@ -81,7 +80,7 @@ private:
 
     void Bar(double x1, double y1, double x2, double y2, Colour colour) {
         const auto pixel = [](double place) { return static_cast<int>(std::floor(std::clamp(place, -kFarOut, kFarOut))); };
-        const int thick = static_cast<int>(Thickness()), half = thick / 2;
+        const int thick = static_cast<int>(Thickness(scale_)), half = thick / 2;
         const QPoint from(pixel(std::min(x1, x2)) - half, pixel(std::min(y1, y2)) - half);
         const QPoint to(pixel(std::max(x1, x2)) - half + thick, pixel(std::max(y1, y2)) - half + thick);
         if (colour != bar_colour_) PaintBars();
@@ -128,12 +127,12 @@ private:
     void MakeDot(const DrawOperation& circle) {
         dot_of_ = circle;
         const double radius = std::min(X(circle.radius), kLargestDot);
-        const int half = static_cast<int>(std::ceil(radius + Thickness()));
+        const int half = static_cast<int>(std::ceil(radius + Thickness(scale_)));
         dot_ = QImage(2 * half + 1, 2 * half + 1, QImage::Format_ARGB32_Premultiplied);
         dot_.fill(Qt::transparent);
         QPainter painter(&dot_);
         painter.setRenderHint(QPainter::Antialiasing, true);
-        painter.setPen(QPen(ToQt(circle.rim), Thickness()));
+        painter.setPen(QPen(ToQt(circle.rim), Thickness(scale_)));
         painter.setBrush(ToQt(circle.fill));
         painter.drawEllipse(QPointF(half + 0.5, half + 0.5), radius, radius);
     }
