@@ -13,6 +13,7 @@ for_build=(
     qt6-base-dev    # windows, drawing, and the plug-ins for X11, for no screen and for JPEG
     qt6-svg-dev     # the drawn pictures
     qt6-wayland     # desktops without X11
+    libx11-dev      # keys that are held, under X11
     libsdl2-mixer-dev
     fonts-dejavu-core fonts-dejavu-extra  # the second has the slanted faces, for genera
     python3-markdown  # the manual

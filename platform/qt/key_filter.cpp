@@ -40,6 +40,11 @@ bool TakesText(const Control& control) {
     return control.kind() == Kind::ComboBox || (control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_text);
 }
 
+// In a dialog of the toolkit's own.
+bool IsAnswer(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
+}
+
 bool IsSink(const Control& control) {
     return control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).takes_text;
 }
@@ -57,8 +62,9 @@ KeyFilter::KeyFilter() {
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride) return false;
-    if (passing_ || !watched->isWidgetType() || QApplication::activeModalWidget()) return false;
+    if (passing_ || !watched->isWidgetType()) return false;
     auto& key = *static_cast<QKeyEvent*>(event);
+    if (QApplication::activeModalWidget()) return IsAnswer(key) && IsRepeat(key);
     auto* const top = static_cast<QWidget*>(watched)->window();
     if (top->windowType() == Qt::Popup) return TakeInPopup(*top, key);
     if (!dynamic_cast<WindowWidget*>(top)) return false;
@@ -77,30 +83,20 @@ bool KeyFilter::TakeInPopup(QWidget& popup, QKeyEvent& key) {
     key.accept();
     if (key.type() != QEvent::KeyPress) return true;
     list->hide();
+    if (WindowWidget* const below = TheRenderer().ActiveWidget()) held_.HandOn(key, below->windowHandle());
     Press(key);
     return true;
 }
 
 void KeyFilter::Release(const QKeyEvent& key) {
-    released_ = key.key();
-    released_at_ = key.timestamp();
-    if (key.isAutoRepeat()) return;  // X11 sends one with each repeated press
     if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { ReleaseKey(*code); });
 }
 
-// The first repeat that a new window gets is not always marked as one: on X11 it follows its release in no time.
-bool KeyFilter::Repeats(const QKeyEvent& key) const {
-    return key.isAutoRepeat() || (key.key() == released_ && key.timestamp() == released_at_ && key.spontaneous());
-}
-
-// A key that is still held when its window has gone, such as the Enter that closed a dialog, is no key of the next window.
+// A box that takes each key as itself has it once, and moves on: the repeats would fill the next ones.
 void KeyFilter::Press(QKeyEvent& key) {
-    if (held_over_ == key.key() && Repeats(key)) return;
-    held_over_ = 0;
-    if (OpensMenu(key)) return;
-    Window* const window = ActiveWindow();
-    TakePress(key);
-    if (window != ActiveWindow()) held_over_ = key.key();
+    const Control* const focus = ActiveWindow() ? ActiveWindow()->Focus() : nullptr;
+    if (IsRepeat(key) && focus && TakesKeysAsInput(*focus)) return;
+    if (!OpensMenu(key)) TakePress(key);
 }
 
 void KeyFilter::TakePress(QKeyEvent& key) {
@@ -126,7 +122,7 @@ void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
     if (IsControlChord(key) && (!TakesText(focus) || !IsClipboardKey(key))) return;
     if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) return;  // the program knows nothing of them
     if (!TakesText(focus) && focus.window->key_preview) return;
-    if (!key.isAutoRepeat() && PressFocused(focus, key)) return;
+    if (!IsRepeat(key) && PressFocused(focus, key)) return;
     passing_ = true;
     if (ControlWidget* const widget = TheRenderer().WidgetOf(*focus.window)->Find(focus)) widget->TakeKey(key);
     passing_ = false;

@@ -3,6 +3,7 @@
 #pragma once
 #include <QObject>
 
+#include "platform/qt/held_keys.h"
 #include "platform/window.h"
 
 class QKeyEvent;
@@ -20,11 +21,8 @@ private:
     void Press(QKeyEvent& key);
     void TakePress(QKeyEvent& key);
     void Release(const QKeyEvent& key);
-    bool Repeats(const QKeyEvent& key) const;
     void Finish(QKeyEvent& key, Control& focus);
 
+    HeldKeys held_;
     bool passing_ = false;  // a key is on its way to a widget
-    int held_over_ = 0;     // the toolkit's number of the key that has changed the window in front; 0: none
-    int released_ = 0;      // the key that went up last, and when
-    unsigned long released_at_ = 0;
 };

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/controls.h"
+#include "platform/qt/held_keys.h"
 #include "platform/qt/renderer.h"
 #include "platform/user.h"
 
@@ -92,7 +93,7 @@ bool PressFocused(Control& focus, const QKeyEvent& key) {
 bool PressAnswer(Window& window, const QKeyEvent& key) {
     const bool is_enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     Button* const button = is_enter ? window.confirm : key.key() == Qt::Key_Escape ? window.dismiss : nullptr;
-    if (!button || !IsInSight(*button) || key.isAutoRepeat()) return false;
+    if (!button || !IsInSight(*button) || IsRepeat(key)) return false;
     if (is_enter && window.Focus() && HasUseForEnter(*window.Focus())) return false;
     TheRenderer().Run([button] { ClickControl(*button); });
     return true;

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include "platform/qt/boxes.h"
+#include "platform/qt/held_keys.h"
 #include "platform/qt/look.h"
 
 namespace {
@@ -69,7 +70,7 @@ private:
     bool IsStray(const QKeyEvent& key) const {
         const bool letter =
             key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z && !(key.modifiers() & (Qt::AltModifier | Qt::ControlModifier));
-        return key.isAutoRepeat() || letter || open_.elapsed() < kDeafMs;
+        return IsRepeat(key) || letter || open_.elapsed() < kDeafMs;
     }
 
     QElapsedTimer open_;

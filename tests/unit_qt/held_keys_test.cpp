@@ -1,0 +1,77 @@
+// A held key belongs to the window it was pressed in. Key events come to the window of the screen, as the desktop sends them.
+#include <QKeyEvent>
+
+#include "keys/first_run.h"
+#include "platform/qt/key_filter.h"
+#include "platform/qt/window_widget.h"
+#include "platform/user.h"
+#include "session/sheet_state.h"
+#include "unit_qt/on_screen_test.h"
+#include "windows/initial_window.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+constexpr quint32 kPlaceOfQ = 24;
+
+class HeldKeysTest : public OnScreenTest {
+protected:
+    void SendQ(Window& window, QEvent::Type type, bool repeats) {
+        QKeyEvent event(type, Qt::Key_Q, Qt::NoModifier, kPlaceOfQ, 0, 0, "q", repeats);
+        QApplication::sendEvent(renderer_.WidgetOf(window)->windowHandle(), &event);
+        QApplication::processEvents();
+    }
+    void PressQ(Window& window, bool repeats = false) { SendQ(window, QEvent::KeyPress, repeats); }
+    void ReleaseQ(Window& window, bool repeats = false) { SendQ(window, QEvent::KeyRelease, repeats); }
+    void BeginCounting() {
+        Do([] { CloseWindow(frmNext); });
+        renderer_.WidgetOf(frmMain)->activateWindow();
+        QApplication::processEvents();
+    }
+
+    KeyFilter keys_;
+};
+
+TEST_F(HeldKeysTest, ACounterKeyCountsAtEachRepeat) {
+    BeginCounting();
+    PressQ(frmMain);
+    for (int repeat = 0; repeat < 3; ++repeat) {
+        ReleaseQ(frmMain, true);
+        PressQ(frmMain, true);
+    }
+    ReleaseQ(frmMain);
+    EXPECT_EQ(Counts[1][1], 4);
+}
+
+TEST_F(HeldKeysTest, ARepeatReachesNobodyInAnotherWindow) {
+    PressQ(frmNext);
+    BeginCounting();
+    PressQ(frmMain, true);
+    EXPECT_EQ(Counts[1][1], 0);
+    ReleaseQ(frmMain);
+    PressQ(frmMain);
+    EXPECT_EQ(Counts[1][1], 1);
+}
+
+TEST_F(HeldKeysTest, AKeyThatWasPressedInAnotherProgramReachesNobody) {
+    BeginCounting();
+    PressQ(frmMain, true);
+    EXPECT_EQ(Counts[1][1], 0);
+}
+
+TEST_F(HeldKeysTest, ABoxThatTakesEveryKeyHasAHeldOneOnce) {
+    Do([] {
+        for (int row = 51; row <= 62; ++row) KeySettings[row][1] = 999;
+        CloseWindow(frmNext);
+        frmInitial.Show();
+    });
+    Do([] { frmInitial.Text1[0].SetFocus(); });
+    PressQ(frmInitial);
+    for (int repeat = 0; repeat < 3; ++repeat) PressQ(frmInitial, true);
+    EXPECT_EQ(frmInitial.Text1[0].Text(), "81");
+    EXPECT_EQ(frmInitial.Text1[1].Text(), "");
+    ReleaseQ(frmInitial);
+    PressQ(frmInitial);
+    EXPECT_EQ(frmInitial.Text1[1].Text(), "81");
+}
+}  // namespace
