@@ -19,6 +19,7 @@ struct Message {
     std::string text;
     Icon icon = Icon::None;
     Buttons buttons = Buttons::Ok;
+    bool loses_work = false;  // Yes does: the button that Enter presses is No
 };
 
 class MessageBoxes {

@@ -29,8 +29,8 @@
 namespace {
 constexpr int kForgottenUndos = 101;
 
-bool Confirm(const std::string& text) {
-    return services.messages->Show({"Caution!", text, Icon::None, Buttons::YesNo}) == Answer::Yes;
+bool ConfirmLoss(const std::string& text) {
+    return services.messages->Show({"Caution!", text, Icon::None, Buttons::YesNo, true}) == Answer::Yes;
 }
 
 void RestoreSlot(int slot) {
@@ -86,7 +86,7 @@ void RestoreSheet() {
 void AbortCount() {
     PlayIfOn(WaveError);
     if (AllTotal != 0) {
-        if (Confirm("This action will abort all inputs after last saving. Do you proceed?")) {
+        if (ConfirmLoss("This action will abort all inputs after last saving. Do you proceed?")) {
             RestoreSheet();
             AddHistoryLine("(Reset)");
             for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][1] = 0;
@@ -100,7 +100,7 @@ void AbortCount() {
 }
 
 bool MayAbortData() {
-    return Confirm("This action will abort current data. Do you proceed?");
+    return ConfirmLoss("This action will abort current data. Do you proceed?");
 }
 
 void QuitProgram() {

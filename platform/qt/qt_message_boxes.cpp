@@ -86,6 +86,7 @@ Answer QtMessageBoxes::Show(const Message& message) {
     box.setText(ToQt(message.text));
     box.setIcon(IconOf(message.icon));
     box.setStandardButtons(ButtonsOf(message.buttons));
+    if (message.loses_work) box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(ButtonOfClosing(message.buttons));
     box.exec();
     switch (box.standardButton(box.clickedButton())) {

@@ -1,8 +1,12 @@
 // A held key belongs to the window it was pressed in. Key events come to the window of the screen, as the desktop sends them.
 #include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
 
 #include "keys/first_run.h"
 #include "platform/qt/key_filter.h"
+#include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
 #include "session/sheet_state.h"
@@ -73,5 +77,23 @@ TEST_F(HeldKeysTest, ABoxThatTakesEveryKeyHasAHeldOneOnce) {
     ReleaseQ(frmInitial);
     PressQ(frmInitial);
     EXPECT_EQ(frmInitial.Text1[1].Text(), "81");
+}
+
+// The words of the button that Enter presses in the box of this message.
+QString WordOfEnter(const Message& message) {
+    QString word;
+    QTimer::singleShot(0, [&word] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        if (box->defaultButton()) word = box->defaultButton()->text();
+        box->close();
+    });
+    QtMessageBoxes().Show(message);
+    return word.remove('&');
+}
+
+TEST_F(HeldKeysTest, EnterAnswersNoWhereYesLosesWork) {
+    EXPECT_EQ(WordOfEnter({"Caution!", "Do you proceed?", Icon::None, Buttons::YesNo, true}), "No");
+    EXPECT_NE(WordOfEnter({"Warning!!", "Do you continue?", Icon::None, Buttons::YesNo}), "No");
 }
 }  // namespace
