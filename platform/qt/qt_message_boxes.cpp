@@ -56,8 +56,11 @@ public:
 protected:
     void showEvent(QShowEvent* event) override {
         for (QAbstractButton* button : buttons()) button->installEventFilter(this);
-        open_.start();
         QMessageBox::showEvent(event);
+    }
+    void paintEvent(QPaintEvent* event) override {
+        if (!seen_.isValid()) seen_.start();
+        QMessageBox::paintEvent(event);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
         return (event->type() == QEvent::KeyPress && IsStray(*static_cast<QKeyEvent*>(event))) || QMessageBox::eventFilter(watched, event);
@@ -70,10 +73,10 @@ private:
     bool IsStray(const QKeyEvent& key) const {
         const bool letter =
             key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z && !(key.modifiers() & (Qt::AltModifier | Qt::ControlModifier));
-        return IsRepeat(key) || letter || open_.elapsed() < kDeafMs;
+        return IsRepeat(key) || letter || !seen_.isValid() || seen_.elapsed() < kDeafMs;
     }
 
-    QElapsedTimer open_;
+    QElapsedTimer seen_;  // since it was first on the screen
 };
 }  // namespace
 
