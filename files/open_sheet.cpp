@@ -85,6 +85,7 @@ void StartAfresh(int key_index) {
 void BeginCurve() {
     constexpr double kLongestCurve = 32767;
     frmMain.Picture2.Clear();
+    DiversityCurve.clear();
     const double total = Val(frmMain.Text3[0].Text());
     if (total < 0 || total > kLongestCurve) return;
     DiversityCurve.resize(static_cast<std::size_t>(total) + 1);

@@ -44,6 +44,14 @@ TEST_F(OpenSheetTest, ASampleWithoutAGrainBeginsACurveOfItsOwn) {
     EXPECT_TRUE(frmMain.mnuNext.Enabled()) << "no change of a total has enabled it";
 }
 
+TEST_F(OpenSheetTest, TheCurveOfTheOldSheetIsGone) {
+    Rows rows = DataSheet(1);
+    for (int row = 0; row < kSlots; ++row) rows[kTaxonRow + row][4] = row == 0 ? "3" : "0";
+    DiversityCurve = {0, 10, 20, 30};
+    ASSERT_TRUE(Open(rows));
+    EXPECT_EQ(DiversityCurve, (std::vector<std::int16_t>{3, 0, 0, 0}));
+}
+
 TEST_F(OpenSheetTest, EveryCellOfTheGridFindsItsPlace) {
     ASSERT_TRUE(Open(DataSheet(2)));
     EXPECT_EQ(SheetHeader[6], "/sheets/mere.csv") << "the back-up writes the path of the session, not that in the file";
