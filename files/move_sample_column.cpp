@@ -7,6 +7,7 @@
 #include "diagram/sample_selector.h"
 #include "diagram/tree_panel.h"
 #include "platform/number.h"
+#include "session/changed_mark.h"
 #include "session/sheet_state.h"
 #include "windows/main_window.h"
 
@@ -62,7 +63,7 @@ void MoveSampleColumnUnseen() {
     for (int p = 1; p <= kParams; ++p) MoveInRow(ParamValues[p]);
     MoveInRow(SampleNotes);
     FollowSamples();
-    frmMain.Command5[0].SetEnabled(true);
+    OfferSaving();
     RefillSampleList();
 }
 

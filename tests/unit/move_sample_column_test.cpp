@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "diagram/percentages.h"
+#include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
 
@@ -114,8 +115,19 @@ TEST_F(MoveSampleColumnTest, AnotherSampleOnShowKeepsItsNumberAndTheTextOfTheLis
 TEST_F(MoveSampleColumnTest, TheSheetThenCountsAsChanged) {
     Fill(2);
     frmMain.Command5[0].SetEnabled(false);
+    frmMain.mnuSave.SetEnabled(false);
     Move(1, 2);
     EXPECT_TRUE(frmMain.Command5[0].Enabled());
+    EXPECT_TRUE(frmMain.mnuSave.Enabled());
+}
+
+TEST_F(MoveSampleColumnTest, InModifyModeSavingWaitsForItsEnd) {
+    Fill(2);
+    ClickControl(frmMain.Command3[0]);
+    Move(1, 2);
+    EXPECT_FALSE(frmMain.Command5[0].Enabled() || frmMain.mnuSave.Enabled());
+    ClickControl(frmMain.Command3[1]);
+    EXPECT_TRUE(frmMain.Command5[0].Enabled() && frmMain.mnuSave.Enabled());
 }
 
 TEST_F(MoveSampleColumnTest, OnlyTheMovedCountsPassThroughASingle) {
