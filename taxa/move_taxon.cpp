@@ -57,13 +57,12 @@ void OpenBankMenu(int bank) {
 
 void TransferTaxa(std::int16_t target) {
     const int from = SelectedSlot;
-    const std::string name = TaxonTable[from][4].Text();
     MoveFields(from, target);
     MoveCells(from, target);
     frmMain.Label1[from].SetBold(false);
     PaintCell(LastSlot, kWhite);
     if (target != 0) MoveHighlight(target, kPaleHighlight);
-    AddHistoryLine("(Move) " + name + ": " + std::to_string(from) + " to " + std::to_string(target));
+    AddHistoryLine("(Move) " + TaxonTable[target][4].Text() + ": " + std::to_string(from) + " to " + std::to_string(target));
     RecountTotals(CurrentSample);
     SheetClean = false;
     frmMain.mnuNew.SetEnabled(true);
