@@ -44,16 +44,8 @@ std::optional<Fault> FindDoubleFunctionalKey() {
     return std::nullopt;
 }
 
-// A number is refused when its box is left; one that was cleared, or came from a damaged file, may have been passed by.
-std::optional<Fault> FindBadNumber() {
-    for (int place = 1; place <= kKeys; ++place)
-        if (TextBox& box = frmKeyCode.Text3[place]; KeyNumber(box.Text()) == 0)
-            return Fault{"Counte key index must be between 1 and 45.", 2, {&box, &box}};
-    return std::nullopt;
-}
-
 std::optional<Fault> FindFault() {
-    for (const auto find : {FindDoubleKey, FindDoubleFunctionalKey, FindBadNumber})
+    for (const auto find : {FindDoubleKey, FindDoubleFunctionalKey})
         if (const auto fault = find()) return fault;
     return std::nullopt;
 }
@@ -108,7 +100,7 @@ void AcceptKeySettings() {
         return;
     }
     Store();
-    PlaceKeyCells();
+    PlaceKeyCellsIfKnown();
     PutProgressAway();
     CloseDialog(frmKeyCode);
 }

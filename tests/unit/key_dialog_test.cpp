@@ -129,25 +129,25 @@ TEST_F(KeyDialogTest, CancelJudgesANumberInHandAndTheFrameDoesNot) {
     }
 }
 
-TEST_F(KeyDialogTest, ANumberFromADamagedFileMovesNothingAndOkRefusesIt) {
+TEST_F(KeyDialogTest, ANumberFromADamagedFileMovesNothingAndIsKept) {
     Open();
+    const int left = frmMain.Text1[45].Left();
     frmKeyCode.Text3[45].SetText("200");
     LayOutMaps();
     AcceptKeySettings();
-    EXPECT_EQ(LastMessage().text, "Counte key index must be between 1 and 45.");
-    EXPECT_EQ(frmKeyCode.SSTab1.Tab(), 2);
-    EXPECT_EQ(frmKeyCode.Text3[45].ForeColor(), (Colour{255, 0, 0}));
-    EXPECT_FALSE(frmKeyCode.ProgressBar1.Visible());
-    EXPECT_EQ(KeySettings[45][2].Number(), 45);
-    EXPECT_EQ(files_.bytes[kFile], KnownKeySettings());
+    EXPECT_EQ(MessageCount(), 0u);
+    EXPECT_FALSE(frmKeyCode.IsLoaded());
+    EXPECT_EQ(FileLine(kFile, 46), "\"9\",\"57\",\"200\"");
+    EXPECT_EQ(frmMain.Text1[45].Left(), left);
 }
 
-TEST_F(KeyDialogTest, ASingleNumberLeftEmptyIsRefused) {
+TEST_F(KeyDialogTest, ASingleNumberLeftEmptyIsNoDoubleAndStopsNothing) {
     Open();
     frmKeyCode.Text3[7].SetText("");
-    AcceptKeySettings();
-    EXPECT_EQ(LastMessage().text, "Counte key index must be between 1 and 45.");
-    EXPECT_TRUE(frmKeyCode.Visible());
+    RunEvent(AcceptKeySettings);
+    EXPECT_FALSE(services_.host.ended);
+    EXPECT_EQ(ActiveWindow(), &frmMain);
+    EXPECT_EQ(FileLine(kFile, 8), "\"z\",\"90\",\"\"");
 }
 
 TEST_F(KeyDialogTest, WithoutReadableSettingsItOpensAndCancels) {
