@@ -16,6 +16,7 @@
 #include "session/sheet_state.h"
 #include "session/stamps.h"
 #include "session/totals.h"
+#include "windows/initial_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
@@ -128,13 +129,13 @@ void LoadNextWindow() {
     for (int p = 1; p <= kParams; ++p) frmNext.Text3[p].SetText(kEmpty);
     OfferParamNames();
     frmMain.SetEnabled(false);
-    if (KeyboardKnown != 0) {
-        frmMain.Show();
-    } else {
+    if (frmInitial.Visible()) {  // the start has asked for the keyboard: both wait for the answer
         frmMain.Hide();
         frmNext.Hide();
-        KeyboardKnown = 1;
+    } else {
+        frmMain.Show();
     }
+    KeyboardKnown = 1;
 }
 
 void BringNextToFront() {

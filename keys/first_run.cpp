@@ -47,9 +47,8 @@ void FocusNext(int key) {
     next.SetFocus();
 }
 
-// While the keyboard counts as unknown, the load of frmNext would hide every window; its start face may still wait, unseen.
+// The start face of frmNext may still wait, unseen.
 void LeaveForCounting() {
-    KeyboardKnown = 1;
     if (frmNext.IsLoaded() && frmNext.Command2.Visible()) frmNext.Unload();
     CloseDialog(frmInitial);
 }
@@ -60,7 +59,6 @@ void LeaveToProgram() {
         return;
     }
     frmInitial.Unload();
-    frmNext.Load();  // while the keyboard is unknown its load hides both windows
     frmMain.Show();
     frmNext.Show();
     frmInitial.AllKnown = 1;
@@ -108,5 +106,5 @@ void AcceptNamedKeys() {
 }
 
 void CloseInitialByFrame() {
-    LeaveForCounting();  // whoever will not tell is not asked again before the settings are read anew
+    LeaveForCounting();
 }
