@@ -125,6 +125,7 @@ void MainWindow::PlaceParams() {
         Label10[p].SetForeColor(kQuiet);
         Add(Text5[p], "Text5", p, &Frame4, {1580, top, 1080, 320});
         Text5[p].SetText(kEmpty);
+        Text5[p].SetEnabled(false);
         Text5[p].accessible_name = "Additional info " + number;
         Add(Command7[p], "Command7", p, &Frame4, {2700, top, 660, 320});
         Command7[p].SetCaption("Rename");

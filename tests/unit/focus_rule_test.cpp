@@ -12,7 +12,7 @@ protected:
 
     const std::vector<Control*> grounds_{&frmMain.Frame1,   &frmMain.Frame2, &frmMain.Frame4, &frmMain.Frame5,
                                          &frmMain.Picture1, &frmMain.Combo1, &frmMain.Combo2, &frmMain.SSTab1};
-    const std::vector<Control*> boxes_{&frmMain.Text1[0], &frmMain.Text1[3], &frmMain.Text2[3], &frmMain.Text5[2]};
+    const std::vector<Control*> boxes_{&frmMain.Text1[0], &frmMain.Text1[3], &frmMain.Text2[3]};
 
     // What has the focus after the mouse has come from elsewhere, over this control or over the bare window.
     static Control* FocusAfterMove(Control& control) {
@@ -71,5 +71,14 @@ TEST_F(FocusRuleTest, OverABoxPointerAndFocusTellWhetherItIsTheCountersTurn) {
             EXPECT_EQ(FocusAfterMove(*box), each.focus) << box->name << each.modifying << each.diagram;
             EXPECT_EQ(MousePointer, each.pointer) << box->name << each.modifying << each.diagram;
         }
+}
+
+TEST_F(FocusRuleTest, ABoxThatModifyModeOpensTakesNoFocusFromAMove) {
+    ClickControl(frmMain.Command3[0]);
+    for (Control* box : {&frmMain.Text4, &frmMain.Text5[2]}) {
+        MousePointer = kPointerDefault;
+        EXPECT_EQ(FocusAfterMove(*box), &frmMain.Command6) << box->name;
+        EXPECT_EQ(MousePointer, kPointerIBeam) << box->name;
+    }
 }
 }  // namespace
