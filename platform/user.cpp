@@ -6,6 +6,8 @@
 #include "platform/text.h"
 
 namespace {
+constexpr const char* kLineBreak = "\r\n";
+
 MenuItem* open_popup = nullptr;
 Control* pressed = nullptr;  // the control that the mouse went down on
 
@@ -61,6 +63,11 @@ Edit EditOf(const Control& box) {
 bool TakesText(const Control& control) {
     if (control.kind() == Kind::TextBox) return static_cast<const TextBox&>(control).takes_text;
     return control.kind() == Kind::ComboBox;
+}
+
+// Characters of the line break that begins behind `place` characters; 1 where there is none.
+int StepAt(const std::string& text, int place) {
+    return place >= 0 && Mid(text, static_cast<std::size_t>(place) + 1, 2) == kLineBreak ? 2 : 1;
 }
 
 // Puts `text` in place of the `count` characters after the first `start`.
@@ -217,10 +224,11 @@ void InsertText(Control& box, const std::string& text) {
 void DeleteBackward(Control& box) {
     if (!TakesText(box)) return;
     const Edit edit = EditOf(box);
+    const int step = StepAt(edit.text, edit.caret - 2);
     if (edit.selected > 0)
         Replace(box, edit.caret, edit.selected, "");
     else if (edit.caret > 0)
-        Replace(box, edit.caret - 1, 1, "");
+        Replace(box, edit.caret - step, step, "");
 }
 
 void DeleteForward(Control& box) {
@@ -229,7 +237,7 @@ void DeleteForward(Control& box) {
     if (edit.selected > 0)
         Replace(box, edit.caret, edit.selected, "");
     else if (edit.caret < static_cast<int>(Length(edit.text)))
-        Replace(box, edit.caret, 1, "");
+        Replace(box, edit.caret, StepAt(edit.text, edit.caret), "");
 }
 
 void ChooseItem(ComboBox& box, int item) {

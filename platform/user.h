@@ -39,7 +39,7 @@ void FinishDoubleClick(Control& control);  // the double click itself, after the
 
 // Text is put in at the caret of a text box or combo box, in place of what is selected: one change.
 void InsertText(Control& box, const std::string& text);
-void DeleteBackward(Control& box);
+void DeleteBackward(Control& box);  // a line break goes whole
 void DeleteForward(Control& box);
 void EnterText(Control& box, const std::string& text, int caret);  // the whole text as it stands after an edit
 

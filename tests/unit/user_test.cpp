@@ -225,6 +225,20 @@ TEST_F(UserTest, DeletingTakesTheSelectionOrOneCharacter) {
     EXPECT_EQ(box.SelStart(), 1);
 }
 
+TEST_F(UserTest, DeletingTakesALineBreakWhole) {
+    TextBox& box = window_a.entry;
+    InsertText(box, "a\r\nb\r\nc");
+    box.SetSelStart(6);
+    DeleteBackward(box);
+    DeleteBackward(box);
+    EXPECT_EQ(box.Text(), "a\r\nc");
+    EXPECT_EQ(box.SelStart(), 3);
+    box.SetSelStart(1);
+    DeleteForward(box);
+    EXPECT_EQ(box.Text(), "ac");
+    EXPECT_EQ(box.SelStart(), 1);
+}
+
 TEST_F(UserTest, TextGoesOnlyWhereTheFocusIsAndIsTaken) {
     InsertText(window_a.note, "x");
     EXPECT_EQ(window_a.note.Text(), "");
