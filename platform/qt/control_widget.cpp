@@ -134,9 +134,10 @@ void ControlWidget::MoveElsewhere(QPointF at) {
                      under ? under->mapFrom(window_.Ground(), place) : place);
 }
 
+// With both buttons down the first release ends the press, whichever it is of.
 bool ControlWidget::TakeRelease(const QMouseEvent& event, QPointF at) {
     const MouseButton button = ButtonOf(event.button());
-    if (button == MouseButton::None || button != pressed_) return !PassesMouse();
+    if (button == MouseButton::None || pressed_ == MouseButton::None) return !PassesMouse();
     pressed_ = MouseButton::None;
     ShowPressed(false);
     const bool clicks = button == MouseButton::Left && QRectF(widget_->rect()).contains(at);
