@@ -40,7 +40,7 @@ void TextArea::ChooseWrapping() {
 
 void TextArea::TellCaret() {
     const QTextCursor cursor = textCursor();
-    if (hasFocus()) TellSelection(box_, toPlainText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
+    if (HoldsFocus(box_)) TellSelection(box_, toPlainText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
 }
 
 void TextArea::Agree(const QFont& font, double factor) {
@@ -52,18 +52,25 @@ void TextArea::Agree(const QFont& font, double factor) {
         whole.select(QTextCursor::Document);
         whole.insertText(wanted);  // setPlainText would lay it out before the document tells of it
     }
+    AgreeAboutCaret();
     if (hasFocus()) AgreeForEditing();
+}
+
+void TextArea::AgreeAboutCaret() {
+    const QString text = toPlainText();
+    const int start = UnitAfter(text, box_.SelStart());
+    const int end = UnitAfter(text, box_.SelStart() + box_.SelLength());
+    QTextCursor cursor = textCursor();
+    if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
 }
 
 void TextArea::AgreeForEditing() {
     const QSignalBlocker blocker(this);
     setFont(font_);
     setPalette(EditorPalette(box_));
-    QTextCursor cursor = textCursor();
-    const int caret = UnitAfter(toPlainText(), box_.SelStart());
-    if (cursor.hasSelection() || cursor.position() == caret) return;
-    cursor.setPosition(caret);
-    setTextCursor(cursor);
 }
 
 void TextArea::paintEvent(QPaintEvent* event) {

@@ -19,6 +19,7 @@ protected:
 private:
     void ChooseWrapping();
     void TellCaret();
+    void AgreeAboutCaret();  // and about what is selected
     void AgreeForEditing();  // what only matters while it holds the keyboard
 
     TextBox& box_;

@@ -21,8 +21,10 @@ TextLine::TextLine(QWidget* parent, Control& box, ModelView& view) : QLineEdit(p
     connect(this, &QLineEdit::selectionChanged, this, &TextLine::TellCaret);
 }
 
+// The desktop may give the keyboard later than the program gives the focus, and what is typed by then must not go astray: the caret
+// follows the program.
 void TextLine::TellCaret() {
-    if (hasFocus()) TellSelection(box_, text(), hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
+    if (HoldsFocus(box_)) TellSelection(box_, text(), hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
 }
 
 void TextLine::Agree(const QFont& font, double factor) {
@@ -30,7 +32,19 @@ void TextLine::Agree(const QFont& font, double factor) {
     font_ = font;
     factor_ = factor;
     if (const QString wanted = Shown(box_.State().text); text() != wanted) setText(wanted);
+    AgreeAboutCaret();
     if (hasFocus()) AgreeForEditing();
+}
+
+void TextLine::AgreeAboutCaret() {
+    const auto& holder = static_cast<const TextHolder&>(box_);
+    const int start = UnitAfter(text(), holder.SelStart());
+    const int length = UnitAfter(text(), holder.SelStart() + holder.SelLength()) - start;
+    if (selectionLength() == length && (length > 0 ? selectionStart() : cursorPosition()) == start) return;
+    if (length > 0)
+        setSelection(start, length);
+    else
+        setCursorPosition(start);
 }
 
 void TextLine::AgreeForEditing() {
@@ -39,11 +53,9 @@ void TextLine::AgreeForEditing() {
     setPalette(EditorPalette(box_));
     const int margin = std::max(0, BoxMargin(factor_) - kOwnMargin);
     setTextMargins(margin, 0, margin, 0);
-    if (const int caret = UnitAfter(text(), box_.State().caret); !hasSelectedText() && cursorPosition() != caret) setCursorPosition(caret);
 }
 
 void TextLine::focusInEvent(QFocusEvent* event) {
-    deselect();
     AgreeForEditing();
     QLineEdit::focusInEvent(event);
 }

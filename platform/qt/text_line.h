@@ -16,6 +16,7 @@ protected:
 
 private:
     void TellCaret();
+    void AgreeAboutCaret();  // and about what is selected
     void AgreeForEditing();  // what only matters while it holds the keyboard
 
     Control& box_;

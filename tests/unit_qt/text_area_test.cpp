@@ -1,6 +1,7 @@
 // Where the lines of a note end: between its words, unless one is so long that the window would stand still over it.
 #include <QApplication>
 #include <QClipboard>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 
 #include "platform/user.h"
@@ -26,7 +27,15 @@ protected:
         renderer_.Run([&note] { frmMain.Text4.SetText(note); });
         Note().grab();
     }
+    void ActivateStranger() {
+        stranger_.show();
+        stranger_.activateWindow();
+        QApplication::processEvents();
+    }
     bool EndsLinesAnywhere() { return Note().wordWrapMode() == QTextOption::WrapAnywhere; }
+
+private:
+    QWidget stranger_;
 };
 
 std::string Word(int letters) {
@@ -96,5 +105,26 @@ TEST_F(TextAreaTest, APastedWordIsSeenToo) {
     Note().paste();
     EXPECT_TRUE(EndsLinesAnywhere());
     EXPECT_EQ(frmMain.Text4.Text(), Word(1'000'000));
+}
+TEST_F(TextAreaTest, TheCaretFollowsTheProgramWhileTheKeyboardIsElsewhere) {
+    Set("one\r\ntwo");
+    ActivateStranger();
+    renderer_.Run([] { frmMain.Text4.SetSelStart(5); });
+    Note().insertPlainText("x");
+    EXPECT_EQ(frmMain.Text4.Text(), "one\r\nxtwo");
+    EXPECT_EQ(frmMain.Text4.SelStart(), 6);
+}
+
+TEST_F(TextAreaTest, SoItDoesInABoxOfOneLine) {
+    Do([] { ClickControl(frmMain.Text1[3]); });
+    auto& line = *qobject_cast<QLineEdit*>(Shown(frmMain.Text1[3]).Widget());
+    ActivateStranger();
+    ASSERT_FALSE(line.hasFocus());
+    renderer_.Run([] { frmMain.Text1[3].SetText("Alnus"); });
+    line.insert("c");
+    line.insert("f");
+    EXPECT_EQ(frmMain.Text1[3].Text(), "cfAlnus");
+    line.selectAll();
+    EXPECT_EQ(frmMain.Text1[3].SelLength(), 7);
 }
 }  // namespace
