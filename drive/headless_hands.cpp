@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kBackspace = 8;
 constexpr int kEnter = 13;
+constexpr int kEscape = 27;
 constexpr int kDelete = 46;
 
 Control* FocusNow() {
@@ -26,7 +27,7 @@ void TypeInto(Control& box, int code, const std::string& character) {
         DeleteForward(box);
     else if (code == kEnter)
         BreakLine(box);
-    else if (!character.empty())
+    else if (code != kEscape && !character.empty())
         InsertText(box, character);
 }
 
@@ -55,9 +56,12 @@ void HeadlessHands::KeyUp(int code) {
 }
 
 void HeadlessHands::Press(int code, const std::string& character) {
+    const Window* const window = ActiveWindow();
+    Control* const focus = FocusNow();
     KeyDown(code);
     Run([&] {
-        if (Control* const box = FocusNow()) TypeInto(*box, code, character);
+        if (window != ActiveWindow() || focus != FocusNow() || PressAnswer(code)) return;
+        if (focus) TypeInto(*focus, code, character);
     });
     KeyUp(code);
 }

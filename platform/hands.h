@@ -23,9 +23,9 @@ public:
     // A key in the active window; no character comes of it. `code`: virtual-key number. Pressed again without a release, it repeats.
     virtual void KeyDown(int code) = 0;
     virtual void KeyUp(int code) = 0;
-    // KeyDown, then what the key types, then KeyUp. `character` (UTF-8; empty: nothing) goes in at the caret of the box that has the
-    // focus by then. The codes 8 and 46 delete before and after the caret instead, and 13 breaks the line (CR LF) in a box of several
-    // lines; these three type no character.
+    // KeyDown, then what the key does and types, then KeyUp. `character` (UTF-8; empty: nothing) goes in at the caret of the box in focus,
+    // unless the KeyDown has moved the focus. The codes 8 and 46 delete before and after the caret instead, and 13 breaks the line (CR LF)
+    // in a box of several lines; elsewhere 13 and 27 click the buttons for Enter and Esc (PressAnswer). These four type no character.
     virtual void Press(int code, const std::string& character) = 0;
 
     // Boxes are text boxes and combo boxes. To focus one is to click it with the left button, which leaves the caret where it is. To set

@@ -7,6 +7,8 @@
 
 namespace {
 constexpr const char* kLineBreak = "\r\n";
+constexpr int kEnter = 13;
+constexpr int kEscape = 27;
 
 MenuItem* open_popup = nullptr;
 Control* pressed = nullptr;  // the control that the mouse went down on
@@ -47,6 +49,19 @@ void ClickMenuItem(MenuItem& item) {
 
 bool HasKeyFocus(const Control& control) {
     return control.window == ActiveWindow() && control.window->Focus() == &control && CanReach(control);
+}
+
+// A window that shows only its upper part has buttons below its edge.
+bool IsInSight(const Button& button) {
+    return CanReach(button) && button.Top() < button.window->Height();
+}
+
+// A window that hears the keys first has its buttons for the mouse.
+Button* EnterButton(const Window& window) {
+    Control* const focus = window.Focus();
+    if (focus && focus->kind() == Kind::Button) return window.key_preview ? nullptr : static_cast<Button*>(focus);
+    const bool breaks_line = focus && focus->kind() == Kind::TextBox && static_cast<const TextBox*>(focus)->multiline;
+    return breaks_line ? nullptr : window.confirm;
 }
 
 struct Edit {
@@ -95,6 +110,10 @@ bool TakesFocus(Kind kind) {
     }
 }
 
+bool TakesKeysAsInput(const Control& control) {
+    return control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_keys;
+}
+
 bool IsUsable(const Control& control) {
     if (control.kind() == Kind::MenuItem) return MenuIsUsable(static_cast<const MenuItem&>(control));
     for (const Control* inner = &control; inner; inner = inner->container)
@@ -140,6 +159,17 @@ void ReleaseKey(int code) {
     if (window->key_preview) window->KeyUp.Raise(code);
     if (window != ActiveWindow()) return;
     if (Control* focus = window->Focus(); focus && CanReach(*focus)) focus->KeyUp.Raise(code);
+}
+
+bool PressAnswer(int code) {
+    Window* const window = ActiveWindow();
+    if (!window || (code != kEnter && code != kEscape)) return false;
+    const Control* const focus = window->Focus();
+    if (focus && (TakesKeysAsInput(*focus) || !CanReach(*focus))) return false;
+    Button* const button = code == kEnter ? EnterButton(*window) : window->dismiss;
+    if (!button || !IsInSight(*button)) return false;
+    ClickControl(*button);
+    return true;
 }
 
 void PressMouse(Control& control, Mouse mouse) {

@@ -10,6 +10,7 @@
 bool CanReach(const Control& control);
 bool TakesFocus(Kind kind);             // at a click
 bool IsUsable(const Control& control);  // the same but for the state of its window
+bool TakesKeysAsInput(const Control& control);
 
 // Brings a window to the front, as a press in it does. A disabled one stays where it is.
 void BringToFront(Window& window);
@@ -24,6 +25,11 @@ void ClickOpenMenuItem(MenuItem& item);
 // In the active window: the window's own handler first, if it previews keys, then that of the control with the focus.
 void PressKey(int code);
 void ReleaseKey(int code);
+
+// Enter (13) or Esc (27) in the active window, once PressKey has left it unused: clicks the button that it stands for. Enter is for the
+// button in focus, else for Window::confirm; Esc is for Window::dismiss. A box that takes keys keeps both for itself, one of several lines
+// keeps Enter. False: no button was there to click.
+bool PressAnswer(int code);
 
 // A button goes down on a control, moves over it, comes up. Press moves the focus first, if the kind takes it.
 void PressMouse(Control& control, Mouse mouse);

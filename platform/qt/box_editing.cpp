@@ -33,10 +33,6 @@ bool HoldsFocus(const Control& box) {
     return box.window == ActiveWindow() && box.window->Focus() == &box && CanReach(box);
 }
 
-bool TakesKeysAsInput(const Control& control) {
-    return control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_keys;
-}
-
 // An input method would keep dead keys to itself.
 void PrepareEditor(QWidget& editor, const Control& box) {
     editor.setFocusPolicy(Qt::NoFocus);

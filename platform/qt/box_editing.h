@@ -11,8 +11,7 @@
 void TellText(Control& box, ModelView& view, const QString& shown, int caret);
 void TellSelection(Control& box, const QString& shown, int start, int length);  // in units of `shown`
 
-int BoxMargin(double factor);  // pixels left and right of the text
-bool TakesKeysAsInput(const Control& control);
+int BoxMargin(double factor);         // pixels left and right of the text
 bool HoldsFocus(const Control& box);  // of the active window
 void PrepareEditor(QWidget& editor, const Control& box);
 QPalette EditorPalette(const Control& box);

@@ -179,6 +179,62 @@ TEST_F(UserTest, AKeyThatBringsUpAnotherWindowEndsThere) {
     EXPECT_EQ(Take(), Log{});
 }
 
+class AnswerTest : public UserTest {
+protected:
+    AnswerTest() {
+        window_a.key_preview = false;
+        window_a.confirm = window_a.dismiss = &window_a.ok;
+        Note(window_a.ok.Click, "ok");
+        ClickControl(window_a.entry);
+    }
+    ~AnswerTest() override {
+        window_a.key_preview = true;
+        window_a.confirm = window_a.dismiss = nullptr;
+        window_a.entry.takes_keys = window_a.entry.multiline = false;
+    }
+};
+
+TEST_F(AnswerTest, EnterAndEscClickTheButtonsThatTheWindowNames) {
+    EXPECT_TRUE(PressAnswer(13));
+    EXPECT_TRUE(PressAnswer(27));
+    EXPECT_FALSE(PressAnswer(32));
+    EXPECT_EQ(Take(), (Log{"ok", "ok"}));
+    ClickControl(window_a.entry);  // the click has taken the focus
+    window_a.confirm = window_a.dismiss = nullptr;
+    EXPECT_FALSE(PressAnswer(13) || PressAnswer(27));
+}
+
+TEST_F(AnswerTest, ABoxOfSeveralLinesKeepsEnterAndOneThatTakesKeysBoth) {
+    window_a.entry.multiline = true;
+    EXPECT_FALSE(PressAnswer(13));
+    EXPECT_TRUE(PressAnswer(27));
+    Take();
+    ClickControl(window_a.entry);
+    window_a.entry.takes_keys = true;
+    EXPECT_FALSE(PressAnswer(13) || PressAnswer(27));
+    EXPECT_EQ(Take(), Log{});
+}
+
+TEST_F(AnswerTest, EnterIsForTheButtonInFocusUnlessTheWindowHearsKeysFirst) {
+    window_a.confirm = nullptr;
+    ClickControl(window_a.ok);
+    Take();
+    EXPECT_TRUE(PressAnswer(13));
+    EXPECT_EQ(Take(), Log{"ok"});
+    window_a.key_preview = true;
+    EXPECT_FALSE(PressAnswer(13));
+}
+
+TEST_F(AnswerTest, AButtonOutOfReachOrBelowTheEdgeIsNotClicked) {
+    window_a.ok.SetEnabled(false);
+    EXPECT_FALSE(PressAnswer(13));
+    window_a.ok.SetEnabled(true);
+    window_a.SetSize(6000, window_a.ok.Top());
+    EXPECT_FALSE(PressAnswer(13));
+    window_a.SetSize(6000, window_a.ok.Top() + 1);
+    EXPECT_TRUE(PressAnswer(13));
+}
+
 TEST_F(UserTest, WithoutAnActiveWindowKeysGoNowhere) {
     window_a.Hide();
     Note(window_a.KeyDown, "down");
