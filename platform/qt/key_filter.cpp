@@ -111,8 +111,7 @@ void KeyFilter::TakePress(QKeyEvent& key) {
         if (!used_as_input && (!window->key_preview || (focus && TakesText(*focus)))) WalkFocus(*window, key);
         return;
     }
-    const bool by_hand = key.spontaneous();  // a script presses buttons by name
-    if (by_hand && !used_as_input && PressAnswer(*window, key)) return;
+    if (!used_as_input && !IsRepeat(key) && PressAnswer(key)) return;
     if (focus) Finish(key, *focus);
 }
 

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "platform/controls.h"
-#include "platform/qt/held_keys.h"
 #include "platform/qt/renderer.h"
 #include "platform/user.h"
 
@@ -40,13 +39,10 @@ Control* Next(const std::vector<Control*>& controls, const Control* from, int st
     return controls[static_cast<std::size_t>((place + step + count) % count)];
 }
 
-// A window that shows only its upper part has buttons below its edge.
-bool IsInSight(const Button& button) {
-    return CanReach(button) && button.Top() < button.window->Height();
-}
-
-bool HasUseForEnter(const Control& control) {
-    return control.kind() == Kind::Button || (control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).multiline);
+// By what the key is: one that a script only holds down is neither.
+int AnswerCode(const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return 13;
+    return key.key() == Qt::Key_Escape ? 27 : 0;
 }
 
 bool SelectSibling(OptionButton& option, int step) {
@@ -70,10 +66,6 @@ void WalkFocus(Window& window, const QKeyEvent& key) {
 
 bool PressFocused(Control& focus, const QKeyEvent& key) {
     switch (key.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (focus.kind() != Kind::Button) return false;
-            break;
         case Qt::Key_Space:
             if (focus.kind() != Kind::Button && focus.kind() != Kind::CheckBox && focus.kind() != Kind::OptionButton) return false;
             break;
@@ -90,11 +82,8 @@ bool PressFocused(Control& focus, const QKeyEvent& key) {
     return true;
 }
 
-bool PressAnswer(Window& window, const QKeyEvent& key) {
-    const bool is_enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-    Button* const button = is_enter ? window.confirm : key.key() == Qt::Key_Escape ? window.dismiss : nullptr;
-    if (!button || !IsInSight(*button) || IsRepeat(key)) return false;
-    if (is_enter && window.Focus() && HasUseForEnter(*window.Focus())) return false;
-    TheRenderer().Run([button] { ClickControl(*button); });
-    return true;
+bool PressAnswer(const QKeyEvent& key) {
+    bool pressed = false;
+    if (const int code = AnswerCode(key); code != 0) TheRenderer().Run([&] { pressed = PressAnswer(code); });
+    return pressed;
 }

@@ -25,6 +25,7 @@
 namespace {
 constexpr int kBackspace = 8;
 constexpr int kEnter = 13;
+constexpr int kEscape = 27;
 constexpr int kDelete = 46;
 
 ControlWidget* WidgetOf(const Control& control) {
@@ -91,8 +92,8 @@ public:
     void KeyDown(int code) override { Key(QEvent::KeyPress, code, {}, KeyActs::No); }
     void KeyUp(int code) override { Key(QEvent::KeyRelease, code, {}, KeyActs::No); }
     void Press(int code, const std::string& character) override {
-        const bool edits = code == kBackspace || code == kDelete || code == kEnter;
-        Key(QEvent::KeyPress, code, edits ? QString() : ToQt(character), edits ? KeyActs::Yes : KeyActs::No);
+        const bool acts = code == kBackspace || code == kDelete || code == kEnter || code == kEscape;
+        Key(QEvent::KeyPress, code, acts ? QString() : ToQt(character), acts ? KeyActs::Yes : KeyActs::No);
         KeyUp(code);
     }
 
