@@ -33,6 +33,12 @@ void OpenMenusOnTheWay(const Control* menu) {
     menu->Click.Raise();
 }
 
+bool IsInOpenPopup(const MenuItem& item) {
+    const Control* menu = &item;
+    while (menu && menu != open_popup) menu = menu->container;
+    return menu != nullptr;
+}
+
 bool HasItems(const MenuItem& menu) {
     const auto& controls = menu.window->Controls();
     return std::any_of(controls.begin(), controls.end(), [&menu](const Control* control) { return control->container == &menu; });
@@ -40,6 +46,7 @@ bool HasItems(const MenuItem& menu) {
 
 void ClickMenuItem(MenuItem& item) {
     BringToFront(*item.window);
+    if (!IsInOpenPopup(item)) ClosePopup();
     OpenMenusOnTheWay(item.container);
     if (HasItems(item))
         OpenMenu(item);
@@ -135,13 +142,17 @@ void OpenPopup(MenuItem& menu) {
     services.popups->Open(menu);
 }
 
+void ClosePopup() {
+    open_popup = nullptr;
+}
+
 void OpenMenu(MenuItem& menu) {
     if (CanReach(menu)) menu.Click.Raise();
 }
 
 void ClickOpenMenuItem(MenuItem& item) {
     if (!CanReach(item)) return;  // opening its menu may have switched it off
-    open_popup = nullptr;
+    ClosePopup();
     item.Click.Raise();
 }
 

@@ -15,8 +15,9 @@ bool TakesKeysAsInput(const Control& control);
 // Brings a window to the front, as a press in it does. A disabled one stays where it is.
 void BringToFront(Window& window);
 
-// Opens a popup menu at the pointer; its items can be reached until one is clicked.
+// Opens a popup menu at the pointer; its items can be reached until one is clicked, or a menu of the bar, or another window comes up.
 void OpenPopup(MenuItem& menu);
+void ClosePopup();  // nothing if none is open
 
 // Where menus are seen to open: one opens, and an item of an open one is clicked.
 void OpenMenu(MenuItem& menu);

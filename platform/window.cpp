@@ -42,6 +42,7 @@ void BindWindowView(WindowView* view) {
 void ChangeActiveWindow() {
     Window* const next = Foremost();
     if (next == active) return;
+    ClosePopup();
     Window* const left = active;
     active = next;
     if (left) left->LeaveFocus();

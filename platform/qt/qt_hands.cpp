@@ -240,8 +240,7 @@ private:
         if (!widget || !CanReach(item)) return;
         renderer_.Run([&] { BringToFront(*item.window); });
         if (OpenMenusTo(widget->Menus(), item) && CanReach(item)) Choose(widget->Menus(), item);
-        const QMenu* const opened = widget->Menus().MenuOf(item);
-        if (!opened || !IsInPopup(item)) CloseMenus();
+        if (!IsInPopup(item)) CloseMenus();
         Rest();
     }
     void CloseMenus() {

@@ -89,6 +89,16 @@ TEST_F(UserTest, APopupIsReachedFromItsOpeningToItsFirstClick) {
     EXPECT_EQ(Take(), Log{"copy"});
 }
 
+TEST_F(UserTest, AnotherWindowOrAMenuOfTheBarClosesAPopup) {
+    OpenPopup(window_a.popup);
+    window_b.Show();
+    window_b.Hide();
+    EXPECT_FALSE(CanReach(window_a.copy));
+    OpenPopup(window_a.popup);
+    ClickControl(window_a.file);
+    EXPECT_FALSE(CanReach(window_a.copy));
+}
+
 TEST_F(UserTest, ADisabledItemOfAPopupStaysOutOfReach) {
     window_a.copy.SetEnabled(false);
     OpenPopup(window_a.popup);
