@@ -20,9 +20,9 @@ for_build=(
 )
 for_test=(
     libgtest-dev libbenchmark-dev
-    xvfb openbox xdotool x11-xkb-utils x11-xserver-utils python3  # the real window, with real keys on several layouts
-    dbus at-spi2-core python3-pyatspi                             # what a screen reader finds
-    libxtst-dev                                                   # keys for the benchmark of the window
+    xvfb openbox python3-xlib x11-xkb-utils x11-xserver-utils python3  # the real window, with real keys on several layouts
+    dbus at-spi2-core python3-pyatspi                                  # what a screen reader finds
+    libxtst-dev                                                        # keys for the benchmark of the window
     imagemagick xclip
     dpkg-dev file debootstrap lintian desktop-file-utils appstream  # packages made, looked over and installed in a clean root
 )

@@ -14,8 +14,10 @@ from clean_root import ENVIRONMENT, CleanRoot, run
 TOP = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(TOP / "tests/windows"))
 from count_test import STAMP, expected_sheet  # noqa: E402
-from desk import NAMED_KEY_CODES, PAD, SHIFT_1, SHIFT_2, UNDO, Desk, StartedProgram, wait_for  # noqa: E402
-from first_run_test import ENTER, NAMED_KEYS  # noqa: E402
+from desk import START, StartedProgram  # noqa: E402
+from keyboard import ENTER, NAMED_KEY_CODES, NAMED_KEYS, PAD, SHIFT_1, SHIFT_2, UNDO  # noqa: E402
+from spoken import wait_for  # noqa: E402
+from x11_desk import X11Desk  # noqa: E402
 
 BUILD = pathlib.Path(sys.argv[1]).resolve()
 APPLICATION = "org.marlbrook.Marlbrook"
@@ -33,7 +35,7 @@ class Packages(unittest.TestCase):
         run("cpack", "-B", cls.work, cwd=BUILD)
         cls.deb, = cls.work.glob("*.deb")
         cls.archive, = cls.work.glob("*.tar.gz")
-        cls.desk = Desk()
+        cls.desk = X11Desk()
         cls.addClassCleanup(cls.desk.close)
         cls.root = CleanRoot(BUILD / "clean_root", cls.work)
         cls.root.apt_get("install", cls.deb)
@@ -51,11 +53,10 @@ class Packages(unittest.TestCase):
         return started
 
     def make_keyboard_known(self, program):
-        self.desk.window("^Initialize$")
-        program.press(*NAMED_KEYS, delay=40)
-        program.press(ENTER)
-        self.desk.gone("^Initialize$")
-        self.desk.window(r"^Marlbrook 2\.7$")
+        self.desk.window("Initialize")
+        program.press(*NAMED_KEYS, ENTER)
+        self.desk.gone("Initialize")
+        self.desk.window(START)
 
     def files(self, folder):
         """The bytes of each file below the folder, by its path there."""
@@ -122,7 +123,7 @@ class Packages(unittest.TestCase):
 
         def start_again(after):
             program.start()
-            self.desk.window(r"^Marlbrook 2\.7$")
+            self.desk.window(START)
             program.stop()
             self.assert_same_files(self.files(own), hers, "after " + after)
 
@@ -159,7 +160,7 @@ class Packages(unittest.TestCase):
         self.assert_same_files(files, self.files_of_known_keyboard(), "after the first run")
         self.assertFalse((home / ".local/share/marlbrook").exists())
         program.begin("3")
-        program.press(*[PAD[6]] * 100, delay=20)
+        program.press(*[PAD[6]] * 100)
         back_ups = folder / "References/Back up files"
         wait_for(f"a back-up in {back_ups}", lambda: any(back_ups.iterdir()))
 

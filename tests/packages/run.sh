@@ -16,4 +16,4 @@ fi
 
 mkdir -p "$kept"
 rm -rf "$kept/unfinished"  # nothing is mounted below it out here: mounts live and die with the namespace of the test
-unshare --mount --propagation private python3 "$here/packages_test.py" "$build"
+unshare --mount --propagation private /usr/bin/python3 "$here/packages_test.py" "$build"

@@ -1,91 +1,29 @@
 """A screen of its own, the real program on it, and real keys and clicks: what the tests of the window stand on.
 
-Every process that is started here is ended here, by its own id.
+Nothing here waits for time. What a test waits for is a window, what the program says to a screen reader, or a file.
 """
 import os
 import pathlib
 import re
 import shutil
-import subprocess
 import tempfile
 import time
 
+import spoken
+from keyboard import ENTER, NAMED_KEY_CODES, SAVE, chord, down_and_up, typing
+from spoken import wait_for
+from x11_desk import X11Desk
+
 TOP = pathlib.Path(__file__).resolve().parents[2]
 BIN = pathlib.Path(os.environ.get("MARLBROOK_BIN", TOP / "build/release/bin"))
-PATIENCE = 20  # seconds for anything to appear
+START, MAIN = r"Marlbrook 2\.7", r"Marlbrook 2\.7(\.5|( - |\.5 - ).*)"
+END_OF_SHEET = re.compile(rb'"All total"[^\r\n]*\r\n\Z')
 
-# Physical keys by their X key codes, so that they are the same keys on every layout.
-PAD = [24, 25, 26, 38, 39, 40, 52, 53, 54,  # Q W E / A S D / Z X C: counter keys 1..9
-       27, 28, 29, 41, 42, 43, 55, 56, 57,  # R T Y / F G H / V B N
-       30, 31, 32, 44, 45, 46, 58, 59, 60,  # U I O / J K L / M , .
-       67, 68, 69, 10, 11, 12, 70, 71, 72,  # F1 F2 F3 / 1 2 3, F4 F5 F6 /
-       13, 14, 15, 73, 74, 75, 16, 17, 18]  # 4 5 6, F7 F8 F9 / 7 8 9
-SHIFT_1, SHIFT_2, UNDO, SAVE = 47, 33, 22, 21  # ; p BkSp =
-NAMED_KEY_CODES = [16, 17, 46, 8, 27, 13, 32, 112, 37, 38, 39, 40]
-
-
-def wait_for(what, condition):
-    """The first true value of condition(), or an AssertionError that names `what`."""
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        value = condition()
-        if value:
-            return value
-        time.sleep(0.05)
-    raise AssertionError(f"nothing came of waiting for {what}")
-
-
-class Desk:
-    """An X display with a window manager and a keyboard layout."""
-
-    def __init__(self, size="1366x768", layout="us", variant=""):
-        read, write = os.pipe()
-        self.processes = []
-        self.start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"], pass_fds=[write])
-        os.close(write)
-        with os.fdopen(read) as number:
-            self.env = dict(os.environ, DISPLAY=":" + number.readline().strip(), QT_QPA_PLATFORM="xcb")
-        self.start(["openbox"], env=self.env)
-        self.use_layout(layout, variant)
-        self.run("xset", "r", "rate", "200", "50")
-
-    def start(self, command, **options):
-        process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
-        self.processes.append(process)
-        return process
-
-    def run(self, *command):
-        return subprocess.run(command, env=self.env, capture_output=True, text=True, check=False).stdout
-
-    def use_layout(self, layout, variant=""):
-        self.run("setxkbmap", "-layout", layout, "-variant", variant)
-
-    def xdotool(self, *words):
-        return self.run("xdotool", *[str(word) for word in words])
-
-    def windows(self, title):
-        return self.xdotool("search", "--onlyvisible", "--name", title).split()
-
-    def window(self, title):
-        """The window whose whole title matches the pattern, in front and with the keyboard."""
-        found = wait_for(f"a window '{title}'", lambda: self.windows(title))[-1]
-        self.xdotool("windowactivate", "--sync", found)
-        return found
-
-    def gone(self, title):
-        wait_for(f"the end of the window '{title}'", lambda: not self.windows(title))
-
-    def picture(self, path):
-        subprocess.run(["import", "-window", "root", str(path)], env=self.env, check=False)
-
-    def close(self):
-        for process in reversed(self.processes):
-            process.terminate()
-            process.wait(timeout=10)
+Desk = X11Desk
 
 
 class StartedProgram:
-    """A program that runs on a desk, started by this command, and a user's hands on its keys and its mouse."""
+    """A program that runs on a desk, started by this command, and a user's hands on its keys."""
 
     def __init__(self, desk, command, **options):
         self.desk = desk
@@ -98,70 +36,70 @@ class StartedProgram:
 
     def stop(self):
         self.process.terminate()
-        self.process.wait(timeout=10)
+        self.process.wait(timeout=60)
 
     def restart(self):
         self.stop()
         self.start()
 
-    def point(self, window, size, x, y, menu_bar=False):
-        """The pixels of x, y in a window; size is its design in twips, as are x and y."""
-        shape = self.desk.xdotool("getwindowgeometry", "--shell", window)
-        width = int(re.search(r"WIDTH=(\d+)", shape).group(1))
-        height = int(re.search(r"HEIGHT=(\d+)", shape).group(1))
-        factor = min(width / size[0], height / size[1])
-        left, top = (width - size[0] * factor) / 2, (height - size[1] * factor) / (1 if menu_bar else 2)
-        return round(left + x * factor), round(top + y * factor)
+    def press(self, *codes):
+        """Each key pressed and released, one after the other."""
+        self.desk.send(down_and_up(*codes))
 
-    def click(self, window, size, x, y, menu_bar=False):
-        self.desk.xdotool("mousemove", "--window", window, *self.point(window, size, x, y, menu_bar), "click", 1)
-        time.sleep(0.1)
+    def chord(self, *codes):
+        self.desk.send(chord(*codes))
 
-    def click_main(self, x, y):
-        self.click(self.main, (11400, 7980), x, y, menu_bar=True)
+    def hold(self, *codes):
+        self.desk.send([(code, True) for code in codes])
+
+    def release(self, *codes):
+        self.desk.send([(code, False) for code in codes])
+
+    def hold_for(self, seconds, code):
+        """Where the length is the subject. A busy machine makes fewer repeats of it, so no test may need a number of them."""
+        self.hold(code)
+        time.sleep(seconds)
+        self.release(code)
+
+    def type(self, text):
+        """On the layout us."""
+        self.desk.send(typing(text))
 
     def begin(self, name):
         """From the start face to a first sample of this name; the main window then has the keyboard."""
-        start = self.desk.window(r"^Marlbrook 2\.7$")
-        self.click(start, (7200, 2560), 4700, 1420)  # Create new data file
-        time.sleep(0.3)
-        self.desk.xdotool("type", "--delay", 30, name)
-        self.desk.xdotool("key", "Return")  # OK
-        self.desk.gone(r"^Marlbrook 2\.7$")
-        self.main = self.desk.window(r"^Marlbrook 2\.7\.5$")
-        time.sleep(0.3)
-
-    def press(self, *codes, delay=12):
-        """Each key pressed and released, in order, through one process so that they come quickly."""
-        words = []
-        for code in codes:
-            words += ["keydown", code, "keyup", code, "sleep", delay / 1000]
-        self.desk.xdotool(*words)
-
-    def hold(self, *codes):
-        self.desk.xdotool(*[word for code in codes for word in ("keydown", code, "sleep", 0.02)])
-
-    def release(self, *codes):
-        self.desk.xdotool(*[word for code in codes for word in ("keyup", code, "sleep", 0.02)])
+        self.desk.window(START)
+        self.press(ENTER)  # Create new data file
+        self.type(name)
+        self.press(ENTER)  # OK
+        self.desk.gone(START)
+        self.desk.window(MAIN)
 
     def save_as(self, path, key=SAVE):
         """The save key, and the name into the dialog that it opens. Returns the saved bytes."""
         self.press(key)
-        self.desk.window("^Save as$")
-        self.desk.xdotool("type", "--delay", 20, str(path))
-        self.desk.xdotool("key", "Return")
-        wait_for(f"the file {path}", lambda: path.exists() and path.stat().st_size)
-        return path.read_bytes()
+        self.answer_file_dialog("Save as", path)
+        return self._saved(path, lambda: path.exists())
+
+    def answer_file_dialog(self, title, path):
+        self.desk.window(title)
+        self.type(str(path))
+        self.press(ENTER)
+        self.desk.gone(title)
+        self.desk.window(MAIN)
 
     def save_again(self, path, key=SAVE):
         before = path.stat().st_mtime_ns
         self.press(key)
-        wait_for(f"a newer {path}", lambda: path.stat().st_mtime_ns != before and path.stat().st_size)
-        return path.read_bytes()
+        return self._saved(path, lambda: path.stat().st_mtime_ns != before)
+
+    @staticmethod
+    def _saved(path, is_new):
+        return wait_for(f"a new {path}, whole", lambda: is_new() and END_OF_SHEET.search(path.read_bytes()) and path.read_bytes())
 
 
 class Program(StartedProgram):
-    """The program in a folder of its own, as after its first run, its sounds written to a file."""
+    """The program in a folder of its own, as after its first run, its sounds written to a file. Its controls are found by the names that a
+    screen reader says, in the window whose title matches a pattern."""
 
     def __init__(self, desk, first_run=False, environment=()):
         self.work = pathlib.Path(tempfile.mkdtemp(prefix="marlbrook-window-"))
@@ -172,8 +110,13 @@ class Program(StartedProgram):
             self._know_keyboard()
         self.sound = self.work / "sound.raw"
         own_places = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": str(self.sound), "HOME": str(self.work)}
-        self.env = {**desk.env, **own_places, **dict(environment)}
+        self.env = {**desk.env, **spoken.environment(), **own_places, **dict(environment)}
         super().__init__(desk, [str(self.folder / "marlbrook")], env=self.env, cwd=self.work)
+
+    def start(self):
+        self._tree = None
+        self._controls = {}
+        super().start()
 
     def _know_keyboard(self):
         settings = self.folder / "References/KeySetting.csv"
@@ -185,3 +128,72 @@ class Program(StartedProgram):
     def end(self):
         self.stop()
         shutil.rmtree(self.work, ignore_errors=True)
+
+    # ---- What it says to a screen reader ----
+
+    def spoken_window(self, title):
+        """A window on show whose whole title matches the pattern; waits for it."""
+        self._tree = self._tree or spoken.program(self.process.pid)
+        return wait_for(f"a spoken window '{title}'", lambda: next(
+            (node for node in self._tree.children if re.fullmatch(title, node.name) and "showing" in node.states), None))
+
+    def control(self, title, name, role=None):
+        """What bears this name in a window; waits for it."""
+        key = (title, name, role)
+        if key not in self._controls or not self._is_there(self._controls[key]):
+            self._controls[key] = wait_for(f"'{name}' in '{title}'", lambda: self._find(self.spoken_window(title), name, role))
+        return self._controls[key]
+
+    def is_shown(self, title, name):
+        return self._find(self.spoken_window(title), name, None) is not None
+
+    @staticmethod
+    def _is_there(node):
+        try:
+            return "showing" in node.states
+        except Exception:  # whatever the bus says of what has gone
+            return False
+
+    @staticmethod
+    def _find(window, name, role):
+        return next((node for child in window.children if "showing" in child.states
+                     for node in child.walk() if role in (None, node.role) and re.fullmatch(name, node.name)), None)
+
+    def text(self, title, name):
+        return self.control(title, name, "text").text
+
+    def total(self):
+        return int(self.text(MAIN, "All total:?"))
+
+    def wait_total(self, count):
+        wait_for(f"a total of {count}", lambda: self.total() == count)
+
+    def wait_focus(self, title, name):
+        wait_for(f"the focus on '{name}'", lambda: "focused" in self.control(title, name).states)
+
+    # ---- The mouse ----
+
+    def box(self, title, name, role=None):
+        """Left, top, width, height of a control on the screen, once it is all inside its window and the window is laid out."""
+        return wait_for(f"the place of '{name}' in '{title}'", lambda: self._box(title, self.control(title, name, role)))
+
+    def _box(self, title, node):
+        on_screen = next((self.desk.place(window) for window in self.desk.windows(title)), None)
+        window, inside = _extents(self.spoken_window(title)), _extents(node)
+        left, top = inside.x - window.x, inside.y - window.y
+        is_laid_out = on_screen and on_screen[2:] == (window.width, window.height)
+        if not is_laid_out or min(left, top) < 0 or left + inside.width > window.width or top + inside.height > window.height:
+            return None
+        return on_screen[0] + left, on_screen[1] + top, inside.width, inside.height
+
+    def click(self, title, name, role="push button", button=1):
+        """The middle of a control in the window in front, as soon as it can be used."""
+        self.desk.window(title)
+        wait_for(f"the use of '{name}'", lambda: "enabled" in self.control(title, name, role).states)
+        left, top, width, height = self.box(title, name, role)
+        self.desk.press_button(button, left + width // 2, top + height // 2)
+
+
+def _extents(node):
+    from pyatspi import DESKTOP_COORDS
+    return node.accessible.queryComponent().getExtents(DESKTOP_COORDS)

@@ -1,16 +1,14 @@
 """The diagram of a sheet under the mouse: a column is moved by the line of its sample, and what is copied is what is seen."""
 import re
 import subprocess
-import time
 import unittest
 
-from desk import PAD, Desk, Program, wait_for
+from desk import MAIN, START, Desk, Program
+from keyboard import ALT, DOWN, ENTER, PAD, TAB, key_of
+from spoken import wait_for
 
-SIZE = (9735, 7545)  # of the window, in twips
-PICTURE = (420, 2455, 7425, 4560)
-PICTURE_BESIDE_TREE = (420, 2455, 5425, 4560)
-TREE = (7675, 2455, 2000, 4560)
-NAMES_MIDDLE = (3000, 1400)
+DIAGRAM = "Diagram"  # the window, and the picture in it
+TREE = "Cluster tree"
 SAMPLES = "ABCDE"
 
 
@@ -26,6 +24,11 @@ def named_sheet(path):
     return "".join(row + "\r\n" for row in rows)
 
 
+def middle(box):
+    left, top, width, height = box
+    return left + width // 2, top + height // 2
+
+
 class DiagramTest(unittest.TestCase):
     def setUp(self):
         self.desk = Desk()
@@ -37,46 +40,47 @@ class DiagramTest(unittest.TestCase):
         self.open_diagram()
 
     def open_diagram(self):
-        start = self.desk.window(r"^Marlbrook 2\.7$")
-        self.program.click(start, (7200, 2560), 4700, 2000)  # Open data file or template
-        self.desk.window("^Open$")
-        self.desk.xdotool("type", "--delay", 20, str(self.sheet))
-        self.desk.xdotool("key", "Return")
-        self.main = self.desk.window(r"^Marlbrook 2\.7\.5 - \[named\]$")
-        time.sleep(0.3)
-        self.desk.xdotool("key", "alt+d")
-        time.sleep(0.3)
-        self.desk.xdotool("key", "Return")  # Bar
-        self.diagram = self.desk.window("^Diagram$")
-        time.sleep(0.5)
+        self.desk.window(START)
+        self.program.press(TAB, ENTER)  # Open data file or template
+        self.program.answer_file_dialog("Open", self.sheet)
+        self.choose(MAIN, "d", "Bar", [ENTER])
+        self.window = self.desk.window(DIAGRAM)
+        self.picture = self.program.box(DIAGRAM, DIAGRAM)
 
-    def place(self, x, y):
-        """The pixels of a place in the diagram's window that is told in twips."""
-        shape = self.desk.xdotool("getwindowgeometry", "--shell", self.diagram)
-        width, height = (int(re.search(rf"^{name}=(\d+)", shape, re.M).group(1)) for name in ("WIDTH", "HEIGHT"))
-        factor = width / SIZE[0]
-        return round(x * factor), round(height - (SIZE[1] - y) * factor)
+    def choose(self, title, letter, item, keys):
+        """From the menu of this letter, which has this item, by these keys."""
+        self.desk.window(title)
+        self.program.chord(ALT, key_of(letter))
+        wait_for(f"the menu with '{item}'", lambda: self.program.is_shown(title, item))
+        self.program.press(*keys)
+        wait_for(f"the end of the menu with '{item}'", lambda: not self.program.is_shown(title, item))
 
-    def move_to(self, x, y):
-        self.desk.xdotool("mousemove", "--window", self.diagram, x, y, "sleep", 0.03)
+    # ---- Columns ----
 
     def line_of(self, sample):
         """On the line of the selected sample, 1..5: samples stand at 10, 20 ... 50 on a scale from 9 to 51."""
-        return self.place(PICTURE[0] + PICTURE[2] / 2, PICTURE[1] + PICTURE[3] * (10 * sample - 9) / 42)
+        left, top, width, height = self.picture
+        return left + width // 2, round(top + height * (10 * sample - 9) / 42)
+
+    def outside(self):
+        return middle(self.program.box(DIAGRAM, "Taxa names"))
 
     def drag(self, button, *places):
         """Down at the first place, up at the last; a few steps on each way, as a hand makes them."""
         self.move_to(*places[0])
-        self.desk.xdotool("sleep", 0.2, "mousedown", button)
+        self.desk.button(button, True)
         for begin, end in zip(places, places[1:]):
             for step in range(1, 6):
                 self.move_to(*[round(b + (e - b) * step / 5) for b, e in zip(begin, end)])
-        self.desk.xdotool("mouseup", button)
-        time.sleep(0.3)
+        self.desk.button(button, False)
+
+    def move_to(self, x, y):
+        self.desk.move(x, y)
+        self.desk.settle(self.window)
 
     def names_after_saving(self):
-        self.desk.xdotool("windowactivate", "--sync", self.main)
-        time.sleep(0.2)
+        self.desk.settle(self.window)
+        self.desk.activate(self.desk.windows(r"Marlbrook 2\.7.* - \[named\]")[0])
         self.program.press(PAD[0])
         saved = self.program.save_again(self.sheet).decode()
         return "".join(re.findall(r'"([A-E])"', saved.split("\r\n")[1]))
@@ -86,54 +90,51 @@ class DiagramTest(unittest.TestCase):
         self.assertEqual(self.names_after_saving(), "AEBCD")
 
     def test_a_column_that_is_dragged_out_of_the_picture_stays(self):
-        self.drag(3, self.line_of(5), self.line_of(2), self.place(*NAMES_MIDDLE))
+        self.drag(3, self.line_of(5), self.line_of(2), self.outside())
         self.assertEqual(self.names_after_saving(), SAMPLES)
 
     def test_coming_back_into_the_picture_takes_nothing_up_again(self):
-        self.drag(3, self.line_of(5), self.place(*NAMES_MIDDLE), self.line_of(2))
+        self.drag(3, self.line_of(5), self.outside(), self.line_of(2))
         self.assertEqual(self.names_after_saving(), SAMPLES)
 
-    def seen(self, box, size):
-        """What the screen shows of a box, in twips, of the diagram's window. The toolkit may round its place either way."""
-        window = self.program.work / "window.png"
-        self.pixels("import", "-window", self.diagram, window)
-        left, top = self.place(box[0], box[1])
-        return [self.pixels("convert", window, "-crop", f"{size[0]}x{size[1]}+{x}+{y}", "+repage", "-depth", "8", "rgb:-")
-                for x in (left - 1, left, left + 1) for y in (top - 1, top, top + 1)]
+    # ---- Copies ----
 
     def pixels(self, *command, **options):
-        return subprocess.run([str(word) for word in command], env=self.desk.env, capture_output=True, check=True, **options).stdout
+        return subprocess.run([str(word) for word in command], capture_output=True, check=True, **options).stdout
+
+    def seen(self, box):
+        """What the screen shows there."""
+        left, top, width, height = box
+        return self.pixels("convert", "png:-", "-crop", f"{width}x{height}+{left}+{top}", "+repage", "-depth", "8", "rgb:-",
+                           input=self.desk.picture())
 
     def pasted(self):
-        """What another program gets from the clipboard: pixels, and width and height."""
-        png = wait_for("a picture on the clipboard",
-                       lambda: subprocess.run(["xclip", "-selection", "clipboard", "-target", "image/png", "-out"], env=self.desk.env,
-                                              capture_output=True, check=False).stdout)
+        """What another program gets from the clipboard: its size, and the pixels."""
+        png = self.desk.copied_picture()
+        if not png:
+            return None, b""
         size = self.pixels("identify", "-format", "%w %h", "png:-", input=png).split()
-        return self.pixels("convert", "png:-", "-depth", "8", "rgb:-", input=png), tuple(int(part) for part in size)
+        return [int(part) for part in size], self.pixels("convert", "png:-", "-depth", "8", "rgb:-", input=png)
 
-    def copy_by_popup(self, x, y):
-        self.move_to(x, y)
-        self.desk.xdotool("sleep", 0.2, "click", 3, "sleep", 0.3, "key", "c", "sleep", 0.3)
-
-    def expect_copied(self, box):
-        copied, size = self.pasted()
-        right, bottom = self.place(box[0] + box[2], box[1] + box[3])
-        left, top = self.place(box[0], box[1])
-        self.assertLessEqual(abs(size[0] - (right - left)) + abs(size[1] - (bottom - top)), 2)
-        self.assertIn(copied, self.seen(box, size), "the copy differs from the screen")
+    def expect_copied(self, name):
+        """From the menu of the right button, which takes the key that comes after its click. What is copied has the size of the picture
+        and its pixels."""
+        box = self.program.box(DIAGRAM, name)
+        self.desk.press_button(3, *middle(box))
+        self.program.press(key_of("c"))
+        wait_for(f"a copy of the size {box[2:]}", lambda: self.pasted()[0] == list(box[2:]))
+        wait_for("a copy that is what the screen shows", lambda: self.pasted()[1] == self.seen(box))
+        copied = self.pasted()[1]
         self.assertGreater(len(set(zip(copied[0::3], copied[1::3], copied[2::3]))), 2, "an empty picture proves nothing")
 
     def test_the_copy_of_the_diagram_is_the_diagram_pixel_for_pixel(self):
-        self.copy_by_popup(*self.place(6000, 3600))
-        self.expect_copied(PICTURE)
+        self.expect_copied(DIAGRAM)
 
     def test_the_copies_carry_the_guide_lines_and_the_tree_is_copied_too(self):
-        self.desk.xdotool("key", "alt+t", "sleep", 0.3, "key", "Down", "Return", "sleep", 0.3)  # Horizontal line
-        self.desk.xdotool("key", "alt+t", "sleep", 0.3, "key", "c", "sleep", 0.5)                # CONISS
-        self.copy_by_popup(*self.place(4000, 3600))
-        self.expect_copied(PICTURE_BESIDE_TREE)
-        self.copy_by_popup(*self.place(8500, 3600))
+        self.choose(DIAGRAM, "t", "CONISS", [DOWN, ENTER])       # Horizontal line
+        self.choose(DIAGRAM, "t", "CONISS", [key_of("c")])
+        self.program.control(DIAGRAM, TREE)
+        self.expect_copied(DIAGRAM)
         self.expect_copied(TREE)
 
 

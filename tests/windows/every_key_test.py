@@ -1,7 +1,8 @@
 """Each of the 45 keys in each of the three banks counts its own slot: alone, again and again, and with the undo key held."""
 import unittest
 
-from desk import PAD, SHIFT_1, SHIFT_2, UNDO, Desk, Program
+from desk import Desk, Program
+from keyboard import PAD, SHIFT_1, SHIFT_2, UNDO
 
 SHIFTS = [[], [SHIFT_2], [SHIFT_1, SHIFT_2]]
 SAMPLE_SIZES = [lambda slot: slot % 12 + 1, lambda slot: slot // 12 + 1]  # together they tell every slot from every other
@@ -15,8 +16,7 @@ class EveryKeyTest(unittest.TestCase):
     def press_all(self, program, times, also_held=()):
         for bank, shifts in enumerate(SHIFTS):
             program.hold(*shifts, *also_held)
-            for number, code in enumerate(PAD, 1):
-                program.press(*[code] * times(bank * 45 + number), delay=2)
+            program.press(*[code for number, code in enumerate(PAD, 1) for _ in range(times(bank * 45 + number))])
             program.release(*also_held, *reversed(shifts))
 
     def counts(self, saved):
@@ -33,8 +33,7 @@ class EveryKeyTest(unittest.TestCase):
             self.assertEqual(self.counts(program.save_as(path)), wanted)
             self.press_all(program, lambda slot: 1, also_held=[UNDO])
             self.assertEqual(self.counts(program.save_again(path)), [count - 1 for count in wanted])
-            program.process.terminate()
-            program.process.wait(timeout=10)
+            program.stop()
 
 
 if __name__ == "__main__":

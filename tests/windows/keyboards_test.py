@@ -1,41 +1,29 @@
 """Keyboards of other countries: each key of the pad is captured and counts its own slot; the quotation mark stays out of the file."""
 import csv
-import time
 import unittest
 
-from desk import PAD, Desk, Program
+from desk import MAIN, Program
+from keyboard import CTRL, DELETE, DOWN, ENTER, HOME, PAD, SHIFT, UP, chord, down_and_up
+from x11_desk import X11Desk
 
-KEY_SETTINGS = (8160, 6500)  # the design of the dialog, in twips
-LEFTS = [734, 1272, 1810, 2430, 2968, 3506, 4126, 4664, 5202]
-TOPS = [340, 725, 1200, 1585, 1970]
+KEY_SETTINGS = "Key settings"
 
 # Of the keys that are installed as functional ones only p meets a pad key, on the Dvorak board, where the key beside E types it.
 # Those that the dialog suggests beside them are in nobody's way.
 INSTALLED = {186, 80, 8, 187}
-UP, DOWN, DELETE, ENTER = 111, 116, 119, 36  # Shift-1, Shift-2, Undo, Save, by their X key codes
+FUNCTIONAL = {"Shift-1 key": UP, "Shift-2 key": DOWN, "Undo key": DELETE, "Save key": ENTER}
 FUNCTIONAL_CODES = ["38", "40", "38", "46", "13"]
 
-SHIFT = 50
 LETTER = 25  # the place of W
-AZERTY = r"^Are you an AZERTY keyboard user\?$"
-CAUTION = "^Caution!$"
+AZERTY = r"Are you an AZERTY keyboard user\?"
+CAUTION = "Caution!"
 ROUNDS = [lambda key: key % 7 + 1, lambda key: key // 7 + 1]  # presses of each key; together they tell every key from every other
-
-
-def definition_box(place):
-    in_band, size = (place - 1, 9) if place <= 27 else (place - 28, 6)
-    column, row = in_band // size * 3 + in_band % 3, in_band % size // 3 + (2 if place <= 27 else 0)
-    return 240 + LEFTS[column] + 260, 540 + TOPS[row] + 142
-
-
-def functional_box(number):
-    return 4680 + 530, 3680 + 620 + 380 * number + 150
 
 
 class KeyboardsTest(unittest.TestCase):
     def open_on(self, layout, variant):
         self.layout = (layout, variant)
-        self.desk = Desk(layout=layout, variant=variant)
+        self.desk = X11Desk(layout=layout, variant=variant)
         self.addCleanup(self.desk.close)
         self.program = Program(self.desk)
         self.addCleanup(self.program.end)
@@ -43,36 +31,36 @@ class KeyboardsTest(unittest.TestCase):
         self.pad = list(PAD)
 
     def open_dialog(self):
-        tools = self.program.point(self.program.main, (11400, 7980), 1300, -150, menu_bar=True)
-        self.desk.xdotool("mousemove", "--window", self.program.main, *tools, "click", 1, "sleep", 0.3, "key", "Down", "Down", "Return")
-        self.dialog = self.desk.window("^Key settings$")
+        self.program.click(MAIN, "Tools", role=None)
+        self.program.control(MAIN, "Key settings")
+        self.program.press(DOWN, DOWN, ENTER)
+        self.desk.window(KEY_SETTINGS)
 
-    def capture(self, keys):
-        """Clicks into the box at each of these places and presses the key once."""
-        words = []
-        for place, key in keys:
-            words += ["mousemove", "--window", self.dialog, *self.program.point(self.dialog, KEY_SETTINGS, *place)]
-            words += ["click", 1, "keydown", key, "keyup", key, "sleep", 0.02]
-        self.desk.xdotool(*words)
+    def capture(self, name, key):
+        """Clicks into the box and presses the key once."""
+        self.program.click(KEY_SETTINGS, name, role="text")
+        self.program.press(key)
 
     def answer(self, title):
-        self.desk.window(title)
-        time.sleep(0.4)  # in its first moment a message takes no key
-        self.desk.xdotool("key", "Return")
+        """By the mouse: in its first moment a message takes no key."""
+        self.program.click(title, "OK")
         self.desk.gone(title)
 
     def capture_pad(self):
         self.open_dialog()
-        self.capture([(functional_box(number), key) for number, key in enumerate([UP, DOWN, DELETE, ENTER])])
-        self.capture([(definition_box(place), key) for place, key in enumerate(self.pad, 1) if place != 33])
-        self.capture([(definition_box(33), self.pad[32])])
+        for name, key in FUNCTIONAL.items():
+            self.capture(name, key)
+        for place, key in enumerate(self.pad, 1):
+            if place != 33:
+                self.capture(f"Definition of key {place}", key)
+        self.capture("Definition of key 33", self.pad[32])
         if self.layout[0] == "fr":  # its 3 types the mark
             self.answer(AZERTY)
             self.pad[32] = 20  # the key beside the 0
-            self.capture([(definition_box(33), self.pad[32])])
-        self.program.click(self.dialog, KEY_SETTINGS, 6500, 6160)  # OK
-        self.desk.gone("^Key settings$")
-        self.desk.window(r"^Marlbrook 2\.7")
+            self.capture("Definition of key 33", self.pad[32])
+        self.program.click(KEY_SETTINGS, "OK")
+        self.desk.gone(KEY_SETTINGS)
+        self.desk.window(MAIN)
 
     def captured_codes(self):
         settings = self.program.folder / "References/KeySetting.csv"
@@ -85,14 +73,13 @@ class KeyboardsTest(unittest.TestCase):
         return [int(line.rsplit(b",", 1)[1]) for line in saved.split(b"\r\n")[2:137]]
 
     def press_pad(self, times):
-        self.program.press(*[code for key, code in enumerate(self.pad, 1) for _ in range(times(key))], delay=2)
+        self.program.press(*[code for key, code in enumerate(self.pad, 1) for _ in range(times(key))])
 
     def count_by_every_key(self):
         path = self.program.work / "keys.csv"
         self.press_pad(ROUNDS[0])
         self.desk.use_layout("us")  # for the name of the file
         first = self.counts(self.program.save_as(path, key=ENTER))
-        self.desk.gone("^Save as$")
         self.desk.use_layout(*self.layout)
         self.press_pad(ROUNDS[1])
         second = self.counts(self.program.save_again(path, key=ENTER))
@@ -103,13 +90,13 @@ class KeyboardsTest(unittest.TestCase):
 
     def refuse_the_mark(self, path, keys, title, letter):
         """In a name and in the note: a letter is taken, what the guarded key types after it is not."""
-        chord = [word for key in keys for word in ("keydown", key)] + [word for key in reversed(keys) for word in ("keyup", key)]
-        self.program.click_main(3690, 7720)  # Modify
-        for x, y in [(820, 2335), (1400, 6900)]:  # the name of slot 1, the note
-            self.program.click_main(x, y)
-            self.desk.xdotool("key", "ctrl+Home", "Home", "keydown", LETTER, "keyup", LETTER, *chord)
+        self.program.click(MAIN, "Modify")
+        for name in ["Name of taxon 1", "Note"]:
+            self.program.click(MAIN, name, role="text")
+            self.program.wait_focus(MAIN, name)
+            self.desk.send(chord(CTRL, HOME) + down_and_up(HOME, LETTER) + chord(*keys))
             self.answer(title)
-        self.program.click_main(4650, 7720)  # Resume
+        self.program.click(MAIN, "Resume")
         saved = self.program.save_again(path, key=ENTER)
         cells = next(csv.reader([saved.split(b"\r\n")[2].decode()]))
         self.assertEqual(cells, ["1", "0", "0", letter + "---", "3"])
