@@ -25,8 +25,9 @@ public:
     bool key_preview = false;   // the window sees a key before the control with the focus
     Button* confirm = nullptr;  // Enter presses it and Esc the other, wherever the focus is, unless the control there wants the key
     Button* dismiss = nullptr;
-    bool resizable = false;  // the user's size is the window's own; otherwise a larger window is the same one, enlarged
-    Event<> Loaded;          // raised once by Load
+    bool covers_screen = false;  // all of it, without a frame
+    bool resizable = false;      // the user's size is the window's own; otherwise a larger window is the same one, enlarged
+    Event<> Loaded;              // raised once by Load
     Event<> Unloading;
     Event<> Activated;    // it has become the active window
     Event<> FrameClosed;  // the user closes it by its frame; if nothing is joined, it is just unloaded

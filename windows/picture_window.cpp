@@ -12,6 +12,7 @@ constexpr int kHeight = 11520;
 
 PictureWindow::PictureWindow() : Window("frmPicture", "Marlbrook 2.5", kWidth, kHeight) {
     key_preview = true;
+    covers_screen = true;
     Add(imgFavorite, "imgFavorite", -1, nullptr, {0, 0, kWidth, kHeight});
     imgFavorite.SetBackColor(kBlack);
     imgFavorite.accessible_name = "My favorite";

@@ -23,6 +23,7 @@ double CommonFactor(const QScreen& screen) {
     QSize largest(1, 1);
     for (const Window* window : AllWindows()) {
         const QSize size(window->Width(), window->Height());
+        if (window->covers_screen) continue;
         if (window->key_preview) return LargestFactor(screen, size);
         if (!window->resizable && size.width() * size.height() > largest.width() * largest.height()) largest = size;
     }

@@ -20,7 +20,6 @@
 namespace {
 constexpr double kSmallest = 0.4;  // of the size that a window comes up with
 constexpr QSize kSmallestOfUser{240, 160};
-constexpr int kTwipsPerPixel = 15;
 constexpr int kTitleBar = 30;          // about, before the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
 }  // namespace
@@ -74,22 +73,17 @@ QSize WindowWidget::ClientSize(double factor) const {
     return Scaled({0, 0, window_.Width(), window_.Height()}, factor).size();
 }
 
-bool WindowWidget::CoversScreen() const {
-    const QSize whole = screen()->size() * kTwipsPerPixel;
-    return window_.Width() >= whole.width() && window_.Height() >= whole.height();
-}
-
 // The first size is the common one; after that the window keeps the factor that its user has given it, as far as the screen allows.
 void WindowWidget::ChooseSize() {
     const QScreen& here = *screen();
-    setWindowState(windowState().setFlag(Qt::WindowFullScreen, CoversScreen()));
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, window_.covers_screen));
     double factor = sized_ ? factor_ : CommonFactor(here);
     if (!sized_ || !window_.resizable) factor = FactorThatFits(here, {window_.Width(), window_.Height()}, factor);
     sized_ = false;  // the steps on the way to the new size are not its user's
     factor_ = factor;
     menus_->SetFont(PlainFont(factor));
     setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor * kSmallest));
-    QSize size = CoversScreen() ? here.size() : ClientSize(factor);
+    QSize size = window_.covers_screen ? here.size() : ClientSize(factor);
     if (!menus_->Bar().isHidden()) size.rheight() += menus_->Bar().heightForWidth(size.width());
     if (size != this->size()) {
         const QPoint middle = geometry().center();
@@ -143,7 +137,7 @@ void WindowWidget::ShowAbove(WindowWidget* below) {
 
 // A window that stands for itself stays where its user has left it.
 void WindowWidget::PlaceAbove(const WindowWidget* below) {
-    if (CoversScreen()) return move(screen()->geometry().topLeft());
+    if (window_.covers_screen) return move(screen()->geometry().topLeft());
     if (!below && std::exchange(placed_, true)) return;
     const QRect around = below && below->isVisible() ? below->frameGeometry() : screen()->availableGeometry();
     MoveAround(around.center() + QPoint(0, kTitleBar / 2));

@@ -49,7 +49,6 @@ private:
     void GiveUpWaiting();
     QRect Client() const;  // what is left below the menu bar
     QSize ClientSize(double factor) const;
-    bool CoversScreen() const;  // it is made for the whole of it, without a frame
     void ChooseSize();
     void Fit();  // the factor and all places, after a change of size
     void LayOut();
