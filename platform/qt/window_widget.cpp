@@ -96,15 +96,25 @@ void WindowWidget::ChooseSize() {
 
 void WindowWidget::Fit() {
     if (!sized_) return;
-    const QRect client = Client();
-    if (!window_.resizable)
-        factor_ = std::min(static_cast<double>(client.width()) / window_.Width(), static_cast<double>(client.height()) / window_.Height());
+    if (!window_.resizable) Enlarge();
     LayOut();
 }
 
-void WindowWidget::LayOut() {
-    const QRect client = Client();
+// Larger letters make the menu bar higher, which leaves less room for the rest.
+void WindowWidget::Enlarge() {
+    const QSize client = Client().size();
+    factor_ = FactorThatFills(client);
     menus_->SetFont(PlainFont(factor_));
+    if (Client().height() < client.height()) factor_ = FactorThatFills(Client().size());
+}
+
+double WindowWidget::FactorThatFills(QSize client) const {
+    return std::min(static_cast<double>(client.width()) / window_.Width(), static_cast<double>(client.height()) / window_.Height());
+}
+
+void WindowWidget::LayOut() {
+    menus_->SetFont(PlainFont(factor_));
+    const QRect client = Client();
     menus_->Bar().setGeometry(0, 0, width(), client.top());
     QRect ground(QPoint(), window_.resizable ? client.size() : ClientSize(factor_));
     ground.moveCenter(client.center());

@@ -50,7 +50,9 @@ private:
     QRect Client() const;  // what is left below the menu bar
     QSize ClientSize(double factor) const;
     void ChooseSize();
-    void Fit();  // the factor and all places, after a change of size
+    void Fit();      // the factor and all places, after a change of size
+    void Enlarge();  // what lies in it, to what fills it
+    double FactorThatFills(QSize client) const;
     void LayOut();
     void PlaceAbove(const WindowWidget* below);
     void MoveAround(QPoint middle);  // its inner middle goes there, as far as the screen allows
