@@ -83,14 +83,13 @@ void Renderer::AgreeAboutWindows() {
     for (Window* window : std::vector<Window*>(ShownWindows())) {  // a copy: a window that comes to the front moves in the list
         auto& widget = widgets_[window];
         if (!widget) widget = std::make_unique<WindowWidget>(*window);
-        widget->Agree();
-        if (!widget->isVisible()) ShowWindow(*window, *widget);
+        if (widget->isVisible())
+            widget->Agree();
+        else
+            ShowWindow(*window, *widget);
     }
-    for (const auto& [window, widget] : widgets_) {
-        if (window->Visible()) continue;
-        widget->Agree();
-        widget->hide();
-    }
+    for (const auto& [window, widget] : widgets_)
+        if (!window->Visible() && widget->isVisible()) widget->PutAway();
 }
 
 // A dialog belongs to the window that it disables, and stays above it.

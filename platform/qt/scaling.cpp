@@ -12,10 +12,13 @@ constexpr double kComfortable = 0.97;  // of the screen, by the window that is w
 constexpr int kFramePixels = 36;       // title bar and edges
 constexpr int kMenuBarTwips = 330;
 
-double LargestFactor(const QScreen& screen, QSize twips) {
-    const QSize room = screen.availableGeometry().size();
-    return std::min(room.width() * kComfortable / twips.width(),
-                    (room.height() * kComfortable - kFramePixels) / (twips.height() + kMenuBarTwips));
+double LargestFactor(QSizeF room, QSize twips) {
+    return std::min(room.width() / twips.width(), room.height() / (twips.height() + kMenuBarTwips));
+}
+
+double ComfortableFactor(const QScreen& screen, QSize twips) {
+    const QSizeF room = screen.availableGeometry().size();
+    return LargestFactor(room * kComfortable - QSizeF(0, kFramePixels), twips);
 }
 }  // namespace
 
@@ -24,14 +27,14 @@ double CommonFactor(const QScreen& screen) {
     for (const Window* window : AllWindows()) {
         const QSize size(window->Width(), window->Height());
         if (window->covers_screen) continue;
-        if (window->key_preview) return LargestFactor(screen, size);
+        if (window->key_preview) return ComfortableFactor(screen, size);
         if (!window->resizable && size.width() * size.height() > largest.width() * largest.height()) largest = size;
     }
-    return LargestFactor(screen, largest);
+    return ComfortableFactor(screen, largest);
 }
 
-double FactorThatFits(const QScreen& screen, QSize twips, double wanted) {
-    return std::min(wanted, LargestFactor(screen, twips));
+double FactorThatFits(QSize room, QSize twips, double wanted) {
+    return std::min(wanted, LargestFactor(room, twips));
 }
 
 QRect Scaled(const Box& box, double factor) {

@@ -11,7 +11,7 @@ class QScreen;
 // and menu bar included. All windows come up with it, so that letters are of one size everywhere.
 double CommonFactor(const QScreen& screen);
 
-// No larger than `wanted`, and such that a window of so many twips fits the screen.
-double FactorThatFits(const QScreen& screen, QSize twips, double wanted);
+// No larger than `wanted`, and such that a window of so many twips fits the room, in pixels, that its frame leaves on the screen.
+double FactorThatFits(QSize room, QSize twips, double wanted);
 
 QRect Scaled(const Box& box, double factor);  // two controls that touch in twips touch in pixels

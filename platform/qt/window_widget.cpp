@@ -24,7 +24,8 @@ constexpr int kTitleBar = 30;          // about, before the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
 }  // namespace
 
-WindowWidget::WindowWidget(Window& window) : window_(window), ground_(new QWidget(this)), veil_(new Veil(this, window)) {
+WindowWidget::WindowWidget(Window& window)
+    : window_(window), frame_(0, kTitleBar, 0, 0), ground_(new QWidget(this)), veil_(new Veil(this, window)) {
     menus_ = std::make_unique<MenuView>(window, *this);
     setContextMenuPolicy(Qt::PreventContextMenu);
     ground_->setMouseTracking(true);
@@ -73,25 +74,43 @@ QSize WindowWidget::ClientSize(double factor) const {
     return Scaled({0, 0, window_.Width(), window_.Height()}, factor).size();
 }
 
+// While it is hidden the desktop knows of no frame.
+void WindowWidget::MeasureFrame() {
+    const QRect inside = geometry(), whole = frameGeometry();
+    frame_ = {inside.left() - whole.left(), inside.top() - whole.top(), whole.right() - inside.right(), whole.bottom() - inside.bottom()};
+}
+
+QRect WindowWidget::Room() const {
+    return screen()->availableGeometry().marginsRemoved(frame_);
+}
+
+// Its size is what the program wants, and no screen has become too small for it while it was hidden.
+bool WindowWidget::IsAsUserLeftIt() const {
+    const bool fits = isVisible() || size().boundedTo(Room().size()) == size();
+    return window_.resizable && fits && Client().size() == ClientSize(factor_);
+}
+
 // The first size is the common one; after that the window keeps the factor that its user has given it, as far as the screen allows.
 void WindowWidget::ChooseSize() {
-    const QScreen& here = *screen();
-    setWindowState(windowState().setFlag(Qt::WindowFullScreen, window_.covers_screen));
-    double factor = sized_ ? factor_ : CommonFactor(here);
-    if (!sized_ || !window_.resizable) factor = FactorThatFits(here, {window_.Width(), window_.Height()}, factor);
+    if (isVisible()) MeasureFrame();
+    if (isMaximized()) return Fit();
+    if (IsAsUserLeftIt()) return;
+    const double wanted = sized_ && !window_.resizable ? factor_ : CommonFactor(*screen());
     sized_ = false;  // the steps on the way to the new size are not its user's
-    factor_ = factor;
-    menus_->SetFont(PlainFont(factor));
-    setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor * kSmallest));
-    QSize size = window_.covers_screen ? here.size() : ClientSize(factor);
+    factor_ = FactorThatFits(Room().size(), {window_.Width(), window_.Height()}, wanted);
+    menus_->SetFont(PlainFont(factor_));
+    setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor_ * kSmallest));
+    QSize size = window_.covers_screen ? screen()->size() : ClientSize(factor_);
     if (!menus_->Bar().isHidden()) size.rheight() += menus_->Bar().heightForWidth(size.width());
-    if (size != this->size()) {
-        const QPoint middle = geometry().center();
-        resize(size);
-        if (isVisible()) MoveAround(middle);
-    }
+    if (size != this->size()) Resize(size);
     sized_ = true;
     Fit();
+}
+
+void WindowWidget::Resize(QSize size) {
+    const QPoint middle = geometry().center();
+    resize(size);
+    if (isVisible()) MoveAround(middle);
 }
 
 void WindowWidget::Fit() {
@@ -139,27 +158,43 @@ void WindowWidget::TakeUserSize() {
 // ---- Front and focus ----
 
 void WindowWidget::ShowAbove(WindowWidget* below) {
+    setWindowState(windowState().setFlag(Qt::WindowMaximized, maximized_));
+    Agree();
     winId();  // the desktop is told what it belongs to before it comes up
     windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
     PlaceAbove(below);
+    shown_ = true;
     show();
 }
 
-// A window that stands for itself stays where its user has left it.
+// A window that stands for itself stays where its user has left it, as far as the screen allows.
 void WindowWidget::PlaceAbove(const WindowWidget* below) {
-    if (window_.covers_screen) return move(screen()->geometry().topLeft());
-    if (!below && std::exchange(placed_, true)) return;
+    if (isMaximized()) return;
+    if (window_.covers_screen) return CoverScreen();
+    if (!below && shown_) return MoveAround(geometry().center());
     const QRect around = below && below->isVisible() ? below->frameGeometry() : screen()->availableGeometry();
     MoveAround(around.center() + QPoint(0, kTitleBar / 2));
 }
 
+void WindowWidget::CoverScreen() {
+    setGeometry(screen()->geometry());
+    setWindowState(Qt::WindowFullScreen);
+}
+
 void WindowWidget::MoveAround(QPoint middle) {
-    const QRect room = screen()->availableGeometry().adjusted(0, kTitleBar, 0, 0);
+    const QRect room = Room();
     QRect place(QPoint(), size());
     place.moveCenter(middle);
-    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
-    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
+    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width() + 1)));
+    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height() + 1)));
     setGeometry(place);
+}
+
+// The desktop forgets these of a hidden window.
+void WindowWidget::PutAway() {
+    MeasureFrame();
+    maximized_ = isMaximized();
+    hide();
 }
 
 void WindowWidget::BringToFront() {

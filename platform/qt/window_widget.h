@@ -31,6 +31,7 @@ public:
     void AgreeAboutFocus();
 
     void ShowAbove(WindowWidget* below);  // nullptr: it stands for itself
+    void PutAway();
     void BringToFront();
     bool WaitsForFront() const { return waits_.isActive(); }  // it has been asked for and the desktop has not answered
     bool StopsWaiting();                                      // True: it did wait
@@ -49,20 +50,27 @@ private:
     void GiveUpWaiting();
     QRect Client() const;  // what is left below the menu bar
     QSize ClientSize(double factor) const;
+    void MeasureFrame();
+    QRect Room() const;  // of the screen, what its frame leaves
+    bool IsAsUserLeftIt() const;
     void ChooseSize();
+    void Resize(QSize size);
     void Fit();      // the factor and all places, after a change of size
     void Enlarge();  // what lies in it, to what fills it
     double FactorThatFills(QSize client) const;
     void LayOut();
     void PlaceAbove(const WindowWidget* below);
+    void CoverScreen();
     void MoveAround(QPoint middle);  // its inner middle goes there, as far as the screen allows
 
     Window& window_;
     double factor_ = 0;
     bool title_changed_ = true;
     bool size_changed_ = true;
-    bool sized_ = false;   // it has a size of its own
-    bool placed_ = false;  // it has been on the screen
+    bool sized_ = false;      // it has a size of its own
+    bool shown_ = false;      // it has been on the screen
+    bool maximized_ = false;  // when it was put away
+    QMargins frame_;          // what the desktop puts around it; before it has done so, about that
     QWidget* ground_;
     Veil* veil_;  // over a window that takes no input
     std::unique_ptr<MenuView> menus_;

@@ -4,23 +4,41 @@
 #include <QMenuBar>
 #include <QScreen>
 
+#include "diagram/open_diagram.h"
 #include "platform/qt/menu_view.h"
+#include "platform/qt/scaling.h"
+#include "platform/user.h"
+#include "session/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
+#include "windows/diagram_window.h"
 #include "windows/main_window.h"
+#include "windows/next_window.h"
 #include "windows/picture_window.h"
 
 namespace {
 class WindowWidgetTest : public OnScreenTest {
 protected:
-    explicit WindowWidgetTest(double density = 1) : OnScreenTest(density) {}
+    explicit WindowWidgetTest(double density = 1) : OnScreenTest(density) { frmDiagram.DiagramFormHeight = 0; }  // no size of the last test
 
     WindowWidget& Widget(const Window& window) const { return *renderer_.WidgetOf(window); }
+    static QRect Room(const QWidget& widget) { return widget.screen()->availableGeometry(); }
 
     // As its user does; what the window makes of it has then been done.
     void Place(WindowWidget& widget, const QRect& place) {
         widget.setGeometry(place);
         Do([] {});
     }
+    void OpenDiagram() {
+        Do([] { CloseWindow(frmNext); });
+        SampleCount = 2;
+        Do(LaunchDiagram);
+    }
+    void OpenDiagramAgain() {
+        Do([] { CloseWindow(frmDiagram); });
+        ASSERT_FALSE(Widget(frmDiagram).isVisible());
+        OpenDiagram();
+    }
+    static QSize Pixels(const Window& window, double factor) { return Scaled({0, 0, window.Width(), window.Height()}, factor).size(); }
 };
 
 TEST_F(WindowWidgetTest, TheMenuBarIsAsHighAsItsLettersWhateverTheSizeOfTheWindow) {
@@ -34,6 +52,63 @@ TEST_F(WindowWidgetTest, TheMenuBarIsAsHighAsItsLettersWhateverTheSizeOfTheWindo
     }
 }
 
+TEST_F(WindowWidgetTest, TheDiagramComesUpAsItsUserHasLeftIt) {
+    OpenDiagram();
+    Place(Widget(frmDiagram), {31, 47, 743, 511});
+    const int width = frmDiagram.Width();
+    for (int time = 1; time <= 4; ++time) {
+        OpenDiagramAgain();
+        EXPECT_EQ(Widget(frmDiagram).geometry(), QRect(31, 47, 743, 511)) << time;
+        EXPECT_EQ(frmDiagram.Width(), width) << time;
+    }
+}
+
+TEST_F(WindowWidgetTest, ADiagramThatFilledTheScreenFillsItAgain) {
+    OpenDiagram();
+    WindowWidget& diagram = Widget(frmDiagram);
+    diagram.showMaximized();
+    for (int time = 0; time < 1000 && frmDiagram.Width() == kDiagramWidth; ++time) Do([] {});
+    ASSERT_GT(frmDiagram.Width(), kDiagramWidth);
+    const QSize twips(frmDiagram.Width(), frmDiagram.Height());
+    for (int time = 1; time <= 3; ++time) {
+        OpenDiagramAgain();
+        EXPECT_TRUE(diagram.isMaximized()) << time;
+        EXPECT_EQ(QSize(frmDiagram.Width(), frmDiagram.Height()), twips) << time;
+        EXPECT_EQ(Pixels(frmDiagram, diagram.Factor()), diagram.Ground()->size()) << time;
+        EXPECT_TRUE(Room(diagram).contains(diagram.geometry())) << time;
+    }
+}
+
+TEST_F(WindowWidgetTest, WhatHasBeenLeftHalfOutsideComesUpInside) {
+    OpenDiagram();
+    Place(Widget(frmDiagram), {600, 700, 500, 400});
+    OpenDiagramAgain();
+    EXPECT_EQ(Widget(frmDiagram).size(), QSize(500, 400));
+    EXPECT_TRUE(Room(Widget(frmDiagram)).contains(Widget(frmDiagram).frameGeometry()));
+}
+
+TEST_F(WindowWidgetTest, ADiagramTooLargeForTheScreenIsShownSmallerAndKeepsItsSize) {
+    OpenDiagram();
+    const double usual = Widget(frmDiagram).Factor();
+    Do([] { ResizeWindow(frmDiagram, 20000, 9000); });
+    EXPECT_EQ(frmDiagram.Width(), 20000);
+    EXPECT_EQ(frmDiagram.Height(), 9000);
+    EXPECT_TRUE(Room(Widget(frmDiagram)).contains(Widget(frmDiagram).frameGeometry()));
+    EXPECT_EQ(Pixels(frmDiagram, Widget(frmDiagram).Factor()), Widget(frmDiagram).Ground()->size());
+    Do([] { ResizeWindow(frmDiagram, kDiagramWidth, kDiagramHeight); });
+    EXPECT_EQ(Widget(frmDiagram).Factor(), usual);
+}
+
+TEST_F(WindowWidgetTest, TheStartFaceGrowsAroundItsMiddleAndStaysOnTheScreen) {
+    WindowWidget& next = Widget(frmNext);
+    const QPoint middle = next.geometry().center();
+    Do([] { ClickControl(frmNext.Command4); });
+    EXPECT_LE((next.geometry().center() - middle).manhattanLength(), 1);
+    next.move(100, 790 - next.height());
+    Do([] { frmNext.SetSize(kNextWidth, 9000); });
+    EXPECT_TRUE(Room(next).contains(next.frameGeometry()));
+}
+
 // The screen has fewer of the toolkit's pixels than the main window has by design.
 class DenseScreenTest : public WindowWidgetTest {
 protected:
@@ -43,13 +118,16 @@ protected:
 TEST_F(DenseScreenTest, TheMainWindowKeepsItsFrameOnAScreenThatIsTooSmallForItsScale) {
     const WindowWidget& main = Widget(frmMain);
     EXPECT_FALSE(main.isFullScreen());
-    EXPECT_GT(main.screen()->availableGeometry().height(), main.height()) << "room for the frame";
-    EXPECT_GT(main.screen()->availableGeometry().width(), main.width());
+    EXPECT_GT(Room(main).height(), main.height()) << "room for the frame";
+    EXPECT_GT(Room(main).width(), main.width());
 }
 
-TEST_F(DenseScreenTest, TheRestPictureCoversTheScreen) {
-    Do([] { frmPicture.Show(); });
-    EXPECT_TRUE(Widget(frmPicture).isFullScreen());
-    EXPECT_EQ(Widget(frmPicture).size(), Widget(frmPicture).screen()->size());
+TEST_F(DenseScreenTest, TheRestPictureCoversTheScreenEachTime) {
+    for (int time = 1; time <= 2; ++time) {
+        Do([] { frmPicture.Show(); });
+        EXPECT_TRUE(Widget(frmPicture).isFullScreen()) << time;
+        EXPECT_EQ(Widget(frmPicture).geometry(), Widget(frmPicture).screen()->geometry()) << time;
+        Do([] { frmPicture.Hide(); });
+    }
 }
 }  // namespace
