@@ -74,9 +74,10 @@ QSize WindowWidget::ClientSize(double factor) const {
     return Scaled({0, 0, window_.Width(), window_.Height()}, factor).size();
 }
 
-// While it is hidden the desktop knows of no frame.
+// While it is hidden the desktop knows of no frame, and for a moment after that the toolkit takes it for smaller than what is in it.
 void WindowWidget::MeasureFrame() {
     const QRect inside = geometry(), whole = frameGeometry();
+    if (!whole.contains(inside)) return;
     frame_ = {inside.left() - whole.left(), inside.top() - whole.top(), whole.right() - inside.right(), whole.bottom() - inside.bottom()};
 }
 
@@ -158,10 +159,11 @@ void WindowWidget::TakeUserSize() {
 // ---- Front and focus ----
 
 void WindowWidget::ShowAbove(WindowWidget* below) {
-    setWindowState(windowState().setFlag(Qt::WindowMaximized, maximized_));
-    Agree();
     winId();  // the desktop is told what it belongs to before it comes up
     windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
+    if (below) setScreen(below->screen());
+    setWindowState(windowState().setFlag(Qt::WindowMaximized, maximized_));
+    Agree();
     PlaceAbove(below);
     shown_ = true;
     show();
@@ -172,8 +174,7 @@ void WindowWidget::PlaceAbove(const WindowWidget* below) {
     if (isMaximized()) return;
     if (window_.covers_screen) return CoverScreen();
     if (!below && shown_) return MoveAround(geometry().center());
-    const QRect around = below && below->isVisible() ? below->frameGeometry() : screen()->availableGeometry();
-    MoveAround(around.center() + QPoint(0, kTitleBar / 2));
+    MoveAround((below && below->isVisible() ? below->geometry() : Room()).center());
 }
 
 void WindowWidget::CoverScreen() {
