@@ -22,6 +22,10 @@ constexpr double kSmallest = 0.4;  // of the size that a window comes up with
 constexpr QSize kSmallestOfUser{240, 160};
 constexpr int kTitleBar = 30;          // about, before the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
+
+bool WindowsCanMove() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
 }  // namespace
 
 WindowWidget::WindowWidget(Window& window)
@@ -108,10 +112,15 @@ void WindowWidget::ChooseSize() {
     Fit();
 }
 
+// A window that grows where it is could grow off the screen. If none can move itself, the desktop places it anew.
 void WindowWidget::Resize(QSize size) {
+    if (!isVisible()) return resize(size);
     const QPoint middle = geometry().center();
+    const bool comes_up_anew = !window_.resizable && !WindowsCanMove();
+    if (comes_up_anew) hide();
     resize(size);
-    if (isVisible()) MoveAround(middle);
+    MoveAround(middle);
+    if (comes_up_anew) show();
 }
 
 void WindowWidget::Fit() {
