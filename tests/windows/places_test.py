@@ -19,6 +19,8 @@ class Places(unittest.TestCase):
     def setUp(self):
         self.desk = Desk(f"{SCREEN[0]}x{SCREEN[1]}")
         self.addCleanup(self.desk.close)
+        # What is mapped while it starts up is not seen.
+        wait_for("the window manager", lambda: "WINDOW" in self.desk.run("xprop", "-root", "_NET_CLIENT_LIST"))
 
     def start(self, **environment):
         self.program = Program(self.desk, environment=environment)
