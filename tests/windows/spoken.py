@@ -11,7 +11,9 @@ words for roles and states are those of AT-SPI ("push button", "focused").
 """
 import atexit
 import os
+import shutil
 import subprocess
+import tempfile
 import time
 
 PATIENCE = 120  # seconds: a busy machine takes its time
@@ -24,6 +26,8 @@ def environment():
     global _bus
     if not _bus:
         own = {name: value for name, value in os.environ.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY", "AT_SPI_BUS_ADDRESS")}
+        own["XDG_RUNTIME_DIR"] = tempfile.mkdtemp(prefix="marlbrook-bus-")  # its socket lies there; else in one place for all tests
+        atexit.register(shutil.rmtree, own["XDG_RUNTIME_DIR"], ignore_errors=True)
         _bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE,
                                 stderr=subprocess.DEVNULL, text=True, env=own)
         atexit.register(_end)
@@ -44,6 +48,13 @@ def _pyatspi():
     return pyatspi
 
 
+def _take_events():
+    """What has come over the bus: lists of programs and listeners follow it."""
+    from gi.repository import GLib
+    while GLib.MainContext.default().iteration(False):
+        pass
+
+
 def _has_gone(error):
     """What asking something that has gone meanwhile raises."""
     from gi.repository import GLib
@@ -54,6 +65,7 @@ def wait_for(what, condition):
     """The first true value of condition(), or an AssertionError that names `what`. Something that goes while it is asked is no answer."""
     end = time.monotonic() + PATIENCE
     while time.monotonic() < end:
+        _take_events()
         try:
             value = condition()
         except Exception as error:
@@ -73,12 +85,16 @@ def program(process_id):
 
 def _program(process_id):
     desktop = _pyatspi().Registry.getDesktop(0)
-    desktop.clear_cache()
+    desktop.set_cache_mask(0)
     for place in range(desktop.childCount):
-        application = desktop.getChildAtIndex(place)
-        if application and application.get_process_id() == process_id:
-            application.set_cache_mask(0)
-            return Node(application)
+        try:
+            application = desktop.getChildAtIndex(place)
+            if application and application.get_process_id() == process_id:
+                application.set_cache_mask(0)
+                return Node(application)
+        except Exception as error:  # a program that has ended stays in the list for a while
+            if not _has_gone(error):
+                raise
     return None
 
 
@@ -189,10 +205,4 @@ class Told:
 
     def wait(self, what, condition):
         """Waits until condition(type, node) is true of an event that has come."""
-        from gi.repository import GLib
-
-        def came():
-            while GLib.MainContext.default().iteration(False):
-                pass
-            return any(condition(*event) for event in self.events)
-        wait_for(f"word of {what}", came)
+        wait_for(f"word of {what}", lambda: any(condition(*event) for event in self.events))
