@@ -65,14 +65,18 @@ class StartedProgram:
         """On the layout us."""
         self.desk.send(typing(text))
 
+    def window(self, title):
+        """A window whose whole title matches the pattern; waits until it gets the keys."""
+        return self.desk.window(title)
+
     def begin(self, name):
         """From the start face to a first sample of this name; the main window then has the keyboard."""
-        self.desk.window(START)
+        self.window(START)
         self.press(ENTER)  # Create new data file
         self.type(name)
         self.press(ENTER)  # OK
         self.desk.gone(START)
-        self.desk.window(MAIN)
+        self.window(MAIN)
 
     def save_as(self, path, key=SAVE):
         """The save key, and the name into the dialog that it opens. Returns the saved bytes."""
@@ -81,11 +85,14 @@ class StartedProgram:
         return self._saved(path, lambda: path.exists())
 
     def answer_file_dialog(self, title, path):
-        self.desk.window(title)
-        self.type(str(path))
+        self.window(title)
+        self.enter_file_name(title, path)
         self.press(ENTER)
         self.desk.gone(title)
-        self.desk.window(MAIN)
+        self.window(MAIN)
+
+    def enter_file_name(self, _title, path):
+        self.type(str(path))
 
     def save_again(self, path, key=SAVE):
         before = path.stat().st_mtime_ns
@@ -136,6 +143,21 @@ class Program(StartedProgram):
         self._tree = self._tree or spoken.program(self.process.pid)
         return wait_for(f"a spoken window '{title}'", lambda: next(
             (node for node in self._tree.children if re.fullmatch(title, node.name) and "showing" in node.states), None))
+
+    def window(self, title):
+        """The program says itself that it has taken in which window is in front."""
+        found = super().window(title)
+        wait_for(f"'{title}' to be the active window", lambda: "active" in self.spoken_window(title).states)
+        return found
+
+    def activate(self, title):
+        """Brings a window to the front, as by a list of windows."""
+        self.desk.activate(self.desk.windows(title)[0])
+        self.window(title)
+
+    def enter_file_name(self, title, path):
+        """As a screen reader's user does: no list of names comes up over the box and takes keys while it comes."""
+        self.control(title, "File name:", "text").type(str(path))
 
     def control(self, title, name, role=None):
         """What bears this name in a window; waits for it."""
@@ -188,7 +210,7 @@ class Program(StartedProgram):
 
     def click(self, title, name, role="push button", button=1):
         """The middle of a control in the window in front, as soon as it can be used."""
-        self.desk.window(title)
+        self.window(title)
         wait_for(f"the use of '{name}'", lambda: "enabled" in self.control(title, name, role).states)
         left, top, width, height = self.box(title, name, role)
         self.desk.press_button(button, left + width // 2, top + height // 2)

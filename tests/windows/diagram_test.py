@@ -40,16 +40,16 @@ class DiagramTest(unittest.TestCase):
         self.open_diagram()
 
     def open_diagram(self):
-        self.desk.window(START)
+        self.program.window(START)
         self.program.press(TAB, ENTER)  # Open data file or template
         self.program.answer_file_dialog("Open", self.sheet)
         self.choose(MAIN, "d", "Bar", [ENTER])
-        self.window = self.desk.window(DIAGRAM)
+        self.window = self.program.window(DIAGRAM)
         self.picture = self.program.box(DIAGRAM, DIAGRAM)
 
     def choose(self, title, letter, item, keys):
         """From the menu of this letter, which has this item, by these keys."""
-        self.desk.window(title)
+        self.program.window(title)
         self.program.chord(ALT, key_of(letter))
         wait_for(f"the menu with '{item}'", lambda: self.program.is_shown(title, item))
         self.program.press(*keys)
@@ -66,7 +66,8 @@ class DiagramTest(unittest.TestCase):
         return middle(self.program.box(DIAGRAM, "Taxa names"))
 
     def drag(self, button, *places):
-        """Down at the first place, up at the last; a few steps on each way, as a hand makes them."""
+        """Down at the first place, up at the last; a few steps on each way, as a hand makes them, and from beside to the first."""
+        self.move_to(places[0][0] + 1, places[0][1])
         self.move_to(*places[0])
         self.desk.button(button, True)
         for begin, end in zip(places, places[1:]):
@@ -80,7 +81,7 @@ class DiagramTest(unittest.TestCase):
 
     def names_after_saving(self):
         self.desk.settle(self.window)
-        self.desk.activate(self.desk.windows(r"Marlbrook 2\.7.* - \[named\]")[0])
+        self.program.activate(MAIN)
         self.program.press(PAD[0])
         saved = self.program.save_again(self.sheet).decode()
         return "".join(re.findall(r'"([A-E])"', saved.split("\r\n")[1]))

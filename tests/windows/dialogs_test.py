@@ -14,7 +14,7 @@ class DialogsTest(unittest.TestCase):
         self.program.begin("12.5")  # by Enter
         self.program.press(PAD[0])
         self.program.click(MAIN, "Next sample")
-        self.desk.window(START)
+        self.program.window(START)
         self.program.type("15")
 
     def saved_rows(self):
@@ -22,7 +22,7 @@ class DialogsTest(unittest.TestCase):
 
     def to_main_window(self):
         self.desk.gone(START)
-        self.desk.window(MAIN)
+        self.program.window(MAIN)
         self.program.press(PAD[0])
 
     def test_escape_takes_nothing(self):

@@ -16,7 +16,7 @@ class FirstRunTest(unittest.TestCase):
         self.addCleanup(self.program.end)
         self.settings = self.program.folder / "References/KeySetting.csv"
         self.as_installed = self.settings.read_bytes()
-        self.desk.window("Initialize")
+        self.program.window("Initialize")
 
     def named_codes(self):
         rows = list(csv.reader(self.settings.read_text(encoding="ascii").splitlines()))
@@ -48,7 +48,7 @@ class FirstRunTest(unittest.TestCase):
         program.press(*NAMED_KEYS)
         program.click("Initialize", "OK")
         self.desk.gone("Initialize")
-        self.desk.window(START)
+        self.program.window(START)
         self.assertEqual(self.named_codes(), [str(code) for code in NAMED_KEY_CODES])
         program.restart()
         program.begin("1")

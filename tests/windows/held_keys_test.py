@@ -62,17 +62,17 @@ class HeldKeysTest(unittest.TestCase):
         settings = program.folder / "References/KeySetting.csv"
         settings.write_text(settings.read_text().replace('"=",187,', '"[Enter]",13,'))  # it saves
         program.restart()
-        self.desk.window(START)
+        self.program.window(START)
         program.press(ENTER)
         program.type("12.5")
         program.hold_for(LONG, ENTER)
         self.desk.gone(START)
-        self.desk.window(MAIN)
+        self.program.window(MAIN)
         program.press(PAD[0])
         program.wait_total(1)
         self.assertEqual(self.desk.windows("Save as"), [], "the save key was heard")
         program.press(ENTER)
-        self.desk.window("Save as")
+        self.program.window("Save as")
 
 
 if __name__ == "__main__":

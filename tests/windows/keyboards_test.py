@@ -22,7 +22,7 @@ ROUNDS = [lambda key: key % 7 + 1, lambda key: key // 7 + 1]  # presses of each 
 
 class KeyboardsTest(unittest.TestCase):
     def open_on(self, layout, variant):
-        self.layout = (layout, variant)
+        self.layout = layout
         self.desk = X11Desk(layout=layout, variant=variant)
         self.addCleanup(self.desk.close)
         self.program = Program(self.desk)
@@ -34,7 +34,7 @@ class KeyboardsTest(unittest.TestCase):
         self.program.click(MAIN, "Tools", role=None)
         self.program.control(MAIN, "Key settings")
         self.program.press(DOWN, DOWN, ENTER)
-        self.desk.window(KEY_SETTINGS)
+        self.program.window(KEY_SETTINGS)
 
     def capture(self, name, key):
         """Clicks into the box and presses the key once."""
@@ -54,13 +54,13 @@ class KeyboardsTest(unittest.TestCase):
             if place != 33:
                 self.capture(f"Definition of key {place}", key)
         self.capture("Definition of key 33", self.pad[32])
-        if self.layout[0] == "fr":  # its 3 types the mark
+        if self.layout == "fr":  # its 3 types the mark
             self.answer(AZERTY)
             self.pad[32] = 20  # the key beside the 0
             self.capture("Definition of key 33", self.pad[32])
         self.program.click(KEY_SETTINGS, "OK")
         self.desk.gone(KEY_SETTINGS)
-        self.desk.window(MAIN)
+        self.program.window(MAIN)
 
     def captured_codes(self):
         settings = self.program.folder / "References/KeySetting.csv"
@@ -78,9 +78,7 @@ class KeyboardsTest(unittest.TestCase):
     def count_by_every_key(self):
         path = self.program.work / "keys.csv"
         self.press_pad(ROUNDS[0])
-        self.desk.use_layout("us")  # for the name of the file
         first = self.counts(self.program.save_as(path, key=ENTER))
-        self.desk.use_layout(*self.layout)
         self.press_pad(ROUNDS[1])
         second = self.counts(self.program.save_again(path, key=ENTER))
         nothing = [0] * 90

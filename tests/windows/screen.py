@@ -2,6 +2,7 @@
 
 Every process that is started here is ended here, by its own id.
 """
+import atexit
 import re
 import subprocess
 
@@ -28,6 +29,7 @@ class Screen:
     def __init__(self):
         self.processes = []
         self.env = {}
+        atexit.register(self._end_processes)  # of a desk that never came up too
 
     def start(self, command, **options):
         process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
@@ -58,6 +60,9 @@ class Screen:
         self.button(number, False)
 
     def close(self):
+        self._end_processes()
+
+    def _end_processes(self):
         for process in reversed(self.processes):
             process.terminate()
             process.wait(timeout=60)

@@ -85,7 +85,6 @@ class X11Desk(Screen):
     def activate(self, window):
         pager = 2
         self._tell(window, self.root, "_NET_ACTIVE_WINDOW", X.SubstructureRedirectMask | X.SubstructureNotifyMask, pager, X.CurrentTime)
-        wait_for("a window to come to the front", lambda: self.in_front(window))
 
     def settle(self, window):
         """The program answers a ping when it has taken all that came before it."""
