@@ -12,6 +12,7 @@ import time
 import spoken
 from keyboard import ENTER, NAMED_KEY_CODES, SAVE, chord, down_and_up, typing
 from spoken import wait_for
+from wayland_desk import WaylandDesk
 from x11_desk import X11Desk
 
 TOP = pathlib.Path(__file__).resolve().parents[2]
@@ -19,7 +20,7 @@ BIN = pathlib.Path(os.environ.get("MARLBROOK_BIN", TOP / "build/release/bin"))
 START, MAIN = r"Marlbrook 2\.7", r"Marlbrook 2\.7(\.5|( - |\.5 - ).*)"
 END_OF_SHEET = re.compile(rb'"All total"[^\r\n]*\r\n\Z')
 
-Desk = X11Desk
+Desk = {"x11": X11Desk, "wayland": WaylandDesk}[os.environ.get("MARLBROOK_DESK", "x11")]
 
 
 class StartedProgram:
