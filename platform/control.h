@@ -85,13 +85,14 @@ public:
     Kind kind() const { return kind_; }
 
     // Set once, when the window takes the control up.
-    std::string name;              // "Text1"
-    int index = -1;                // -1: not of a control array
+    std::string name;  // "Text1"
+    int index = -1;    // -1: not of a control array
     Window* window = nullptr;
     Control* container = nullptr;  // nullptr: the window itself
     int page = -1;                 // the tab of the container it lies on; -1: on all
     bool tab_stop = true;          // whether Tab can bring the focus here
-    std::string accessible_name;   // what a screen reader says for it
+    std::string accessible_name;   // what a screen reader says for it, where no caption on it or beside it does
+    Control* named_by = nullptr;   // the label beside it; of a count, the name of its taxon
 
     Event<> Click;
     Event<> DoubleClick;

@@ -1,0 +1,45 @@
+#include "platform/spoken_name.h"
+
+#include <algorithm>
+
+namespace {
+bool IsSpoken(unsigned char byte) {
+    return byte >= 0x80 || (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
+}
+
+// "" if there is nothing in it to be spoken.
+std::string Words(const std::string& text) {
+    if (std::none_of(text.begin(), text.end(), IsSpoken)) return "";
+    const std::size_t start = text.find_first_not_of(" \r\n");
+    return text.substr(start, text.find_last_not_of(":- \r\n") + 1 - start);
+}
+
+std::string WithoutAccessKey(std::string caption) {
+    std::erase(caption, '&');
+    return caption;
+}
+
+std::string Caption(const Control& control) {
+    switch (control.kind()) {
+        case Kind::Label:
+        case Kind::Button:
+        case Kind::OptionButton:
+        case Kind::CheckBox:
+        case Kind::Frame:
+            return control.State().text;
+        case Kind::MenuItem:
+            return WithoutAccessKey(control.State().text);
+        default:
+            return "";
+    }
+}
+}  // namespace
+
+std::string SpokenName(const Control& control) {
+    std::string name;
+    for (const std::string& part : {control.accessible_name, Caption(control), control.named_by ? control.named_by->State().text : ""}) {
+        const std::string words = Words(part);
+        if (!words.empty()) name += (name.empty() ? "" : ": ") + words;
+    }
+    return name;
+}
