@@ -38,7 +38,6 @@ void PrepareEditor(QWidget& editor, const Control& box) {
     editor.setFocusPolicy(Qt::NoFocus);
     editor.setContextMenuPolicy(Qt::PreventContextMenu);
     editor.setAcceptDrops(false);
-    editor.setAccessibleName(ToQt(box.accessible_name));
     if (TakesKeysAsInput(box)) editor.setAttribute(Qt::WA_InputMethodEnabled, false);
 }
 

@@ -13,6 +13,7 @@ public:
     QWidget* MouseWidget() override { return line_; }
     bool TakeKey(QKeyEvent& key) override;  // the arrow keys up and down and F4 open the list, all else is typed
     ComboList& OpenList();
+    ComboList* List() const { return list_; }  // nullptr: it has never been open
 
 private:
     void ShowContent(Changes changes) override;

@@ -116,6 +116,10 @@ void ComboList::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) Choose(indexAt(event->position().toPoint()));
 }
 
+void ComboList::ChooseRow(int row) {
+    Choose(model()->index(row, 0));
+}
+
 void ComboList::Choose(const QModelIndex& item) {
     if (!item.isValid()) return;
     hide();

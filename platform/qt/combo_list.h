@@ -11,6 +11,7 @@ public:
 
     void OpenBelow(const QWidget& field);  // wide enough for its lines, the line on show in view
     void ShowItems();                      // the list has changed while it is open
+    void ChooseRow(int row);               // as a click on it
     static bool IsNavigation(int key);     // moves in the list, chooses or closes; every other key closes it and goes to the window
 
 protected:

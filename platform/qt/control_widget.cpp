@@ -1,7 +1,9 @@
 #include "platform/qt/control_widget.h"
 
+#include <QAccessible>
 #include <utility>
 
+#include "platform/qt/accessible.h"
 #include "platform/qt/look.h"
 #include "platform/qt/made_mouse.h"
 #include "platform/qt/renderer.h"
@@ -26,7 +28,6 @@ void ControlWidget::Adopt(QWidget* widget) {
     widget_ = widget;
     widget_->setFocusPolicy(Qt::NoFocus);
     widget_->setContextMenuPolicy(Qt::PreventContextMenu);
-    if (!control_.accessible_name.empty()) widget_->setAccessibleName(ToQt(control_.accessible_name));
     WatchMouse(widget_);
 }
 
@@ -44,6 +45,17 @@ QFont ControlWidget::Font() const {
 }
 
 void ControlWidget::Show(Changes changes) {
+    Apply(changes);
+    if (QAccessible::isActive()) TellReaders(changes);
+}
+
+void ControlWidget::TellReaders(Changes changes) const {
+    if (changes.Has(Property::Text) || changes.Has(Property::Value)) TellValue(control_);
+    if (changes.Has(Property::Caption)) TellCaption(control_);
+    if (changes.Has(Property::Text) || changes.Has(Property::Caption)) TellNames(control_);
+}
+
+void ControlWidget::Apply(Changes changes) {
     if (changes.Has(Property::Place)) {
         const QPoint origin = owner_ ? owner_->GroundOrigin(control_.page) : QPoint();
         widget_->setGeometry(Scaled(control_.State().box, Factor()).translated(-origin));

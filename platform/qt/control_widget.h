@@ -25,7 +25,7 @@ public:
     virtual QPointF PlaceOf(double x, double y) const;              // in the widget, of a place as the mouse events tell it
     // A key that the program has seen and not used up, while the control has the focus. True: the control used it.
     virtual bool TakeKey(QKeyEvent& /*key*/) { return false; }
-    void Rescale() { Show(Changes::All()); }
+    void Rescale() { Apply(Changes::All()); }
 
 protected:
     ControlWidget(Control& control, WindowWidget& window, ControlWidget* owner)
@@ -36,7 +36,7 @@ protected:
     void WatchMouse(QWidget* widget);  // of a part of it
     double Factor() const;
     QFont Font() const;
-    void Show(Changes changes) override;  // what all kinds have in common
+    void Show(Changes changes) override;
     virtual void ShowContent(Changes changes) = 0;
     virtual void Repaint(Changes /*changes*/) { widget_->update(); }
 
@@ -51,6 +51,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Apply(Changes changes);  // what all kinds have in common
+    void TellReaders(Changes changes) const;
     bool TakePress(const QMouseEvent& event, QPointF at);
     bool TakeMove(const QMouseEvent& event, QPointF at);
     bool LeavesWith(const QMouseEvent& event, QPointF at) const;

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "events/program.h"
+#include "platform/qt/accessible.h"
 #include "platform/qt/desktop_services.h"
 #include "platform/qt/key_filter.h"
 #include "platform/qt/look.h"
@@ -14,6 +15,7 @@ int RunDesktop(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("org.marlbrook.Marlbrook"));  // Wayland finds the icon by it
     ApplyLook(application);
+    OpenToReaders();
     QtHost host;
     Renderer renderer([&host] { return host.HasEnded(); });
     renderer.WhenNothingIsShown([&host] { host.End(); });

@@ -13,9 +13,7 @@ public:
     }
 
 private:
-    void ShowContent(Changes changes) override {
-        if (changes.Has(Property::Caption)) ground_->setAccessibleName(ToQt(frame_.Caption()));
-    }
+    void ShowContent(Changes) override {}
 
     void Paint(QPainter& painter) {
         const QRectF box = ground_->rect();

@@ -21,6 +21,7 @@ public:
         });
     }
 
+    MenuItem& Item() const { return item_; }
     QAction* Action() const { return action_; }
     QMenu* Menu() const { return menu_; }
 
@@ -116,4 +117,10 @@ QAction* MenuView::ActionOf(const MenuItem& item) {
 QMenu* MenuView::MenuOf(const MenuItem& item) {
     const auto found = items_.find(&item);
     return found == items_.end() ? nullptr : found->second->Menu();
+}
+
+MenuItem* MenuView::ItemOf(const QAction& action) const {
+    for (const auto& [item, view] : items_)
+        if (view->Action() == &action) return &view->Item();
+    return nullptr;
 }

@@ -35,7 +35,6 @@ private:
     QRectF TabRect(int tab) const { return TabBarPlace(tabs_, tab, whole_->width(), BarHeight()); }
 
     void ShowContent(Changes changes) override {
-        if (changes.Has(Property::Items)) whole_->setAccessibleName(ToQt(control().accessible_name));
         for (std::size_t page = 0; page < pages_.size(); ++page) {
             if (!pages_[page]) continue;
             if (changes.Has(Property::Place)) pages_[page]->setGeometry(whole_->rect().adjusted(0, BarHeight(), 0, 0));

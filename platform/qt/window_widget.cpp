@@ -55,6 +55,12 @@ ControlWidget* WindowWidget::Find(const Control& control) const {
     return found == controls_.end() ? nullptr : found->second.get();
 }
 
+ControlWidget* WindowWidget::ShownBy(const QWidget& widget) const {
+    for (const auto& [control, shown] : controls_)
+        if (shown && shown->Widget() == &widget) return shown.get();
+    return nullptr;
+}
+
 void WindowWidget::Note(WindowProperty property) {
     if (property == WindowProperty::Title) title_changed_ = true;
     if (property == WindowProperty::Place) size_changed_ = true;

@@ -24,7 +24,8 @@ public:
     double Factor() const { return factor_; }  // pixels a twip
     QWidget* Ground() const { return ground_; }
     MenuView& Menus() const { return *menus_; }
-    ControlWidget* Find(const Control& control) const;  // nullptr: nothing of it is to be seen
+    ControlWidget* Find(const Control& control) const;    // nullptr: nothing of it is to be seen
+    ControlWidget* ShownBy(const QWidget& widget) const;  // whose widget this is; nullptr: no control's
 
     void Note(WindowProperty property);
     void Agree();  // about title, size and whether it can be used

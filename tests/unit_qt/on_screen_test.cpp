@@ -1,11 +1,13 @@
 #include "unit_qt/on_screen_test.h"
 
 #include "events/program.h"
+#include "platform/qt/accessible.h"
 #include "platform/qt/look.h"
 #include "platform/qt/window_widget.h"
 
 OnScreenTest::OnScreenTest(double density) : is_scaled_(qputenv("QT_SCALE_FACTOR", QByteArray::number(density))) {
     ApplyLook(application_);
+    OpenToReaders();
     ::services.files = &files_;
     files_.LayDownProgram(kFolder);
     Do(StartProgram);

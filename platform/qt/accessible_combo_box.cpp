@@ -1,0 +1,115 @@
+#include "platform/qt/accessible_combo_box.h"
+
+#include "platform/qt/combo_box_view.h"
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/window_widget.h"
+#include "platform/user.h"
+
+namespace {
+ComboBoxView& ViewOf(const ComboBox& box) {
+    return static_cast<ComboBoxView&>(*TheRenderer().WidgetOf(*box.window)->Find(box));
+}
+
+bool ListIsOpen(const ComboBox& box) {
+    const ComboList* const list = ViewOf(box).List();
+    return list && list->isVisible();
+}
+
+class AccessibleLine : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    AccessibleLine(ComboList& list, int row) : list_(list), row_(row) {}
+
+    bool isValid() const override { return row_ < list_.model()->rowCount(); }
+    QObject* object() const override { return nullptr; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(&list_); }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    QString text(QAccessible::Text kind) const override { return kind == QAccessible::Name ? Line().data().toString() : QString(); }
+    void setText(QAccessible::Text, const QString&) override {}
+    QRect rect() const override { return list_.visualRect(Line()).translated(list_.viewport()->mapToGlobal(QPoint())); }
+
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        state.selectable = state.focusable = true;
+        state.invisible = !list_.isVisible();
+        state.selected = state.focused = list_.isVisible() && list_.currentIndex().row() == row_;
+        return state;
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    }
+    QStringList actionNames() const override { return {pressAction()}; }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+    void doAction(const QString& action) override {
+        if (action == pressAction()) RunForReader([&list = list_, row = row_] { list.ChooseRow(row); });
+    }
+
+    int Row() const { return row_; }
+
+private:
+    QModelIndex Line() const { return list_.model()->index(row_, 0); }
+
+    ComboList& list_;
+    int row_;
+};
+}  // namespace
+
+QAccessible::State AccessibleComboBox::state() const {
+    QAccessible::State state = AccessibleControl::state();
+    state.focused = false;  // its editor has it
+    state.editable = state.expandable = state.hasPopup = true;
+    state.expanded = ListIsOpen(box_);
+    state.collapsed = !state.expanded;
+    return state;
+}
+
+QList<QAccessibleInterface*> AccessibleComboBox::Children() const {
+    ComboBoxView& view = ViewOf(box_);
+    QList<QAccessibleInterface*> parts{QAccessible::queryAccessibleInterface(view.FocusWidget())};
+    if (ComboList* const list = view.List()) parts.append(QAccessible::queryAccessibleInterface(list));
+    return parts;
+}
+
+QString AccessibleComboBox::ValueText() const {
+    return ToQt(box_.Text());
+}
+
+void AccessibleComboBox::doAction(const QString& action) {
+    if (action != showMenuAction()) return AccessibleControl::doAction(action);
+    RunForReader([&box = box_] {
+        FocusForReader(box);
+        if (CanReach(box)) ViewOf(box).OpenList();
+    });
+}
+
+AccessibleList::AccessibleList(ComboList& list) : QAccessibleWidget(&list, QAccessible::List), list_(list) {}
+
+AccessibleList::~AccessibleList() {
+    for (const QAccessible::Id line : std::as_const(lines_)) QAccessible::deleteAccessibleInterface(line);
+}
+
+int AccessibleList::childCount() const {
+    return list_.model()->rowCount();
+}
+
+QAccessibleInterface* AccessibleList::child(int row) const {
+    if (row < 0 || row >= childCount()) return nullptr;
+    if (const auto made = lines_.constFind(row); made != lines_.cend()) return QAccessible::accessibleInterface(*made);
+    auto* const line = new AccessibleLine(list_, row);
+    lines_.insert(row, QAccessible::registerAccessibleInterface(line));
+    return line;
+}
+
+int AccessibleList::indexOfChild(const QAccessibleInterface* child) const {
+    const auto* const line = dynamic_cast<const AccessibleLine*>(child);
+    return line ? line->Row() : -1;
+}
+
+QString AccessibleList::text(QAccessible::Text kind) const {
+    return kind == QAccessible::Name ? QAccessible::queryAccessibleInterface(list_.parentWidget())->text(kind) : QString();
+}

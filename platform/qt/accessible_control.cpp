@@ -1,0 +1,172 @@
+#include "platform/qt/accessible_control.h"
+
+#include "platform/qt/accessible_combo_box.h"
+#include "platform/qt/accessible_tabs.h"
+#include "platform/qt/accessible_text.h"
+#include "platform/qt/accessible_value.h"
+#include "platform/qt/box_editing.h"
+#include "platform/qt/look.h"
+#include "platform/spoken_name.h"
+#include "platform/user.h"
+
+namespace {
+QAccessible::Role RoleOf(Kind kind) {
+    switch (kind) {
+        case Kind::TextBox:
+            return QAccessible::EditableText;
+        case Kind::Label:
+            return QAccessible::StaticText;
+        case Kind::Button:
+            return QAccessible::Button;
+        case Kind::OptionButton:
+            return QAccessible::RadioButton;
+        case Kind::CheckBox:
+            return QAccessible::CheckBox;
+        case Kind::ComboBox:
+            return QAccessible::ComboBox;
+        case Kind::Frame:
+            return QAccessible::Grouping;
+        case Kind::TabControl:
+            return QAccessible::PageTabList;
+        case Kind::PictureBox:
+            return QAccessible::Graphic;
+        case Kind::ProgressBar:
+            return QAccessible::ProgressBar;
+        case Kind::Slider:
+            return QAccessible::Slider;
+        case Kind::ScrollBar:
+            return QAccessible::ScrollBar;
+        case Kind::UpDown:
+            return QAccessible::SpinBox;
+        case Kind::StatusBar:
+            return QAccessible::StatusBar;
+        case Kind::MenuItem:
+            return QAccessible::MenuItem;
+    }
+    return QAccessible::NoRole;
+}
+
+// What the reader may ask for besides the focus.
+QStringList ActionsOf(const Control& control) {
+    using Actions = QAccessibleActionInterface;
+    switch (control.kind()) {
+        case Kind::Button:
+        case Kind::OptionButton:
+            return {Actions::pressAction()};
+        case Kind::PictureBox:
+            return control.Click.IsJoined() ? QStringList{Actions::pressAction()} : QStringList();
+        case Kind::CheckBox:
+            return {Actions::toggleAction()};
+        case Kind::ComboBox:
+            return {Actions::showMenuAction()};
+        case Kind::Slider:
+        case Kind::ScrollBar:
+        case Kind::UpDown:
+            return {Actions::increaseAction(), Actions::decreaseAction()};
+        default:
+            return {};
+    }
+}
+
+void Step(Control& control, bool up) {
+    if (control.kind() == Kind::UpDown) return Spin(static_cast<UpDown&>(control), up);
+    auto& range = static_cast<RangeControl&>(control);
+    SlideTo(range, range.Value() + (up ? range.SmallChange() : -range.SmallChange()));
+}
+// A window may show only its upper part.
+bool IsBeyondEdge(const QWidget& widget) {
+    const QWidget& window = *widget.window();
+    return !window.rect().intersects(QRect(widget.mapTo(&window, QPoint()), widget.size()));
+}
+}  // namespace
+
+AccessibleControl::AccessibleControl(Control& control, QWidget& widget) : AccessibleControl(control, widget, RoleOf(control.kind())) {}
+
+AccessibleControl::AccessibleControl(Control& control, QWidget& widget, QAccessible::Role role)
+    : AccessibleNode(&widget, role), control_(control) {}
+
+QAccessibleInterface* AccessibleControl::parent() const {
+    if (control_.page >= 0) return QAccessible::queryAccessibleInterface(widget()->parentWidget());
+    QWidget* const outer = control_.container ? WidgetOf(*control_.container) : widget()->window();
+    return QAccessible::queryAccessibleInterface(outer);
+}
+
+QList<QAccessibleInterface*> AccessibleControl::Children() const {
+    return ControlsIn(*control_.window, &control_);
+}
+
+QString AccessibleControl::text(QAccessible::Text kind) const {
+    switch (kind) {
+        case QAccessible::Name:
+            return ToQt(SpokenName(control_));
+        case QAccessible::Description:
+            return ToQt(control_.ToolTip());
+        case QAccessible::Value:
+            return ValueText();
+        default:
+            return {};
+    }
+}
+
+QAccessible::State AccessibleControl::state() const {
+    QAccessible::State state = AccessibleNode::state();
+    const int selected = control_.State().value;
+    state.disabled = state.disabled || !control_.window->Enabled();
+    state.offscreen = IsBeyondEdge(*widget());
+    state.focusable = TakesFocus(control_.kind()) && CanReach(control_);
+    state.focused = HoldsFocus(control_);
+    state.checkable = control_.kind() == Kind::CheckBox || control_.kind() == Kind::OptionButton;
+    state.checked = state.checkable && selected != 0;
+    return state;
+}
+
+QList<QPair<QAccessibleInterface*, QAccessible::Relation>> AccessibleControl::relations(QAccessible::Relation match) const {
+    QWidget* const label = control_.named_by ? WidgetOf(*control_.named_by) : nullptr;
+    if (!label || !(match & QAccessible::Label)) return {};
+    return {{QAccessible::queryAccessibleInterface(label), QAccessible::Label}};
+}
+
+QStringList AccessibleControl::actionNames() const {
+    QStringList actions = ActionsOf(control_);
+    if (TakesFocus(control_.kind())) actions.append(setFocusAction());
+    return actions;
+}
+
+void AccessibleControl::doAction(const QString& action) {
+    if (!actionNames().contains(action)) return;
+    RunForReader([this_control = &control_, action] {
+        if (action == setFocusAction()) return FocusForReader(*this_control);
+        if (action == increaseAction() || action == decreaseAction()) return Step(*this_control, action == increaseAction());
+        ClickControl(*this_control);
+    });
+}
+
+// A box gets it by a press, for the program may send that elsewhere: while it counts, no key may land in a box. A press on anything else
+// would do more.
+void FocusForReader(Control& control) {
+    if (!TakesFocus(control.kind()) || !CanReach(control)) return;
+    if (control.kind() == Kind::TextBox || control.kind() == Kind::ComboBox) {
+        const Mouse mouse = AtCorner(control, MouseButton::Left);
+        PressMouse(control, mouse);
+        return ReleaseMouse(control, mouse);
+    }
+    BringToFront(*control.window);
+    control.SetFocus();
+}
+
+QAccessibleInterface* MakeAccessible(Control& control, QWidget& widget) {
+    switch (control.kind()) {
+        case Kind::TextBox:
+            return new AccessibleText(static_cast<TextBox&>(control), widget);
+        case Kind::ComboBox:
+            return new AccessibleComboBox(static_cast<ComboBox&>(control), widget);
+        case Kind::TabControl:
+            return new AccessibleTabs(static_cast<TabControl&>(control), widget);
+        case Kind::Slider:
+        case Kind::ScrollBar:
+        case Kind::ProgressBar:
+            return new AccessibleValue(control, widget);
+        default:
+            return new AccessibleControl(control, widget);
+    }
+}

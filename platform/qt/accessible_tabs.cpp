@@ -1,0 +1,65 @@
+#include "platform/qt/accessible_tabs.h"
+
+#include "platform/qt/control_widget.h"
+#include "platform/qt/look.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/tab_bar.h"
+#include "platform/qt/window_widget.h"
+#include "platform/user.h"
+
+QWidget* PageOf(const TabControl& tabs, int tab) {
+    const WindowWidget* const window = TheRenderer().WidgetOf(*tabs.window);
+    ControlWidget* const shown = window ? window->Find(tabs) : nullptr;
+    return shown ? shown->Ground(tab) : nullptr;
+}
+
+QList<QAccessibleInterface*> AccessibleTabs::Children() const {
+    QList<QAccessibleInterface*> found;
+    for (int tab = 0; tab < static_cast<int>(tabs_.TabCaptions().size()); ++tab)
+        found.append(QAccessible::queryAccessibleInterface(PageOf(tabs_, tab)));
+    return found + AccessibleControl::Children();
+}
+
+QString AccessibleTabs::ValueText() const {
+    const auto tab = static_cast<std::size_t>(tabs_.Tab());
+    return tab < tabs_.TabCaptions().size() ? ToQt(tabs_.TabCaptions()[tab]) : QString();
+}
+
+QVariant AccessibleTabs::maximumValue() const {
+    return static_cast<int>(tabs_.TabCaptions().size()) - 1;
+}
+
+void AccessibleTabs::setCurrentValue(const QVariant& tab) {
+    const int wanted = tab.toInt();
+    if (wanted >= 0 && wanted <= maximumValue().toInt()) RunForReader([&tabs = tabs_, wanted] { PressTab(tabs, wanted); });
+}
+
+AccessibleTab::AccessibleTab(TabControl& tabs, int tab, QWidget& page)
+    : AccessibleNode(&page, QAccessible::PageTab), tabs_(tabs), tab_(tab) {}
+
+QAccessibleInterface* AccessibleTab::parent() const {
+    return QAccessible::queryAccessibleInterface(WidgetOf(tabs_));
+}
+
+QString AccessibleTab::text(QAccessible::Text kind) const {
+    return kind == QAccessible::Name ? ToQt(tabs_.TabCaptions()[static_cast<std::size_t>(tab_)]) : QString();
+}
+
+// A tab is there to be seen though its page may be hidden.
+QAccessible::State AccessibleTab::state() const {
+    QAccessible::State state = parent()->state();
+    state.focusable = state.focused = false;
+    state.selectable = true;
+    state.selected = tabs_.Tab() == tab_;
+    return state;
+}
+
+QRect AccessibleTab::rect() const {
+    const QWidget& whole = *WidgetOf(tabs_);
+    const double height = TabBarTwips(tabs_) * TheRenderer().WidgetOf(*tabs_.window)->Factor();
+    return TabBarPlace(tabs_, tab_, whole.width(), height).toAlignedRect().translated(whole.mapToGlobal(QPoint()));
+}
+
+void AccessibleTab::doAction(const QString& action) {
+    if (action == pressAction()) RunForReader([&tabs = tabs_, tab = tab_] { PressTab(tabs, tab); });
+}

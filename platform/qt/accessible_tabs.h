@@ -1,0 +1,41 @@
+// A tab control and its tabs, as a screen reader finds them. Its value is the place of the tab in front, from 0. What lies on a page lies
+// in its tab.
+#pragma once
+#include "platform/qt/accessible_value.h"
+
+class AccessibleTabs : public AccessibleValue {
+public:
+    AccessibleTabs(TabControl& tabs, QWidget& widget) : AccessibleValue(tabs, widget), tabs_(tabs) {}
+
+    void setCurrentValue(const QVariant& tab) override;
+    QVariant maximumValue() const override;
+
+protected:
+    QList<QAccessibleInterface*> Children() const override;  // the tabs, then what lies on all of them
+    QString ValueText() const override;
+
+private:
+    TabControl& tabs_;
+};
+
+// On the ground of its page.
+class AccessibleTab : public AccessibleNode {
+public:
+    AccessibleTab(TabControl& tabs, int tab, QWidget& page);
+
+    QAccessibleInterface* parent() const override;
+    QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+    QRect rect() const override;
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& action) override;
+
+protected:
+    QList<QAccessibleInterface*> Children() const override { return ControlsIn(*tabs_.window, &tabs_, tab_); }
+
+private:
+    TabControl& tabs_;
+    int tab_;
+};
+
+QWidget* PageOf(const TabControl& tabs, int tab);  // its ground; nullptr: the tabs have never been shown
