@@ -62,8 +62,10 @@ void DiagramWindow::PlacePictures() {
     HScroll1.accessible_name = "Columns in view";
     Add(Picture3, "Picture3", -1, nullptr, {0, below + 270, kDiagramWidth, 70});
     Picture3.SetBackColor(kFormColour);
+    Picture3.accessible_name = "Band below the diagram";
     for (PictureBox* picture : {&Picture1, &Picture2, &Picture3, &Picture4}) picture->tab_stop = false;
     Add(StatusBar1, "StatusBar1", -1, nullptr, {0, kDiagramHeight - kStatusHeight, kDiagramWidth, kStatusHeight});
+    StatusBar1.accessible_name = "Status";
 }
 
 void DiagramWindow::PlaceSelector() {
@@ -78,6 +80,7 @@ void DiagramWindow::PlaceSelector() {
     UpDown1.accessible_name = "Next or previous sample";
     Add(Frame3, "Frame3", -1, nullptr, {kSelectorLeft, kPictureTop, kSelectorWidth, 600});
     Frame3.SetBorder(false);
+    Frame3.accessible_name = "Beside the selected sample";
     Add(Check1, "Check1", -1, &Frame3, {30, 0, kSelectorWidth - 30, 240});
     Check1.accessible_name = "Line of the selected sample stays";
     Add(Combo2, "Combo2", -1, &Frame3, {0, 255, kSelectorWidth, 330});

@@ -41,7 +41,8 @@ InitialWindow::InitialWindow() : Window("frmInitial", "Initialize", 7200, 5660) 
         Add(Text1[key], "Text1", key, nullptr, {left + 1200, top, 1400, 330});
         Text1[key].centred = true;
         Text1[key].takes_keys = true;
-        Text1[key].accessible_name = kKeyNames[key];
+        Text1[key].accessible_name = "Key code";
+        Text1[key].named_by = &Label4[key];
     }
     Add(Command1, "Command1", -1, nullptr, {2960, 5080, 1280, 420});
     Command1.SetCaption("OK");

@@ -70,9 +70,10 @@ void KeyCodeWindow::PlaceMaps() {
     for (int row = 0; row <= kMapRows; ++row) {
         const bool functional = row > kKeys;
         const std::string key = functional ? kFunctionalNames[row - kKeys - 1] : std::to_string(row);
-        PlaceMapBox(Text1[row], "Text1", row, Frame1, "Definition of key " + key);
-        PlaceMapBox(Text2[row], "Text2", row, Frame2, "Code of key " + key);
-        PlaceMapBox(Text3[row], "Text3", row, Frame3, functional ? "Number of key " + key : "Number of the key at place " + key);
+        const std::string spoken = row == kSecondShift1 ? key + " again" : key;
+        PlaceMapBox(Text1[row], "Text1", row, Frame1, "Definition of key " + spoken);
+        PlaceMapBox(Text2[row], "Text2", row, Frame2, "Code of key " + spoken);
+        PlaceMapBox(Text3[row], "Text3", row, Frame3, functional ? "Number of key " + spoken : "Number of the key at place " + spoken);
         if (functional) Text1[row].SetText(key);
         Text1[row].SetEnabled(!functional);
         Text2[row].SetEnabled(false);

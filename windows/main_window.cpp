@@ -32,11 +32,14 @@ MainWindow::MainWindow() : Window("frmMain", "Marlbrook 2.7.5", 11400, 7980) {
 void MainWindow::PlacePad() {
     Add(Picture1, "Picture1", -1, nullptr, {0, 0, 11400, 4760});
     Picture1.SetBackColor(kFormColour);
+    Picture1.accessible_name = "Ground of the pad";
     Add(SSTab1, "SSTab1", -1, nullptr, {60, kPadTop, 11280, 4640});
     SSTab1.SetTabCaptions({"Neutral", "Shift 1 or 2", "Shift 1 and 2"});
+    SSTab1.accessible_name = "Bank";
     for (int block = 0; block < 3; ++block) {
         Add(Frame3[block], "Frame3", block, &SSTab1, {160 + 3840 * block, 300, 3360, 4130});
         Frame3[block].SetBackColor(kPanel);
+        Frame3[block].accessible_name = "Block " + std::to_string(block + 1) + " of the pad";
     }
     for (int slot = 1; slot <= kSlots; ++slot) {
         const int bank = (slot - 1) / kKeys;
@@ -50,8 +53,10 @@ void MainWindow::PlacePad() {
         Text2[slot].SetText("0");
         Text2[slot].SetFontSize(10);
         Text2[slot].accessible_name = "Count of taxon " + std::to_string(slot);
+        Text2[slot].named_by = &Text1[slot];
         Text1[slot].centred = Text2[slot].centred = Label1[slot].centred = true;
         Label1[slot].SetCaption(std::to_string(slot));
+        Label1[slot].accessible_name = "Taxon";
         Label1[slot].SetFontSize(7);
         Label1[slot].SetVisible(false);
     }
@@ -65,6 +70,7 @@ void MainWindow::PlacePad() {
 
 void MainWindow::PlaceSample() {
     Add(Frame1, "Frame1", -1, nullptr, {60, kColumnTop, 2560, kColumnHeight});
+    Frame1.accessible_name = "Sample";
     Add(Label1[0], "Label1", 0, &Frame1, {80, 90, 1140, 270});
     Label1[0].SetCaption("Sample name: ");
     Label1[0].SetFontSize(8);
@@ -72,7 +78,7 @@ void MainWindow::PlaceSample() {
     Add(Text1[0], "Text1", 0, &Frame1, {1240, 70, 1240, 300});
     Text1[0].SetText("-9999");
     Text1[0].SetBold(true);
-    Text1[0].accessible_name = "Sample name";
+    Text1[0].named_by = &Label1[0];
     Add(Combo2, "Combo2", -1, &Frame1, {1240, 420, 1240, 300});
     Combo2.SetText("-9999");
     Combo2.accessible_name = "Sample on show";
@@ -82,6 +88,7 @@ void MainWindow::PlaceSample() {
     Label3.SetForeColor(kQuiet);
     Add(Label4, "Label4", -1, &Frame1, {1240, 800, 1240, 270});
     Label4.SetCaption("1/1");
+    Label4.accessible_name = "Serial No.";
     Add(Text4, "Text4", -1, &Frame1, {80, 1140, 2400, 1440});
     Text4.SetText(kEmpty);
     Text4.multiline = true;
@@ -92,6 +99,7 @@ void MainWindow::PlaceSample() {
 void MainWindow::PlaceTotals() {
     static constexpr const char* kNames[3] = {"All total:", "Subtotal-1:", "Subtotal-2:"};
     Add(Frame2, "Frame2", -1, nullptr, {2680, kColumnTop, 2900, kColumnHeight});
+    Frame2.accessible_name = "Totals";
     Add(Label6, "Label6", -1, &Frame2, {80, 80, 2740, 260});
     Label6.SetCaption("Set alarm and % basis");
     Label6.SetForeColor(kQuiet);
@@ -104,18 +112,21 @@ void MainWindow::PlaceTotals() {
         Text3[i].SetText("0");
         Text3[i].SetFontSize(16);
         Text3[i].centred = true;
-        Text3[i].accessible_name = kNames[i];
+        Text3[i].named_by = &Label2[i];
         Add(Option1[i], "Option1", i, &Frame2, {1780, top + 90, 1060, 300});
         Option1[i].SetCaption("Set alarm");
         Option1[i].SetFontSize(8);
+        Option1[i].named_by = &Label2[i];
     }
     Option1[0].SetValue(true);
     Add(ProgressBar1, "ProgressBar1", -1, &Frame2, {80, 2300, 2740, 220});
     ProgressBar1.SetVisible(false);
+    ProgressBar1.accessible_name = "Progress";
 }
 
 void MainWindow::PlaceParams() {
     Add(Frame4, "Frame4", -1, nullptr, {5640, kColumnTop, 3420, kColumnHeight});
+    Frame4.accessible_name = "Additional info";
     for (int p = 1; p <= kParams; ++p) {
         const std::string number = std::to_string(p);
         const int top = 70 + 380 * (p - 1);
@@ -126,10 +137,11 @@ void MainWindow::PlaceParams() {
         Add(Text5[p], "Text5", p, &Frame4, {1580, top, 1080, 320});
         Text5[p].SetText(kEmpty);
         Text5[p].SetEnabled(false);
-        Text5[p].accessible_name = "Additional info " + number;
+        Text5[p].named_by = &Label10[p];
         Add(Command7[p], "Command7", p, &Frame4, {2700, top, 660, 320});
         Command7[p].SetCaption("Rename");
         Command7[p].SetFontSize(8);
+        Command7[p].named_by = &Label10[p];
     }
     Add(Label8, "Label8", -1, &Frame4, {1580, 2370, 1780, 220});
     Label8.SetFontSize(7);
@@ -138,6 +150,7 @@ void MainWindow::PlaceParams() {
 
 void MainWindow::PlaceCurve() {
     Add(Frame5, "Frame5", -1, nullptr, {9120, kColumnTop, 2220, kColumnHeight});
+    Frame5.accessible_name = "Taxa curve";
     Add(Label9, "Label9", -1, &Frame5, {80, 60, 2060, 260});
     Label9.SetCaption("Diversity");
     Label9.SetForeColor(kQuiet);
@@ -157,13 +170,14 @@ void MainWindow::PlaceCommands() {
     put(Command3[1], "Command3", 1, "Resume", 4180, 940);
     put(Command2[0], "Command2", 0, "Reset", 5260, 860);
     put(Command6, "Command6", -1, "%", 6260, 560);
+    Command6.accessible_name = "Percentages while it is held";
     put(Command1, "Command1", -1, "", 0, 0);
     Command1.SetVisible(false);
     Add(Label5, "Label5", -1, nullptr, {6960, kCommandTop + 80, 760, 280});
     Label5.SetCaption("History:");
     Label5.SetForeColor(kQuiet);
     Add(Combo1, "Combo1", -1, nullptr, {7740, kCommandTop + 20, 3600, 360});
-    Combo1.accessible_name = "History";
+    Combo1.named_by = &Label5;
 }
 
 void MainWindow::PlaceMenus() {

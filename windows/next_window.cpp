@@ -21,9 +21,11 @@ NextWindow::NextWindow() : Window("frmNext", "Marlbrook 2.7", kNextWidth, kStart
 void NextWindow::PlaceStartFace() {
     Add(Frame2, "Frame2", -1, nullptr, {0, 0, kNextWidth, kStartFaceHeight});
     Frame2.SetBorder(false);
+    Frame2.accessible_name = "Start";
     Add(Picture1, "Picture1", -1, &Frame2, {240, 280, 2000, 2000});
     Picture1.SetBackColor(kFormColour);
     Picture1.image = "logo";
+    Picture1.accessible_name = "A pollen grain";
     Picture1.tab_stop = false;
     Add(Label5[0], "Label5", 0, &Frame2, {2600, 220, 4300, 460});
     Label5[0].SetCaption("Marlbrook 2.7");
@@ -45,12 +47,12 @@ void NextWindow::PlaceSampleFace() {
     Add(Label1, "Label1", -1, &Frame1, {200, 350, 2600, 280});
     Label1.SetCaption("Name of the first sample: ");
     Add(Text1, "Text1", -1, &Frame1, {kBoxLeft, 320, 3860, 330});
-    Text1.accessible_name = "Sample name";
+    Text1.named_by = &Label1;
     Add(Label2, "Label2", -1, &Frame1, {200, 760, 2600, 280});
     Label2.SetCaption("Note: ");
     Add(Text2, "Text2", -1, &Frame1, {kBoxLeft, 730, 3860, 900});
     Text2.multiline = true;
-    Text2.accessible_name = "Note";
+    Text2.named_by = &Label2;
     for (int p = 1; p <= kParams; ++p) {
         const std::string number = std::to_string(p);
         const int top = 1720 + 375 * (p - 1);
@@ -58,9 +60,10 @@ void NextWindow::PlaceSampleFace() {
         Label3[p].SetCaption("Additional info-" + number + ":");
         Add(Text3[p], "Text3", p, &Frame1, {kBoxLeft, top, 2760, 320});
         Text3[p].SetText(kEmpty);
-        Text3[p].accessible_name = "Additional info " + number;
+        Text3[p].named_by = &Label3[p];
         Add(Command5[p], "Command5", p, &Frame1, {5760, top, 1000, 320});
         Command5[p].SetCaption("Rename");
+        Command5[p].named_by = &Label3[p];
     }
     Add(Command1, "Command1", -1, nullptr, {5800, kStartFaceHeight + kSampleFaceHeight + 150, 1280, 420});
     Command1.SetCaption("OK");

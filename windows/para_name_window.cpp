@@ -11,7 +11,7 @@ ParaNameWindow::ParaNameWindow() : Window("frmParaName", "Parameter name", 5400,
     Add(Label3, "Label3", -1, nullptr, {240, 690, 1200, 280});
     Label3.SetCaption("New name: ");
     Add(Text1, "Text1", -1, nullptr, {1500, 660, 3660, 330});
-    Text1.accessible_name = "New name";
+    Text1.named_by = &Label3;
     Add(Command1, "Command1", -1, nullptr, {2500, 1260, 1280, 400});
     Command1.SetCaption("OK");
     Add(Command2, "Command2", -1, nullptr, {3880, 1260, 1280, 400});

@@ -39,7 +39,8 @@ void SubtotalWindow::PlaceNames() {
         Add(Option1[subtotal], "Option1", subtotal, nullptr, {left, 170, 1300, 320});
         Option1[subtotal].SetCaption(caption);
         Add(Text1[subtotal], "Text1", subtotal, nullptr, {left + 1340, 170, 2400, 330});
-        Text1[subtotal].accessible_name = "Name of " + caption;
+        Text1[subtotal].accessible_name = "Name";
+        Text1[subtotal].named_by = &Option1[subtotal];
     }
     Option1[1].SetValue(true);
 }
@@ -54,6 +55,7 @@ void SubtotalWindow::PlaceBanks() {
         const Box place = CheckPlace((slot - 1) % kKeys + 1);
         Add(Check1[slot], "Check1", slot, &frame, place);
         Check1[slot].SetFontSize(8);
+        Check1[slot].accessible_name = "Taxon";
         Add(Command4[slot], "Command4", slot, &frame, place);
         Command4[slot].SetCaption("xxx");
         Command4[slot].SetVisible(false);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/spoken_name.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
@@ -162,7 +163,7 @@ TEST_F(WindowsTest, EveryFieldAndListThatShowsAValueHasAnAccessibleName) {
     for (const Window* window : Windows()) {
         for (const Control* control : Placed(*window)) {
             if (control->kind() != Kind::TextBox && control->kind() != Kind::ComboBox) continue;
-            EXPECT_NE(control->accessible_name, "") << NameOf(*control);
+            EXPECT_NE(SpokenName(*control), "") << NameOf(*control);
         }
     }
 }

@@ -30,7 +30,29 @@ protected:
         item->actionInterface()->doAction(action);
         QApplication::processEvents();
     }
+
+    // How many items there are on show; each that a reader could make nothing of fails the test.
+    int LookOver(QAccessibleInterface* item, const std::string& window) {
+        if (!item || item->state().invisible) return 0;
+        const QString name = item->text(QAccessible::Name);
+        EXPECT_NE(item->role(), QAccessible::Client) << window << ": " << name.toStdString();
+        const bool may_be_silent = item->role() == QAccessible::StaticText || item->role() == QAccessible::MenuBar;
+        EXPECT_TRUE(may_be_silent || !name.trimmed().isEmpty()) << window << ": role " << item->role();
+        int items = 1;
+        for (int place = 0; place < item->childCount(); ++place) {
+            EXPECT_EQ(item->indexOfChild(item->child(place)), place);
+            items += LookOver(item->child(place), window);
+        }
+        return items;
+    }
 };
+
+TEST_F(AccessibilityTest, EverythingInAnyWindowHasARoleAndCanBeSpoken) {
+    for (Window* window : AllWindows()) {
+        Show(*window);
+        EXPECT_GT(LookOver(QAccessible::queryAccessibleInterface(renderer_.WidgetOf(*window)), window->name), 1);
+    }
+}
 
 TEST_F(AccessibilityTest, EveryControlIsAChildOfWhatContainsIt) {
     for (Window* window : AllWindows()) {
@@ -61,6 +83,21 @@ TEST_F(AccessibilityTest, EachKindHasItsRole) {
     for (const auto& each : cases) EXPECT_EQ(Found(each.control)->role(), each.role) << each.control.name;
     EXPECT_EQ(QAccessible::queryAccessibleInterface(renderer_.WidgetOf(frmMain))->role(), QAccessible::Window);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(renderer_.WidgetOf(frmSubtotal))->role(), QAccessible::Dialog);
+}
+
+TEST_F(AccessibilityTest, NamesFollowTheLabels) {
+    Show(frmMain);
+    Do([] {
+        frmMain.Label2[1].SetCaption("Trees:");
+        frmMain.Label10[2].SetCaption("Tablets:");
+        frmMain.Label10[2].SetVisible(false);
+        frmMain.Text1[7].SetText("Pinus");
+    });
+    EXPECT_EQ(Name(frmMain.Text3[1]), "Trees");
+    EXPECT_EQ(Name(frmMain.Option1[1]), "Set alarm: Trees");
+    EXPECT_EQ(Name(frmMain.Text5[2]), "Tablets");
+    EXPECT_EQ(Name(frmMain.Text2[7]), "Count of taxon 7: Pinus");
+    EXPECT_EQ(Name(frmMain.Text2[8]), "Count of taxon 8");
 }
 
 TEST_F(AccessibilityTest, TheTotalHasItsNumberAsAValue) {
