@@ -1,0 +1,42 @@
+#include "platform/focus_walk.h"
+
+#include <algorithm>
+
+#include "platform/controls.h"
+#include "platform/user.h"
+
+namespace {
+// A picture takes the focus at a click and is no stop: there is nothing to type in it.
+bool IsTabStop(const Control& control) {
+    return TakesFocus(control.kind()) && control.kind() != Kind::PictureBox && control.tab_stop && CanReach(control);
+}
+
+// Of options that stand together only the selected one is a stop, as everywhere on the desktop.
+bool IsSecondaryOption(const Control& control) {
+    if (control.kind() != Kind::OptionButton || static_cast<const OptionButton&>(control).Value()) return false;
+    return std::ranges::any_of(control.window->Controls(), [&control](const Control* other) {
+        return other->kind() == Kind::OptionButton && other->container == control.container &&
+               static_cast<const OptionButton*>(other)->Value();
+    });
+}
+
+std::vector<Control*> Stops(Window& window) {
+    std::vector<Control*> stops;
+    for (Control* control : window.Controls())
+        if (control == window.Focus() || (IsTabStop(*control) && !IsSecondaryOption(*control))) stops.push_back(control);
+    return stops;
+}
+}  // namespace
+
+Control* NextInRound(const std::vector<Control*>& controls, const Control* from, int step) {
+    if (controls.empty()) return nullptr;
+    const auto count = static_cast<int>(controls.size());
+    const auto found = std::ranges::find(controls, from);
+    if (found == controls.end()) return step > 0 ? controls.front() : controls.back();
+    const int place = static_cast<int>(found - controls.begin());
+    return controls[static_cast<std::size_t>((place + step + count) % count)];
+}
+
+void WalkFocus(Window& window, bool back) {
+    if (Control* const next = NextInRound(Stops(window), window.Focus(), back ? -1 : 1)) next->SetFocus();
+}

@@ -1,0 +1,11 @@
+// Tab in a window: from control to control, past those that cannot be reached, and from the last on to the first.
+#pragma once
+#include <vector>
+
+#include "platform/window.h"
+
+// One step on or back, in the order of the window's controls.
+void WalkFocus(Window& window, bool back);
+
+// The control so many places behind `from`, round and round; the first or last if `from` is none of them; nullptr if there are none.
+Control* NextInRound(const std::vector<Control*>& controls, const Control* from, int step);
