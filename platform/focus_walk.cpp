@@ -21,7 +21,8 @@ bool IsSecondaryOption(const Control& control) {
 }
 
 std::vector<Control*> Stops(Window& window) {
-    std::vector<Control*> stops;
+    std::vector<Control*> stops = window.Focus() ? window.RoundOf(*window.Focus()) : std::vector<Control*>();
+    if (!stops.empty()) return stops;
     for (Control* control : window.Controls())
         if (control == window.Focus() || (IsTabStop(*control) && !IsSecondaryOption(*control))) stops.push_back(control);
     return stops;

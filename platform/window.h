@@ -61,6 +61,8 @@ public:
     void SetFocus(Control& control);
 
     const std::vector<Control*>& Controls() const { return controls_; }
+    // The controls among which Tab goes round and round from this one, in order; empty: the stops of the whole window.
+    virtual std::vector<Control*> RoundOf(const Control& /*control*/) { return {}; }
     Control* Find(const std::string& control_name, int index) const;  // index -1: not of an array; nullptr if there is none
 
 protected:

@@ -1,6 +1,9 @@
 #include "windows/main_window.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
+#include <utility>
 
 #include "windows/pad_places.h"
 
@@ -263,6 +266,17 @@ void MainWindow::PlaceMenus() {
     }
     for (MenuItem* hidden : {&mnuRightButton, &mnuDiversityRB, &mnuByPass}) hidden->SetVisible(false);
     mnuItalic.SetChecked(true);
+}
+
+std::vector<Control*> MainWindow::RoundOf(const Control& control) {
+    std::vector<Control*> cells;
+    if (control.container != &SSTab1) return cells;
+    const auto is_of_it = [&control](const Control* cell) {
+        return cell->container == control.container && cell->page == control.page && cell->name == control.name;
+    };
+    std::ranges::copy_if(Controls(), std::back_inserter(cells), is_of_it);
+    std::ranges::stable_sort(cells, {}, [](const Control* cell) { return std::pair(cell->Top(), cell->Left()); });
+    return cells;
 }
 
 void MainWindow::ForgetMembers() {

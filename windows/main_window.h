@@ -10,7 +10,8 @@
 
 struct MainWindow : Window {
     MainWindow();
-    void Amend() {}  // a reserved entry
+    void Amend() {}                                                  // a reserved entry
+    std::vector<Control*> RoundOf(const Control& control) override;  // of a cell: the names, or the counts, of its bank as they are read
 
     // The pad. Cells lie on the tab of their bank; Text1[0] shows the name of the sample, Label1[0] is its caption, Text2[0] is unused.
     PictureBox Picture1;        // the ground around the pad: red in Modify mode
