@@ -4,7 +4,7 @@
 void TakeSampleName();               // Text1[0]
 void TakeTaxonName(int slot);        // Text1
 void TakeCount(int slot);            // Text2: refuses what is no whole number, with a message
-void NoteCountBeforeEdit(int slot);  // the mouse goes down in Text2: what a refused count comes back to
+void NoteCountBeforeEdit(int slot);  // the mouse or Tab comes into Text2: what a refused count comes back to
 void TakeNote();                     // Text4
 void TakeParam(int p);               // Text5
 void EndWithColon(int p);            // Label10: its caption ends in a colon, exactly one is added

@@ -7,6 +7,7 @@
 #include "session/modify_mode.h"
 #include "session/sheet_state.h"
 #include "session/totals.h"
+#include "taxa/cells.h"
 #include "taxa/quotation_guard.h"
 #include "windows/main_window.h"
 
@@ -28,6 +29,7 @@ void LeaveNameBox(int slot) {
 
 void EnterCountBox(int slot) {
     EditedValue = frmMain.Text2[slot].Text();
+    NoteCountBeforeEdit(slot);
 }
 
 void LeaveCountBox(int slot) {

@@ -42,6 +42,17 @@ TEST_F(FocusWalkTest, TabGoesThroughTheCountsAlike) {
     }
 }
 
+TEST_F(FocusWalkTest, ACountRefusedAfterAStepIsTheOneThatStoodThere) {
+    ClickControl(frmMain.Text2[1]);
+    EnterText(frmMain.Text2[1], "7", 1);
+    ClickControl(frmMain.Text2[1]);
+    Step();
+    EnterText(frmMain.Text2[2], "x", 1);
+    EXPECT_EQ(LastMessage().text, "Please input digit(s).");
+    EXPECT_EQ(frmMain.Text2[2].Text(), "0");
+    EXPECT_EQ(Counts[2][1], 0);
+}
+
 TEST_F(FocusWalkTest, ShiftTabGoesBack) {
     ClickControl(frmMain.Text1[2]);
     StepBack();
