@@ -41,6 +41,11 @@ void TextHolder::Select(int start, int length) {
     selected_ = WithinText(now_.text, now_.caret + length) - now_.caret;
 }
 
+void TextHolder::SelectAll() {
+    Select(0, static_cast<int>(Length(now_.text)));
+    Tell(Property::Caret);
+}
+
 void Label::SetCaption(const std::string& caption) {
     if (Assign(now_.text, caption, Property::Caption)) Change.Raise();
 }

@@ -16,8 +16,9 @@ public:
 
     int SelStart() const { return now_.caret; }  // characters before the caret
     void SetSelStart(int characters);
-    int SelLength() const { return selected_; }  // characters selected behind the caret, by the user alone
-    void Select(int start, int length);
+    int SelLength() const { return selected_; }  // characters selected behind the caret
+    void Select(int start, int length);          // by the user
+    void SelectAll();                            // by the program: what is typed next replaces the whole text
 
 protected:
     explicit TextHolder(Kind kind) : Control(kind) { now_.back = kWhite; }
@@ -35,6 +36,7 @@ public:
     bool centred = false;
     bool takes_keys = false;  // each key counts as itself, whatever it types or does elsewhere: Tab, Enter and dead keys too
     bool takes_text = true;   // false: it can hold the focus, but what is typed lands nowhere
+    std::string placeholder;  // stands for nothing: the hand that clicks into it marks it whole, to type over it; empty: none
 };
 
 class Label : public Control {

@@ -20,6 +20,10 @@ bool IsSecondaryOption(const Control& control) {
     });
 }
 
+bool HasOneLine(const Control& control) {
+    return control.kind() == Kind::ComboBox || (control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).multiline);
+}
+
 std::vector<Control*> Stops(Window& window) {
     std::vector<Control*> stops = window.Focus() ? window.RoundOf(*window.Focus()) : std::vector<Control*>();
     if (!stops.empty()) return stops;
@@ -39,5 +43,8 @@ Control* NextInRound(const std::vector<Control*>& controls, const Control* from,
 }
 
 void WalkFocus(Window& window, bool back) {
-    if (Control* const next = NextInRound(Stops(window), window.Focus(), back ? -1 : 1)) next->SetFocus();
+    Control* const next = NextInRound(Stops(window), window.Focus(), back ? -1 : 1);
+    if (!next) return;
+    next->SetFocus();
+    if (HasOneLine(*next)) static_cast<TextHolder*>(next)->SelectAll();
 }

@@ -19,6 +19,13 @@ void Tell(Window& window, WindowProperty property) {
     if (window_view) window_view->Changed(window, property);
 }
 
+// What was marked in a box that is left is not typed over when the focus comes back.
+void Deselect(Control& control) {
+    if (control.kind() != Kind::TextBox && control.kind() != Kind::ComboBox) return;
+    auto& holder = static_cast<TextHolder&>(control);
+    holder.SetSelStart(holder.SelStart());
+}
+
 Window* Foremost() {
     const auto found = std::find_if(shown.rbegin(), shown.rend(), [](const Window* window) { return window->Enabled(); });
     return found == shown.rend() ? nullptr : *found;
@@ -106,6 +113,7 @@ void Window::Hide() {
 void Window::Unload() {
     if (!loaded_) return;
     Unloading.Raise();
+    if (focus_) Deselect(*focus_);
     focus_ = nullptr;
     Hide();
     loaded_ = false;
@@ -153,6 +161,7 @@ void Window::SetPlace(int left, int top) {
 void Window::SetFocus(Control& control) {
     if (focus_ == &control) return;
     if (this == active) LeaveFocus();
+    if (focus_) Deselect(*focus_);
     focus_ = &control;
     Tell(*this, WindowProperty::Focus);
     if (this == active) EnterFocus();

@@ -25,6 +25,7 @@ void Ask(Window& caller, int p, const std::string& caption) {
     frmParaName.Text1.SetText(name);
     frmParaName.Label4.SetCaption(caller.name);
     frmParaName.Text1.SetFocus();
+    frmParaName.Text1.SelectAll();
 }
 
 void GiveBack(Window& caller) {

@@ -52,8 +52,10 @@ void MainWindow::PlacePad() {
         Add(Label1[slot], "Label1", slot, &SSTab1, {name.left, name.top + kNumberBelowName, name.width, 190});
         Text1[slot].page = Text2[slot].page = Label1[slot].page = bank;
         Text1[slot].SetText(kEmpty);
+        Text1[slot].placeholder = kEmpty;
         Text1[slot].accessible_name = "Name of taxon " + std::to_string(slot);
         Text2[slot].SetText("0");
+        Text2[slot].placeholder = "0";
         Text2[slot].SetFontSize(10);
         Text2[slot].accessible_name = "Count of taxon " + std::to_string(slot);
         Text2[slot].named_by = &Text1[slot];

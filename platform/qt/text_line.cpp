@@ -1,7 +1,9 @@
 #include "platform/qt/text_line.h"
 
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <utility>
 
 #include "platform/controls.h"
 #include "platform/qt/text_places.h"
@@ -56,8 +58,26 @@ void TextLine::AgreeForEditing() {
 }
 
 void TextLine::focusInEvent(QFocusEvent* event) {
+    comes_in_ = true;
     AgreeForEditing();
     QLineEdit::focusInEvent(event);
+}
+
+bool TextLine::HoldsPlaceholder() const {
+    return box_.kind() == Kind::TextBox && !text().isEmpty() && box_.State().text == static_cast<const TextBox&>(box_).placeholder;
+}
+
+// The click that comes into a box with a placeholder marks it; once in, clicks and drags are as in any other text.
+void TextLine::mousePressEvent(QMouseEvent* event) {
+    marks_ = std::exchange(comes_in_, false) && event->button() == Qt::LeftButton && HoldsPlaceholder();
+    if (marks_)
+        selectAll();
+    else
+        QLineEdit::mousePressEvent(event);
+}
+
+void TextLine::mouseMoveEvent(QMouseEvent* event) {
+    if (!marks_) QLineEdit::mouseMoveEvent(event);
 }
 
 void TextLine::paintEvent(QPaintEvent* event) {

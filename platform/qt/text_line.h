@@ -13,8 +13,11 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
+    bool HoldsPlaceholder() const;
     void TellCaret();
     void AgreeAboutCaret();  // and about what is selected
     void AgreeForEditing();  // what only matters while it holds the keyboard
@@ -22,5 +25,7 @@ private:
     Control& box_;
     QFont font_;
     double factor_ = 0;
+    bool comes_in_ = false;  // the keyboard has just come here
+    bool marks_ = false;     // the mouse that is down has marked a placeholder
     FittedText fitted_;
 };

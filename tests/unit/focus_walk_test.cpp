@@ -71,6 +71,39 @@ TEST_F(FocusWalkTest, CellsThatHaveMovedAreReadWhereTheyAre) {
     EXPECT_EQ(Focus(), &frmMain.Text1[1]);
 }
 
+TEST_F(FocusWalkTest, WhatStandsWhereAStepEndsIsTypedOver) {
+    ClickControl(frmMain.Text1[1]);
+    Step();
+    InsertText(frmMain.Text1[2], "P");
+    InsertText(frmMain.Text1[2], "i");
+    EXPECT_EQ(TaxonTable[2][4], "Pi");
+    StepBack();
+    Step();
+    InsertText(frmMain.Text1[2], "Betula");
+    EXPECT_EQ(TaxonTable[2][4], "Betula");
+    ClickControl(frmMain.Text2[1]);
+    Step();
+    InsertText(frmMain.Text2[2], "5");
+    EXPECT_EQ(Counts[2][1], 5);
+}
+
+TEST_F(FocusWalkTest, ABoxThatIsLeftIsMarkedNoMore) {
+    ClickControl(frmMain.Text1[1]);
+    Step();
+    ClickControl(frmMain.Text1[1]);
+    ClickControl(frmMain.Text1[2]);
+    InsertText(frmMain.Text1[2], "P");
+    EXPECT_EQ(TaxonTable[2][4], "P---");
+}
+
+TEST_F(FocusWalkTest, ANoteIsNotMarked) {
+    ClickControl(frmMain.Text4);
+    Step();
+    StepBack();
+    ASSERT_EQ(Focus(), &frmMain.Text4);
+    EXPECT_EQ(frmMain.Text4.SelLength(), 0);
+}
+
 TEST_F(FocusWalkTest, OutsideTheGridNoStepLeadsIntoIt) {
     ClickControl(frmMain.Text4);
     std::set<Control*> met;

@@ -34,6 +34,13 @@ TEST_F(ParamNamesTest, ANameIsKeptAsTypedAndShownWithOneColonMore) {
     }
 }
 
+TEST_F(ParamNamesTest, TheOldNameIsTypedOver) {
+    Begin("10");
+    RenameParamOfSheet(1);
+    InsertText(frmParaName.Text1, "Tablets");
+    EXPECT_EQ(frmParaName.Text1.Text(), "Tablets");
+}
+
 TEST_F(ParamNamesTest, EachFieldHasItsOwnName) {
     Begin("10");
     for (int p = 1; p <= kParams; ++p) Rename(p, "name " + std::to_string(p));
