@@ -180,6 +180,14 @@ void JoinCommands() {
     frmMain.mnuItalic.Click.Calls(ToggleItalics);
 }
 
+// What is pressed next is a counter key: neither a button nor a total keeps the keyboard.
+void JoinFocusOfButtons() {
+    for (Control* control : frmMain.Controls()) {
+        const bool presses = control->kind() == Kind::Button || control->kind() == Kind::OptionButton || control->name == "Text3";
+        if (presses && !control->MouseUp.IsJoined()) control->MouseUp.Calls([](Mouse) { ReturnFocus(); });
+    }
+}
+
 void JoinDialogs() {
     frmMain.mnuKeyCodeReader.Click.Calls([] { OpenDialog(frmKeyCode); });
     frmMain.mnuSubtotal.Click.Calls([] { OpenDialog(frmSubtotal); });
@@ -200,5 +208,6 @@ void JoinMainEvents() {
     JoinSample();
     JoinTotals();
     JoinCommands();
+    JoinFocusOfButtons();
     JoinDialogs();
 }

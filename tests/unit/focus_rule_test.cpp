@@ -81,4 +81,24 @@ TEST_F(FocusRuleTest, ABoxThatModifyModeOpensTakesNoFocusFromAMove) {
         EXPECT_EQ(MousePointer, kPointerIBeam) << box->name;
     }
 }
+
+TEST_F(FocusRuleTest, NothingThatIsPressedWhileCountingKeepsTheKeyboard) {
+    SaveAs("/sheets/pressed.csv");
+    for (Control* pressed : std::initializer_list<Control*>{&frmMain.Option1[1], &frmMain.Command6, &frmMain.Text3[0]}) {
+        ClickControl(*pressed);
+        EXPECT_EQ(frmMain.Focus(), &frmMain.Text99) << pressed->name;
+    }
+    KeyNumber(1);
+    ClickControl(frmMain.Command5[0]);
+    EXPECT_EQ(frmMain.Focus(), &frmMain.Text99) << "Save";
+    NextSample("20");
+    EXPECT_EQ(ActiveWindow(), &frmMain);
+    EXPECT_EQ(frmMain.Focus(), &frmMain.Text99) << "Next sample";
+}
+
+TEST_F(FocusRuleTest, InModifyModeAButtonKeepsIt) {
+    ClickControl(frmMain.Command3[0]);
+    ClickControl(frmMain.Option1[1]);
+    EXPECT_EQ(frmMain.Focus(), &frmMain.Option1[1]);
+}
 }  // namespace
