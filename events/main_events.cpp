@@ -124,7 +124,10 @@ void JoinParam(int p) {
     box.LostFocus.Calls([&box] { RestoreDashes(box); });
     JoinGuardedKeys(box);
     box.Change.Calls([p] { TakeParam(p); });
-    frmMain.Label10[p].Change.Calls([p] { EndWithColon(p); });
+    frmMain.Label10[p].Change.Calls([p] {
+        EndWithColon(p);
+        NameParamBox(p);
+    });
     frmMain.Command7[p].Click.Calls([p] { RenameParamOfSheet(p); });
     frmMain.Command7[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
 }

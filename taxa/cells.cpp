@@ -96,6 +96,10 @@ void EndWithColon(int p) {
     if (Right(label.Caption(), 1) != ":") label.SetCaption(label.Caption() + ":");
 }
 
+void NameParamBox(int p) {
+    frmMain.Text5[p].SetToolTip(WithoutTrailingColon(frmMain.Label10[p].Caption()));
+}
+
 void RenameSampleOnShow() {
     NameSampleOnShow(frmMain.Combo2.Text());
     frmMain.Text1[0].SetText(frmMain.Combo2.Text());

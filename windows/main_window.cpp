@@ -142,6 +142,7 @@ void MainWindow::PlaceParams() {
         Add(Text5[p], "Text5", p, &Frame4, {1580, top, 1080, 320});
         Text5[p].SetText(kEmpty);
         Text5[p].SetEnabled(false);
+        Text5[p].SetToolTip("Additional info-" + number);
         Text5[p].named_by = &Label10[p];
         Add(Command7[p], "Command7", p, &Frame4, {2700, top, 660, 320});
         Command7[p].SetCaption("Rename");

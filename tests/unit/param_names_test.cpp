@@ -1,5 +1,6 @@
 #include "taxa/param_names.h"
 
+#include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
@@ -90,5 +91,18 @@ TEST_F(ParamNamesTest, AfterTheNextSampleTheMainWindowIsTheOneThatAsks) {
     EXPECT_EQ(frmMain.Label10[1].Caption(), "Depth:");
     EXPECT_FALSE(frmNext.IsLoaded());
     EXPECT_EQ(ActiveWindow(), &frmMain);
+}
+
+TEST_F(ParamNamesTest, AFieldTellsItsNameWhileItsLabelIsHidden) {
+    Begin("10");
+    EXPECT_EQ(frmMain.Text5[6].ToolTip(), "Additional info-6");
+    ClickControl(frmMain.Command3[0]);
+    Rename(2, "Tablets");
+    ClickControl(frmMain.Command3[1]);
+    ASSERT_FALSE(frmMain.Label10[2].Visible());
+    EXPECT_EQ(frmMain.Text5[2].ToolTip(), "Tablets");
+    AnswerNext(Answer::Yes);
+    ClickControl(frmMain.mnuNew);
+    EXPECT_EQ(frmMain.Text5[2].ToolTip(), WithoutTrailingColon(frmMain.Label10[2].Caption()));
 }
 }  // namespace
