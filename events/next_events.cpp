@@ -3,6 +3,7 @@
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
 #include "session/sheet_state.h"
+#include "session/sound.h"
 #include "taxa/edit_boxes.h"
 #include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
@@ -32,7 +33,10 @@ void JoinParam(TextBox& value) {
 }  // namespace
 
 void JoinNextEvents() {
-    frmNext.Loaded.Calls(LoadNextWindow);
+    frmNext.Loaded.Calls([] {
+        LoadNextWindow();
+        SayIfSilent();
+    });
     frmNext.Activated.Calls(BringNextToFront);
     frmNext.FrameClosed.Calls(CloseNextByFrame);
     frmNext.Command4.Click.Calls(ShowSampleFields);

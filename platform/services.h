@@ -1,6 +1,7 @@
 // What the program asks of the machine beyond windows. A platform fills in the services before the start and keeps them to the end.
 #pragma once
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -52,6 +53,8 @@ public:
     virtual ~Sounds() = default;
     virtual void Play(const Wave& wave) = 0;  // returns at once; cuts off the wave that plays. Silent without a device
     virtual void Beep() = 0;                  // the system's own signal
+    // Calls the procedure, at once or later, if there turns out to be no device; the one that was told last.
+    virtual void IfSilent(std::function<void()> procedure) = 0;
 };
 
 class Clock {

@@ -1,7 +1,22 @@
 #include "session/sound.h"
 
 #include "session/sheet_state.h"
+#include "windows/next_window.h"
+
+namespace {
+constexpr Colour kWarning{176, 48, 32};
+
+void SaySilent() {
+    if (!frmNext.IsLoaded()) return;
+    frmNext.Label5[1].SetCaption("No sound device: keys count without a sound");
+    frmNext.Label5[1].SetForeColor(kWarning);
+}
+}  // namespace
 
 void PlayIfOn(const Wave& wave) {
     if (SoundOn) services.sounds->Play(wave);
+}
+
+void SayIfSilent() {
+    services.sounds->IfSilent(SaySilent);
 }

@@ -1,5 +1,6 @@
 // The services that only take note of what the program asks for, and the clock that stands still.
 #pragma once
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -8,9 +9,13 @@
 class RecordedSounds : public Sounds {
 public:
     std::vector<std::string> played;  // names of waves and "Beep", in order
+    bool has_device = true;
 
     void Play(const Wave& wave) override { played.push_back(wave.name); }
     void Beep() override { played.push_back("Beep"); }
+    void IfSilent(std::function<void()> procedure) override {
+        if (!has_device) procedure();
+    }
 };
 
 class ScriptedClock : public Clock {

@@ -4,6 +4,8 @@
 #include <SDL_mixer.h>
 
 #include <QApplication>
+#include <QMetaObject>
+#include <utility>
 
 namespace {
 constexpr int kRate = 44100;
@@ -25,11 +27,24 @@ void QtSounds::Open() {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Marlbrook");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_NAME, "Keys");
-    if (SDL_Init(SDL_INIT_AUDIO) != 0 || !OpenDevice()) return;
-    Mix_AllocateChannels(kOneChannel);
+    const bool opens = SDL_Init(SDL_INIT_AUDIO) == 0 && OpenDevice();
+    if (opens) Mix_AllocateChannels(kOneChannel);
     const std::lock_guard lock(mutex_);
-    is_open_ = true;
-    if (waits_) PlayNow(waits_, waiting_bytes_);
+    is_open_ = opens;
+    is_silent_ = !opens;
+    if (is_silent_) TellOfSilence();
+    if (is_open_ && waits_) PlayNow(waits_, waiting_bytes_);
+}
+
+void QtSounds::IfSilent(std::function<void()> procedure) {
+    const std::lock_guard lock(mutex_);
+    if_silent_ = std::move(procedure);
+    if (is_silent_) TellOfSilence();
+}
+
+// The program hears of it on its own thread.
+void QtSounds::TellOfSilence() {
+    if (if_silent_) QMetaObject::invokeMethod(qApp, if_silent_, Qt::QueuedConnection);
 }
 
 QtSounds::~QtSounds() {

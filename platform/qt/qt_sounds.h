@@ -3,6 +3,7 @@
 // The device opens on a thread of its own, for that can take longer than the first window; what is played meanwhile sounds once it is
 // open. A process has one device, and so one of these at a time.
 #pragma once
+#include <functional>
 #include <map>
 #include <mutex>
 #include <string>
@@ -21,6 +22,7 @@ public:
 
     void Play(const Wave& wave) override;
     void Beep() override;
+    void IfSilent(std::function<void()> procedure) override;
 
 private:
     struct Loaded {
@@ -29,9 +31,12 @@ private:
     };
     void Open();
     void PlayNow(const Wave* wave, const std::string& bytes);
+    void TellOfSilence();
 
     std::mutex mutex_;
     bool is_open_ = false;
+    bool is_silent_ = false;  // there is no device that would open
+    std::function<void()> if_silent_;
     const Wave* waits_ = nullptr;  // asked for before the device was open
     std::string waiting_bytes_;    // a copy: the program may read its waves anew meanwhile
     std::map<const Wave*, Loaded> loaded_;

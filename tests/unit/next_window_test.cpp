@@ -167,4 +167,23 @@ TEST_F(NextWindowTest, ADoubleClickOnTheNoteUnderANameThatIsTakenLeavesTheWindow
     EXPECT_FALSE(frmMain.Enabled());
     EXPECT_EQ(SampleCount, 1);
 }
+
+TEST_F(NextWindowTest, TheStartFaceSaysThatThereIsNoSoundDevice) {
+    const std::string usual = frmNext.Label5[1].Caption();
+    Start();
+    EXPECT_EQ(frmNext.Label5[1].Caption(), usual);
+    frmNext.Unload();
+    services_.sounds.has_device = false;
+    frmNext.Show();
+    EXPECT_EQ(frmNext.Label5[1].Caption(), "No sound device: keys count without a sound");
+}
+
+TEST_F(NextWindowTest, WithoutASoundDeviceKeysCountAsEver) {
+    services_.sounds.has_device = false;
+    Begin("10");
+    KeyNumber(1, 100);
+    EXPECT_EQ(AllTotal, 100);
+    EXPECT_TRUE(SoundOn);
+    EXPECT_EQ(Played().back(), "WaveAlarm");
+}
 }  // namespace
