@@ -15,6 +15,7 @@ for_build=(
     qt6-wayland     # desktops without X11
     libx11-dev      # keys that are held, under X11
     libsdl2-mixer-dev
+    pkgconf libxkbcommon-x11-dev libwayland-dev  # what the keys type
     fonts-dejavu-core fonts-dejavu-extra  # the second has the slanted faces, for genera
     python3-markdown  # the manual
 )

@@ -2,6 +2,7 @@
 #pragma once
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -57,6 +58,14 @@ public:
     virtual void IfSilent(std::function<void()> procedure) = 0;
 };
 
+class Keyboard {
+public:
+    virtual ~Keyboard() = default;
+    // What the keys type without Shift on the layout in use, by the virtual-key number that the program hears from each; UTF-8. Empty
+    // if the system does not tell.
+    virtual std::map<int, std::string> Characters() = 0;
+};
+
 class Clock {
 public:
     virtual ~Clock() = default;
@@ -95,6 +104,7 @@ struct Services {
     Popups* popups = nullptr;
     Files* files = nullptr;
     ProgramHost* host = nullptr;
+    Keyboard* keyboard = nullptr;
 };
 extern Services services;
 

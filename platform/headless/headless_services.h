@@ -19,11 +19,12 @@ struct HeadlessServices {
     DiskFiles disk;
     ScriptedFiles files{disk};
     RecordedHost host;
+    ScriptedKeyboard keyboard;
 
     // Puts them all into `services`; they must live as long as the program uses them.
     explicit HeadlessServices(const std::string& program_folder) {
         host.folder = program_folder;
-        services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host};
+        services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host, &keyboard};
     }
     ~HeadlessServices() { services = {}; }
     HeadlessServices(const HeadlessServices&) = delete;

@@ -1,6 +1,7 @@
 // The services that only take note of what the program asks for, and the clock that stands still.
 #pragma once
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,13 @@ public:
     void IfSilent(std::function<void()> procedure) override {
         if (!has_device) procedure();
     }
+};
+
+class ScriptedKeyboard : public Keyboard {
+public:
+    std::map<int, std::string> characters;
+
+    std::map<int, std::string> Characters() override { return characters; }
 };
 
 class ScriptedClock : public Clock {

@@ -4,6 +4,7 @@
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_files.h"
+#include "platform/qt/qt_keyboard.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_sounds.h"
 
@@ -15,7 +16,10 @@ struct DesktopServices {
     QtClipboard clipboard;
     QtPopups popups;
     QtFiles files;
+    QtKeyboard keyboard;
 
     // Puts them all into `services`, with `host`; they must live as long as the program uses them.
-    explicit DesktopServices(ProgramHost& host) { services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host}; }
+    explicit DesktopServices(ProgramHost& host) {
+        services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host, &keyboard};
+    }
 };
