@@ -44,6 +44,7 @@ void JoinKeyCodeEvents() {
         JoinKeyNumber(key);
     }
     for (int key = 0; key <= kF1Box; ++key) JoinFunctional(key);
+    for (int row = 1; row <= kMapRows; ++row) frmKeyCode.Text2[row].Change.Calls([row] { ShowCharacter(row); });
     frmKeyCode.SSTab1.Change.Calls(OfferDefault);
     frmKeyCode.Option1[0].Click.Calls([] { MirrorMaps(1); });
     frmKeyCode.Option1[1].Click.Calls([] { MirrorMaps(-1); });

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "keys/key_settings.h"
+#include "platform/services.h"
 #include "session/dialog.h"
 #include "session/sheet_state.h"
 #include "windows/key_code_window.h"
@@ -42,8 +43,19 @@ void EmptyBoxes(TextBox* boxes, int first, int last) {
 
 void FillKeyDialog() {
     CopyRows(KeySettings, frmKeyCode.SettingsAtOpening);
+    frmKeyCode.Characters = services.keyboard->Characters();
     FillBoxes();
     LayOutMaps();
+}
+
+void ShowCharacter(int row) {
+    std::string tip;
+    for (const auto& [code, character] : frmKeyCode.Characters)
+        if (frmKeyCode.Text2[row].Text() == std::to_string(code)) tip = "on this keyboard: " + character;
+    frmKeyCode.Text1[row].SetToolTip(tip);
+    frmKeyCode.Text2[row].SetToolTip(tip);
+    for (int key = 0; key < kFunctionalKeys; ++key)
+        if (kFunctionalRows[key] == row) frmKeyCode.Text4[key].SetToolTip(tip);
 }
 
 void LayOutMaps() {

@@ -4,6 +4,10 @@
 
 void FillKeyDialog();  // it loads: the boxes take what KeySettings hold, and a copy of the rows is kept for Cancel
 
+// The boxes of the row have a tool tip with what the key of their code types on the keyboard in use, for a definition may be another
+// keyboard's: "on this keyboard: ö". None where the system does not tell.
+void ShowCharacter(int row);
+
 // Lays the maps of definitions and codes out by the key numbers: the boxes of key k stand where the number k stands in the third map. A
 // number that no key has moves nothing.
 void LayOutMaps();

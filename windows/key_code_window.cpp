@@ -149,4 +149,5 @@ void KeyCodeWindow::ForgetMembers() {
     OldDefinition.clear();
     OldCode.clear();
     OldFunctional.clear();
+    Characters.clear();
 }

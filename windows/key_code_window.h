@@ -4,6 +4,7 @@
 // The boxes of a map bear the rows of the key settings: 1..45 counter keys, 46 and 48 Shift-1, 47 Shift-2, 49 Undo, 50 Save. Index 0
 // takes the heading row and is never seen.
 #pragma once
+#include <map>
 #include <string>
 
 #include "platform/controls.h"
@@ -41,9 +42,10 @@ struct KeyCodeWindow : Window {
     Button Command4;           // OK
     Button Command1;           // Cancel
 
-    std::string OldDefinition;  // what a box of a map held when it got the focus
-    std::string OldCode;        // the code beside it before the last key
-    std::string OldFunctional;  // what a box of Text4 held when it got the focus
+    std::string OldDefinition;              // what a box of a map held when it got the focus
+    std::string OldCode;                    // the code beside it before the last key
+    std::string OldFunctional;              // what a box of Text4 held when it got the focus
+    std::map<int, std::string> Characters;  // what the keys type on the layout in use, by their codes
     Any SettingsAtOpening[kMapRows + 1][3];
 
 private:

@@ -311,4 +311,23 @@ TEST_F(KeyDialogTest, LeavingTheProgramDoesNotBringTheMainWindowBack) {
     EXPECT_FALSE(frmKeyCode.IsLoaded());
     EXPECT_FALSE(frmMain.Enabled());
 }
+
+TEST_F(KeyDialogTest, ABoxTellsWhatItsKeyTypesOnThisKeyboard) {
+    services_.keyboard.characters = {{186, "ö"}, {187, "´"}, {81, "q"}};
+    Open();
+    EXPECT_EQ(frmKeyCode.Text1[1].ToolTip(), "on this keyboard: q");
+    EXPECT_EQ(frmKeyCode.Text2[1].ToolTip(), "on this keyboard: q");
+    EXPECT_EQ(frmKeyCode.Text1[2].ToolTip(), "");
+    for (const int row : {46, 48}) EXPECT_EQ(frmKeyCode.Text1[row].ToolTip(), "on this keyboard: ö") << row;
+    EXPECT_EQ(frmKeyCode.Text4[0].ToolTip(), "on this keyboard: ö");
+    EXPECT_EQ(frmKeyCode.Text4[3].ToolTip(), "on this keyboard: ´");
+    EXPECT_EQ(frmKeyCode.Text4[2].ToolTip(), "") << "BkSp types nothing";
+    ClickControl(frmKeyCode.Text4[2]);
+    Press(187, "´");
+    EXPECT_EQ(frmKeyCode.Text4[2].ToolTip(), "on this keyboard: ´") << "as soon as another key is pressed in it";
+    ClickControl(frmKeyCode.Command1);
+    services_.keyboard.characters = {};
+    ClickControl(frmMain.mnuKeyCodeReader);
+    EXPECT_EQ(frmKeyCode.Text1[1].ToolTip(), "") << "the keyboard is asked each time";
+}
 }  // namespace
