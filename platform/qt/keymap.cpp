@@ -11,6 +11,7 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/virtual_key.h"
+#include "platform/qt/x11.h"
 
 namespace {
 struct Accent {
@@ -107,7 +108,7 @@ Keymap KeymapOfWayland() {
 }  // namespace
 
 Keymap KeymapInUse() {
-    if (const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) return KeymapOfX11(x11->connection());
+    if (const auto* const x11 = X11()) return KeymapOfX11(x11->connection());
     if (QGuiApplication::platformName() == QLatin1String("wayland")) return KeymapOfWayland();
     return {};
 }

@@ -1,7 +1,8 @@
 #include "platform/qt/x11_repeats.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
+
+#include "platform/qt/x11.h"
 
 #if QT_CONFIG(xcb)
 #include <X11/XKBlib.h>
@@ -15,12 +16,6 @@ namespace {
 // event by itself, in whatever order and however late that is delivered.
 constexpr quint16 kMark = 0x8000;
 constexpr int kFromAnotherClient = 0x80;  // of an event's type
-
-// The platform without a screen has the interface too, with nothing behind it.
-QNativeInterface::QX11Application* X11() {
-    if (QGuiApplication::platformName() != QLatin1String("xcb")) return nullptr;
-    return qApp->nativeInterface<QNativeInterface::QX11Application>();
-}
 }  // namespace
 
 bool X11Repeats::IsMarked(const QKeyEvent& key) {
@@ -28,7 +23,7 @@ bool X11Repeats::IsMarked(const QKeyEvent& key) {
 }
 
 X11Repeats::X11Repeats() {
-    auto* const x11 = X11();
+    const auto* const x11 = X11();
     if (!x11) return;
     XkbSetDetectableAutoRepeat(x11->display(), True, nullptr);
     qApp->installNativeEventFilter(this);
@@ -39,7 +34,7 @@ X11Repeats::~X11Repeats() {
 }
 
 void X11Repeats::Watch(QWindow& window) {
-    auto* const x11 = X11();
+    const auto* const x11 = X11();
     XWindowAttributes now;
     if (x11 && XGetWindowAttributes(x11->display(), window.winId(), &now))
         XSelectInput(x11->display(), window.winId(), now.your_event_mask | KeymapStateMask);
