@@ -67,8 +67,10 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     if (QApplication::activeModalWidget()) return IsAnswer(key) && IsRepeat(key);
     auto* const top = static_cast<QWidget*>(watched)->window();
     if (top->windowType() == Qt::Popup) return TakeInPopup(*top, key);
-    if (!dynamic_cast<WindowWidget*>(top)) return false;
+    auto* const widget = dynamic_cast<WindowWidget*>(top);
+    if (!widget) return false;
     key.accept();
+    if (type == QEvent::KeyPress && widget->isVisible()) TheRenderer().UserActivates(widget->window());
     if (type == QEvent::KeyPress) Press(key);
     if (type == QEvent::KeyRelease) Release(key);
     return true;  // an overridden shortcut comes back as an ordinary press

@@ -11,6 +11,7 @@
 #include "platform/user.h"
 #include "session/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
+#include "windows/diagram_window.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -31,6 +32,20 @@ protected:
         Do([] { CloseWindow(frmNext); });
         renderer_.WidgetOf(frmMain)->activateWindow();
         QApplication::processEvents();
+    }
+
+    void NameSample(const char* name) {
+        Do([] { ClickControl(frmNext.Text1); });
+        Do([name] { InsertText(frmNext.Text1, name); });
+        Do([] { ClickControl(frmNext.Command1); });
+    }
+    void BeginFirstSample() {
+        Do([] { ClickControl(frmNext.Command4); });
+        NameSample("10");
+    }
+    void BeginNextSample() {
+        Do([] { ClickControl(frmMain.Command5[1]); });
+        NameSample("20");
     }
 
     KeyFilter keys_;
@@ -61,6 +76,19 @@ TEST_F(HeldKeysTest, AKeyThatWasPressedInAnotherProgramReachesNobody) {
     BeginCounting();
     PressQ(frmMain, true);
     EXPECT_EQ(Counts[1][1], 0);
+}
+
+// A desktop may send the first key to a window before it calls that active.
+TEST_F(HeldKeysTest, AKeyBringsTheWindowThatHasItToTheFront) {
+    BeginFirstSample();
+    PressQ(frmMain);
+    ReleaseQ(frmMain);
+    BeginNextSample();
+    Do([] { ClickControl(frmMain.mnuBar); });
+    ASSERT_EQ(ActiveWindow(), &frmDiagram);
+    PressQ(frmMain);
+    EXPECT_EQ(ActiveWindow(), &frmMain);
+    EXPECT_EQ(Counts[1][CurrentSample], 1);
 }
 
 TEST_F(HeldKeysTest, ABoxThatTakesEveryKeyHasAHeldOneOnce) {
