@@ -86,6 +86,7 @@ void JoinCountBox(int slot) {
     JoinBox(box);
     box.MouseMove.Calls(EnterCountCell);
     box.GotFocus.Calls([slot] { EnterCountBox(slot); });
+    box.WalkedTo.Calls([slot] { NoteCountBeforeEdit(slot); });
     box.LostFocus.Calls([slot] { LeaveCountBox(slot); });
     box.MouseDown.Calls([slot](Mouse mouse) {
         NoteCountBeforeEdit(slot);

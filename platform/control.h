@@ -99,6 +99,7 @@ public:
     Event<> Change;
     Event<> GotFocus;
     Event<> LostFocus;
+    Event<> WalkedTo;    // Tab has brought the focus here, after GotFocus
     Event<int> KeyDown;  // virtual-key number
     Event<int> KeyUp;
     Event<Mouse> MouseDown;

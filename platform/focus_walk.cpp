@@ -46,5 +46,6 @@ void WalkFocus(Window& window, bool back) {
     Control* const next = NextInRound(Stops(window), window.Focus(), back ? -1 : 1);
     if (!next) return;
     next->SetFocus();
+    next->WalkedTo.Raise();
     if (HasOneLine(*next)) static_cast<TextHolder*>(next)->SelectAll();
 }

@@ -7,7 +7,6 @@
 #include "session/modify_mode.h"
 #include "session/sheet_state.h"
 #include "session/totals.h"
-#include "taxa/cells.h"
 #include "taxa/quotation_guard.h"
 #include "windows/main_window.h"
 
@@ -29,7 +28,6 @@ void LeaveNameBox(int slot) {
 
 void EnterCountBox(int slot) {
     EditedValue = frmMain.Text2[slot].Text();
-    NoteCountBeforeEdit(slot);
 }
 
 void LeaveCountBox(int slot) {

@@ -5,6 +5,7 @@
 
 #include "platform/user.h"
 #include "unit/sheet_test.h"
+#include "windows/about_windows.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -51,6 +52,15 @@ TEST_F(FocusWalkTest, ACountRefusedAfterAStepIsTheOneThatStoodThere) {
     EXPECT_EQ(LastMessage().text, "Please input digit(s).");
     EXPECT_EQ(frmMain.Text2[2].Text(), "0");
     EXPECT_EQ(Counts[2][1], 0);
+}
+
+TEST_F(FocusWalkTest, ACountRefusedAfterAnotherWindowIsTheOneThatWasPressed) {
+    ClickControl(frmMain.Text2[1]);
+    EnterText(frmMain.Text2[1], "7", 1);
+    ClickControl(frmMain.mnuAboutMB1);
+    CloseWindow(frmAboutMB1);
+    EnterText(frmMain.Text2[1], "x", 1);
+    EXPECT_EQ(frmMain.Text2[1].Text(), "0");
 }
 
 TEST_F(FocusWalkTest, ShiftTabGoesBack) {
