@@ -56,10 +56,13 @@ class StartedProgram:
     def release(self, *codes):
         self.desk.send([(code, False) for code in codes])
 
-    def hold_for(self, seconds, code):
-        """Where the length is the subject. A busy machine makes fewer repeats of it, so no test may need a number of them."""
+    def hold_for(self, seconds, code, then=None):
+        """Where the length is the subject. A busy machine makes fewer repeats of it, so no test may need a number of them. `then` is a key
+        that is pressed at its end, before it is let go."""
         self.hold(code)
         time.sleep(seconds)
+        if then:
+            self.press(then)
         self.release(code)
 
     def type(self, text):
