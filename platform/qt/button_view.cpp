@@ -2,9 +2,7 @@
 
 #include "platform/qt/fitted_text.h"
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/views.h"
-#include "platform/user.h"
 
 namespace {
 constexpr int kMostLines = 3;
@@ -21,14 +19,10 @@ public:
         button_ = new Painted<QPushButton>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         button_->setAutoDefault(false);
         Adopt(button_);
-        // A screen reader presses it without a mouse.
-        QObject::connect(button_, &QPushButton::clicked, this, [this] { TheRenderer().Run([this] { ClickControl(model_); }); });
     }
 
 private:
-    void ShowContent(Changes changes) override {
-        if (changes.Has(Property::Caption)) button_->setText(Literally(model_.Caption()));
-    }
+    void ShowContent(Changes) override {}
     void ShowPressed(bool pressed) override { button_->setDown(pressed); }
 
     void Paint(QPainter& painter) {

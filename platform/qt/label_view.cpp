@@ -1,5 +1,3 @@
-#include <QLabel>
-
 #include "platform/qt/fitted_text.h"
 #include "platform/qt/look.h"
 #include "platform/qt/views.h"
@@ -10,15 +8,12 @@ constexpr int kMostLines = 99;
 class LabelView : public ControlWidget {
 public:
     LabelView(Label& label, WindowWidget& window, ControlWidget* owner) : ControlWidget(label, window, owner), label_(label) {
-        words_ = new Painted<QLabel>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
-        words_->setTextFormat(Qt::PlainText);
+        words_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         Adopt(words_);
     }
 
 private:
-    void ShowContent(Changes changes) override {
-        if (changes.Has(Property::Caption)) words_->setText(ToQt(label_.Caption()));  // for screen readers
-    }
+    void ShowContent(Changes) override {}
 
     // A label in the colour of the windows is only its words: what lies below may have another.
     void Paint(QPainter& painter) {
@@ -30,7 +25,7 @@ private:
     }
 
     Label& label_;
-    QLabel* words_;
+    QWidget* words_;
     FittedText fitted_;
 };
 }  // namespace

@@ -126,10 +126,6 @@ std::string FromQt(const QString& text) {
     return {utf8.constData(), static_cast<std::size_t>(utf8.size())};
 }
 
-QString Literally(const std::string& caption) {
-    return ToQt(caption).replace(QLatin1String("&"), QLatin1String("&&"));
-}
-
 QFont ControlFont(const Properties& control, double factor) {
     QFont font = FontOfSize(control.font_size, factor);
     font.setBold(control.bold);

@@ -24,7 +24,6 @@ void ApplyLook(QApplication& application);
 QColor ToQt(Colour colour);
 QString ToQt(const std::string& utf8);
 std::string FromQt(const QString& text);
-QString Literally(const std::string& caption);  // for a widget to which "&" would be the mark of an access key
 
 // The font of a control in a window of so many pixels a twip: a point is 20 twips.
 QFont ControlFont(const Properties& control, double factor);

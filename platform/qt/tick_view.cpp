@@ -4,9 +4,7 @@
 
 #include "platform/qt/fitted_text.h"
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/views.h"
-#include "platform/user.h"
 
 namespace {
 constexpr double kMarkTwips = 210;
@@ -30,7 +28,7 @@ void PaintTick(QPainter& painter, const QRectF& mark, bool on) {
     painter.drawPolyline(QPolygonF({at(0.22, 0.52), at(0.43, 0.72), at(0.8, 0.28)}));
 }
 
-// Qt's own button stands for the control with screen readers; its state follows the program's alone.
+// Its state follows the program's alone.
 template <class Base>
 class TickWidget : public Painted<Base> {
 public:
@@ -47,14 +45,10 @@ public:
         button_ = new TickWidget<Base>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         button_->setAutoExclusive(false);
         Adopt(button_);
-        QObject::connect(button_, &Base::clicked, this, [this] { TheRenderer().Run([this] { ClickControl(model_); }); });
     }
 
 private:
-    void ShowContent(Changes changes) override {
-        if (changes.Has(Property::Caption)) button_->setText(Literally(model_.Caption()));
-        button_->setChecked(model_.Value() != 0);
-    }
+    void ShowContent(Changes) override { button_->setChecked(model_.Value() != 0); }
     void ShowPressed(bool pressed) override { button_->setDown(pressed); }
 
     void Paint(QPainter& painter) {
