@@ -90,18 +90,26 @@ void TakeGlobal(void* data, wl_registry* registry, std::uint32_t name, const cha
 
 constexpr wl_registry_listener kRegistryListener = {TakeGlobal, [](void*, wl_registry*, std::uint32_t) {}};
 
-Keymap KeymapOfWayland() {
+std::string KeymapTextOfWayland() {
     wl_display* const display = wl_display_connect(nullptr);
-    if (!display) return {};
+    if (!display) return "";
     WaylandKeyboard wanted;
-    wl_registry_add_listener(wl_display_get_registry(display), &kRegistryListener, &wanted);
+    wl_registry* const registry = wl_display_get_registry(display);
+    wl_registry_add_listener(registry, &kRegistryListener, &wanted);
     for (int answer = 0; answer < 3; ++answer) wl_display_roundtrip(display);  // the seat, its keyboard, the keymap
+    if (wanted.keyboard) wl_keyboard_destroy(wanted.keyboard);
+    if (wanted.seat) wl_seat_destroy(wanted.seat);
+    wl_registry_destroy(registry);
     wl_display_disconnect(display);
+    return wanted.keymap;
+}
+
+Keymap KeymapOfWayland() {
+    const std::string text = KeymapTextOfWayland();
     const auto context = MakeContext();
-    if (!context || wanted.keymap.empty()) return {};
+    if (!context || text.empty()) return {};
     Keymap keymap;
-    keymap.keys.reset(
-        xkb_keymap_new_from_string(context.get(), wanted.keymap.c_str(), XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
+    keymap.keys.reset(xkb_keymap_new_from_string(context.get(), text.c_str(), XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (keymap.keys && xkb_keymap_num_layouts(keymap.keys.get()) > 1) return {};  // only the window in front hears which is in use
     return keymap;
 }
