@@ -21,7 +21,7 @@ bool IsSecondaryOption(const Control& control) {
 }
 
 bool HasOneLine(const Control& control) {
-    return control.kind() == Kind::ComboBox || (control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).multiline);
+    return control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).multiline;
 }
 
 std::vector<Control*> Stops(Window& window) {

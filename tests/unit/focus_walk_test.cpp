@@ -114,6 +114,13 @@ TEST_F(FocusWalkTest, ANoteIsNotMarked) {
     EXPECT_EQ(frmMain.Text4.SelLength(), 0);
 }
 
+TEST_F(FocusWalkTest, TheListOfSamplesIsNotMarked) {
+    ClickControl(frmMain.Text4);
+    StepBack();
+    ASSERT_EQ(Focus(), &frmMain.Combo2);
+    EXPECT_EQ(frmMain.Combo2.SelLength(), 0) << "one letter would rename the sample";
+}
+
 TEST_F(FocusWalkTest, OutsideTheGridNoStepLeadsIntoIt) {
     ClickControl(frmMain.Text4);
     std::set<Control*> met;
