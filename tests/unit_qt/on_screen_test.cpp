@@ -4,8 +4,10 @@
 #include "platform/qt/accessible.h"
 #include "platform/qt/look.h"
 #include "platform/qt/window_widget.h"
+#include "unit/shared_state.h"
 
 OnScreenTest::OnScreenTest(double density) : is_scaled_(qputenv("QT_SCALE_FACTOR", QByteArray::number(density))) {
+    WipeSharedState();
     ApplyLook(application_);
     OpenToReaders();
     ::services.files = &files_;
