@@ -2,7 +2,9 @@
 import re
 import unittest
 
-from desk import SHIFT_1, TOP, UNDO, Desk, Program, wait_for
+from desk import TOP, Program
+from keyboard import SHIFT_1, UNDO
+from x11_desk import X11Desk
 
 LAYOUTS = {"QWERTY, American": ("us", ""), "QWERTY, British": ("gb", ""), "QWERTY, Spanish": ("es", ""), "QWERTZ, German": ("de", ""),
            "AZERTY, French": ("fr", ""), "Dvorak": ("us", "dvorak"), "Russian": ("ru", "")}
@@ -21,7 +23,8 @@ def table():
 
 class FunctionalKeysTest(unittest.TestCase):
     def open_on(self, keyboard):
-        self.desk = Desk(layout=LAYOUTS[keyboard][0], variant=LAYOUTS[keyboard][1])
+        layout, variant = LAYOUTS[keyboard]
+        self.desk = X11Desk(layout=layout, variant=variant)
         self.addCleanup(self.desk.close)
         self.program = Program(self.desk)
         self.addCleanup(self.program.end)
@@ -30,32 +33,21 @@ class FunctionalKeysTest(unittest.TestCase):
     def key_that_types(self, character):
         """Its X key code, as the server has it: the first symbol of a key is what it types without Shift."""
         symbol = SYMBOLS.get(character, character)
-        return int(re.search(rf"^keycode +(\d+) = {symbol} ", self.desk.run("xmodmap", "-pke"), re.M).group(1))
-
-    def press_held(self, held, key):
-        self.program.hold(held)
-        self.program.press(key)
-        self.program.release(held)
+        return int(re.search(rf"^keycode +(\d+) = {symbol} ", self.desk.output("xmodmap", "-pke").decode(), re.M).group(1))
 
     def saved_by(self, key):
-        path = self.program.work / "functional.csv"
-        self.program.press(key)
-        self.desk.window("^Save as$")
-        self.desk.use_layout("us")  # for the name of the file
-        self.desk.xdotool("type", "--delay", 20, str(path))
-        self.desk.xdotool("key", "Return")
-        wait_for(f"the file {path}", lambda: path.exists() and path.stat().st_size)
-        lines = path.read_bytes().split(b"\r\n")[2:137]
+        saved = self.program.save_as(self.program.work / "functional.csv", key)
+        lines = saved.split(b"\r\n")[2:137]
         return {slot: int(line.rsplit(b",", 1)[1]) for slot, line in enumerate(lines, 1) if not line.endswith(b",0")}
 
     def check(self, keyboard):
         self.open_on(keyboard)
         shift_1, shift_2, save = table()[keyboard]
         self.program.press(DIGIT_1, DIGIT_1, DIGIT_1, UNDO)
-        self.press_held(self.key_that_types(shift_2), DIGIT_3)
+        self.program.chord(self.key_that_types(shift_2), DIGIT_3)
         expected = {31: 2, 33 + 45: 1}
         if shift_1:
-            self.press_held(self.key_that_types(shift_1), DIGIT_2)
+            self.program.chord(self.key_that_types(shift_1), DIGIT_2)
             expected[32 + 45] = 1
         else:
             self.program.press(SHIFT_1)
