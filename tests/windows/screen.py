@@ -24,6 +24,12 @@ class Screen:
         repeat(on)              held keys repeat, from 200 ms on 50 times a second; at first they do not
         picture()               the bytes of a PNG of all that is on it
         copied_picture()        the bytes of a PNG from the clipboard
+
+    Windows of X11 have frames, and their user moves them:
+
+        frame(window)           the width of its frame at the left, right, top and bottom; () before it has one
+        put(window, ...)        asks for this left, top, width, height of its inside
+        maximise(window, on)    asks for that
     """
 
     def __init__(self):

@@ -9,6 +9,7 @@ from screen import Screen
 from spoken import wait_for
 
 OPENBOX = pathlib.Path(__file__).with_name("openbox.xml")
+PAGER = 2  # who asks the manager
 BETWEEN_KEYS = 2  # milliseconds, counted by the server: two events of a key at the same one would be a repeat
 
 
@@ -82,9 +83,22 @@ class X11Desk(Screen):
         to.send_event(event, event_mask=mask)
         self.display.sync()
 
+    def _ask_manager(self, window, message, *data):
+        self._tell(window, self.root, message, X.SubstructureRedirectMask | X.SubstructureNotifyMask, *data)
+
     def activate(self, window):
-        pager = 2
-        self._tell(window, self.root, "_NET_ACTIVE_WINDOW", X.SubstructureRedirectMask | X.SubstructureNotifyMask, pager, X.CurrentTime)
+        self._ask_manager(window, "_NET_ACTIVE_WINDOW", PAGER, X.CurrentTime)
+
+    def put(self, window, left, top, width, height):
+        left_top_width_height = 0b1111
+        self._ask_manager(window, "_NET_MOVERESIZE_WINDOW", X.StaticGravity | left_top_width_height << 8 | PAGER << 12, left, top, width, height)
+
+    def maximise(self, window, on):
+        sides = [self.display.intern_atom(f"_NET_WM_STATE_MAXIMIZED_{side}") for side in ("HORZ", "VERT")]
+        self._ask_manager(window, "_NET_WM_STATE", int(on), *sides, PAGER)
+
+    def frame(self, window):
+        return tuple(self._property(self._window(window), "_NET_FRAME_EXTENTS") or ())
 
     def settle(self, window):
         """The program answers a ping when it has taken all that came before it."""
