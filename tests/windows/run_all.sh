@@ -5,7 +5,7 @@
 # bindings for the accessible tree. Ends with "N passed, N failed".
 set -uo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
-on_both=(diagram_test held_keys_test count_test every_key_test dialogs_test sound_device_test first_run_test)
+on_both=(diagram_test held_keys_test count_test every_key_test dialogs_test sound_device_test first_run_test unfolding_test)
 logs=$(mktemp -d)
 trap 'rm -rf "$logs"' EXIT
 export logs
