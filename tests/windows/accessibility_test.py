@@ -2,7 +2,9 @@
 import unittest
 
 import spoken
-from desk import PAD, SHIFT_1, Desk, Program
+from desk import MAIN, START, Desk, Program
+from keyboard import PAD, SHIFT_1
+from spoken import wait_for
 
 ROLES = {"frame", "dialog", "menu bar", "menu item", "popup menu", "separator", "text", "label", "push button", "radio button", "check box",
          "combo box", "list", "list item", "panel", "page tab list", "page tab", "image", "progress bar", "slider", "scroll bar",
@@ -11,28 +13,18 @@ NAMELESS = {"popup menu", "menu bar", "separator", "label"}  # a label may have 
 TOLD_APART = ROLES - NAMELESS - {"list", "list item"}
 FOCUSABLE = {"text", "push button", "radio button", "check box", "combo box", "slider"}
 
-START, MAIN = "Marlbrook 2.7", "Marlbrook 2.7.5"
+PICTURE = r"Marlbrook 2\.5"
 
 
 class AccessibilityTest(unittest.TestCase):
     def setUp(self):
-        environment = spoken.environment()
         self.desk = Desk()
         self.addCleanup(self.desk.close)
-        self.desk.run("xset", "r", "off")
-        self.program = Program(self.desk, environment=environment)
+        self.program = Program(self.desk)
         self.addCleanup(self.program.end)
-        self.tree = spoken.program(self.program.process.pid)
+        self.window = self.program.spoken_window
 
     # ---- What a reader does ----
-
-    def up(self, title):
-        found = [window for window in self.tree.children if window.name == title and "showing" in window.states]
-        return found[-1] if found else None
-
-    def window(self, title):
-        """The window of this title that is up, dialog or not."""
-        return spoken.wait_for(f"the window '{title}'", lambda: self.up(title))
 
     def press(self, window, button):
         """A button, once it can be pressed."""
@@ -41,8 +33,9 @@ class AccessibilityTest(unittest.TestCase):
         found.act()
 
     def leave(self, title, button="OK"):
+        self.program.window(title)
         self.press(self.window(title), button)
-        spoken.wait_for(f"the end of '{title}'", lambda: not self.up(title))
+        self.desk.gone(title)
 
     def write(self, window, box, text):
         found = window.find("text", box)
@@ -66,6 +59,12 @@ class AccessibilityTest(unittest.TestCase):
         main = self.window(MAIN)
         main.find("push button", "Modify").wait_state("sensitive")
         return main
+
+    def count(self, *keys):
+        """The first grains of a sample, by real keys."""
+        self.program.window(MAIN)
+        self.program.press(*keys)
+        self.program.wait_total(len(keys))
 
     # ---- What a reader finds ----
 
@@ -174,23 +173,22 @@ class AccessibilityTest(unittest.TestCase):
         self.look_over(self.window("Ergodex DX-1 input system"), ("image", "A keypad with three blocks of keys"))
         self.leave("Ergodex DX-1 input system")
         self.choose("Are you tired...?", "Coffee")
-        picture = self.window("Marlbrook 2.5")
+        self.program.window(PICTURE)
+        picture = self.window(PICTURE)
         self.look_over(picture, ("image", "A cup of coffee"))
         picture.find("image", "A cup of coffee").act()
-        spoken.wait_for("the end of the picture", lambda: not self.up("Marlbrook 2.5"))
+        self.desk.gone(PICTURE)
 
     def test_the_next_sample_the_diagram_and_a_new_sheet(self):
         main = self.begin("12.5")
-        self.program.press(*PAD[:9])
-        main.find("text", "All total").wait_text("9")
+        self.count(*PAD[:9])
         self.press(main, "Next sample")
         following = self.window(START)
         self.look_over(following, ("text", "Name of the next sample"))
         self.write(following, "Name of the next sample", "15")
         self.leave(START)
         main.find("text", "All total").wait_text("0")
-        self.program.press(*PAD[:6])
-        main.find("text", "All total").wait_text("6")
+        self.count(*PAD[:6])
         self.choose("Diagram", "Bar")
         diagram = self.window("Diagram")
         self.look_over(diagram, ("image", "Diagram"), ("slider", "Selected sample"), ("spin button", "Next or previous sample"),
@@ -198,19 +196,18 @@ class AccessibilityTest(unittest.TestCase):
                        ("check box", "Line of the selected sample stays: 15"))
         slider = diagram.find("slider", "Selected sample")
         slider.value = 1
-        spoken.wait_for("the first sample", lambda: slider.value == 1)
+        wait_for("the first sample", lambda: slider.value == 1)
         diagram.find("check box", "Line of the selected sample stays: 12.5")
         diagram.find("spin button", "Next or previous sample").act("Increase")
-        spoken.wait_for("the second sample", lambda: slider.value == 2)
+        wait_for("the second sample", lambda: slider.value == 2)
 
     def test_a_question_and_a_template(self):
         main, path = self.begin("12.5"), self.program.work / "template.csv"
         self.choose("File", "Create template")
         self.write(self.window("Save as"), "File name:", str(path))
         self.leave("Save as", "Save")
-        spoken.wait_for("the template", path.exists)
-        self.program.press(*PAD[:3])
-        main.find("text", "All total").wait_text("3")
+        wait_for("the template", path.exists)
+        self.count(*PAD[:3])
         self.choose("File", "Quit")
         question = self.window("Caution!")
         self.assertEqual(question.role, "alert")
@@ -231,7 +228,7 @@ class AccessibilityTest(unittest.TestCase):
     def test_counts_and_banks_are_told(self):
         main = self.begin("12.5")
         total, bank = main.find("text", "All total"), main.find("page tab list", "Bank")
-        main.wait_state("focused")  # the keys are the program's
+        self.program.window(MAIN)
         told = spoken.Told("object:property-change:accessible-value")
         self.addCleanup(told.close)
         for count in (1, 2):
@@ -244,12 +241,11 @@ class AccessibilityTest(unittest.TestCase):
             told.events.clear()
             (self.program.hold if level else self.program.release)(SHIFT_1)
             told.wait("the bank", lambda _, node: node == bank)
-            spoken.wait_for("the bank", lambda: bank.value == level)
+            wait_for("the bank", lambda: bank.value == level)
 
     def test_a_sample_is_counted_renamed_and_saved_by_the_tree(self):
         main = self.begin("12.5")
-        self.program.press(*PAD[:3], PAD[0])
-        main.find("text", "All total").wait_text("4")
+        self.count(*PAD[:3], PAD[0])
         self.press(main, "Modify")
         self.write(main, "Sample name", "Top")
         self.write(main, "Name of taxon 1", "Pinus")
@@ -260,7 +256,7 @@ class AccessibilityTest(unittest.TestCase):
         dialog = self.window("Save as")
         self.write(dialog, "File name:", str(path))
         self.leave("Save as", "Save")
-        spoken.wait_for("the file", lambda: path.exists() and path.stat().st_size)
+        wait_for("the file", lambda: path.exists() and path.stat().st_size)
         main.find("push button", "Save").wait_state("sensitive", False)
         rows = path.read_text().split("\n")
         self.assertTrue(rows[1].rstrip().endswith('"Sample name","Top"'), rows[1])

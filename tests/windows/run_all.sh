@@ -5,7 +5,8 @@
 # bindings for the accessible tree. Ends with "N passed, N failed".
 set -uo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
-on_both=(diagram_test held_keys_test count_test every_key_test dialogs_test sound_device_test first_run_test unfolding_test)
+# Other layouts, frames and places that a user chooses are of X11 alone.
+on_both=(diagram_test held_keys_test count_test every_key_test dialogs_test sound_device_test first_run_test unfolding_test accessibility_test)
 logs=$(mktemp -d)
 trap 'rm -rf "$logs"' EXIT
 export logs
