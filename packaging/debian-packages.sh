@@ -22,7 +22,6 @@ for_build=(
 for_test=(
     libgtest-dev libbenchmark-dev
     xvfb openbox python3-xlib x11-xkb-utils x11-xserver-utils python3  # the real window, with real keys on several layouts
-    xdotool x11-utils wtype
     sway grim wl-clipboard libxkbcommon-tools                          # the same under Wayland
     dbus at-spi2-core python3-pyatspi                                  # what a screen reader finds
     libxtst-dev                                                        # keys for the benchmark of the window
