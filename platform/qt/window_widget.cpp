@@ -107,21 +107,21 @@ void WindowWidget::ChooseSize() {
     if (isMaximized()) return Fit();
     if (IsAsUserLeftIt()) return;
     const double wanted = sized_ && !window_.resizable ? factor_ : CommonFactor(*screen());
+    const QPoint middle = geometry().center();
     sized_ = false;  // the steps on the way to the new size are not its user's
     factor_ = FactorThatFits(Room().size(), {window_.Width(), window_.Height()}, wanted);
     menus_->SetFont(PlainFont(factor_));
     setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor_ * kSmallest));
     QSize size = window_.covers_screen ? screen()->size() : ClientSize(factor_);
     if (!menus_->Bar().isHidden()) size.rheight() += menus_->Bar().heightForWidth(size.width());
-    if (size != this->size()) Resize(size);
+    if (size != this->size()) ResizeAround(middle, size);
     sized_ = true;
     Fit();
 }
 
 // A window that grows where it is could grow off the screen. If none can move itself, the desktop places it anew.
-void WindowWidget::Resize(QSize size) {
+void WindowWidget::ResizeAround(QPoint middle, QSize size) {
     if (!isVisible()) return resize(size);
-    const QPoint middle = geometry().center();
     const bool comes_up_anew = !window_.resizable && !WindowsCanMove();
     if (comes_up_anew) hide();
     resize(size);

@@ -55,7 +55,7 @@ private:
     QRect Room() const;  // of the screen, what its frame leaves
     bool IsAsUserLeftIt() const;
     void ChooseSize();
-    void Resize(QSize size);
+    void ResizeAround(QPoint middle, QSize size);
     void Fit();      // the factor and all places, after a change of size
     void Enlarge();  // what lies in it, to what fills it
     double FactorThatFills(QSize client) const;
