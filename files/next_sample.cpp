@@ -85,6 +85,7 @@ void ShowStartFace() {
     frmNext.Label1.SetCaption("Name of the first sample: ");
     frmNext.Command2.SetVisible(true);
     frmNext.Command3.SetVisible(false);
+    frmNext.unfolds_to = kBothFacesHeight;
     frmNext.SetSize(kNextWidth, kStartFaceHeight);
 }
 
@@ -99,6 +100,7 @@ void ShowSampleFace() {
     frmNext.Frame1.SetVisible(true);
     PutOkBelowSampleFace();
     frmNext.Command3.SetPlace(kCancelLeft, frmNext.Command1.Top());
+    frmNext.unfolds_to = 0;
     frmNext.SetSize(kNextWidth, kSampleFaceHeight + kOkRowHeight);
     frmNext.Label1.SetCaption("Name of the next sample: ");
     frmNext.Command2.SetVisible(false);
@@ -144,7 +146,7 @@ void BringNextToFront() {
 }
 
 void ShowSampleFields() {
-    frmNext.SetSize(kNextWidth, kStartFaceHeight + kSampleFaceHeight + kOkRowHeight);
+    frmNext.SetSize(kNextWidth, kBothFacesHeight);
     frmNext.Command4.SetVisible(false);
     frmNext.Frame1.SetVisible(true);
     frmNext.Text1.SetFocus();

@@ -26,6 +26,7 @@ public:
     Button* confirm = nullptr;  // Enter presses it and Esc the other, wherever the focus is, unless the control there wants the key
     Button* dismiss = nullptr;
     bool covers_screen = false;  // all of it, without a frame
+    int unfolds_to = 0;          // the height, in twips, that it comes to have while it is up; 0: the one it has
     bool resizable = false;      // the user's size is the window's own; otherwise a larger window is the same one, enlarged
     Event<> Loaded;              // raised once by Load
     Event<> Unloading;

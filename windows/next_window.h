@@ -35,6 +35,7 @@ constexpr int kNextWidth = 7200;
 constexpr int kStartFaceHeight = 2560;
 constexpr int kSampleFaceHeight = 4060;
 constexpr int kOkRowHeight = 780;
+constexpr int kBothFacesHeight = kStartFaceHeight + kSampleFaceHeight + kOkRowHeight;
 constexpr int kOkLeft = 4100;  // beside Cancel, both below the boxes
 constexpr int kCancelLeft = 5480;
 

@@ -23,6 +23,10 @@ constexpr QSize kSmallestOfUser{240, 160};
 constexpr int kTitleBar = 30;          // about, before the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
 
+QSize Pixels(QSize twips, double factor) {
+    return Scaled({0, 0, twips.width(), twips.height()}, factor).size();
+}
+
 bool WindowsCanMove() {
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
@@ -81,7 +85,12 @@ QRect WindowWidget::Client() const {
 }
 
 QSize WindowWidget::ClientSize(double factor) const {
-    return Scaled({0, 0, window_.Width(), window_.Height()}, factor).size();
+    return Pixels({window_.Width(), window_.Height()}, factor);
+}
+
+// A window that grows where it is could grow off the screen. Where none can move itself it has its full height from the beginning.
+QSize WindowWidget::RoomWanted() const {
+    return {window_.Width(), WindowsCanMove() ? window_.Height() : std::max(window_.Height(), window_.unfolds_to)};
 }
 
 // While it is hidden the desktop knows of no frame, and for a moment after that the toolkit takes it for smaller than what is in it.
@@ -109,24 +118,17 @@ void WindowWidget::ChooseSize() {
     const double wanted = sized_ && !window_.resizable ? factor_ : CommonFactor(*screen());
     const QPoint middle = geometry().center();
     sized_ = false;  // the steps on the way to the new size are not its user's
-    factor_ = FactorThatFits(Room().size(), {window_.Width(), window_.Height()}, wanted);
+    factor_ = FactorThatFits(Room().size(), RoomWanted(), wanted);
     menus_->SetFont(PlainFont(factor_));
-    setMinimumSize(window_.resizable ? kSmallestOfUser : ClientSize(factor_ * kSmallest));
-    QSize size = window_.covers_screen ? screen()->size() : ClientSize(factor_);
+    setMinimumSize(window_.resizable ? kSmallestOfUser : Pixels(RoomWanted(), factor_ * kSmallest));
+    QSize size = window_.covers_screen ? screen()->size() : Pixels(RoomWanted(), factor_);
     if (!menus_->Bar().isHidden()) size.rheight() += menus_->Bar().heightForWidth(size.width());
-    if (size != this->size()) ResizeAround(middle, size);
+    if (size != this->size()) {
+        resize(size);
+        if (isVisible()) MoveAround(middle);
+    }
     sized_ = true;
     Fit();
-}
-
-// A window that grows where it is could grow off the screen. If none can move itself, the desktop places it anew.
-void WindowWidget::ResizeAround(QPoint middle, QSize size) {
-    if (!isVisible()) return resize(size);
-    const bool comes_up_anew = !window_.resizable && !WindowsCanMove();
-    if (comes_up_anew) hide();
-    resize(size);
-    MoveAround(middle);
-    if (comes_up_anew) show();
 }
 
 void WindowWidget::Fit() {
@@ -144,7 +146,8 @@ void WindowWidget::Enlarge() {
 }
 
 double WindowWidget::FactorThatFills(QSize client) const {
-    return std::min(static_cast<double>(client.width()) / window_.Width(), static_cast<double>(client.height()) / window_.Height());
+    const QSize wanted = RoomWanted();
+    return std::min(static_cast<double>(client.width()) / wanted.width(), static_cast<double>(client.height()) / wanted.height());
 }
 
 void WindowWidget::LayOut() {

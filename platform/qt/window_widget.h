@@ -51,11 +51,11 @@ private:
     void GiveUpWaiting();
     QRect Client() const;  // what is left below the menu bar
     QSize ClientSize(double factor) const;
+    QSize RoomWanted() const;  // in twips: its own size, with what it unfolds to
     void MeasureFrame();
     QRect Room() const;  // of the screen, what its frame leaves
     bool IsAsUserLeftIt() const;
     void ChooseSize();
-    void ResizeAround(QPoint middle, QSize size);
     void Fit();      // the factor and all places, after a change of size
     void Enlarge();  // what lies in it, to what fills it
     double FactorThatFills(QSize client) const;
