@@ -21,9 +21,10 @@ QWindow* Receiver(QObject* window) {
 }
 }  // namespace
 
-// Windows, macOS and Wayland mark repeats; X11 does not.
+// Windows, macOS and Wayland mark repeats. Under X11 the toolkit marks by the time, and wrongly: a key that is pressed again within the
+// same millisecond is no repeat.
 bool IsRepeat(const QKeyEvent& key) {
-    return key.isAutoRepeat() || X11Repeats::IsMarked(key);
+    return X11Repeats::IsRepeat(key).value_or(key.isAutoRepeat());
 }
 
 HeldKeys::HeldKeys() {

@@ -18,8 +18,9 @@ constexpr quint16 kMark = 0x8000;
 constexpr int kFromAnotherClient = 0x80;  // of an event's type
 }  // namespace
 
-bool X11Repeats::IsMarked(const QKeyEvent& key) {
-    return X11() && (key.nativeModifiers() & kMark);
+std::optional<bool> X11Repeats::IsRepeat(const QKeyEvent& key) {
+    if (!X11()) return std::nullopt;
+    return (key.nativeModifiers() & kMark) != 0;
 }
 
 X11Repeats::X11Repeats() {
@@ -65,8 +66,8 @@ bool X11Repeats::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
     return false;
 }
 #else
-bool X11Repeats::IsMarked(const QKeyEvent&) {
-    return false;
+std::optional<bool> X11Repeats::IsRepeat(const QKeyEvent&) {
+    return std::nullopt;
 }
 X11Repeats::X11Repeats() = default;
 X11Repeats::~X11Repeats() = default;

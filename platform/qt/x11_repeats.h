@@ -4,12 +4,13 @@
 #include <QAbstractNativeEventFilter>
 #include <QWindow>
 #include <bitset>
+#include <optional>
 
 class QKeyEvent;
 
 class X11Repeats : public QAbstractNativeEventFilter {
 public:
-    static bool IsMarked(const QKeyEvent& key);  // False: a first press, or no key of an X server
+    static std::optional<bool> IsRepeat(const QKeyEvent& key);  // none under another window system
 
     X11Repeats();  // joins the application; nothing under another window system
     ~X11Repeats() override;

@@ -44,6 +44,16 @@ class HeldKeysTest(unittest.TestCase):
         saved = program.save_as(program.work / "undone.csv")
         self.assertEqual(self.counts(saved), [1] * 29 + [0] * 106)
 
+    def test_a_key_pressed_again_within_the_same_moment_is_no_repeat(self):
+        program = self.program
+        program.begin("1")
+        program.press(*PAD[:30])
+        program.wait_total(30)
+        program.press(*[UNDO] * 10)
+        program.wait_total(20)
+        program.press(*[PAD[44]] * 10)
+        program.wait_total(30)
+
     def test_a_held_undo_key_turns_counter_keys_round_and_undoes_nothing_at_its_release(self):
         program = self.program
         program.begin("1")

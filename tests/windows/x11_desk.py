@@ -10,7 +10,6 @@ from spoken import wait_for
 
 OPENBOX = pathlib.Path(__file__).with_name("openbox.xml")
 PAGER = 2  # who asks the manager
-BETWEEN_KEYS = 2  # milliseconds, counted by the server: two events of a key at the same one would be a repeat
 
 
 class X11Desk(Screen):
@@ -119,7 +118,7 @@ class X11Desk(Screen):
 
     def send(self, steps):
         for code, down in steps:
-            xtest.fake_input(self.display, X.KeyPress if down else X.KeyRelease, code, BETWEEN_KEYS)
+            xtest.fake_input(self.display, X.KeyPress if down else X.KeyRelease, code)
         self.display.sync()
 
     def move(self, x, y):
