@@ -4,6 +4,9 @@
 #include <QKeyEvent>
 #include <QWidget>
 
+#include "platform/qt/renderer.h"
+#include "platform/qt/window_widget.h"
+
 namespace {
 // A key's number that no layout and no modifier changes.
 quint32 PlaceOf(const QKeyEvent& key) {
@@ -14,10 +17,18 @@ quint32 PlaceOf(const QKeyEvent& key) {
 #endif
 }
 
-// An open menu or list takes the keys of the window it belongs to.
-QWindow* Receiver(QObject* window) {
-    const QWidget* const popup = QApplication::activePopupWidget();
-    return popup ? popup->windowHandle() : static_cast<QWindow*>(window);
+// A window of the program that has just been asked to the front has the keys from then on, wherever the desktop still sends them.
+bool TakesKeys(const QWindow& window, const WindowWidget& front) {
+    const auto* const own = dynamic_cast<const WindowWidget*>(QWidget::find(window.winId()));
+    return window.isVisible() && (!own || (own->window().Enabled() && !front.WaitsForFront()));
+}
+
+// Who hears the keys that come to a window. An open menu or list takes those of the window it belongs to. What was on its way to one that
+// has been closed or disabled is heard by the window in front.
+QWindow* Receiver(QWindow& window) {
+    if (const QWidget* const popup = QApplication::activePopupWidget()) return popup->windowHandle();
+    const WindowWidget* const front = TheRenderer().ActiveWidget();
+    return !front || TakesKeys(window, *front) ? &window : front->windowHandle();
 }
 }  // namespace
 
@@ -46,7 +57,7 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
             x11_.Watch(static_cast<QWindow&>(*watched));
             return false;
         case QEvent::KeyPress:
-            return !Belongs(*static_cast<QKeyEvent*>(event), Receiver(watched));
+            return !Belongs(*static_cast<QKeyEvent*>(event), Receiver(static_cast<QWindow&>(*watched)));
         case QEvent::KeyRelease: {
             const auto& key = *static_cast<QKeyEvent*>(event);
             if (IsRepeat(key)) return true;  // Wayland has one before each repeated press

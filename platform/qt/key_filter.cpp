@@ -66,11 +66,12 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     auto& key = *static_cast<QKeyEvent*>(event);
     if (QApplication::activeModalWidget()) return IsAnswer(key) && IsRepeat(key);
     auto* const top = static_cast<QWidget*>(watched)->window();
-    if (top->windowType() == Qt::Popup) return TakeInPopup(*top, key);
+    const bool is_popup = top->windowType() == Qt::Popup;
+    if (is_popup && top->isVisible()) return TakeInPopup(*top, key);
     auto* const widget = dynamic_cast<WindowWidget*>(top);
-    if (!widget) return false;
+    if (!widget && !is_popup) return false;
     key.accept();
-    if (type == QEvent::KeyPress && widget->isVisible()) TheRenderer().UserActivates(widget->window());
+    if (type == QEvent::KeyPress && widget && widget->isVisible()) TheRenderer().UserActivates(widget->window());
     if (type == QEvent::KeyPress) Press(key);
     if (type == QEvent::KeyRelease) Release(key);
     return true;  // an overridden shortcut comes back as an ordinary press

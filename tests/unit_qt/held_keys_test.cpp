@@ -1,11 +1,13 @@
 // A held key belongs to the window it was pressed in. Key events come to the window of the screen, as the desktop sends them.
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
 #include "keys/first_run.h"
 #include "platform/qt/key_filter.h"
+#include "platform/qt/menu_view.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
@@ -15,19 +17,22 @@
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
+#include "windows/para_name_window.h"
 
 namespace {
 constexpr quint32 kPlaceOfQ = 24;
 
 class HeldKeysTest : public OnScreenTest {
 protected:
-    void SendQ(Window& window, QEvent::Type type, bool repeats) {
+    void SendQ(QWidget& widget, QEvent::Type type, bool repeats) {
         QKeyEvent event(type, Qt::Key_Q, Qt::NoModifier, kPlaceOfQ, 0, 0, "q", repeats);
-        QApplication::sendEvent(renderer_.WidgetOf(window)->windowHandle(), &event);
+        QApplication::sendEvent(widget.windowHandle(), &event);
         QApplication::processEvents();
     }
-    void PressQ(Window& window, bool repeats = false) { SendQ(window, QEvent::KeyPress, repeats); }
-    void ReleaseQ(Window& window, bool repeats = false) { SendQ(window, QEvent::KeyRelease, repeats); }
+    void PressQ(QWidget& widget, bool repeats = false) { SendQ(widget, QEvent::KeyPress, repeats); }
+    void PressQ(Window& window, bool repeats = false) { PressQ(*renderer_.WidgetOf(window), repeats); }
+    void ReleaseQ(QWidget& widget, bool repeats = false) { SendQ(widget, QEvent::KeyRelease, repeats); }
+    void ReleaseQ(Window& window, bool repeats = false) { ReleaseQ(*renderer_.WidgetOf(window), repeats); }
     void BeginCounting() {
         Do([] { CloseWindow(frmNext); });
         renderer_.WidgetOf(frmMain)->activateWindow();
@@ -70,6 +75,42 @@ TEST_F(HeldKeysTest, ARepeatReachesNobodyInAnotherWindow) {
     ReleaseQ(frmMain);
     PressQ(frmMain);
     EXPECT_EQ(Counts[1][1], 1);
+}
+
+// A program that is late hears of keys that went to a window before it closed that.
+TEST_F(HeldKeysTest, ARepeatOnItsWayToAClosedWindowReachesNobody) {
+    PressQ(frmNext);
+    BeginCounting();
+    PressQ(frmNext, true);
+    EXPECT_EQ(Counts[1][1], 0);
+    ReleaseQ(frmNext);
+    PressQ(frmNext);
+    PressQ(frmMain, true);
+    EXPECT_EQ(Counts[1][1], 2);
+}
+
+TEST_F(HeldKeysTest, ARepeatOnItsWayToADisabledWindowReachesNobody) {
+    Do([] { ClickControl(frmNext.Command4); });
+    PressQ(frmNext);
+    Do([] { ClickControl(frmNext.Command5[1]); });
+    ASSERT_EQ(ActiveWindow(), &frmParaName);
+    PressQ(frmNext, true);
+    EXPECT_EQ(frmParaName.Text1.Text(), "Additional info-1");
+}
+
+TEST_F(HeldKeysTest, AKeyOnItsWayToAClosedMenuCounts) {
+    BeginCounting();
+    auto* const menu = renderer_.WidgetOf(frmMain)->Menus().Bar().actions().front()->menu();
+    menu->popup({});
+    PressQ(*menu);
+    EXPECT_EQ(Counts[1][1], 0);
+    menu->close();
+    PressQ(*menu, true);
+    EXPECT_EQ(Counts[1][1], 0);
+    ReleaseQ(*menu);
+    PressQ(*menu);
+    PressQ(frmMain, true);
+    EXPECT_EQ(Counts[1][1], 2);
 }
 
 TEST_F(HeldKeysTest, AKeyThatWasPressedInAnotherProgramReachesNobody) {
