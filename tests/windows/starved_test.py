@@ -1,6 +1,8 @@
 """A program that is late, for it shares one processor with four spinning processes: what is a repeat of a held key and what is a key of its
 own must not depend on when it hears of it. It is asked for what came of the keys once it has its share of the machine again."""
+import contextlib
 import os
+import signal
 import subprocess
 import sys
 import unittest
@@ -32,6 +34,13 @@ class StarvedTest(unittest.TestCase):
     def run_on(self, processors):
         for thread in os.listdir(f"/proc/{self.program.process.pid}/task"):
             os.sched_setaffinity(int(thread), processors)
+
+    @contextlib.contextmanager
+    def standing_still(self):
+        """As late as can be: it hears of all that is done meanwhile at once."""
+        self.program.process.send_signal(signal.SIGSTOP)
+        yield
+        self.program.process.send_signal(signal.SIGCONT)
 
     def hold(self, code, then=None):
         """Late, and with the keyboard repeating it."""
@@ -86,20 +95,41 @@ class StarvedTest(unittest.TestCase):
         wait_for("the third box", lambda: self.program.text("Initialize", r"Key code: \[Delete\]") == "46")
         self.assertEqual([self.program.text("Initialize", rf"Key code: \[{name}\]") for name in ("Shift", "Ctrl", "BkSp")], ["16", "17", ""])
 
-    def test_enter_held_over_three_windows_answers_the_first(self):
+    def name_sample_where_enter_saves(self):
+        """Enter is then OK of the start face, the save key of the main window, Save in the dialog that asks for a name."""
         self.start()
         settings = self.program.folder / "References/KeySetting.csv"
-        settings.write_text(settings.read_text().replace('"=",187,', '"[Enter]",13,'))  # it saves
+        settings.write_text(settings.read_text().replace('"=",187,', '"[Enter]",13,'))
         self.program.restart()
         self.desk.window(START)
         self.program.press(ENTER)
         self.program.type("12.5")
-        self.hold(ENTER)  # OK of the start face, the save key of the main window, Save in the dialog that asks for a name
+
+    def assert_nothing_is_saved(self):
         self.desk.window(MAIN)
         self.program.press(PAD[0])
         self.program.wait_total(1)
         self.assertEqual(self.desk.windows("Save as"), [])
         self.assertEqual(list(self.program.work.glob("*.csv")), [])
+
+    def test_enter_held_over_three_windows_answers_the_first(self):
+        self.name_sample_where_enter_saves()
+        self.hold(ENTER)
+        self.assert_nothing_is_saved()
+
+    def test_enter_let_go_before_the_program_hears_of_it_answers_the_first(self):
+        self.name_sample_where_enter_saves()
+        with self.standing_still():
+            self.hold(ENTER)
+        self.assert_nothing_is_saved()
+
+    def test_counter_keys_behind_the_key_that_closes_a_menu_count(self):
+        self.begin()
+        self.program.chord(ALT, key_of("f"))
+        wait_for("the menu", lambda: self.program.is_shown(MAIN, "Quit"))
+        with self.standing_still():
+            self.program.press(ESCAPE, *PAD[:5])
+        self.program.wait_total(5)
 
     def test_quit_by_a_held_enter_goes_on_asking(self):
         self.begin_with_thirty_grains()
