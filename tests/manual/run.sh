@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The manual tells what is so: its words stand in the program, its pages cover every window and message, its links lead somewhere, its
-# days play as told, and its examples print what they promise:
+# days play as it tells them, and its examples print what they promise:
 #     tests/manual/run.sh DRIVER                       all but what follows
 #     tests/manual/run.sh DRIVER --with-spreadsheet    and the examples for pandas and R, which are large to install
 # Ends with "N passed, N failed".

@@ -18,7 +18,7 @@ bool IsOneOf(const Control& control, const std::set<std::string>& names) {
     return names.count(control.window->name + "." + control.name) > 0;
 }
 
-// Controls that lie behind their neighbours by design.
+// Controls that are meant to lie behind their neighbours.
 const std::set<std::string> kGrounds = {"frmMain.Picture1", "frmMain.Frame3"};
 
 // Below the lower edge of the start face: the window grows down to them.
@@ -35,7 +35,7 @@ std::string ItemsOf(const Control* menu) {
     return items;
 }
 
-// Does nothing by design: its window is left by OK alone.
+// Does nothing: its window is left by OK alone.
 const std::set<std::string> kIdleButtons = {"frmSiteName.Command3"};
 
 bool HasAPlace(const Control& control) {

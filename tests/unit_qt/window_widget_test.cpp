@@ -141,7 +141,7 @@ TEST_F(TwoScreensTest, ADialogComesUpOnTheScreenOfTheWindowBelowIt) {
     EXPECT_TRUE(main.screen()->geometry().contains(Widget(frmSubtotal).geometry()));
 }
 
-// The screen has fewer of the toolkit's pixels than the main window has by design.
+// The screen has fewer of the toolkit's pixels than the main window is drawn with.
 class DenseScreenTest : public WindowWidgetTest {
 protected:
     DenseScreenTest() : WindowWidgetTest(2) {}
