@@ -10,10 +10,20 @@
 #include "platform/qt/qt_host.h"
 #include "platform/qt/renderer.h"
 
+namespace {
+// Under Wayland the toolkit asks for its window to be activated whenever the focus moves inside it. The desktop answers later, and the
+// window would take the keyboard back from a box that has opened meanwhile.
+void AskForNoActivation() {
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        QObject::disconnect(qApp, &QGuiApplication::focusObjectChanged, qApp, nullptr);
+}
+}  // namespace
+
 int RunDesktop(int argc, char** argv) {
     argc = 1;  // no command line is read, not the toolkit's either
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("org.marlbrook.Marlbrook"));  // Wayland finds the icon by it
+    AskForNoActivation();
     ApplyLook(application);
     OpenToReaders();
     QtHost host;
