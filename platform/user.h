@@ -40,8 +40,8 @@ void MoveMouseOverWindow(Window& window, Mouse mouse);
 void PressMouseOnWindow(Window& window, Mouse mouse);
 
 Mouse AtCorner(const Control& control, MouseButton button);  // at its upper left corner, in its own scale
-void ClickControl(Control& control);  // a press and release of the left button there, and what the kind does at a click
-void FinishClick(Control& control);   // only what the kind does at a click, after its press and release
+void ClickControl(Control& control);       // a press and release of the left button there, and what the kind does at a click
+void FinishClick(Control& control);        // only what the kind does at a click, after its press and release
 void FinishDoubleClick(Control& control);  // the double click itself, after the events of its clicks
 
 // Text is put in at the caret of a text box or combo box, in place of what is selected: one change.
