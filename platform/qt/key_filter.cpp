@@ -40,11 +40,6 @@ bool TakesText(const Control& control) {
     return control.kind() == Kind::ComboBox || (control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_text);
 }
 
-// In a dialog of the toolkit's own.
-bool IsAnswer(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
-}
-
 bool IsSink(const Control& control) {
     return control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).takes_text;
 }

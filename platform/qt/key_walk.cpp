@@ -56,6 +56,10 @@ bool PressFocused(Control& focus, const QKeyEvent& key) {
     return true;
 }
 
+bool IsAnswer(const QKeyEvent& key) {
+    return AnswerCode(key) != 0;
+}
+
 bool PressAnswer(const QKeyEvent& key) {
     bool pressed = false;
     if (const int code = AnswerCode(key); code != 0) TheRenderer().Run([&] { pressed = PressAnswer(code); });

@@ -6,6 +6,7 @@ class QKeyEvent;
 
 bool IsWalk(const QKeyEvent& key);                     // Tab or Shift+Tab
 void WalkFocus(Window& window, const QKeyEvent& key);  // in the order of the window's controls, past those that cannot be reached
+bool IsAnswer(const QKeyEvent& key);                   // Enter or Esc
 bool PressAnswer(const QKeyEvent& key);                // Enter or Esc in a dialog: PressAnswer of platform/user.h, as one event
 
 bool PressFocused(Control& focus, const QKeyEvent& key);  // True: the key pressed something
