@@ -9,13 +9,13 @@
 #include "platform/qt/look.h"
 #include "platform/qt/qt_host.h"
 #include "platform/qt/renderer.h"
+#include "platform/qt/wayland.h"
 
 namespace {
 // Under Wayland the toolkit asks for its window to be activated whenever the focus moves inside it. The desktop answers later, and the
 // window would take the keyboard back from a box that has opened meanwhile.
 void AskForNoActivation() {
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-        QObject::disconnect(qApp, &QGuiApplication::focusObjectChanged, qApp, nullptr);
+    if (OnWayland()) QObject::disconnect(qApp, &QGuiApplication::focusObjectChanged, qApp, nullptr);
 }
 }  // namespace
 

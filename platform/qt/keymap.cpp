@@ -11,6 +11,7 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/virtual_key.h"
+#include "platform/qt/wayland.h"
 #include "platform/qt/x11.h"
 
 namespace {
@@ -117,7 +118,7 @@ Keymap KeymapOfWayland() {
 
 Keymap KeymapInUse() {
     if (const auto* const x11 = X11()) return KeymapOfX11(x11->connection());
-    if (QGuiApplication::platformName() == QLatin1String("wayland")) return KeymapOfWayland();
+    if (OnWayland()) return KeymapOfWayland();
     return {};
 }
 

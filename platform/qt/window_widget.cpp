@@ -15,6 +15,7 @@
 #include "platform/qt/renderer.h"
 #include "platform/qt/scaling.h"
 #include "platform/qt/veil.h"
+#include "platform/qt/wayland.h"
 #include "platform/user.h"
 
 namespace {
@@ -25,10 +26,6 @@ constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a windo
 
 QSize Pixels(QSize twips, double factor) {
     return Scaled({0, 0, twips.width(), twips.height()}, factor).size();
-}
-
-bool WindowsCanMove() {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 }  // namespace
 
@@ -90,7 +87,7 @@ QSize WindowWidget::ClientSize(double factor) const {
 
 // A window that grows where it is could grow off the screen. Where none can move itself it has its full height from the beginning.
 QSize WindowWidget::RoomWanted() const {
-    return {window_.Width(), WindowsCanMove() ? window_.Height() : std::max(window_.Height(), window_.unfolds_to)};
+    return {window_.Width(), OnWayland() ? std::max(window_.Height(), window_.unfolds_to) : window_.Height()};
 }
 
 // While it is hidden the desktop knows of no frame, and for a moment after that the toolkit takes it for smaller than what is in it.
