@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <utility>
 
 #include "platform/controls.h"
 #include "platform/qt/box_editing.h"
@@ -52,6 +53,11 @@ bool OpensMenu(const QKeyEvent& key) {
 
 KeyFilter::KeyFilter() {
     qApp->installEventFilter(this);
+    TheRenderer().WhenEventIsOver([this] { HearLate(); });
+}
+
+KeyFilter::~KeyFilter() {
+    TheRenderer().WhenEventIsOver([] {});
 }
 
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
@@ -64,7 +70,7 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     const bool is_popup = top->windowType() == Qt::Popup;
     if (is_popup && top->isVisible()) return TakeInPopup(*top, key);
     auto* const widget = dynamic_cast<WindowWidget*>(top);
-    if (!widget && !is_popup) return false;
+    if (!widget && !is_popup) return !top->isVisible() && KeepLate(key);
     key.accept();
     if (type == QEvent::KeyPress && widget && widget->isVisible()) TheRenderer().UserActivates(widget->window());
     if (type == QEvent::KeyPress) Press(key);
@@ -84,6 +90,18 @@ bool KeyFilter::TakeInPopup(QWidget& popup, QKeyEvent& key) {
     if (WindowWidget* const below = TheRenderer().ActiveWidget()) held_.HandOn(key, below->windowHandle());
     Press(key);
     return true;
+}
+
+// A message or a dialog that has just been closed may have keys on their way to it, while the event that asked still waits for its answer.
+// They are meant for the window below, and heard when that event is over.
+bool KeyFilter::KeepLate(QKeyEvent& key) {
+    key.accept();
+    if (key.type() != QEvent::ShortcutOverride) late_.emplace_back(key.clone());
+    return true;
+}
+
+void KeyFilter::HearLate() {
+    for (const auto& key : std::exchange(late_, {})) key->type() == QEvent::KeyPress ? Press(*key) : Release(*key);
 }
 
 void KeyFilter::Release(const QKeyEvent& key) {

@@ -2,6 +2,8 @@
 // a widget. While counting nothing is left for the widgets: a key ends when the program has heard it.
 #pragma once
 #include <QObject>
+#include <memory>
+#include <vector>
 
 #include "platform/qt/held_keys.h"
 #include "platform/window.h"
@@ -11,18 +13,22 @@ class QWidget;
 
 class KeyFilter : public QObject {
 public:
-    KeyFilter();  // joins the application
+    KeyFilter();  // joins the application and its renderer
+    ~KeyFilter() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     bool TakeInPopup(QWidget& popup, QKeyEvent& key);
+    bool KeepLate(QKeyEvent& key);
+    void HearLate();
     void Press(QKeyEvent& key);
     void TakePress(QKeyEvent& key);
     void Release(const QKeyEvent& key);
     void Finish(QKeyEvent& key, Control& focus);
 
     HeldKeys held_;
-    bool passing_ = false;  // a key is on its way to a widget
+    std::vector<std::unique_ptr<QKeyEvent>> late_;  // in their order
+    bool passing_ = false;                          // a key is on its way to a widget
 };

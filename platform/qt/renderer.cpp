@@ -40,6 +40,7 @@ void Renderer::Run(const std::function<void()>& event) {
     ShowPointer();
     OpenPopup();
     if (was_shown_ && ShownWindows().empty() && !has_ended_()) nothing_is_shown_();
+    event_is_over_();
 }
 
 void Renderer::Note(ModelView& view) {

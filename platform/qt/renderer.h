@@ -29,6 +29,9 @@ public:
     // Called after an event that leaves no window on the screen: the user could not go on.
     void WhenNothingIsShown(std::function<void()> procedure) { nothing_is_shown_ = std::move(procedure); }
 
+    // Called after every event, when what it changed is on show.
+    void WhenEventIsOver(std::function<void()> procedure) { event_is_over_ = std::move(procedure); }
+
     void Note(ModelView& view);                        // it has something to show
     int TextChanges() const { return text_changes_; }  // grows whenever the text of a box changes
     void NoteText() { ++text_changes_; }
@@ -48,6 +51,7 @@ private:
 
     std::function<bool()> has_ended_;
     std::function<void()> nothing_is_shown_ = [] {};
+    std::function<void()> event_is_over_ = [] {};
     int depth_ = 0;  // events that run, one inside the other
     int text_changes_ = 0;
     bool agree_soon_ = false;

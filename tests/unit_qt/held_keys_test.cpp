@@ -119,6 +119,24 @@ TEST_F(HeldKeysTest, AKeyThatWasPressedInAnotherProgramReachesNobody) {
     EXPECT_EQ(Counts[1][1], 0);
 }
 
+// The key that closes a message is heard while the program still waits for the answer; those behind it count when it is done with that.
+TEST_F(HeldKeysTest, KeysOnTheirWayToAClosedMessageCountWhenItsEventIsOver) {
+    BeginCounting();
+    PressQ(frmMain);
+    QTimer::singleShot(0, [this] {
+        QWidget* const box = QApplication::activeModalWidget();
+        ReleaseQ(*box);  // over the message: the program goes on holding it
+        box->close();
+        for (int key = 0; key < 3; ++key) {
+            PressQ(*box);
+            ReleaseQ(*box);
+        }
+        EXPECT_EQ(Counts[1][1], 1) << "the event goes on";
+    });
+    Do([] { QtMessageBoxes().Show({"Caution!", "Do you proceed?", Icon::None, Buttons::YesNo}); });
+    EXPECT_EQ(Counts[1][1], 4);
+}
+
 // A desktop may send the first key to a window before it calls that active.
 TEST_F(HeldKeysTest, AKeyBringsTheWindowThatHasItToTheFront) {
     BeginFirstSample();

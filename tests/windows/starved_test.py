@@ -8,7 +8,7 @@ import sys
 import unittest
 
 from desk import MAIN, START, Desk, Program
-from keyboard import ALT, ENTER, ESCAPE, NAMED_KEYS, PAD, UNDO, UP, chord, key_of
+from keyboard import ALT, ENTER, ESCAPE, NAMED_KEYS, PAD, TAB, UNDO, UP, chord, key_of
 from spoken import wait_for
 
 ALL_PROCESSORS = os.sched_getaffinity(0)
@@ -62,6 +62,15 @@ class StarvedTest(unittest.TestCase):
     def counts(self):
         saved = self.program.save_as(self.program.work / "starved.csv")
         return [int(row.rsplit(b",", 1)[1]) for row in saved.split(b"\r\n")[2:137]]
+
+    def wait_until_message_listens(self, title):
+        """It hears no key in its first moment; after that Tab goes round its buttons."""
+        def focused():
+            return [node.name for node in self.program.spoken_window(title).walk() if "focused" in node.states]
+
+        self.program.window(title)
+        first = focused()
+        wait_for("a message that takes keys", lambda: self.program.press(TAB) or focused() != first)
 
     def test_the_undo_key_held_alone_takes_one_grain_back(self):
         self.begin_with_thirty_grains()
@@ -130,6 +139,14 @@ class StarvedTest(unittest.TestCase):
         with self.standing_still():
             self.program.press(ESCAPE, *PAD[:5])
         self.program.wait_total(5)
+
+    def test_counter_keys_behind_the_key_that_closes_a_message_count(self):
+        self.begin_with_thirty_grains()
+        self.program.click(MAIN, "Reset")
+        self.wait_until_message_listens("Caution!")
+        with self.standing_still():
+            self.program.press(ESCAPE, *PAD[:5])
+        self.program.wait_total(35)
 
     def test_quit_by_a_held_enter_goes_on_asking(self):
         self.begin_with_thirty_grains()
