@@ -22,7 +22,7 @@ public:
         ControlWidget::Changed(property);
         if (property == Property::Visible) since_repaint_.restart();
         if (property != Property::Value || !bar_.Visible() || !TheRenderer().InEvent() || since_repaint_.elapsed() < kShortestMs) return;
-        TheRenderer().Agree();
+        Agree();  // alone: what else has changed may be half done
         shown_->repaint();
         since_repaint_.restart();
     }

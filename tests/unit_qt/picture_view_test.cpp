@@ -4,6 +4,8 @@
 #include <random>
 #include <utility>
 
+#include "diagram/draw_diagram.h"
+#include "files/busy.h"
 #include "platform/user.h"
 #include "session/sheet_state.h"
 #include "unit/sheet_file.h"
@@ -147,6 +149,24 @@ TEST_P(PictureViewTest, ACountThatMovesNoColumnRepaintsItsRowAndNoMore) {
     }
     EXPECT_GT(changed, 0);
     ExpectSeenAsItIs("the counts");
+}
+
+// On a slow machine the bar moves while the diagram is drawn. What is not finished yet is not shown.
+TEST_P(PictureViewTest, ABarThatMovesMeanwhileShowsNoHalfPicture) {
+    static constexpr int kMostMoves = 100'000'000;
+    Open([](const Row& row) { return row[row.size() - 10]; });
+    Do([] { ClickControl(frmMain.mnuBar); });
+    PaintWatch picture(Shown(frmDiagram.Picture1).Widget());
+    PaintWatch bar(Shown(frmMain.ProgressBar1).Widget());
+    Do([&bar] {
+        Whiten(frmDiagram.Picture1);
+        const Busy busy(kMostMoves);
+        int moves = 0;
+        while (moves < kMostMoves && bar.Take().isEmpty()) frmMain.ProgressBar1.SetValue(++moves);
+        EXPECT_LT(moves, kMostMoves) << "the bar has been painted";
+        DrawDiagram();
+    });
+    EXPECT_TRUE(picture.Take().isEmpty()) << "it is the same as before";
 }
 
 INSTANTIATE_TEST_SUITE_P(Densities, PictureViewTest, testing::Values(1, 1.25, 1.5, 2));
