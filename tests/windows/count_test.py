@@ -58,7 +58,10 @@ class CountTest(unittest.TestCase):
         self.assertEqual(STAMP.sub(b"STAMP", saved).decode(), expected_sheet(path, counts).decode())
 
     def test_fast_keys_all_count(self):
-        self.program.press(*PAD * 20)
+        # Keys that a program has not taken yet lie with the desk; one of Wayland gives up a program that leaves it many hundreds.
+        for burst in range(1, 5):
+            self.program.press(*PAD * 5)
+            self.program.wait_total(len(PAD) * 5 * burst)
         saved = self.program.save_as(self.program.work / "fast.csv").decode()
         self.assertEqual(saved.split("\r\n")[2:137], [f'{slot},0,0,"---",{20 * (slot <= 45)}' for slot in range(1, 136)])
 
