@@ -73,6 +73,7 @@ void Step(Control& control, bool up) {
     auto& range = static_cast<RangeControl&>(control);
     SlideTo(range, range.Value() + (up ? range.SmallChange() : -range.SmallChange()));
 }
+
 // A window may show only its upper part.
 bool IsBeyondEdge(const QWidget& widget) {
     const QWidget& window = *widget.window();
