@@ -55,7 +55,10 @@ class Screen:
 
     def window(self, title):
         """Such a window; waits until it gets the keys."""
-        return wait_for(f"a window '{title}' in front", lambda: next((w for w in self.windows(title) if self.in_front(w)), None))
+        try:
+            return wait_for(f"a window '{title}' in front", lambda: next((w for w in self.windows(title) if self.in_front(w)), None))
+        except AssertionError as failure:
+            raise AssertionError(f"{failure}; there are {self.titles()}") from None
 
     def gone(self, title):
         wait_for(f"the end of the window '{title}'", lambda: not self.windows(title))

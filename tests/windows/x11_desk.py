@@ -9,7 +9,8 @@ from screen import Screen
 from spoken import wait_for
 
 OPENBOX = pathlib.Path(__file__).with_name("openbox.xml")
-PAGER = 2  # who asks the manager
+RUNNING = "running"  # name of the root window once the manager is up
+PAGER = 2            # who asks the manager
 
 
 class X11Desk(Screen):
@@ -25,8 +26,9 @@ class X11Desk(Screen):
         self.display = display.Display(name)
         self.root = self.display.screen().root
         self.pings = 0
-        self.start(["openbox", "--config-file", str(OPENBOX)], env=self.env)
-        wait_for("the window manager", lambda: self._property(self.root, "_NET_SUPPORTING_WM_CHECK"))
+        # It tells that it manages windows before it gives new ones the keyboard; the command it runs tells when it does.
+        self.start(["openbox", "--config-file", str(OPENBOX), "--startup", f"xsetroot -name {RUNNING}"], env=self.env)
+        wait_for("the window manager", lambda: self._property(self.root, "WM_NAME") == RUNNING.encode())
         self.use_layout(layout, variant)
         self.repeat(False)
 
