@@ -53,8 +53,8 @@ class DiagramPlacesTest(Places):
 
     def test_closed_and_opened_it_stays_where_its_user_has_put_it(self):
         place = (200, 100, 1000, 600)
-        self.desk.put(self.diagram, *place)
-        self.wait_for_place(place)
+        # Until it has taken in its frame, the program moves a new window itself.
+        wait_for(f"the diagram put to {place}", lambda: self.desk.put(self.diagram, *place) or self.desk.place(self.diagram) == place)
         for _ in range(4):
             self.open_diagram_again()
             self.wait_for_place(place)
