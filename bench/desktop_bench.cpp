@@ -19,7 +19,7 @@
 #include "platform/qt/qt_files.h"
 #include "platform/qt/shown_operations.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 

@@ -11,7 +11,7 @@
 #include "diagram/sample_marker.h"
 #include "diagram/taxon_names.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 

@@ -3,7 +3,7 @@
 #include "events/program.h"
 #include "files/open_sheet.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit/sheet_file.h"
 #include "windows/next_window.h"
 

@@ -8,7 +8,7 @@
 #include "bench/headless_program.h"
 #include "files/new_sheet.h"
 #include "session/key_dispatch.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 using Clock = std::chrono::steady_clock;

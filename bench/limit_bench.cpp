@@ -11,7 +11,7 @@
 #include "bench/headless_program.h"
 #include "diagram/percentages.h"
 #include "files/save_sheet.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 // As the program saves it.

@@ -9,7 +9,7 @@
 #include "files/read_sheet.h"
 #include "files/save_sheet.h"
 #include "platform/encoding.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 // The cells alone, each as the value that it is.

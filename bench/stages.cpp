@@ -6,7 +6,7 @@
 #include <cstdio>
 
 #include "bench/x_user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 Stages stages;
 

@@ -30,7 +30,7 @@
 #include "platform/qt/renderer.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit/sheet_file.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"

@@ -2,7 +2,7 @@
 #pragma once
 #include <array>
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 using BasisWeights = std::array<double, kSlots + 1>;  // [slot]: how often a grain counts in the basis; [0] is 0
 

@@ -4,7 +4,7 @@
 #include "diagram/cluster_tree.h"
 #include "diagram/redraw.h"
 #include "diagram/tree_panel.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 

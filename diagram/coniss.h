@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 using ClusterVector = std::array<float, kSlots + 1>;  // [slot]: its share, as a fraction, 0 outside the basis; [0] is 0
 

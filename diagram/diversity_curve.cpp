@@ -5,7 +5,7 @@
 
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 std::int16_t TaxaSeen;

@@ -9,7 +9,7 @@
 #include "diagram/taxon_names.h"
 #include "platform/number.h"
 #include "platform/services.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 
 namespace {

@@ -13,7 +13,7 @@
 #include "platform/number.h"
 #include "platform/services.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 

@@ -10,7 +10,7 @@
 #include "files/sample_names.h"
 #include "platform/services.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 

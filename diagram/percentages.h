@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 // Fractions: 1 is 100 %. After ComputeDiagramData [sheet row][display position], row 0 being 1 where the sample has data, else 0. After
 // SamplePercentages [slot][sample].

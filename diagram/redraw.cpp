@@ -3,7 +3,7 @@
 #include "diagram/draw_diagram.h"
 #include "diagram/percentages.h"
 #include "diagram/taxon_names.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 void RedrawDiagram() {
     if (!DiagramOpen) return;

@@ -2,7 +2,7 @@
 
 #include "platform/failure.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 double Depth(int sample) {

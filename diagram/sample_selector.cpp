@@ -6,7 +6,7 @@
 
 #include "diagram/sample_marker.h"
 #include "diagram/sample_position.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 
 namespace {

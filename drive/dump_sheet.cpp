@@ -1,5 +1,5 @@
 #include "drive/dumps.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace drive {
 

@@ -2,7 +2,7 @@
 #include "drive/names.h"
 #include "drive/values.h"
 #include "drive/words.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace drive {
 

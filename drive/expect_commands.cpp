@@ -7,7 +7,7 @@
 #include "drive/names.h"
 #include "drive/words.h"
 #include "platform/failure.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace drive {
 

@@ -4,7 +4,7 @@
 
 #include "drive/fault.h"
 #include "drive/words.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace drive {
 

@@ -10,7 +10,7 @@
 #include "drive/fault.h"
 #include "drive/values.h"
 #include "platform/services.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"

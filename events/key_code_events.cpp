@@ -2,7 +2,7 @@
 #include "keys/key_dialog.h"
 #include "keys/key_dialog_capture.h"
 #include "keys/key_dialog_ok.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/key_code_window.h"
 #include "windows/note_window.h"
 

@@ -1,6 +1,6 @@
 #include "events/join.h"
 #include "files/new_sheet.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "taxa/edit_boxes.h"
 #include "windows/site_name_window.h"
 

@@ -4,7 +4,7 @@
 
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 constexpr std::int16_t kMaster = 99;

@@ -6,9 +6,9 @@
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
 #include "session/focus_rule.h"
-#include "session/sheet_state.h"
 #include "session/sound.h"
 #include "session/stamps.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 bool Export(const std::function<void(CellWriter&)>& write) {

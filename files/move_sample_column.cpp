@@ -8,7 +8,7 @@
 #include "diagram/tree_panel.h"
 #include "platform/number.h"
 #include "session/changed_mark.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/sample_on_show.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "windows/main_window.h"

@@ -2,7 +2,7 @@
 #include <cstdint>
 
 #include "platform/controls.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 // Takes note, names and values of the Additional info from a window's boxes into the sheet, as those of `sample`, and shows them in
 // the main window. An empty value becomes "---".

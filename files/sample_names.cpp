@@ -1,7 +1,7 @@
 #include "files/sample_names.h"
 
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 void CheckSampleNames() {
     SampleNamesAreText = false;

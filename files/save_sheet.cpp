@@ -15,9 +15,9 @@
 #include "platform/text.h"
 #include "session/focus_rule.h"
 #include "session/history.h"
-#include "session/sheet_state.h"
 #include "session/sound.h"
 #include "session/stamps.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -4,8 +4,8 @@
 
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
 #include "session/stamps.h"
+#include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 

@@ -6,7 +6,7 @@
 #include "keys/key_settings.h"
 #include "platform/services.h"
 #include "session/dialog.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/key_code_window.h"
 
 namespace {

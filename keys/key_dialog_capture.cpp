@@ -5,7 +5,7 @@
 #include "keys/key_dialog.h"
 #include "platform/encoding.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "taxa/quotation_guard.h"
 #include "windows/key_code_window.h"
 

@@ -6,8 +6,8 @@
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/dialog.h"
-#include "session/sheet_state.h"
 #include "session/sound.h"
+#include "session/state/sheet_state.h"
 #include "windows/key_code_window.h"
 
 namespace {

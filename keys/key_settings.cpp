@@ -5,7 +5,7 @@
 #include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/number.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 #include "windows/pad_places.h"
 

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 

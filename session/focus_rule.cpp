@@ -1,7 +1,7 @@
 #include "session/focus_rule.h"
 
 #include "platform/services.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "session/highlight.h"
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 void PaintCell(int slot, Colour colour) {

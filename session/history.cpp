@@ -1,7 +1,7 @@
 #include "session/history.h"
 
 #include "platform/number.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 void AddHistoryLine(const std::string& line) {

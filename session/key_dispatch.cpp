@@ -14,8 +14,8 @@
 #include "session/alarm.h"
 #include "session/highlight.h"
 #include "session/history.h"
-#include "session/sheet_state.h"
 #include "session/sound.h"
+#include "session/state/sheet_state.h"
 #include "session/undo.h"
 #include "windows/main_window.h"
 

@@ -2,7 +2,7 @@
 
 #include "session/history.h"
 #include "session/italics.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 namespace {

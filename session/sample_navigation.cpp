@@ -6,7 +6,7 @@
 #include "diagram/diversity_curve.h"
 #include "session/history.h"
 #include "session/sample_on_show.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 

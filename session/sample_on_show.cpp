@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 void ShowSerial() {

@@ -1,6 +1,6 @@
 #include "session/sound.h"
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/next_window.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "session/subtotal_names.h"
 
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 void ShowSubtotalNames() {

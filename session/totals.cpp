@@ -6,7 +6,7 @@
 #include "diagram/diversity_curve.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -9,8 +9,8 @@
 #include "session/highlight.h"
 #include "session/history.h"
 #include "session/sample_on_show.h"
-#include "session/sheet_state.h"
 #include "session/sound.h"
+#include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 

@@ -5,7 +5,7 @@
 #include "platform/text.h"
 #include "session/history.h"
 #include "session/modify_mode.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "taxa/quotation_guard.h"
 #include "windows/main_window.h"

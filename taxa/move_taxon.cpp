@@ -6,7 +6,7 @@
 #include "platform/user.h"
 #include "session/highlight.h"
 #include "session/history.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 #include "windows/para_name_window.h"

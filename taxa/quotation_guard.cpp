@@ -6,7 +6,7 @@
 #include "platform/number.h"
 #include "platform/services.h"
 #include "platform/text.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 constexpr std::int16_t kNoKey = 9999;

@@ -5,7 +5,7 @@
 #include "keys/key_settings.h"
 #include "session/changed_mark.h"
 #include "session/dialog.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "taxa/quotation_guard.h"

@@ -9,7 +9,7 @@
 
 #include "platform/controls.h"
 #include "platform/window.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 constexpr int kMapRows = 50;        // rows of the key settings that the maps show
 constexpr int kFunctionalKeys = 4;  // Shift-1, Shift-2, Undo, Save

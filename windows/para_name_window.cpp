@@ -1,6 +1,6 @@
 #include "windows/para_name_window.h"
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 ParaNameWindow frmParaName;
 

@@ -2,7 +2,7 @@
 #pragma once
 #include "platform/controls.h"
 #include "platform/window.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 struct SiteNameWindow : Window {
     SiteNameWindow();

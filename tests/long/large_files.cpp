@@ -19,7 +19,7 @@
 #include "files/open_sheet.h"
 #include "platform/headless/headless_services.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit/memory_files.h"
 #include "unit/sheet_file.h"
 #include "windows/next_window.h"

@@ -18,7 +18,7 @@
 #include "long/second_count.h"
 #include "platform/headless/headless_services.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit/memory_files.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"

@@ -23,7 +23,7 @@
 #include "files/save_sheet.h"
 #include "platform/headless/headless_services.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit/memory_files.h"
 #include "unit/sheet_file.h"
 #include "windows/main_window.h"

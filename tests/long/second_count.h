@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 struct Sample {
     std::string name;

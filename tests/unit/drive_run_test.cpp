@@ -10,7 +10,7 @@
 #include "platform/failure.h"
 #include "platform/run_event.h"
 #include "platform/services.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit/program_test.h"
 #include "windows/main_window.h"
 

@@ -5,7 +5,7 @@
 #include "diagram/diversity_curve.h"
 #include "diagram/percentages.h"
 #include "platform/services.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 template <class T, std::size_t n>

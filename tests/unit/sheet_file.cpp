@@ -1,6 +1,6 @@
 #include "unit/sheet_file.h"
 
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 namespace {
 template <class Cell>

@@ -83,7 +83,7 @@ std::string FolderOf(const std::string& file) {
 int FloorOf(const std::string& file) {
     const std::string folder = FolderOf(file);
     if (folder == "platform") return 0;
-    if (file.starts_with("session/sheet_state.")) return 1;
+    if (folder == "session/state") return 1;
     if (folder == "windows") return 2;
     if (kProcedures.count(folder)) return 3;
     if (folder == "events") return 4;
@@ -109,7 +109,7 @@ bool FindCircle(const std::string& file, std::map<std::string, int>& state, Name
 
 TEST(StructureTest, TheSourcesAreFound) {
     ASSERT_GT(All().size(), 100u);
-    for (const char* file : {"session/sheet_state.h", "events/program.h", "platform/qt/renderer.cpp", "windows/main_window.cpp"})
+    for (const char* file : {"session/state/sheet_state.h", "events/program.h", "platform/qt/renderer.cpp", "windows/main_window.cpp"})
         EXPECT_EQ(All().count(file), 1u) << file;
     EXPECT_FALSE(All().at("windows/main_window.h").own.empty());
 }

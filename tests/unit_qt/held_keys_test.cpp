@@ -11,7 +11,7 @@
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/diagram_window.h"
 #include "windows/initial_window.h"

@@ -7,7 +7,7 @@
 #include "diagram/draw_diagram.h"
 #include "files/busy.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit/sheet_file.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/diagram_window.h"

@@ -6,7 +6,7 @@
 #include "platform/qt/key_filter.h"
 #include "platform/qt/made_mouse.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"

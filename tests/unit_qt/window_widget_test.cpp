@@ -10,7 +10,7 @@
 #include "platform/qt/menu_view.h"
 #include "platform/qt/scaling.h"
 #include "platform/user.h"
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"

@@ -1,4 +1,4 @@
-#include "session/sheet_state.h"
+#include "session/state/sheet_state.h"
 
 Any SheetHeader[15];
 Any SampleTable[3][kColumns + 1];
