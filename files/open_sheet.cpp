@@ -11,7 +11,7 @@
 #include "files/sample_names.h"
 #include "files/sheet_base_name.h"
 #include "files/snapshot.h"
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/number.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "session/dialog.h"

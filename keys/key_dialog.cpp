@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/services.h"
 #include "session/dialog.h"
 #include "session/state/sheet_state.h"

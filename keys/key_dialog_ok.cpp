@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/dialog.h"

@@ -8,7 +8,7 @@
 #include "diagram/redraw.h"
 #include "files/back_up.h"
 #include "files/save_sheet.h"
-#include "keys/built_in_keys.h"
+#include "keys/settings/built_in_keys.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/alarm.h"

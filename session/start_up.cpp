@@ -4,7 +4,7 @@
 
 #include "accessories/rest_pictures.h"
 #include "files/snapshot.h"
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/failure.h"
 #include "session/history.h"
 #include "session/stamps.h"

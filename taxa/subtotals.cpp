@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "session/changed_mark.h"
 #include "session/dialog.h"
 #include "session/state/sheet_state.h"

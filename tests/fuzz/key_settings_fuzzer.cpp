@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/program_test.h"

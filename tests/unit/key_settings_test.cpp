@@ -1,4 +1,4 @@
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 
 #include "platform/failure.h"
 #include "session/start_up.h"

@@ -3,7 +3,7 @@
 #include <random>
 
 #include "drive/us_keyboard.h"
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"

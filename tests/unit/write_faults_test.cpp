@@ -16,7 +16,7 @@
 #include "files/save_sheet.h"
 #include "keys/first_run.h"
 #include "keys/key_dialog_ok.h"
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 #include "platform/run_event.h"
 #include "platform/user.h"
 #include "session/start_up.h"

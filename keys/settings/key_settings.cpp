@@ -1,4 +1,4 @@
-#include "keys/key_settings.h"
+#include "keys/settings/key_settings.h"
 
 #include "files/cell_reader.h"
 #include "files/cell_writer.h"

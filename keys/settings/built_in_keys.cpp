@@ -1,4 +1,4 @@
-#include "keys/built_in_keys.h"
+#include "keys/settings/built_in_keys.h"
 
 #include <algorithm>
 #include <iterator>
