@@ -5,7 +5,7 @@
 #include "bench/headless_program.h"
 #include "diagram/percentages.h"
 #include "files/back_up.h"
-#include "files/cell_reader.h"
+#include "files/format/cell_reader.h"
 #include "files/read_sheet.h"
 #include "files/save_sheet.h"
 #include "platform/encoding.h"

@@ -2,7 +2,7 @@
 #pragma once
 #include <functional>
 
-#include "files/cell_writer.h"
+#include "files/format/cell_writer.h"
 
 // Asks where to, then writes what `write` has to say. False: cancelled, or the disk would not take it.
 bool Export(const std::function<void(CellWriter&)>& write);

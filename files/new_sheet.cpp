@@ -3,8 +3,8 @@
 #include <string>
 
 #include "diagram/open_diagram.h"
+#include "files/format/sheet_base_name.h"
 #include "files/sample_fields.h"
-#include "files/sheet_base_name.h"
 #include "platform/text.h"
 #include "session/history.h"
 #include "session/leaving.h"

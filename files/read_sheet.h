@@ -2,7 +2,7 @@
 // cell fails stays. Each raises "Input past end of file", "Overflow" for a number outside its type, "Subscript out of range" for a
 // serial, key index or column that the arrays do not have.
 #pragma once
-#include "files/cell_reader.h"
+#include "files/format/cell_reader.h"
 
 void ReadFirstRow(CellReader& cells);     // what follows the path: labels, serials, so SampleCount (0: a template); begins the second row
 void ReadSampleNames(CellReader& cells);  // the rest of the second row

@@ -7,7 +7,7 @@
 
 #include "diagram/percentages.h"
 #include "files/busy.h"
-#include "files/sheet_base_name.h"
+#include "files/format/sheet_base_name.h"
 #include "files/sheet_rows.h"
 #include "files/snapshot.h"
 #include "platform/failure.h"

@@ -8,7 +8,7 @@
 //
 // Taxa stand in the order of the file's rows, not of the slots: a sheet sorted in a spreadsheet keeps its order and its keys.
 #pragma once
-#include "files/cell_writer.h"
+#include "files/format/cell_writer.h"
 #include "platform/any.h"
 
 void StampHeader(const char* label);  // SheetHeader[6..8]: path, "Last saved (dd/mm/yyyy):" or the like, date and time

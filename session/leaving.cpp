@@ -4,8 +4,8 @@
 #include <string>
 
 #include "diagram/redraw.h"
+#include "files/format/sheet_base_name.h"
 #include "files/save_sheet.h"
-#include "files/sheet_base_name.h"
 #include "files/snapshot.h"
 #include "platform/failure.h"
 #include "platform/text.h"

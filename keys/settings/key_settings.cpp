@@ -1,7 +1,7 @@
 #include "keys/settings/key_settings.h"
 
-#include "files/cell_reader.h"
-#include "files/cell_writer.h"
+#include "files/format/cell_reader.h"
+#include "files/format/cell_writer.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/number.h"

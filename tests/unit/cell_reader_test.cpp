@@ -1,4 +1,4 @@
-#include "files/cell_reader.h"
+#include "files/format/cell_reader.h"
 
 #include <gtest/gtest.h>
 

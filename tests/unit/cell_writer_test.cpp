@@ -1,4 +1,4 @@
-#include "files/cell_writer.h"
+#include "files/format/cell_writer.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "files/cell_reader.h"
+#include "files/format/cell_reader.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
 

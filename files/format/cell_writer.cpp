@@ -1,4 +1,4 @@
-#include "files/cell_writer.h"
+#include "files/format/cell_writer.h"
 
 #include <charconv>
 #include <iterator>
