@@ -1,9 +1,9 @@
 #include "diagram/merge_list.h"
 
 #include "diagram/coniss.h"
-#include "files/busy.h"
 #include "files/exports.h"
 #include "platform/text.h"
+#include "session/busy.h"
 #include "session/sound.h"
 #include "windows/main_window.h"
 

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "diagram/basis.h"
-#include "files/sample_names.h"
 #include "platform/number.h"
+#include "session/sample_names.h"
 #include "windows/diagram_window.h"
 
 float SamplePercent[kSlots + 1][kColumns + 1];

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "files/busy.h"
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
+#include "session/busy.h"
 #include "session/focus_rule.h"
 #include "session/sound.h"
 #include "session/stamps.h"

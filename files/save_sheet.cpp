@@ -6,15 +6,15 @@
 #include <vector>
 
 #include "diagram/percentages.h"
-#include "files/busy.h"
 #include "files/format/sheet_base_name.h"
 #include "files/sheet_rows.h"
-#include "files/snapshot.h"
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/busy.h"
 #include "session/focus_rule.h"
 #include "session/history.h"
+#include "session/snapshot.h"
 #include "session/sound.h"
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"

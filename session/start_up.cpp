@@ -3,10 +3,10 @@
 #include <string>
 
 #include "accessories/rest_pictures.h"
-#include "files/snapshot.h"
 #include "keys/settings/key_settings.h"
 #include "platform/failure.h"
 #include "session/history.h"
+#include "session/snapshot.h"
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "diagram/draw_diagram.h"
-#include "files/busy.h"
 #include "platform/user.h"
+#include "session/busy.h"
 #include "session/state/sheet_state.h"
 #include "unit/sheet_file.h"
 #include "unit_qt/on_screen_test.h"

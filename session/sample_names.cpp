@@ -1,4 +1,4 @@
-#include "files/sample_names.h"
+#include "session/sample_names.h"
 
 #include "platform/text.h"
 #include "session/state/sheet_state.h"

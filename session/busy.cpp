@@ -1,4 +1,4 @@
-#include "files/busy.h"
+#include "session/busy.h"
 
 #include "platform/services.h"
 #include "windows/main_window.h"

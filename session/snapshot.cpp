@@ -1,4 +1,4 @@
-#include "files/snapshot.h"
+#include "session/snapshot.h"
 
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
