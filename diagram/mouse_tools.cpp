@@ -5,11 +5,11 @@
 
 #include "diagram/draw_diagram.h"
 #include "diagram/guide_lines.h"
+#include "diagram/move_sample_column.h"
 #include "diagram/percentages.h"
 #include "diagram/sample_marker.h"
 #include "diagram/sample_position.h"
 #include "diagram/sample_selector.h"
-#include "files/move_sample_column.h"
 #include "platform/number.h"
 #include "platform/services.h"
 #include "platform/user.h"

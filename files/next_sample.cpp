@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include "diagram/move_sample_column.h"
 #include "diagram/open_diagram.h"
-#include "files/move_sample_column.h"
 #include "files/sample_fields.h"
 #include "platform/failure.h"
 #include "platform/number.h"

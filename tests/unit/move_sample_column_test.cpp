@@ -1,4 +1,4 @@
-#include "files/move_sample_column.h"
+#include "diagram/move_sample_column.h"
 
 #include <random>
 #include <vector>
