@@ -69,6 +69,13 @@ void DrawCurve() {
 }
 }  // namespace
 
+void FollowTotal() {
+    if (frmMain.Text3[0].Text() == "0")
+        frmMain.Picture2.Clear();
+    else
+        DrawDiversityCurve();
+}
+
 void DrawDiversityCurve() {
     RecordPoint();
     SetScale();

@@ -1,9 +1,26 @@
 #include "events/program.h"
 
+#include "diagram/basis_choice.h"
+#include "diagram/diversity_curve.h"
+#include "diagram/redraw.h"
 #include "events/join.h"
+#include "files/back_up.h"
+#include "files/save_sheet.h"
+#include "session/told.h"
 #include "windows/next_window.h"
 
+namespace {
+void JoinCounting() {
+    SaveAsked.Calls(SaveAsCounted);
+    HundredReached.Calls(BackUpSheet);
+    CountsChanged.Calls(RedrawDiagram);
+    TotalChanged.Calls(FollowTotal);
+    BasisChosen.Calls(FollowBasis);
+}
+}  // namespace
+
 void StartProgram() {
+    JoinCounting();
     JoinMainEvents();
     JoinNextEvents();
     JoinInitialEvents();

@@ -176,15 +176,23 @@ void SaveSheet(std::int16_t mode) {
     }
 }
 
+void SaveAsCounted() {
+    SaveSheet(SheetClean ? kSaveClean : kSave);
+}
+
 void SaveFromMenu() {
     SnapshotSheet();
-    SaveSheet(SheetClean ? kSaveClean : kSave);
+    SaveAsCounted();
     ReturnFocus();
 }
 
 void SaveFromButton() {
     SnapshotSheet();
     SaveSheet(kSave);
+}
+
+void CheckIfReallyEnd() {
+    SaveFromButton();
 }
 
 void SavePercentTable(int basis) {

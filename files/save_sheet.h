@@ -16,6 +16,8 @@ constexpr std::int16_t kSavePercentSub2 = 102;
 // and the session's data stay. Raises "Overflow" where a sum of a sample leaves 16 bits; nothing is written then.
 void SaveSheet(std::int16_t mode);
 
-void SaveFromMenu();               // mnuSave
+void SaveAsCounted();              // kSave, or kSaveClean if nothing was counted
+void SaveFromMenu();               // mnuSave: the same, after a snapshot
 void SaveFromButton();             // Command5[0]
+void CheckIfReallyEnd();           // does as the button does
 void SavePercentTable(int basis);  // 0 all, 1 and 2 the subtotals; the basis stays chosen

@@ -5,9 +5,6 @@
 #include <cstring>
 #include <string>
 
-#include "diagram/redraw.h"
-#include "files/back_up.h"
-#include "files/save_sheet.h"
 #include "keys/settings/built_in_keys.h"
 #include "platform/number.h"
 #include "platform/text.h"
@@ -16,6 +13,7 @@
 #include "session/history.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
+#include "session/told.h"
 #include "session/undo.h"
 #include "windows/main_window.h"
 
@@ -92,7 +90,7 @@ void AnswerWithSound() {
         if (alarm_due && AlarmArmed) {
             services.sounds->Play(WaveAlarm);
             AlarmArmed = false;
-            BackUpSheet();
+            HundredReached.Raise();
         } else if (ReverseCount) {
             services.sounds->Play(WaveUndo);
             AlarmArmed = true;
@@ -158,7 +156,7 @@ void TakeKeyDown(int code) {
     frmMain.SetEnabled(true);
     if (!KeySettingsLoaded) UseBuiltInShifts();
     if (IsSaveKey(code)) {
-        SaveSheet(SheetClean ? kSaveClean : kSave);
+        SaveAsked.Raise();
         return;
     }
     if (!frmMain.KeysEnabled || !IsKnownKey(code)) return;
@@ -176,7 +174,7 @@ void TakeKeyDown(int code) {
         UndoKeyState = 1;
         ShowPadPanels(false);
     }
-    if (!IsShiftKey(code)) RedrawDiagram();
+    if (!IsShiftKey(code)) CountsChanged.Raise();
 }
 
 void CountKeyPress(int code) {

@@ -3,16 +3,14 @@
 #include <algorithm>
 #include <string>
 
-#include "diagram/redraw.h"
 #include "files/format/sheet_base_name.h"
-#include "files/save_sheet.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 #include "session/focus_rule.h"
 #include "session/history.h"
-#include "session/snapshot.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
+#include "session/told.h"
 #include "session/totals.h"
 #include "windows/about_windows.h"
 #include "windows/diagram_window.h"
@@ -69,7 +67,7 @@ void AskAndEnd() {
     SaveOutcome = 1;
     if (frmMain.Command5[0].Enabled()) {
         const Message question{"Marlbrook", ClosingQuestion(), Icon::None, Buttons::YesNoCancel};
-        if (services.messages->Show(question) == Answer::Yes) SaveSheet(SheetClean ? kSaveClean : kSave);
+        if (services.messages->Show(question) == Answer::Yes) SaveAsked.Raise();
     }
     if (SaveOutcome != 2) SoundOn = false;
     UnloadAll();
@@ -95,7 +93,7 @@ void AbortCount() {
             frmMain.Command2[0].SetEnabled(true);
         }
     }
-    RedrawDiagram();
+    CountsChanged.Raise();
     ReturnFocus();
 }
 
@@ -124,9 +122,4 @@ void UnloadAll() {
     for (Window* window : std::initializer_list<Window*>{&frmAboutDX1, &frmAboutMB1, &frmDiagram, &frmInitial, &frmKeyCode, &frmNext,
                                                          &frmNote, &frmParaName, &frmSiteName, &frmSubtotal, &frmPicture})
         CloseForGood(*window);
-}
-
-void CheckIfReallyEnd() {
-    SnapshotSheet();
-    SaveSheet(kSave);
 }

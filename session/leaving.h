@@ -6,6 +6,5 @@ void RestoreSheet();  // counts, names, flags and Additional info of the snapsho
 bool MayAbortData();  // asks whether the data on the screen may go
 void AbortCount();    // Reset
 void QuitProgram();
-void CloseMainWindow();   // by its frame
-void UnloadAll();         // every other window
-void CheckIfReallyEnd();  // a snapshot and a plain save
+void CloseMainWindow();  // by its frame
+void UnloadAll();        // every other window

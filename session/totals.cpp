@@ -2,11 +2,10 @@
 
 #include <string>
 
-#include "diagram/basis_choice.h"
-#include "diagram/diversity_curve.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/state/sheet_state.h"
+#include "session/told.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -42,21 +41,17 @@ void RecountTotals(std::int16_t sample) {
 }
 
 void TakeChangedTotal() {
-    const std::string& total = frmMain.Text3[0].Text();
-    if (Val(total) != 0) {
+    if (Val(frmMain.Text3[0].Text()) != 0) {
         frmMain.Command5[1].SetEnabled(true);
         frmMain.mnuNext.SetEnabled(true);
     }
-    if (total == "0")
-        frmMain.Picture2.Clear();
-    else
-        DrawDiversityCurve();
+    TotalChanged.Raise();
 }
 
 void ChooseBasis(int option) {
     for (int slot = 1; slot <= kSlots; ++slot) frmMain.Text1[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
     AlarmArmed = true;
-    FollowBasis();
+    BasisChosen.Raise();
 }
 
 void ShowCountOf(int slot, double count) {

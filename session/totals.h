@@ -6,9 +6,9 @@
 // Counts (one count behind its cell) is not 0. `sample`: 1..SampleCount. Raises "Overflow" past 32 bits; Text3 then keeps the old sums.
 void RecountTotals(std::int16_t sample);
 
-void TakeChangedTotal();       // Text3[0] has changed: a sample with a count can be followed by the next, and the curve is drawn
-void ChooseBasis(int option);  // Option1[option] was selected: underlines the members of its subtotal, arms the alarm;
-                               // an open diagram follows
+void TakeChangedTotal();                   // Text3[0] has changed: a sample with a count can be followed by the next
+void ChooseBasis(int option);              // Option1[option] was selected: underlines the members of its subtotal, arms the alarm;
+                                           // an open diagram follows
 void ShowCountOf(int slot, double count);  // puts the count into its cell
 void ShowCountsOfSample();                 // all cells take the counts of CurrentSample
 void EnableDiagramItems(bool enabled);     // of the main window: the five styles

@@ -1,0 +1,7 @@
+#include "session/told.h"
+
+Event<> SaveAsked;
+Event<> HundredReached;
+Event<> CountsChanged;
+Event<> TotalChanged;
+Event<> BasisChosen;

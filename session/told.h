@@ -1,0 +1,9 @@
+// What counting tells the rest of the program, which lies above it. Each event has one listener, joined in events/program.cpp.
+#pragma once
+#include "platform/event.h"
+
+extern Event<> SaveAsked;       // by the save key, or at the end of the program
+extern Event<> HundredReached;  // the alarm has sounded
+extern Event<> CountsChanged;   // by a key or a reset: an open diagram is out of date
+extern Event<> TotalChanged;    // Text3[0] shows another total of all taxa
+extern Event<> BasisChosen;     // Option1: the total that the alarm and all percentages go by
