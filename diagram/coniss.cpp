@@ -6,7 +6,7 @@
 #include "diagram/basis.h"
 #include "diagram/percentages.h"
 #include "diagram/sample_position.h"
-#include "session/busy.h"
+#include "windows/busy.h"
 #include "windows/main_window.h"
 
 std::vector<ClusterVector> ConissData;

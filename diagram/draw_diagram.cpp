@@ -6,7 +6,7 @@
 #include "diagram/sample_marker.h"
 #include "diagram/sample_position.h"
 #include "diagram/style.h"
-#include "session/busy.h"
+#include "windows/busy.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 

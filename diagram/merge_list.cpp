@@ -3,8 +3,8 @@
 #include "diagram/coniss.h"
 #include "files/exports.h"
 #include "platform/text.h"
-#include "session/busy.h"
 #include "session/sound.h"
+#include "windows/busy.h"
 #include "windows/main_window.h"
 
 namespace {

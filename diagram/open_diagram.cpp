@@ -9,7 +9,7 @@
 #include "diagram/tree_panel.h"
 #include "platform/services.h"
 #include "platform/text.h"
-#include "session/sample_names.h"
+#include "session/state/sample_names.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"

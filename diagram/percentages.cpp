@@ -5,7 +5,7 @@
 
 #include "diagram/basis.h"
 #include "platform/number.h"
-#include "session/sample_names.h"
+#include "session/state/sample_names.h"
 #include "windows/diagram_window.h"
 
 float SamplePercent[kSlots + 1][kColumns + 1];

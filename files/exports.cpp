@@ -4,11 +4,11 @@
 
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
-#include "session/busy.h"
 #include "session/focus_rule.h"
 #include "session/sound.h"
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"
+#include "windows/busy.h"
 #include "windows/main_window.h"
 
 bool Export(const std::function<void(CellWriter&)>& write) {

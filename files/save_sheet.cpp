@@ -11,13 +11,13 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/busy.h"
 #include "session/focus_rule.h"
 #include "session/history.h"
 #include "session/snapshot.h"
 #include "session/sound.h"
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"
+#include "windows/busy.h"
 #include "windows/main_window.h"
 
 namespace {

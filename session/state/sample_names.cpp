@@ -1,4 +1,4 @@
-#include "session/sample_names.h"
+#include "session/state/sample_names.h"
 
 #include "platform/text.h"
 #include "session/state/sheet_state.h"

@@ -1,4 +1,4 @@
-#include "session/busy.h"
+#include "windows/busy.h"
 
 #include "platform/services.h"
 #include "windows/main_window.h"
