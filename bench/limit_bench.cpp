@@ -9,7 +9,7 @@
 
 #include "bench/growing.h"
 #include "bench/headless_program.h"
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "files/save_sheet.h"
 #include "session/state/sheet_state.h"
 

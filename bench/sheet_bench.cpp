@@ -3,7 +3,7 @@
 
 #include "bench/growing.h"
 #include "bench/headless_program.h"
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "files/back_up.h"
 #include "files/format/cell_reader.h"
 #include "files/read_sheet.h"

@@ -20,7 +20,7 @@
 
 #include "bench/stages.h"
 #include "bench/x_user.h"
-#include "diagram/sample_position.h"
+#include "diagram/data/sample_position.h"
 #include "events/program.h"
 #include "platform/headless/scripted_dialogs.h"
 #include "platform/qt/control_widget.h"

@@ -1,7 +1,7 @@
 #include "diagram/basis_choice.h"
 
-#include "diagram/basis.h"
 #include "diagram/cluster_tree.h"
+#include "diagram/data/basis.h"
 #include "diagram/redraw.h"
 #include "diagram/tree_panel.h"
 #include "session/state/sheet_state.h"

@@ -1,6 +1,6 @@
 #include "diagram/cluster_tree.h"
 
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/sample_marker.h"
 #include "windows/diagram_window.h"

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
+#include "diagram/data/sample_position.h"
 #include "diagram/sample_marker.h"
-#include "diagram/sample_position.h"
 #include "diagram/style.h"
 #include "windows/busy.h"
 #include "windows/diagram_window.h"

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "diagram/cluster_tree.h"
+#include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/percentages.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
 #include "platform/number.h"

@@ -1,6 +1,6 @@
 #include "diagram/merge_list.h"
 
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
 #include "files/exports.h"
 #include "platform/text.h"
 #include "session/sound.h"

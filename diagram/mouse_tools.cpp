@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <string>
 
+#include "diagram/data/percentages.h"
+#include "diagram/data/sample_position.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/guide_lines.h"
 #include "diagram/move_sample_column.h"
-#include "diagram/percentages.h"
 #include "diagram/sample_marker.h"
-#include "diagram/sample_position.h"
 #include "diagram/sample_selector.h"
 #include "platform/number.h"
 #include "platform/services.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "diagram/redraw.h"
 #include "diagram/sample_selector.h"
 #include "diagram/tree_panel.h"

@@ -1,9 +1,9 @@
 #include "diagram/open_diagram.h"
 
-#include "diagram/basis.h"
+#include "diagram/data/basis.h"
+#include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/layout.h"
-#include "diagram/percentages.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
 #include "diagram/tree_panel.h"

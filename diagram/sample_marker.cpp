@@ -1,6 +1,6 @@
 #include "diagram/sample_marker.h"
 
-#include "diagram/sample_position.h"
+#include "diagram/data/sample_position.h"
 #include "platform/services.h"
 #include "windows/diagram_window.h"
 

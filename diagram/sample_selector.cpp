@@ -4,8 +4,8 @@
 #include <cmath>
 #include <string>
 
+#include "diagram/data/sample_position.h"
 #include "diagram/sample_marker.h"
-#include "diagram/sample_position.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/percentages.h"
 #include "platform/number.h"
 #include "platform/services.h"
 #include "platform/text.h"

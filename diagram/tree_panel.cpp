@@ -1,7 +1,7 @@
 #include "diagram/tree_panel.h"
 
 #include "diagram/cluster_tree.h"
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
 #include "diagram/layout.h"
 #include "platform/services.h"
 #include "windows/diagram_window.h"

@@ -4,9 +4,9 @@
 #include <map>
 #include <utility>
 
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
+#include "diagram/data/percentages.h"
 #include "diagram/diversity_curve.h"
-#include "diagram/percentages.h"
 #include "drive/fault.h"
 #include "drive/values.h"
 #include "platform/services.h"

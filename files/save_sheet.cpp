@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "files/format/sheet_base_name.h"
 #include "files/sheet_rows.h"
 #include "platform/failure.h"

@@ -1,6 +1,6 @@
 #include "session/percent_display.h"
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "events/program.h"
 #include "files/back_up.h"
 #include "files/open_sheet.h"

@@ -1,6 +1,6 @@
 #include "diagram/cluster_tree.h"
 
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
 #include "platform/services.h"
 #include "platform/user.h"
 #include "unit/diagram_test.h"

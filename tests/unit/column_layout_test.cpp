@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <random>
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "platform/run_event.h"
 #include "unit/sheet_test.h"
 #include "windows/diagram_window.h"

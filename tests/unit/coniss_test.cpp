@@ -1,9 +1,9 @@
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
 
 #include <cmath>
 #include <random>
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "platform/failure.h"
 #include "platform/services.h"
 #include "unit/diagram_test.h"

@@ -2,10 +2,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
+#include "diagram/data/percentages.h"
 #include "diagram/layout.h"
 #include "diagram/open_diagram.h"
-#include "diagram/percentages.h"
 #include "diagram/sample_selector.h"
 #include "platform/run_event.h"
 #include "platform/user.h"

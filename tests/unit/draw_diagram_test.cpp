@@ -1,6 +1,6 @@
 #include "diagram/draw_diagram.h"
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "platform/services.h"
 #include "platform/user.h"
 #include "unit/diagram_test.h"

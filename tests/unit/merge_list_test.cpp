@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <random>
 
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
 #include "platform/services.h"
 #include "platform/user.h"
 #include "unit/diagram_test.h"

@@ -1,7 +1,7 @@
 #include "diagram/mouse_tools.h"
 
-#include "diagram/coniss.h"
-#include "diagram/percentages.h"
+#include "diagram/data/coniss.h"
+#include "diagram/data/percentages.h"
 #include "platform/services.h"
 #include "platform/user.h"
 #include "unit/diagram_test.h"

@@ -3,7 +3,7 @@
 #include <random>
 #include <vector>
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"

@@ -1,6 +1,6 @@
 #include "session/percent_display.h"
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"

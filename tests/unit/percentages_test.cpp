@@ -1,4 +1,4 @@
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 
 #include <algorithm>
 #include <iterator>

@@ -2,8 +2,8 @@
 
 #include <type_traits>
 
+#include "diagram/data/percentages.h"
 #include "diagram/diversity_curve.h"
-#include "diagram/percentages.h"
 #include "platform/services.h"
 #include "session/state/sheet_state.h"
 

@@ -19,7 +19,8 @@ struct Source {
 };
 using Sources = std::map<std::string, Source>;
 
-const std::set<std::string> kProcedures = {"session", "files", "files/format", "keys", "keys/settings", "taxa", "diagram", "accessories"};
+const std::set<std::string> kProcedures = {"session", "files",   "files/format", "keys",       "keys/settings",
+                                           "taxa",    "diagram", "diagram/data", "accessories"};
 const std::set<std::string> kFolders = {"platform", "windows", "session", "files", "keys",       "taxa",
                                         "diagram",  "events",  "program", "drive", "accessories"};
 

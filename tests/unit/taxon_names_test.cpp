@@ -1,6 +1,6 @@
 #include "diagram/taxon_names.h"
 
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 #include "platform/user.h"
 #include "unit/diagram_test.h"
 #include "windows/diagram_window.h"

@@ -1,4 +1,4 @@
-#include "diagram/sample_position.h"
+#include "diagram/data/sample_position.h"
 
 #include "platform/failure.h"
 #include "platform/text.h"

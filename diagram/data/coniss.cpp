@@ -1,11 +1,11 @@
-#include "diagram/coniss.h"
+#include "diagram/data/coniss.h"
 
 #include <algorithm>
 #include <limits>
 
-#include "diagram/basis.h"
-#include "diagram/percentages.h"
-#include "diagram/sample_position.h"
+#include "diagram/data/basis.h"
+#include "diagram/data/percentages.h"
+#include "diagram/data/sample_position.h"
 #include "windows/busy.h"
 #include "windows/main_window.h"
 

@@ -1,4 +1,4 @@
-#include "diagram/basis.h"
+#include "diagram/data/basis.h"
 
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"

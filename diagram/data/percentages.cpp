@@ -1,9 +1,9 @@
-#include "diagram/percentages.h"
+#include "diagram/data/percentages.h"
 
 #include <algorithm>
 #include <array>
 
-#include "diagram/basis.h"
+#include "diagram/data/basis.h"
 #include "platform/number.h"
 #include "session/state/sample_names.h"
 #include "windows/diagram_window.h"
