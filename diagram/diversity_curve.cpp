@@ -8,10 +8,6 @@
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
-std::int16_t TaxaSeen;
-std::int16_t DiversityLength;
-std::vector<std::int16_t> DiversityCurve;
-
 namespace {
 constexpr Colour kCurve{255, 0, 0};
 constexpr Colour kAxis{100, 100, 100};

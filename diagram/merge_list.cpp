@@ -1,8 +1,8 @@
 #include "diagram/merge_list.h"
 
 #include "diagram/data/coniss.h"
-#include "files/exports.h"
 #include "platform/text.h"
+#include "session/export.h"
 #include "session/sound.h"
 #include "windows/busy.h"
 #include "windows/main_window.h"

@@ -6,7 +6,6 @@
 
 #include "diagram/data/coniss.h"
 #include "diagram/data/percentages.h"
-#include "diagram/diversity_curve.h"
 #include "drive/fault.h"
 #include "drive/values.h"
 #include "platform/services.h"

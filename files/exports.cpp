@@ -3,26 +3,13 @@
 #include <string>
 
 #include "files/sheet_rows.h"
-#include "platform/failure.h"
+#include "session/export.h"
 #include "session/focus_rule.h"
 #include "session/sound.h"
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "windows/busy.h"
 #include "windows/main_window.h"
-
-bool Export(const std::function<void(CellWriter&)>& write) {
-    if (!frmMain.CommonDialog1.AskForSaving()) return false;
-    try {
-        const auto file = services.files->OpenForWriting(frmMain.CommonDialog1.FileName);
-        CellWriter cells(*file);
-        write(cells);
-        cells.Close();
-        return true;
-    } catch (const Failure&) {
-        return false;
-    }
-}
 
 namespace {
 void WriteTemplate(CellWriter& cells) {

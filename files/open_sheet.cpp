@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include "diagram/diversity_curve.h"
 #include "diagram/open_diagram.h"
 #include "files/back_up.h"
 #include "files/format/sheet_base_name.h"

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <string>
 
-#include "diagram/diversity_curve.h"
 #include "session/history.h"
 #include "session/sample_on_show.h"
 #include "session/state/sheet_state.h"

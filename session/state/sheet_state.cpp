@@ -27,6 +27,10 @@ std::vector<std::array<std::int32_t, kSlots + 1>> CountsAtOpen;
 Any TaxonTableAtOpen[kSlots + 1][5];
 Any ParamValuesAtOpen[kParams + 1][kColumns + 1];
 
+std::int16_t TaxaSeen;
+std::int16_t DiversityLength;
+std::vector<std::int16_t> DiversityCurve;
+
 Any KeySettings[63][3];
 std::int16_t Shift1Code;
 std::int16_t Shift2Code;

@@ -54,6 +54,12 @@ extern std::vector<std::array<std::int32_t, kSlots + 1>> CountsAtOpen;  // [samp
 extern Any TaxonTableAtOpen[kSlots + 1][5];                             // columns 1..4
 extern Any ParamValuesAtOpen[kParams + 1][kColumns + 1];                // [p][0]: the caption of the parameter
 
+// ---- The curve of taxa seen against grains counted ----
+
+extern std::int16_t TaxaSeen;                     // taxa of the sample on show whose count is not 0
+extern std::int16_t DiversityLength;              // the total of the sample on show: last index of the curve
+extern std::vector<std::int16_t> DiversityCurve;  // [total]: ten times the taxa seen when it was passed; 0 where it was not seen
+
 // ---- Keys and sounds ----
 
 extern Any KeySettings[63][3];  // [row][0] definition, [1] key code, [2] key number; rows as in the key settings file

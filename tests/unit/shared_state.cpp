@@ -3,7 +3,6 @@
 #include <type_traits>
 
 #include "diagram/data/percentages.h"
-#include "diagram/diversity_curve.h"
 #include "platform/services.h"
 #include "session/state/sheet_state.h"
 

@@ -1,0 +1,18 @@
+#include "session/export.h"
+
+#include "platform/failure.h"
+#include "platform/services.h"
+#include "windows/main_window.h"
+
+bool Export(const std::function<void(CellWriter&)>& write) {
+    if (!frmMain.CommonDialog1.AskForSaving()) return false;
+    try {
+        const auto file = services.files->OpenForWriting(frmMain.CommonDialog1.FileName);
+        CellWriter cells(*file);
+        write(cells);
+        cells.Close();
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
+}
