@@ -17,6 +17,7 @@
 #include "session/percent_display.h"
 #include "session/sample_navigation.h"
 #include "session/start_up.h"
+#include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "session/undo.h"
 #include "taxa/cells.h"

@@ -7,9 +7,10 @@
 #include <map>
 #include <string>
 
+#include "platform/any.h"
 #include "platform/controls.h"
 #include "platform/window.h"
-#include "session/state/sheet_state.h"
+#include "sheet/sizes.h"
 
 constexpr int kMapRows = 50;        // rows of the key settings that the maps show
 constexpr int kFunctionalKeys = 4;  // Shift-1, Shift-2, Undo, Save

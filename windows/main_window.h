@@ -6,7 +6,7 @@
 #include "platform/picture_box.h"
 #include "platform/services.h"
 #include "platform/window.h"
-#include "session/state/sheet_state.h"
+#include "sheet/sizes.h"
 
 struct MainWindow : Window {
     MainWindow();

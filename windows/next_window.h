@@ -4,7 +4,7 @@
 #include "platform/controls.h"
 #include "platform/picture_box.h"
 #include "platform/window.h"
-#include "session/state/sheet_state.h"
+#include "sheet/sizes.h"
 
 struct NextWindow : Window {
     NextWindow();

@@ -1,6 +1,6 @@
 #include "windows/para_name_window.h"
 
-#include "session/state/sheet_state.h"
+#include "sheet/sizes.h"
 
 ParaNameWindow frmParaName;
 

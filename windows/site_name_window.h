@@ -2,7 +2,7 @@
 #pragma once
 #include "platform/controls.h"
 #include "platform/window.h"
-#include "session/state/sheet_state.h"
+#include "sheet/sizes.h"
 
 struct SiteNameWindow : Window {
     SiteNameWindow();

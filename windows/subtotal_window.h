@@ -2,9 +2,10 @@
 #pragma once
 #include <string>
 
+#include "platform/any.h"
 #include "platform/controls.h"
 #include "platform/window.h"
-#include "session/state/sheet_state.h"
+#include "sheet/sizes.h"
 
 struct SubtotalWindow : Window {
     SubtotalWindow();

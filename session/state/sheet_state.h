@@ -10,20 +10,12 @@
 
 #include "platform/any.h"
 #include "platform/services.h"
-
-constexpr int kSlots = 135;        // places for a taxon
-constexpr int kKeys = 45;          // counter keys, and places on the pad
-constexpr int kSampleLimit = 250;  // samples that a sheet can grow to
-constexpr int kColumns = 255;      // samples that the arrays can hold
-constexpr int kParams = 6;         // rows of Additional info
-constexpr int kUndoDepth = 1000;   // last index of UndoList
-inline constexpr const char* kEmpty = "---";
+#include "sheet/sizes.h"
 
 // ---- The sheet ----
 
-extern Any SheetHeader[15];               // header cells 6..9 and 11..14 of the file's first two rows; the others unused
-extern Any SampleTable[3][kColumns + 1];  // [1][j] Serial No., [2][j] name; row 0: the names as the diagram took them up
-constexpr int kSubtotals = 2;
+extern Any SheetHeader[15];                         // header cells 6..9 and 11..14 of the file's first two rows; the others unused
+extern Any SampleTable[3][kColumns + 1];            // [1][j] Serial No., [2][j] name; row 0: the names as the diagram took them up
 constexpr int kSubtotalFlags[kSubtotals] = {2, 3};  // columns of TaxonTable: of Subtotal-1, of Subtotal-2
 extern Any TaxonTable[kSlots + 1][5];  // [s][0] sheet row, [1] key index, [2], [3] subtotal flags, [4] name; row 0: [2], [3] totals on show
 extern std::int32_t Counts[kSlots + 1][kColumns + 1];  // [slot][sample], may be negative; [0][j]: sum of sample j on the percent basis
