@@ -5,6 +5,7 @@
 // own coordinates.
 #pragma once
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/colour.h"
@@ -142,6 +143,7 @@ public:
     void SetFocus();
 
     void BindView(ControlView* view) { view_ = view; }
+    void SetDesign(Properties design) { now_ = std::move(design); }  // by the window that lays it down: raises nothing
     void KeepDesign() { design_ = now_; }
     const Box& DesignBox() const { return design_.box; }
     virtual void ReturnToDesign();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/user.h"
+#include "platform/window_table.h"
 
 namespace {
 // The windows are globals that take themselves up before main: the list must be there first.
@@ -29,6 +30,19 @@ void Deselect(Control& control) {
 Window* Foremost() {
     const auto found = std::find_if(shown.rbegin(), shown.rend(), [](const Window* window) { return window->Enabled(); });
     return found == shown.rend() ? nullptr : *found;
+}
+
+Properties DesignOf(const ControlRow& row) {
+    Properties design = row.control.State();
+    design.box = row.place;
+    design.text = row.caption;
+    design.font_size = row.style.points;
+    design.bold = row.style.bold;
+    design.fore = row.style.fore;
+    design.back = row.style.back.value_or(design.back);
+    design.visible = row.style.visible;
+    design.enabled = row.style.enabled;
+    return design;
 }
 }  // namespace
 
@@ -72,6 +86,24 @@ void Window::Add(Control& control, const char* control_name, int index, Control*
     control.SetWidth(box.width);
     control.SetHeight(box.height);
     controls_.push_back(&control);
+}
+
+void Window::Lay(std::initializer_list<ControlRow> rows) {
+    for (const ControlRow& row : rows) {
+        row.control.named_by = row.named_by;
+        row.control.accessible_name = row.accessible_name;
+        row.control.tab_stop = row.style.tab_stop;
+        row.control.SetDesign(DesignOf(row));
+        row.control.name = row.name.name;
+        row.control.index = row.name.index;
+        row.control.window = this;
+        row.control.container = row.container;
+        controls_.push_back(&row.control);
+    }
+}
+
+void Window::LayMenus(std::initializer_list<MenuRow> rows) {
+    for (const MenuRow& row : rows) Lay({{row.item, row.name, row.menu, {}, row.caption, row.style}});
 }
 
 void Window::KeepDesign() {

@@ -1,5 +1,6 @@
 // A window as data, and the order in which windows stand on the screen. One window is active: the foremost that is shown and enabled.
 #pragma once
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -7,6 +8,9 @@
 #include "platform/controls.h"
 
 enum class WindowProperty { Title, Enabled, Shown, Place, Focus, BackColor };
+
+struct ControlRow;  // platform/window_table.h
+struct MenuRow;
 
 class WindowView {
 public:
@@ -67,7 +71,9 @@ public:
     Control* Find(const std::string& control_name, int index) const;  // index -1: not of an array; nullptr if there is none
 
 protected:
-    // Takes a control up: once, from the constructor of the window.
+    // Take the controls up, in the order of their rows: each once, from the constructor of the window.
+    void Lay(std::initializer_list<ControlRow> rows);
+    void LayMenus(std::initializer_list<MenuRow> rows);
     void Add(Control& control, const char* control_name, int index, Control* container, Box box);
     void FirstFocus(Control& control) { first_focus_ = &control; }  // has the focus when the window comes up
     void KeepDesign();                                              // ends the design; Unload comes back to it

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/user.h"
+#include "platform/window_table.h"
 #include "unit/test_window.h"
 
 namespace {
@@ -29,6 +30,71 @@ protected:
 
     Log log_;
 };
+
+struct LaidWindow : Window {
+    LaidWindow() : Window("tstLaid", "Laid", 3000, 2000) {
+        Lay({
+            {words, "words", nullptr, {10, 20, 30, 40}, "Name:"},
+            {ground, "ground", nullptr, {50, 60, 70, 80}, "", {.back = kBlack, .visible = false}},
+            {box[1],
+             {"box", 1},
+             &ground,
+             {1, 2, 3, 4},
+             "---",
+             {.points = 7, .bold = true, .fore = kWhite, .enabled = false},
+             "Name",
+             &words},
+        });
+        LayMenus({
+            {menu, "menu", nullptr, "&Menu", kHidden},
+            {item, {"item", 5}, &menu, "Item"},
+        });
+        KeepDesign();
+    }
+    Label words;
+    Frame ground;
+    TextBox box[2];
+    MenuItem menu, item;
+} laid;
+
+TEST_F(WindowTest, TheControlsStandInTheOrderOfTheirRows) {
+    EXPECT_EQ(laid.Controls(), (std::vector<Control*>{&laid.words, &laid.ground, &laid.box[1], &laid.menu, &laid.item}));
+    for (const Control* control : laid.Controls()) EXPECT_EQ(control->window, &laid);
+}
+
+TEST_F(WindowTest, ARowTellsAllOfItsControl) {
+    const TextBox& box = laid.box[1];
+    const Box place = box.State().box;
+    EXPECT_EQ(laid.Find("box", 1), &box);
+    EXPECT_EQ(box.container, &laid.ground);
+    EXPECT_EQ((std::vector{place.left, place.top, place.width, place.height}), (std::vector{1, 2, 3, 4}));
+    EXPECT_EQ(box.Text(), "---");
+    EXPECT_EQ(box.FontSize(), 7);
+    EXPECT_TRUE(box.Bold());
+    EXPECT_EQ(box.ForeColor(), kWhite);
+    EXPECT_FALSE(box.Enabled());
+    EXPECT_EQ(box.accessible_name, "Name");
+    EXPECT_EQ(box.named_by, &laid.words);
+}
+
+TEST_F(WindowTest, WhatARowLeavesOutIsAsItsKindHasIt) {
+    EXPECT_EQ(laid.words.Caption(), "Name:");
+    EXPECT_EQ(laid.words.index, -1);
+    EXPECT_EQ(laid.words.container, nullptr);
+    EXPECT_EQ(laid.words.FontSize(), 9);
+    EXPECT_EQ(laid.words.BackColor(), kFormColour);
+    EXPECT_EQ(laid.box[1].BackColor(), kWhite);
+    EXPECT_TRUE(laid.words.Visible() && laid.words.Enabled() && laid.words.tab_stop);
+    EXPECT_EQ(laid.ground.BackColor(), kBlack);
+    EXPECT_FALSE(laid.ground.Visible());
+}
+
+TEST_F(WindowTest, AMenuRowStandsInItsMenu) {
+    EXPECT_EQ(laid.menu.Caption(), "&Menu");
+    EXPECT_FALSE(laid.menu.Visible());
+    EXPECT_EQ(laid.item.container, &laid.menu);
+    EXPECT_EQ(laid.Find("item", 5), &laid.item);
+}
 
 TEST_F(WindowTest, ShowLoadsItOnceBringsItToTheFrontAndGivesItTheFocus) {
     EXPECT_FALSE(window_a.IsLoaded());
