@@ -1,13 +1,12 @@
 #include "windows/note_window.h"
 
-#include <string>
+#include "platform/window_table.h"
 
 NoteWindow frmNote;
 
 namespace {
-constexpr int kWidth = 6800;
-constexpr int kTops[kNotes] = {560, 1620, 2500, 3560};
-constexpr int kHeights[kNotes] = {920, 740, 920, 740};
+constexpr Style kTitle{.points = 11, .bold = true};
+constexpr Style kToRead{.back = kFormColour, .enabled = false};
 constexpr const char* kTexts[kNotes] = {
     "Marlbrook accepts assignments of any keys for Shift-1 and \r\nShift-2. However, combinations of more than two functional keys\r\n"
     "are sometimes refused by (or may have special meaning for)\r\nWindows.  \r\n",
@@ -20,21 +19,16 @@ constexpr const char* kTexts[kNotes] = {
 };
 }  // namespace
 
-NoteWindow::NoteWindow() : Window("frmNote", "Message from Marlbrook", kWidth, 5140) {
-    Add(Label1, "Label1", -1, nullptr, {240, 140, kWidth - 480, 320});
-    Label1.SetCaption("Useful information:");
-    Label1.SetFontSize(11);
-    Label1.SetBold(true);
-    for (int i = 0; i < kNotes; ++i) {
-        Add(Text1[i], "Text1", i, nullptr, {240, kTops[i], kWidth - 480, kHeights[i]});
-        Text1[i].SetText(kTexts[i]);
-        Text1[i].multiline = true;
-        Text1[i].SetEnabled(false);
-        Text1[i].SetBackColor(kFormColour);
-        Text1[i].accessible_name = "Note " + std::to_string(i + 1);
-    }
-    Add(Command1, "Command1", -1, nullptr, {kWidth - 240 - 1280, 4520, 1280, 420});
-    Command1.SetCaption("OK");
+NoteWindow::NoteWindow() : Window("frmNote", "Message from Marlbrook", 6800, 5140) {
+    Lay({
+        {Label1, "Label1", nullptr, {240, 140, 6320, 320}, "Useful information:", kTitle},
+        {Text1[0], {"Text1", 0}, nullptr, {240, 560, 6320, 920}, kTexts[0], kToRead, "Note 1"},
+        {Text1[1], {"Text1", 1}, nullptr, {240, 1620, 6320, 740}, kTexts[1], kToRead, "Note 2"},
+        {Text1[2], {"Text1", 2}, nullptr, {240, 2500, 6320, 920}, kTexts[2], kToRead, "Note 3"},
+        {Text1[3], {"Text1", 3}, nullptr, {240, 3560, 6320, 740}, kTexts[3], kToRead, "Note 4"},
+        {Command1, "Command1", nullptr, {5280, 4520, 1280, 420}, "OK"},
+    });
+    for (TextBox& note : Text1) note.multiline = true;
     FirstFocus(Command1);
     confirm = dismiss = &Command1;
     KeepDesign();
