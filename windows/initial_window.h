@@ -18,6 +18,7 @@ struct InitialWindow : Window {
     float AllKnown = 0;  // 1: the keyboard was known when the window came up
 
 private:
+    void LayKey(int key);
     void ForgetMembers() override { AllKnown = 0; }
 };
 
