@@ -26,8 +26,7 @@ struct NextWindow : Window {
     Button Command3;               // Cancel
 
 private:
-    void PlaceStartFace();
-    void PlaceSampleFace();
+    void LayParam(int p);
 };
 
 // The two faces are one window in three heights.

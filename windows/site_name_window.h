@@ -15,6 +15,9 @@ struct SiteNameWindow : Window {
     TextBox Text3[kParams + 1];
     Button Command1;  // OK
     Button Command3;  // Cancel, which does nothing
+
+private:
+    void LayParam(int p);
 };
 
 extern SiteNameWindow frmSiteName;
