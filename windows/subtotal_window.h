@@ -23,9 +23,7 @@ struct SubtotalWindow : Window {
     Any FlagsAtOpening[kSlots + 1][kSubtotals];
 
 private:
-    void PlaceNames();
-    void PlaceBanks();
-    void PlaceCommands();
+    void LaySlot(int slot);
     void ForgetMembers() override { Filling = false; }
 };
 
