@@ -50,11 +50,11 @@ struct KeyCodeWindow : Window {
     Any SettingsAtOpening[kMapRows + 1][3];
 
 private:
-    void PlaceMaps();
-    void PlaceMap(Frame& frame, const char* frame_name, int page, const char* caption);
-    void PlaceMapBox(TextBox& box, const char* box_name, int row, Frame& frame, const std::string& spoken_name);
-    void PlaceFunctionalKeys();
-    void PlaceChoices();
+    void LayMaps();
+    void LayCounterKey(int row);
+    void LayFunctionalKey(int row);
+    void LayBesideMaps();
+    void LayBelowMaps();
     void ForgetMembers() override;
 };
 
