@@ -1,5 +1,7 @@
 #include "windows/diagram_window.h"
 
+#include "platform/window_table.h"
+
 DiagramWindow frmDiagram;
 
 namespace {
@@ -9,138 +11,116 @@ constexpr int kNamesTop = 350;
 constexpr int kNamesHeight = 2105;  // room for 25 letters
 constexpr int kPictureTop = kNamesTop + kNamesHeight;
 constexpr int kPictureHeight = 4560;
+constexpr int kBelow = kPictureTop + kPictureHeight;
 constexpr int kTreeWidth = 2000;
+constexpr int kTreeLeft = kDiagramWidth - kDiagramRightEdge - kTreeWidth;
 constexpr int kSelectorLeft = 8115;
 constexpr int kSelectorWidth = kDiagramWidth - kDiagramRightEdge - kSelectorLeft;
 constexpr int kArrowsWidth = 240;
+constexpr int kArrowsLeft = kSelectorLeft - kArrowsWidth;
 constexpr int kStatusHeight = 180;
+
+constexpr Style kDrawn{.tab_stop = false};
+constexpr Style kDrawnOnGround{.back = kFormColour, .tab_stop = false};
+constexpr Style kHiddenPicture{.visible = false, .tab_stop = false};
 }  // namespace
 
 DiagramWindow::DiagramWindow() : Window("frmDiagram", "Diagram", kDiagramWidth, kDiagramHeight) {
     resizable = true;
-    PlaceTopRow();
-    PlacePictures();
-    PlaceSelector();
-    PlaceMenuBar();
-    PlacePopups();
+    LayControls();
+    LayMenuBar();
+    LayPopups();
     FirstFocus(Slider1);
     ForgetMembers();
     KeepDesign();
 }
 
-void DiagramWindow::PlaceTopRow() {
-    Add(Slider2, "Slider2", -1, nullptr, {kPictureLeft, 10, 2400, 330});
+void DiagramWindow::LayControls() {
+    // The list and the arrows are centred on the line of the sample, 420 below the frame's top.
+    Lay({
+        {Slider2, "Slider2", nullptr, {kPictureLeft, 10, 2400, 330}, "", kPlain, "Horizontal scale"},
+        {Command1, "Command1", nullptr, {2940, 25, 960, 300}, "Last move"},
+        {Text1, "Text1", nullptr, {3960, 25, 480, 300}, "", kHidden, "Moved from"},
+        {Text2, "Text2", nullptr, {4500, 25, 480, 300}, "", kHidden, "Moved to"},
+
+        {Picture4, "Picture4", nullptr, {kPictureLeft, kNamesTop, kPictureWidth, kNamesHeight}, "", kDrawnOnGround, "Taxa names"},
+        {Picture1, "Picture1", nullptr, {kPictureLeft, kPictureTop, kPictureWidth, kPictureHeight}, "", kDrawn, "Diagram"},
+        {Picture2, "Picture2", nullptr, {kTreeLeft, kPictureTop, kTreeWidth, kPictureHeight}, "", kHiddenPicture, "Cluster tree"},
+        {HScroll1, "HScroll1", nullptr, {kPictureLeft, kBelow + 20, kPictureWidth, 240}, "", kPlain, "Columns in view"},
+        {Picture3, "Picture3", nullptr, {0, kBelow + 270, kDiagramWidth, 70}, "", kDrawnOnGround, "Band below the diagram"},
+        {StatusBar1, "StatusBar1", nullptr, {0, kDiagramHeight - kStatusHeight, kDiagramWidth, kStatusHeight}, "", kPlain, "Status"},
+
+        {Slider1, "Slider1", nullptr, {60, kPictureTop, 330, kPictureHeight}, "", kPlain, "Selected sample"},
+        {UpDown1, "UpDown1", nullptr, {kArrowsLeft, kPictureTop + 240, kArrowsWidth, 360}, "", kPlain, "Next or previous sample"},
+        {Frame3, "Frame3", nullptr, {kSelectorLeft, kPictureTop, kSelectorWidth, 600}, "", kPlain, "Beside the selected sample"},
+        {Check1, "Check1", &Frame3, {30, 0, kSelectorWidth - 30, 240}, "", kPlain, "Line of the selected sample stays"},
+        {Combo2, "Combo2", &Frame3, {0, 255, kSelectorWidth, 330}, "", kPlain, "Selected sample"},
+    });
     Slider2.SetRange(0, 10);
     Slider2.SetSteps(1, 1);
     Slider2.SetValue(5);
     Slider2.SetToolTip("Horizontal scale");
-    Slider2.accessible_name = "Horizontal scale";
-    Add(Command1, "Command1", -1, nullptr, {2940, 25, 960, 300});
-    Command1.SetCaption("Last move");
-    Add(Text1, "Text1", -1, nullptr, {3960, 25, 480, 300});
-    Text1.accessible_name = "Moved from";
-    Add(Text2, "Text2", -1, nullptr, {4500, 25, 480, 300});
-    Text2.accessible_name = "Moved to";
-    for (TextBox* box : {&Text1, &Text2}) {
-        box->centred = true;
-        box->SetVisible(false);
-    }
-}
-
-void DiagramWindow::PlacePictures() {
-    Add(Picture4, "Picture4", -1, nullptr, {kPictureLeft, kNamesTop, kPictureWidth, kNamesHeight});
-    Picture4.SetBackColor(kFormColour);
-    Picture4.accessible_name = "Taxa names";
-    Add(Picture1, "Picture1", -1, nullptr, {kPictureLeft, kPictureTop, kPictureWidth, kPictureHeight});
-    Picture1.accessible_name = "Diagram";
-    Add(Picture2, "Picture2", -1, nullptr, {kDiagramWidth - kDiagramRightEdge - kTreeWidth, kPictureTop, kTreeWidth, kPictureHeight});
-    Picture2.SetVisible(false);
-    Picture2.accessible_name = "Cluster tree";
-    const int below = kPictureTop + kPictureHeight;
-    Add(HScroll1, "HScroll1", -1, nullptr, {kPictureLeft, below + 20, kPictureWidth, 240});
+    Text1.centred = Text2.centred = true;
     HScroll1.SetRange(0, 0);
-    HScroll1.accessible_name = "Columns in view";
-    Add(Picture3, "Picture3", -1, nullptr, {0, below + 270, kDiagramWidth, 70});
-    Picture3.SetBackColor(kFormColour);
-    Picture3.accessible_name = "Band below the diagram";
-    for (PictureBox* picture : {&Picture1, &Picture2, &Picture3, &Picture4}) picture->tab_stop = false;
-    Add(StatusBar1, "StatusBar1", -1, nullptr, {0, kDiagramHeight - kStatusHeight, kDiagramWidth, kStatusHeight});
-    StatusBar1.accessible_name = "Status";
-}
-
-void DiagramWindow::PlaceSelector() {
-    Add(Slider1, "Slider1", -1, nullptr, {60, kPictureTop, 330, kPictureHeight});
     Slider1.vertical = true;
     Slider1.SetRange(1, 2);
     Slider1.SetSteps(1, 5);
     Slider1.SetValue(1);
-    Slider1.accessible_name = "Selected sample";
-    // The list and the arrows are centred on the line of the sample, 420 below the frame's top.
-    Add(UpDown1, "UpDown1", -1, nullptr, {kSelectorLeft - kArrowsWidth, kPictureTop + 240, kArrowsWidth, 360});
-    UpDown1.accessible_name = "Next or previous sample";
-    Add(Frame3, "Frame3", -1, nullptr, {kSelectorLeft, kPictureTop, kSelectorWidth, 600});
     Frame3.SetBorder(false);
-    Frame3.accessible_name = "Beside the selected sample";
-    Add(Check1, "Check1", -1, &Frame3, {30, 0, kSelectorWidth - 30, 240});
-    Check1.accessible_name = "Line of the selected sample stays";
-    Add(Combo2, "Combo2", -1, &Frame3, {0, 255, kSelectorWidth, 330});
-    Combo2.accessible_name = "Selected sample";
 }
 
-void DiagramWindow::AddItem(MenuItem& item, const char* item_name, MenuItem* menu, const char* caption) {
-    Add(item, item_name, -1, menu, {});
-    item.SetCaption(caption);
-}
+void DiagramWindow::LayMenuBar() {
+    LayMenus({
+        {mnuBasis, "mnuBasis", nullptr, "% &Basis"},
+        {mnuSub1, "mnuSub1", &mnuBasis, "Subtotal-1"},
+        {mnuSub2, "mnuSub2", &mnuBasis, "Subtotal-2"},
+        {mnuAll, "mnuAll", &mnuBasis, "All total"},
 
-void DiagramWindow::PlaceMenuBar() {
-    AddItem(mnuBasis, "mnuBasis", nullptr, "% &Basis");
-    AddItem(mnuSub1, "mnuSub1", &mnuBasis, "Subtotal-1");
-    AddItem(mnuSub2, "mnuSub2", &mnuBasis, "Subtotal-2");
-    AddItem(mnuAll, "mnuAll", &mnuBasis, "All total");
+        {mnuDrawMode, "mnuDrawMode", nullptr, "&Style"},
+        {mnuBar, "mnuBar", &mnuDrawMode, "&Bar"},
+        {mnuArea, "mnuArea", &mnuDrawMode, "&Curve"},
+        {mnuDot, "mnuDot", &mnuDrawMode, "&Dot (>0.5% only)"},
+        {Break10, "Break10", &mnuDrawMode, "-"},
+        {mnuCurve, "mnuCurve", &mnuDrawMode, "Bar and curve"},
+        {mnuDotCurve, "mnuDotCurve", &mnuDrawMode, "Dot and curve"},
+
+        {nmuTools, "nmuTools", nullptr, "&Tools"},
+        {mnuVertical, "mnuVertical", &nmuTools, "Vertical line"},
+        {mnuHorizontal, "mnuHorizontal", &nmuTools, "Horizontal line"},
+        {mnuTaxaName, "mnuTaxaName", &nmuTools, "Taxa name"},
+        {break3, "break3", &nmuTools, "-"},
+        {nmuConiss, "nmuConiss", &nmuTools, "&CONISS"},
+        {brake1, "brake1", &nmuTools, "-"},
+        {mnuECC, "mnuECC", &nmuTools, "&EOF-Climate correlation"},
+    });
     mnuAll.SetChecked(true);
-
-    AddItem(mnuDrawMode, "mnuDrawMode", nullptr, "&Style");
-    AddItem(mnuBar, "mnuBar", &mnuDrawMode, "&Bar");
-    AddItem(mnuArea, "mnuArea", &mnuDrawMode, "&Curve");
-    AddItem(mnuDot, "mnuDot", &mnuDrawMode, "&Dot (>0.5% only)");
-    AddItem(Break10, "Break10", &mnuDrawMode, "-");
-    AddItem(mnuCurve, "mnuCurve", &mnuDrawMode, "Bar and curve");
-    AddItem(mnuDotCurve, "mnuDotCurve", &mnuDrawMode, "Dot and curve");
     mnuBar.SetChecked(true);
-
-    AddItem(nmuTools, "nmuTools", nullptr, "&Tools");
-    AddItem(mnuVertical, "mnuVertical", &nmuTools, "Vertical line");
-    AddItem(mnuHorizontal, "mnuHorizontal", &nmuTools, "Horizontal line");
-    AddItem(mnuTaxaName, "mnuTaxaName", &nmuTools, "Taxa name");
-    AddItem(break3, "break3", &nmuTools, "-");
-    AddItem(nmuConiss, "nmuConiss", &nmuTools, "&CONISS");
-    AddItem(brake1, "brake1", &nmuTools, "-");
-    AddItem(mnuECC, "mnuECC", &nmuTools, "&EOF-Climate correlation");
 }
 
-void DiagramWindow::PlacePopups() {
-    AddItem(RB1, "RB1", nullptr, "RightButton1");
-    AddItem(mnuCopyDiagram, "mnuCopyDiagram", &RB1, "&Copy");
-    AddItem(break21, "break21", &RB1, "-");
-    AddItem(mnuVertical1, "mnuVertical1", &RB1, "Vertical line");
-    AddItem(mnuHorizontal1, "mnuHorizontal1", &RB1, "Horizontal line");
+void DiagramWindow::LayPopups() {
+    LayMenus({
+        {RB1, "RB1", nullptr, "RightButton1", kHidden},
+        {mnuCopyDiagram, "mnuCopyDiagram", &RB1, "&Copy"},
+        {break21, "break21", &RB1, "-"},
+        {mnuVertical1, "mnuVertical1", &RB1, "Vertical line"},
+        {mnuHorizontal1, "mnuHorizontal1", &RB1, "Horizontal line"},
 
-    AddItem(RB2, "RB2", nullptr, "RightButton2");
-    AddItem(mnuCopyEOF, "mnuCopyEOF", &RB2, "&Copy");
-    AddItem(mnuSaveEOF, "mnuSaveEOF", &RB2, "&Save This EOF Only");
-    AddItem(mnuSaveAllEOF, "mnuSaveAllEOF", &RB2, "Save &All EOF");
+        {RB2, "RB2", nullptr, "RightButton2", kHidden},
+        {mnuCopyEOF, "mnuCopyEOF", &RB2, "&Copy"},
+        {mnuSaveEOF, "mnuSaveEOF", &RB2, "&Save This EOF Only"},
+        {mnuSaveAllEOF, "mnuSaveAllEOF", &RB2, "Save &All EOF"},
 
-    AddItem(RB3, "RB3", nullptr, "RightButton3");
-    AddItem(mnuCopyTaxaName, "mnuCopyTaxaName", &RB3, "&Copy");
+        {RB3, "RB3", nullptr, "RightButton3", kHidden},
+        {mnuCopyTaxaName, "mnuCopyTaxaName", &RB3, "&Copy"},
 
-    AddItem(RBConiss, "RBConiss", nullptr, "RightButton4");
-    AddItem(mnuCopyConiss, "mnuCopyConiss", &RBConiss, "&Copy");
-    AddItem(break22, "break22", &RBConiss, "-");
-    AddItem(mnuSaveConiss, "mnuSaveConiss", &RBConiss, "Save matrix");
-    AddItem(Break20, "Break20", &RBConiss, "-");
-    AddItem(mnuVertical2, "mnuVertical2", &RBConiss, "Vertical line");
-    AddItem(mnuHorizontal2, "mnuHorizontal2", &RBConiss, "Horizontal line");
-    for (MenuItem* popup : {&RB1, &RB2, &RB3, &RBConiss}) popup->SetVisible(false);
+        {RBConiss, "RBConiss", nullptr, "RightButton4", kHidden},
+        {mnuCopyConiss, "mnuCopyConiss", &RBConiss, "&Copy"},
+        {break22, "break22", &RBConiss, "-"},
+        {mnuSaveConiss, "mnuSaveConiss", &RBConiss, "Save matrix"},
+        {Break20, "Break20", &RBConiss, "-"},
+        {mnuVertical2, "mnuVertical2", &RBConiss, "Vertical line"},
+        {mnuHorizontal2, "mnuHorizontal2", &RBConiss, "Horizontal line"},
+    });
 }
 
 void DiagramWindow::ForgetMembers() {

@@ -52,12 +52,9 @@ struct DiagramWindow : Window {
     void SaveAllEOF() {}
 
 private:
-    void PlaceTopRow();
-    void PlacePictures();
-    void PlaceSelector();
-    void PlaceMenuBar();
-    void PlacePopups();
-    void AddItem(MenuItem& item, const char* item_name, MenuItem* menu, const char* caption);
+    void LayControls();
+    void LayMenuBar();
+    void LayPopups();
     void ForgetMembers() override;
 };
 
