@@ -5,185 +5,133 @@
 #include <string>
 #include <utility>
 
+#include "platform/window_table.h"
 #include "windows/pad_places.h"
 
 MainWindow frmMain;
 
 namespace {
-constexpr Colour kPanel{250, 251, 252};  // the blocks of the pad
-constexpr Colour kQuiet{90, 98, 106};    // words that name what stands beside them
-constexpr int kPadTop = 60;
+constexpr Colour kQuietWords{90, 98, 106};  // they name what stands beside them
+constexpr Style kQuiet{.fore = kQuietWords};
+constexpr Style kSmallQuiet{.points = 8, .fore = kQuietWords};
+constexpr Style kSmall{.points = 8};
+constexpr Style kOnGround{.back = kFormColour};
+constexpr Style kBlock{.back = Colour{250, 251, 252}};
+constexpr Style kCount{.points = 10};
+constexpr Style kSlotNumber{.points = 7, .visible = false};
+constexpr Style kTotal{.points = 16};
 constexpr int kColumnTop = 4800;  // the four columns below the pad
 constexpr int kColumnHeight = 2660;
 constexpr int kCommandTop = 7520;
-constexpr int kCommandHeight = 400;
 }  // namespace
 
 MainWindow::MainWindow() : Window("frmMain", "Marlbrook 2.7.5", 11400, 7980) {
     key_preview = true;
-    PlacePad();
-    PlaceSample();
-    PlaceTotals();
-    PlaceParams();
-    PlaceCurve();
-    PlaceCommands();
+    LayPad();
+    LayColumns();
+    LayCommands();
     PlaceMenus();
     FirstFocus(Text99);
     KeepDesign();
 }
 
-void MainWindow::PlacePad() {
-    Add(Picture1, "Picture1", -1, nullptr, {0, 0, 11400, 4760});
-    Picture1.SetBackColor(kFormColour);
-    Picture1.accessible_name = "Ground of the pad";
-    Add(SSTab1, "SSTab1", -1, nullptr, {60, kPadTop, 11280, 4640});
+void MainWindow::LayPad() {
+    Lay({
+        {Picture1, "Picture1", nullptr, {0, 0, 11400, 4760}, "", kOnGround, "Ground of the pad"},
+        {SSTab1, "SSTab1", nullptr, {60, 60, 11280, 4640}, "", kPlain, "Bank"},
+        {Frame3[0], {"Frame3", 0}, &SSTab1, {160, 300, 3360, 4130}, "", kBlock, "Block 1 of the pad"},
+        {Frame3[1], {"Frame3", 1}, &SSTab1, {4000, 300, 3360, 4130}, "", kBlock, "Block 2 of the pad"},
+        {Frame3[2], {"Frame3", 2}, &SSTab1, {7840, 300, 3360, 4130}, "", kBlock, "Block 3 of the pad"},
+    });
     SSTab1.SetTabCaptions({"Neutral", "Shift 1 or 2", "Shift 1 and 2"});
-    SSTab1.accessible_name = "Bank";
-    for (int block = 0; block < 3; ++block) {
-        Add(Frame3[block], "Frame3", block, &SSTab1, {160 + 3840 * block, 300, 3360, 4130});
-        Frame3[block].SetBackColor(kPanel);
-        Frame3[block].accessible_name = "Block " + std::to_string(block + 1) + " of the pad";
-    }
-    for (int slot = 1; slot <= kSlots; ++slot) {
-        const int bank = (slot - 1) / kKeys;
-        const Box name = PadPlace((slot - 1) % kKeys + 1);
-        Add(Text1[slot], "Text1", slot, &SSTab1, name);
-        Add(Text2[slot], "Text2", slot, &SSTab1, {name.left, name.top + kCountBelowName, name.width, 270});
-        Add(Label1[slot], "Label1", slot, &SSTab1, {name.left, name.top + kNumberBelowName, name.width, 190});
-        Text1[slot].page = Text2[slot].page = Label1[slot].page = bank;
-        Text1[slot].SetText(kEmpty);
-        Text1[slot].placeholder = kEmpty;
-        Text1[slot].accessible_name = "Name of taxon " + std::to_string(slot);
-        Text2[slot].SetText("0");
-        Text2[slot].placeholder = "0";
-        Text2[slot].SetFontSize(10);
-        Text2[slot].accessible_name = "Count of taxon " + std::to_string(slot);
-        Text2[slot].named_by = &Text1[slot];
-        Text1[slot].centred = Text2[slot].centred = Label1[slot].centred = true;
-        Label1[slot].SetCaption(std::to_string(slot));
-        Label1[slot].accessible_name = "Taxon";
-        Label1[slot].SetFontSize(7);
-        Label1[slot].SetVisible(false);
-    }
-    Add(Text0, "Text0", -1, nullptr, {0, 0, 0, 0});
-    Text0.SetVisible(false);
-    Add(Text99, "Text99", -1, nullptr, {0, 0, 0, 0});
+    for (int slot = 1; slot <= kSlots; ++slot) LaySlot(slot);
+    Lay({
+        {Text0, "Text0", nullptr, {}, "", kHidden},
+        {Text99, "Text99", nullptr, {}},
+        {Text2[0], {"Text2", 0}, nullptr, {}, "", kHidden},
+    });
     Text99.takes_text = false;
-    Add(Text2[0], "Text2", 0, nullptr, {0, 0, 0, 0});
-    Text2[0].SetVisible(false);
 }
 
-void MainWindow::PlaceSample() {
-    Add(Frame1, "Frame1", -1, nullptr, {60, kColumnTop, 2560, kColumnHeight});
-    Frame1.accessible_name = "Sample";
-    Add(Label1[0], "Label1", 0, &Frame1, {80, 90, 1140, 270});
-    Label1[0].SetCaption("Sample name: ");
-    Label1[0].SetFontSize(8);
-    Label1[0].SetForeColor(kQuiet);
-    Add(Text1[0], "Text1", 0, &Frame1, {1240, 70, 1240, 300});
-    Text1[0].SetText("-9999");
-    Text1[0].SetBold(true);
-    Text1[0].named_by = &Label1[0];
-    Add(Combo2, "Combo2", -1, &Frame1, {1240, 420, 1240, 300});
-    Combo2.SetText("-9999");
-    Combo2.accessible_name = "Sample on show";
-    Add(Label3, "Label3", -1, &Frame1, {80, 800, 1140, 270});
-    Label3.SetCaption("Serial No.:");
-    Label3.SetFontSize(8);
-    Label3.SetForeColor(kQuiet);
-    Add(Label4, "Label4", -1, &Frame1, {1240, 800, 1240, 270});
-    Label4.SetCaption("1/1");
-    Label4.accessible_name = "Serial No.";
-    Add(Text4, "Text4", -1, &Frame1, {80, 1140, 2400, 1440});
-    Text4.SetText(kEmpty);
+void MainWindow::LaySlot(int slot) {
+    const Box name = PadPlace((slot - 1) % kKeys + 1);
+    const Box count{name.left, name.top + kCountBelowName, name.width, 270};
+    const Box below{name.left, name.top + kNumberBelowName, name.width, 190};
+    const std::string number = std::to_string(slot);
+    Lay({
+        {Text1[slot], {"Text1", slot}, &SSTab1, name, kEmpty, kPlain, "Name of taxon " + number},
+        {Text2[slot], {"Text2", slot}, &SSTab1, count, "0", kCount, "Count of taxon " + number, &Text1[slot]},
+        {Label1[slot], {"Label1", slot}, &SSTab1, below, number, kSlotNumber, "Taxon"},
+    });
+    Text1[slot].page = Text2[slot].page = Label1[slot].page = (slot - 1) / kKeys;
+    Text1[slot].centred = Text2[slot].centred = Label1[slot].centred = true;
+    Text1[slot].placeholder = Text1[slot].Text();
+    Text2[slot].placeholder = Text2[slot].Text();
+}
+
+void MainWindow::LayColumns() {
+    Lay({
+        {Frame1, "Frame1", nullptr, {60, kColumnTop, 2560, kColumnHeight}, "", kPlain, "Sample"},
+        {Label1[0], {"Label1", 0}, &Frame1, {80, 90, 1140, 270}, "Sample name: ", kSmallQuiet},
+        {Text1[0], {"Text1", 0}, &Frame1, {1240, 70, 1240, 300}, "-9999", {.bold = true}, "", &Label1[0]},
+        {Combo2, "Combo2", &Frame1, {1240, 420, 1240, 300}, "-9999", kPlain, "Sample on show"},
+        {Label3, "Label3", &Frame1, {80, 800, 1140, 270}, "Serial No.:", kSmallQuiet},
+        {Label4, "Label4", &Frame1, {1240, 800, 1240, 270}, "1/1", kPlain, "Serial No."},
+        {Text4, "Text4", &Frame1, {80, 1140, 2400, 1440}, kEmpty, kSmall, "Note"},
+
+        {Frame2, "Frame2", nullptr, {2680, kColumnTop, 2900, kColumnHeight}, "", kPlain, "Totals"},
+        {Label6, "Label6", &Frame2, {80, 80, 2740, 260}, "Set alarm and % basis", kQuiet},
+        {Label2[0], {"Label2", 0}, &Frame2, {80, 450, 880, 400}, "All total:"},
+        {Text3[0], {"Text3", 0}, &Frame2, {980, 400, 760, 480}, "0", kTotal, "", &Label2[0]},
+        {Option1[0], {"Option1", 0}, &Frame2, {1780, 490, 1060, 300}, "Set alarm", kSmall, "", &Label2[0]},
+        {Label2[1], {"Label2", 1}, &Frame2, {80, 1070, 880, 400}, "Subtotal-1:"},
+        {Text3[1], {"Text3", 1}, &Frame2, {980, 1020, 760, 480}, "0", kTotal, "", &Label2[1]},
+        {Option1[1], {"Option1", 1}, &Frame2, {1780, 1110, 1060, 300}, "Set alarm", kSmall, "", &Label2[1]},
+        {Label2[2], {"Label2", 2}, &Frame2, {80, 1690, 880, 400}, "Subtotal-2:"},
+        {Text3[2], {"Text3", 2}, &Frame2, {980, 1640, 760, 480}, "0", kTotal, "", &Label2[2]},
+        {Option1[2], {"Option1", 2}, &Frame2, {1780, 1730, 1060, 300}, "Set alarm", kSmall, "", &Label2[2]},
+        {ProgressBar1, "ProgressBar1", &Frame2, {80, 2300, 2740, 220}, "", kHidden, "Progress"},
+
+        {Frame4, "Frame4", nullptr, {5640, kColumnTop, 3420, kColumnHeight}, "", kPlain, "Additional info"},
+    });
     Text4.multiline = true;
-    Text4.SetFontSize(8);
-    Text4.accessible_name = "Note";
-}
-
-void MainWindow::PlaceTotals() {
-    static constexpr const char* kNames[3] = {"All total:", "Subtotal-1:", "Subtotal-2:"};
-    Add(Frame2, "Frame2", -1, nullptr, {2680, kColumnTop, 2900, kColumnHeight});
-    Frame2.accessible_name = "Totals";
-    Add(Label6, "Label6", -1, &Frame2, {80, 80, 2740, 260});
-    Label6.SetCaption("Set alarm and % basis");
-    Label6.SetForeColor(kQuiet);
     Label6.right_aligned = true;
-    for (int i = 0; i < 3; ++i) {
-        const int top = 400 + 620 * i;
-        Add(Label2[i], "Label2", i, &Frame2, {80, top + 50, 880, 400});
-        Label2[i].SetCaption(kNames[i]);
-        Add(Text3[i], "Text3", i, &Frame2, {980, top, 760, 480});
-        Text3[i].SetText("0");
-        Text3[i].SetFontSize(16);
-        Text3[i].centred = true;
-        Text3[i].named_by = &Label2[i];
-        Add(Option1[i], "Option1", i, &Frame2, {1780, top + 90, 1060, 300});
-        Option1[i].SetCaption("Set alarm");
-        Option1[i].SetFontSize(8);
-        Option1[i].named_by = &Label2[i];
-    }
+    for (TextBox& total : Text3) total.centred = true;
     Option1[0].SetValue(true);
-    Add(ProgressBar1, "ProgressBar1", -1, &Frame2, {80, 2300, 2740, 220});
-    ProgressBar1.SetVisible(false);
-    ProgressBar1.accessible_name = "Progress";
+    for (int p = 1; p <= kParams; ++p) LayParam(p);
+    Lay({
+        {Label8, "Label8", &Frame4, {1580, 2370, 1780, 220}, "", {.points = 7, .fore = kQuietWords}},
+
+        {Frame5, "Frame5", nullptr, {9120, kColumnTop, 2220, kColumnHeight}, "", kPlain, "Taxa curve"},
+        {Label9, "Label9", &Frame5, {80, 60, 2060, 260}, "Diversity", kQuiet},
+        {Picture2, "Picture2", &Frame5, {80, 340, 2060, 2240}, "", kPlain, "Taxa diversity vs. total count"},
+    });
 }
 
-void MainWindow::PlaceParams() {
-    Add(Frame4, "Frame4", -1, nullptr, {5640, kColumnTop, 3420, kColumnHeight});
-    Frame4.accessible_name = "Additional info";
-    for (int p = 1; p <= kParams; ++p) {
-        const std::string number = std::to_string(p);
-        const int top = 70 + 380 * (p - 1);
-        Add(Label10[p], "Label10", p, &Frame4, {80, top + 20, 1480, 280});
-        Label10[p].SetCaption("Additional info-" + number + ":");
-        Label10[p].SetFontSize(8);
-        Label10[p].SetForeColor(kQuiet);
-        Add(Text5[p], "Text5", p, &Frame4, {1580, top, 1080, 320});
-        Text5[p].SetText(kEmpty);
-        Text5[p].SetEnabled(false);
-        Text5[p].SetToolTip("Additional info-" + number);
-        Text5[p].named_by = &Label10[p];
-        Add(Command7[p], "Command7", p, &Frame4, {2700, top, 660, 320});
-        Command7[p].SetCaption("Rename");
-        Command7[p].SetFontSize(8);
-        Command7[p].named_by = &Label10[p];
-    }
-    Add(Label8, "Label8", -1, &Frame4, {1580, 2370, 1780, 220});
-    Label8.SetFontSize(7);
-    Label8.SetForeColor(kQuiet);
+void MainWindow::LayParam(int p) {
+    const int top = 70 + 380 * (p - 1);
+    const std::string name = "Additional info-" + std::to_string(p);
+    Lay({
+        {Label10[p], {"Label10", p}, &Frame4, {80, top + 20, 1480, 280}, name + ":", kSmallQuiet},
+        {Text5[p], {"Text5", p}, &Frame4, {1580, top, 1080, 320}, kEmpty, {.enabled = false}, "", &Label10[p]},
+        {Command7[p], {"Command7", p}, &Frame4, {2700, top, 660, 320}, "Rename", kSmall, "", &Label10[p]},
+    });
+    Text5[p].SetToolTip(name);
 }
 
-void MainWindow::PlaceCurve() {
-    Add(Frame5, "Frame5", -1, nullptr, {9120, kColumnTop, 2220, kColumnHeight});
-    Frame5.accessible_name = "Taxa curve";
-    Add(Label9, "Label9", -1, &Frame5, {80, 60, 2060, 260});
-    Label9.SetCaption("Diversity");
-    Label9.SetForeColor(kQuiet);
-    Add(Picture2, "Picture2", -1, &Frame5, {80, 340, 2060, 2240});
-    Picture2.accessible_name = "Taxa diversity vs. total count";
-}
-
-void MainWindow::PlaceCommands() {
-    const auto put = [this](Button& button, const char* button_name, int array_index, const char* caption, int left, int width) {
-        Add(button, button_name, array_index, nullptr, {left, kCommandTop, width, kCommandHeight});
-        button.SetCaption(caption);
-    };
-    put(Command4[0], "Command4", 0, "Open", 60, 860);
-    put(Command5[0], "Command5", 0, "Save", 960, 860);
-    put(Command5[1], "Command5", 1, "Next sample", 1860, 1240);
-    put(Command3[0], "Command3", 0, "Modify", 3240, 900);
-    put(Command3[1], "Command3", 1, "Resume", 4180, 940);
-    put(Command2[0], "Command2", 0, "Reset", 5260, 860);
-    put(Command6, "Command6", -1, "%", 6260, 560);
-    Command6.accessible_name = "Percentages while it is held";
-    put(Command1, "Command1", -1, "", 0, 0);
-    Command1.SetVisible(false);
-    Add(Label5, "Label5", -1, nullptr, {6960, kCommandTop + 80, 760, 280});
-    Label5.SetCaption("History:");
-    Label5.SetForeColor(kQuiet);
-    Add(Combo1, "Combo1", -1, nullptr, {7740, kCommandTop + 20, 3600, 360});
-    Combo1.named_by = &Label5;
+void MainWindow::LayCommands() {
+    Lay({
+        {Command4[0], {"Command4", 0}, nullptr, {60, kCommandTop, 860, 400}, "Open"},
+        {Command5[0], {"Command5", 0}, nullptr, {960, kCommandTop, 860, 400}, "Save"},
+        {Command5[1], {"Command5", 1}, nullptr, {1860, kCommandTop, 1240, 400}, "Next sample"},
+        {Command3[0], {"Command3", 0}, nullptr, {3240, kCommandTop, 900, 400}, "Modify"},
+        {Command3[1], {"Command3", 1}, nullptr, {4180, kCommandTop, 940, 400}, "Resume"},
+        {Command2[0], {"Command2", 0}, nullptr, {5260, kCommandTop, 860, 400}, "Reset"},
+        {Command6, "Command6", nullptr, {6260, kCommandTop, 560, 400}, "%", kPlain, "Percentages while it is held"},
+        {Command1, "Command1", nullptr, {0, kCommandTop, 0, 400}, "", kHidden},
+        {Label5, "Label5", nullptr, {6960, kCommandTop + 80, 760, 280}, "History:", kQuiet},
+        {Combo1, "Combo1", nullptr, {7740, kCommandTop + 20, 3600, 360}, "", kPlain, "", &Label5},
+    });
 }
 
 void MainWindow::PlaceMenus() {

@@ -74,12 +74,11 @@ struct MainWindow : Window {
     std::int16_t HeldTotals[3] = {};
 
 private:
-    void PlacePad();
-    void PlaceSample();
-    void PlaceTotals();
-    void PlaceParams();
-    void PlaceCurve();
-    void PlaceCommands();
+    void LayPad();
+    void LaySlot(int slot);
+    void LayColumns();
+    void LayParam(int p);
+    void LayCommands();
     void PlaceMenus();
     void ForgetMembers() override;
 };
