@@ -30,7 +30,9 @@ MainWindow::MainWindow() : Window("frmMain", "Marlbrook 2.7.5", 11400, 7980) {
     LayPad();
     LayColumns();
     LayCommands();
-    PlaceMenus();
+    LayMenuBar();
+    LayPopups();
+    LayLetters();
     FirstFocus(Text99);
     KeepDesign();
 }
@@ -134,89 +136,96 @@ void MainWindow::LayCommands() {
     });
 }
 
-void MainWindow::PlaceMenus() {
-    const auto put = [this](MenuItem& item, const char* item_name, MenuItem* menu, const char* caption) {
-        Add(item, item_name, -1, menu, {});
-        item.SetCaption(caption);
-    };
-    put(mnuFile, "mnuFile", nullptr, "&File");
-    put(mnuNew, "mnuNew", &mnuFile, "New data sheet");
-    put(mnuOpen, "mnuOpen", &mnuFile, "Open data sheet");
-    put(break7, "break7", &mnuFile, "-");
-    put(mnuNext, "mnuNext", &mnuFile, "Next sample");
-    put(break5, "break5", &mnuFile, "-");
-    put(mnuSave, "mnuSave", &mnuFile, "Save");
-    put(mnuSaveAs, "mnuSaveAs", &mnuFile, "Save as ");
-    put(mnuSaveCopy, "mnuSaveCopy", &mnuFile, "Save copy");
-    put(break99, "break99", &mnuFile, "-");
-    put(mnuTemplate, "mnuTemplate", &mnuFile, "Create template");
-    put(break4, "break4", &mnuFile, "-");
-    put(mnuSaveHistory, "mnuSaveHistory", &mnuFile, "Save history");
-    put(Brake2, "Brake2", &mnuFile, "-");
-    put(mnuPercent, "mnuPercent", &mnuFile, "Save percentage table");
-    put(mnuPercentSub1, "mnuPercentSub1", &mnuPercent, "% by subtotal-1");
-    put(mnuPercentSub2, "mnuPercentSub2", &mnuPercent, "% by subtotal-2");
-    put(mnuPercentAll, "mnuPercentAll", &mnuPercent, "% by all total");
-    put(break999, "break999", &mnuFile, "-");
-    put(mnuQuit, "mnuQuit", &mnuFile, "Quit");
+void MainWindow::LayMenuBar() {
+    LayMenus({
+        {mnuFile, "mnuFile", nullptr, "&File"},
+        {mnuNew, "mnuNew", &mnuFile, "New data sheet"},
+        {mnuOpen, "mnuOpen", &mnuFile, "Open data sheet"},
+        {break7, "break7", &mnuFile, "-"},
+        {mnuNext, "mnuNext", &mnuFile, "Next sample"},
+        {break5, "break5", &mnuFile, "-"},
+        {mnuSave, "mnuSave", &mnuFile, "Save"},
+        {mnuSaveAs, "mnuSaveAs", &mnuFile, "Save as "},
+        {mnuSaveCopy, "mnuSaveCopy", &mnuFile, "Save copy"},
+        {break99, "break99", &mnuFile, "-"},
+        {mnuTemplate, "mnuTemplate", &mnuFile, "Create template"},
+        {break4, "break4", &mnuFile, "-"},
+        {mnuSaveHistory, "mnuSaveHistory", &mnuFile, "Save history"},
+        {Brake2, "Brake2", &mnuFile, "-"},
+        {mnuPercent, "mnuPercent", &mnuFile, "Save percentage table"},
+        {mnuPercentSub1, "mnuPercentSub1", &mnuPercent, "% by subtotal-1"},
+        {mnuPercentSub2, "mnuPercentSub2", &mnuPercent, "% by subtotal-2"},
+        {mnuPercentAll, "mnuPercentAll", &mnuPercent, "% by all total"},
+        {break999, "break999", &mnuFile, "-"},
+        {mnuQuit, "mnuQuit", &mnuFile, "Quit"},
 
-    put(mnuEdit, "mnuEdit", nullptr, "&Edit");
-    put(mnuUndo, "mnuUndo", &mnuEdit, "Undo");
-    put(mnuReset, "mnuReset", &mnuEdit, "Reset");
-    put(break6, "break6", &mnuEdit, "-");
-    put(mnuStartAmend, "mnuStartAmend", &mnuEdit, "Modify template");
-    put(mnuFinishAmend, "mnuFinishAmend", &mnuEdit, "Resume counting");
+        {mnuEdit, "mnuEdit", nullptr, "&Edit"},
+        {mnuUndo, "mnuUndo", &mnuEdit, "Undo"},
+        {mnuReset, "mnuReset", &mnuEdit, "Reset"},
+        {break6, "break6", &mnuEdit, "-"},
+        {mnuStartAmend, "mnuStartAmend", &mnuEdit, "Modify template"},
+        {mnuFinishAmend, "mnuFinishAmend", &mnuEdit, "Resume counting"},
 
-    put(mnuTool, "mnuTool", nullptr, "&Tools");
-    put(mnuItalic, "mnuItalic", &mnuTool, "Italicise genera");
-    put(break8, "break8", &mnuTool, "-");
-    put(mnuKeyCodeReader, "mnuKeyCodeReader", &mnuTool, "Key settings");
-    put(mnuSubtotal, "mnuSubtotal", &mnuTool, "Subtotal settings");
-    put(break3, "break3", &mnuTool, "-");
-    put(mnuInitial, "mnuInitial", &mnuTool, "Initialize");
+        {mnuTool, "mnuTool", nullptr, "&Tools"},
+        {mnuItalic, "mnuItalic", &mnuTool, "Italicise genera"},
+        {break8, "break8", &mnuTool, "-"},
+        {mnuKeyCodeReader, "mnuKeyCodeReader", &mnuTool, "Key settings"},
+        {mnuSubtotal, "mnuSubtotal", &mnuTool, "Subtotal settings"},
+        {break3, "break3", &mnuTool, "-"},
+        {mnuInitial, "mnuInitial", &mnuTool, "Initialize"},
 
-    put(mnuDiagram, "mnuDiagram", nullptr, "&Diagram");
-    put(mnuBar, "mnuBar", &mnuDiagram, "Bar");
-    put(mnuArea, "mnuArea", &mnuDiagram, "Curve");
-    put(mnuDot, "mnuDot", &mnuDiagram, "Dot (>0.5% only)");
-    put(Break10, "Break10", &mnuDiagram, "-");
-    put(mnuCurve, "mnuCurve", &mnuDiagram, "Bar and curve");
-    put(mnuDotCurve, "mnuDotCurve", &mnuDiagram, "Dot and curve");
+        {mnuDiagram, "mnuDiagram", nullptr, "&Diagram"},
+        {mnuBar, "mnuBar", &mnuDiagram, "Bar"},
+        {mnuArea, "mnuArea", &mnuDiagram, "Curve"},
+        {mnuDot, "mnuDot", &mnuDiagram, "Dot (>0.5% only)"},
+        {Break10, "Break10", &mnuDiagram, "-"},
+        {mnuCurve, "mnuCurve", &mnuDiagram, "Bar and curve"},
+        {mnuDotCurve, "mnuDotCurve", &mnuDiagram, "Dot and curve"},
 
-    put(mnuAbout, "mnuAbout", nullptr, "About");
-    put(mnuAboutMB1, "mnuAboutMB1", &mnuAbout, "Marlbrook 2.7");
-    put(mnuAboutDX1, "mnuAboutDX1", &mnuAbout, "Ergodex DX-1");
+        {mnuAbout, "mnuAbout", nullptr, "About"},
+        {mnuAboutMB1, "mnuAboutMB1", &mnuAbout, "Marlbrook 2.7"},
+        {mnuAboutDX1, "mnuAboutDX1", &mnuAbout, "Ergodex DX-1"},
 
-    put(nmuRefresh, "nmuRefresh", nullptr, "&Are you tired...?");
-    put(mnuCoffee, "mnuCoffee", &nmuRefresh, "Coffee");
-    put(mnuBeach, "mnuBeach", &nmuRefresh, "Beach");
-    put(mnuFavorite, "mnuFavorite", &nmuRefresh, "My favorite");
+        {nmuRefresh, "nmuRefresh", nullptr, "&Are you tired...?"},
+        {mnuCoffee, "mnuCoffee", &nmuRefresh, "Coffee"},
+        {mnuBeach, "mnuBeach", &nmuRefresh, "Beach"},
+        {mnuFavorite, "mnuFavorite", &nmuRefresh, "My favorite"},
+    });
+    mnuItalic.SetChecked(true);
+}
 
-    put(mnuRightButton, "mnuRightButton", nullptr, "RightButton");
-    put(mnuMove2, "mnuMove2", &mnuRightButton, "Move");
-    put(mnu91to135, "mnu91to135", &mnuMove2, "91-135 (Shift 1 and 2)");
-    put(mnu46to90, "mnu46to90", &mnuMove2, "46-90 (Shift 1 or 2)");
-    put(mnu1to45, "mnu1to45", &mnuMove2, "1-45 (Neutral)");
-    const auto put_slot = [this](MenuItem& item, const char* item_name, MenuItem& menu, int slot) {
-        Add(item, item_name, slot, &menu, {});
-        item.SetCaption(std::to_string(slot));
-    };
-    for (int i = 0; i < kKeys; ++i) {
-        put_slot(mnuMoveTo1[i], "mnuMoveTo1", mnu1to45, i + 1);
-        put_slot(mnuMoveTo2[i], "mnuMoveTo2", mnu46to90, i + 1 + kKeys);
-        put_slot(mnuMoveTo3[i], "mnuMoveTo3", mnu91to135, i + 1 + 2 * kKeys);
-    }
-    put(mnuDiversityRB, "mnuDiversityRB", nullptr, "DiversityRB");
-    put(mnuCopyDiversity, "mnuCopyDiversity", &mnuDiversityRB, "Copy");
+void MainWindow::LayPopups() {
+    LayMenus({
+        {mnuRightButton, "mnuRightButton", nullptr, "RightButton", kHidden},
+        {mnuMove2, "mnuMove2", &mnuRightButton, "Move"},
+        {mnu91to135, "mnu91to135", &mnuMove2, "91-135 (Shift 1 and 2)"},
+        {mnu46to90, "mnu46to90", &mnuMove2, "46-90 (Shift 1 or 2)"},
+        {mnu1to45, "mnu1to45", &mnuMove2, "1-45 (Neutral)"},
+    });
+    for (int i = 0; i < kKeys; ++i) LayMoves(i);
+    LayMenus({
+        {mnuDiversityRB, "mnuDiversityRB", nullptr, "DiversityRB", kHidden},
+        {mnuCopyDiversity, "mnuCopyDiversity", &mnuDiversityRB, "Copy"},
+    });
+}
 
-    put(mnuByPass, "mnuByPass", nullptr, "ByPass");
+void MainWindow::LayMoves(int i) {
+    const int slots[3] = {i + 1, i + 1 + kKeys, i + 1 + 2 * kKeys};
+    LayMenus({
+        {mnuMoveTo1[i], {"mnuMoveTo1", slots[0]}, &mnu1to45, std::to_string(slots[0])},
+        {mnuMoveTo2[i], {"mnuMoveTo2", slots[1]}, &mnu46to90, std::to_string(slots[1])},
+        {mnuMoveTo3[i], {"mnuMoveTo3", slots[2]}, &mnu91to135, std::to_string(slots[2])},
+    });
+}
+
+void MainWindow::LayLetters() {
+    LayMenus({{mnuByPass, "mnuByPass", nullptr, "ByPass", kHidden}});
     for (int i = 0; i < 26; ++i) {
         const char letter = static_cast<char>('A' + i);
-        put(mnuLetters[i], (std::string("mnu") + letter).c_str(), &mnuByPass, std::string(1, letter).c_str());
+        const std::string caption(1, letter);
+        LayMenus({{mnuLetters[i], ("mnu" + caption).c_str(), &mnuByPass, caption}});
         mnuLetters[i].control_letter = letter;
     }
-    for (MenuItem* hidden : {&mnuRightButton, &mnuDiversityRB, &mnuByPass}) hidden->SetVisible(false);
-    mnuItalic.SetChecked(true);
 }
 
 std::vector<Control*> MainWindow::RoundOf(const Control& control) {

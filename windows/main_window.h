@@ -79,7 +79,10 @@ private:
     void LayColumns();
     void LayParam(int p);
     void LayCommands();
-    void PlaceMenus();
+    void LayMenuBar();
+    void LayPopups();
+    void LayMoves(int i);
+    void LayLetters();
     void ForgetMembers() override;
 };
 
