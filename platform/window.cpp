@@ -77,17 +77,6 @@ Window::Window(const char* window_name, const char* title, int width, int height
     Register().push_back(this);
 }
 
-void Window::Add(Control& control, const char* control_name, int index, Control* container, Box box) {
-    control.name = control_name;
-    control.index = index;
-    control.window = this;
-    control.container = container;
-    control.SetPlace(box.left, box.top);
-    control.SetWidth(box.width);
-    control.SetHeight(box.height);
-    controls_.push_back(&control);
-}
-
 void Window::Lay(std::initializer_list<ControlRow> rows) {
     for (const ControlRow& row : rows) {
         row.control.named_by = row.named_by;

@@ -74,7 +74,6 @@ protected:
     // Take the controls up, in the order of their rows: each once, from the constructor of the window.
     void Lay(std::initializer_list<ControlRow> rows);
     void LayMenus(std::initializer_list<MenuRow> rows);
-    void Add(Control& control, const char* control_name, int index, Control* container, Box box);
     void FirstFocus(Control& control) { first_focus_ = &control; }  // has the focus when the window comes up
     void KeepDesign();                                              // ends the design; Unload comes back to it
     virtual void ForgetMembers() {}                                 // the window's own members back to their first values
