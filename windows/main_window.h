@@ -1,4 +1,7 @@
 // frmMain: the pad of 135 cells in three banks, the totals, the sample on show and its notes, the curve and the history.
+//
+// Here and in every window, a control bears its fixed name, which scripts use, and below it the word by which procedures call it. The
+// word stands once the window is built: a table that another file fills before main takes the fixed name.
 #pragma once
 #include <cstdint>
 
@@ -13,47 +16,95 @@ struct MainWindow : Window {
     void Amend() {}                                                  // a reserved entry
     std::vector<Control*> RoundOf(const Control& control) override;  // of a cell: the names, or the counts, of its bank as they are read
 
-    // The pad. Cells lie on the tab of their bank; Text1[0] shows the name of the sample, Label1[0] is its caption, Text2[0] is unused.
-    PictureBox Picture1;        // the ground around the pad: red in Modify mode
-    TabControl SSTab1;          // a tab a bank
-    Frame Frame3[3];            // the ground of the pad's three blocks: gone while the undo key is held
-    TextBox Text1[kSlots + 1];  // [slot]: taxon name
-    TextBox Text2[kSlots + 1];  // [slot]: count in the sample on show
-    Label Label1[kSlots + 1];   // [slot]: the slot's number, shown in Modify mode
-    TextBox Text0;              // hidden: the slot number of a counted key passes through here
-    TextBox Text99;             // hidden: has the focus while counting, so that a keystroke lands nowhere
+    // The pad. Cells lie on the tab of their bank; [0] of their arrays is the name of the sample, its caption, and nothing.
+    PictureBox Picture1;
+    PictureBox& PadGround = Picture1;  // around the pad: red in Modify mode
+    TabControl SSTab1;
+    TabControl& BankTabs = SSTab1;
+    Frame Frame3[3];
+    Frame (&PadBlocks)[3] = Frame3;  // the ground of the cells: gone while the undo key is held
+    TextBox Text1[kSlots + 1];
+    TextBox (&TaxonNames)[kSlots + 1] = Text1;  // [slot]
+    TextBox& SampleName = Text1[0];
+    TextBox Text2[kSlots + 1];
+    TextBox (&TaxonCounts)[kSlots + 1] = Text2;  // [slot]: in the sample on show
+    Label Label1[kSlots + 1];
+    Label (&SlotNumbers)[kSlots + 1] = Label1;  // [slot]: shown in Modify mode
+    Label& SampleNameCaption = Label1[0];
+    TextBox Text0;
+    TextBox& CountChannel = Text0;  // hidden: the slot number of a counted key passes through here
+    TextBox Text99;
+    TextBox& FocusRest = Text99;  // hidden: has the focus while counting, so that a keystroke lands nowhere
 
-    Frame Frame1;          // the sample
-    ComboBox Combo2;       // sample names
-    Label Label3, Label4;  // serial number
-    TextBox Text4;         // note
+    Frame Frame1;
+    Frame& SampleFrame = Frame1;
+    ComboBox Combo2;
+    ComboBox& SampleList = Combo2;
+    Label Label3, Label4;
+    Label& SerialNumber = Label4;
+    TextBox Text4;
+    TextBox& SampleNote = Text4;
 
-    Frame Frame2;     // totals
-    Label Label2[3];  // all, subtotal 1, subtotal 2
+    // [0]: of all taxa, [1], [2]: of the subtotals.
+    Frame Frame2;
+    Frame& TotalsFrame = Frame2;
+    Label Label2[3];
+    Label (&TotalCaptions)[3] = Label2;
+    Label& AllTotalCaption = Label2[0];
+    Label& Subtotal1Caption = Label2[1];
+    Label& Subtotal2Caption = Label2[2];
     TextBox Text3[3];
+    TextBox (&Totals)[3] = Text3;
+    TextBox& AllTotal = Text3[0];
+    TextBox& Subtotal1 = Text3[1];
+    TextBox& Subtotal2 = Text3[2];
     Label Label6;
-    OptionButton Option1[3];  // the basis of alarm and percentages
+    Label& BasisCaption = Label6;
+    OptionButton Option1[3];
+    OptionButton (&BasisOptions)[3] = Option1;  // the basis of alarm and percentages
+    OptionButton& AllTotalBasis = Option1[0];
+    OptionButton& Subtotal1Basis = Option1[1];
+    OptionButton& Subtotal2Basis = Option1[2];
     ProgressBar ProgressBar1;
+    ProgressBar& Progress = ProgressBar1;
 
-    Frame Frame4;                // Additional info
-    Label Label10[kParams + 1];  // [0] unused, so below
+    // Additional info: [p], [0] unused.
+    Frame Frame4;
+    Frame& ParamsFrame = Frame4;
+    Label Label10[kParams + 1];
+    Label (&ParamNames)[kParams + 1] = Label10;
     TextBox Text5[kParams + 1];
-    Button Command7[kParams + 1];  // rename
-    Label Label8;                  // the value last edited
+    TextBox (&ParamBoxes)[kParams + 1] = Text5;
+    Button Command7[kParams + 1];
+    Button (&RenameButtons)[kParams + 1] = Command7;
+    Label Label8;
+    Label& LastEdited = Label8;  // the value
 
-    Frame Frame5;  // taxa curve
+    Frame Frame5;
+    Frame& CurveFrame = Frame5;
     Label Label9;
     PictureBox Picture2;
+    PictureBox& DiversityPicture = Picture2;  // taxa seen against grains counted
 
-    Button Command1;     // clears Picture1; stands nowhere
-    Button Command2[1];  // Reset
-    Button Command3[2];  // Modify, Resume
-    Button Command4[1];  // Open
-    Button Command5[2];  // Save, Next sample
-    Button Command6;     // %
+    Button Command1;
+    Button& ClearGroundButton = Command1;  // stands nowhere
+    Button Command2[1];
+    Button& ResetButton = Command2[0];
+    Button Command3[2];
+    Button& ModifyButton = Command3[0];
+    Button& ResumeButton = Command3[1];
+    Button Command4[1];
+    Button& OpenButton = Command4[0];
+    Button Command5[2];
+    Button& SaveButton = Command5[0];  // on: the sheet has changed
+    Button& NextSampleButton = Command5[1];
+    Button Command6;
+    Button& PercentButton = Command6;
     Label Label5;
-    ComboBox Combo1;  // history
+    ComboBox Combo1;
+    ComboBox& History = Combo1;
     CommonDialog CommonDialog1;
+    CommonDialog& FileDialog = CommonDialog1;
 
     MenuItem mnuFile, mnuNew, mnuOpen, break7, mnuNext, break5, mnuSave, mnuSaveAs, mnuSaveCopy, break99, mnuTemplate, break4,
         mnuSaveHistory, Brake2, mnuPercent, mnuPercentSub1, mnuPercentSub2, mnuPercentAll, break999, mnuQuit;
