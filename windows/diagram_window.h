@@ -9,20 +9,35 @@
 struct DiagramWindow : Window {
     DiagramWindow();
 
-    Slider Slider2;        // horizontal scale, 0..10; 5 is the plain one, 0 is refused
-    Button Command1;       // shows the two boxes beside it
-    TextBox Text1, Text2;  // MoveFrom and MoveTo
-    PictureBox Picture4;   // the strip of taxon names, as wide as the diagram
-    PictureBox Picture1;   // the diagram
-    PictureBox Picture2;   // the cluster tree, hidden until nmuConiss is on
-    Slider Slider1;        // the selected sample, 1..SampleCount
-    UpDown UpDown1;        // the same, a step a click
-    Frame Frame3;          // beside the selected sample:
-    CheckBox Check1;       // its name; ticked, its line stays in view
-    ComboBox Combo2;       // all names
-    ScrollBar HScroll1;    // scrolls the columns, in percent units
-    PictureBox Picture3;   // a plain band below the scroll bar
+    Slider Slider2;
+    Slider& HorizontalScale = Slider2;  // 0..10; 5 is the plain one, 0 is refused
+    Button Command1;
+    Button& LastMoveButton = Command1;  // shows the two boxes beside it
+    TextBox Text1, Text2;
+    TextBox& MovedFrom = Text1;
+    TextBox& MovedTo = Text2;
+    PictureBox Picture4;
+    PictureBox& NameStrip = Picture4;  // the names of the taxa, as wide as the diagram
+    PictureBox Picture1;
+    PictureBox& Diagram = Picture1;
+    PictureBox Picture2;
+    PictureBox& ClusterTree = Picture2;  // hidden until nmuConiss is on
+    Slider Slider1;
+    Slider& SampleSlider = Slider1;  // the selected sample, 1..SampleCount
+    UpDown UpDown1;
+    UpDown& SampleArrows = UpDown1;  // the same, a step a click
+    Frame Frame3;
+    Frame& Selector = Frame3;  // beside the selected sample
+    CheckBox Check1;
+    CheckBox& SampleLine = Check1;  // ticked, the line of the selected sample stays in view
+    ComboBox Combo2;
+    ComboBox& SampleList = Combo2;
+    ScrollBar HScroll1;
+    ScrollBar& ColumnScroll = HScroll1;  // in percent units
+    PictureBox Picture3;
+    PictureBox& Band = Picture3;  // plain, below the scroll bar
     StatusBar StatusBar1;
+    StatusBar& Status = StatusBar1;
 
     MenuItem mnuBasis, mnuSub1, mnuSub2, mnuAll;
     MenuItem mnuDrawMode, mnuBar, mnuArea, mnuDot, Break10, mnuCurve, mnuDotCurve;  // mnuArea reads "Curve", mnuCurve "Bar and curve"
