@@ -9,21 +9,34 @@
 struct NextWindow : Window {
     NextWindow();
 
-    Frame Frame2;  // start face
+    Frame Frame2;
+    Frame& StartFace = Frame2;
     PictureBox Picture1;
     Label Label5[2];
-    Button Command4;  // create
-    Button Command2;  // open
+    Label& StartLine = Label5[1];  // what the program is for, or that it has no sound
+    Button Command4;
+    Button& CreateButton = Command4;
+    Button Command2;
+    Button& OpenButton = Command2;
 
-    Frame Frame1;  // sample face
+    Frame Frame1;
+    Frame& SampleFace = Frame1;
     Label Label1, Label2;
-    TextBox Text1;              // name
-    TextBox Text2;              // note
+    Label& SampleNameCaption = Label1;
+    TextBox Text1;
+    TextBox& SampleName = Text1;
+    TextBox Text2;
+    TextBox& SampleNote = Text2;
     Label Label3[kParams + 1];  // [0] unused, so below
+    Label (&ParamNames)[kParams + 1] = Label3;
     TextBox Text3[kParams + 1];
-    Button Command5[kParams + 1];  // rename
-    Button Command1;               // OK
-    Button Command3;               // Cancel
+    TextBox (&ParamBoxes)[kParams + 1] = Text3;
+    Button Command5[kParams + 1];
+    Button (&RenameButtons)[kParams + 1] = Command5;
+    Button Command1;
+    Button& OkButton = Command1;
+    Button Command3;
+    Button& CancelButton = Command3;
 
 private:
     void LayParam(int p);
