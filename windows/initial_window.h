@@ -11,9 +11,12 @@ struct InitialWindow : Window {
 
     Label Label1[kWelcomeLabels];  // the words of welcome
     Label Label2[2];               // heads of the two columns
-    Label Label4[kNamedKeys];      // names of the keys
-    TextBox Text1[kNamedKeys];     // their codes
-    Button Command1;               // OK
+    Label Label4[kNamedKeys];
+    Label (&KeyNames)[kNamedKeys] = Label4;
+    TextBox Text1[kNamedKeys];
+    TextBox (&KeyCodes)[kNamedKeys] = Text1;
+    Button Command1;
+    Button& OkButton = Command1;
 
     float AllKnown = 0;  // 1: the keyboard was known when the window came up
 

@@ -22,26 +22,48 @@ struct KeyCodeWindow : Window {
     KeyCodeWindow();
 
     TabControl SSTab1;
-    Frame Frame1, Frame2, Frame3;  // the ground of each map
-    TextBox Text1[kMapRows + 1];   // definitions: by pressing a key in the box
-    TextBox Text2[kMapRows + 1];   // codes
-    TextBox Text3[kMapRows + 1];   // [place]: key number
+    TabControl& MapTabs = SSTab1;
+    Frame Frame1, Frame2, Frame3;
+    Frame& DefinitionMap = Frame1;
+    Frame& CodeMap = Frame2;
+    Frame& NumberMap = Frame3;
+    TextBox Text1[kMapRows + 1];
+    TextBox (&Definitions)[kMapRows + 1] = Text1;  // by pressing a key in the box
+    TextBox Text2[kMapRows + 1];
+    TextBox (&Codes)[kMapRows + 1] = Text2;
+    TextBox Text3[kMapRows + 1];
+    TextBox (&KeyNumbers)[kMapRows + 1] = Text3;  // [place]
 
-    Frame Frame4;  // functional keys
+    Frame Frame4;
+    Frame& FunctionalFrame = Frame4;
     Label Label5;
     Label Label6[kFunctionalKeys];
     TextBox Text4[kFunctionalKeys + 1];
-    Button Command3;  // Notice
-    Label Label7;     // beside the box of F1
+    TextBox (&FunctionalBoxes)[kFunctionalKeys + 1] = Text4;
+    TextBox& Shift1Box = Text4[0];
+    TextBox& UndoBox = Text4[2];
+    TextBox& SaveBox = Text4[3];
+    Button Command3;
+    Button& NoticeButton = Command3;
+    Label Label7;  // beside the box of F1
 
-    OptionButton Option1[2];   // left handed, right handed
-    Label Label1, Label2;      // "Key code: " and nothing behind it
-    Label Label3, Label4;      // the character typed last, by its code
-    Button Command2;           // All clear
-    Button Command5;           // Default: belongs to the key numbers
-    ProgressBar ProgressBar1;  // seen while saving
-    Button Command4;           // OK
-    Button Command1;           // Cancel
+    OptionButton Option1[2];
+    OptionButton (&HandOptions)[2] = Option1;
+    OptionButton& LeftHanded = Option1[0];
+    OptionButton& RightHanded = Option1[1];
+    Label Label1, Label2;  // "Key code: " and nothing behind it
+    Label Label3, Label4;
+    Label& CharacterCode = Label4;  // of the character typed last
+    Button Command2;
+    Button& ClearButton = Command2;
+    Button Command5;
+    Button& DefaultButton = Command5;  // belongs to the key numbers
+    ProgressBar ProgressBar1;
+    ProgressBar& Progress = ProgressBar1;  // seen while saving
+    Button Command4;
+    Button& OkButton = Command4;
+    Button Command1;
+    Button& CancelButton = Command1;
 
     std::string OldDefinition;              // what a box of a map held when it got the focus
     std::string OldCode;                    // the code beside it before the last key
