@@ -8,11 +8,15 @@ struct AboutProgramWindow : Window {
     AboutProgramWindow();
 
     PictureBox Picture1;
-    Label Label1;  // title
+    Label Label1;
+    Label& ProgramTitle = Label1;
     Label Label2;
-    Label Label3[2];  // credit
-    Label Label4;     // web address
-    Button Command1;  // OK
+    Label& CreditHead = Label2;
+    Label Label3[2];
+    Label (&Credits)[2] = Label3;
+    Label Label4;  // web address
+    Button Command1;
+    Button& OkButton = Command1;
 };
 
 struct AboutKeypadWindow : Window {
@@ -20,7 +24,8 @@ struct AboutKeypadWindow : Window {
 
     PictureBox Picture1;
     Label Label1[3];  // one sentence
-    Button Command1;  // OK
+    Button Command1;
+    Button& OkButton = Command1;
 };
 
 extern AboutProgramWindow frmAboutMB1;

@@ -10,7 +10,8 @@ struct NoteWindow : Window {
 
     Label Label1;
     TextBox Text1[kNotes];  // to be read only: disabled, in the colour of the window
-    Button Command1;        // OK
+    Button Command1;
+    Button& OkButton = Command1;
 };
 
 extern NoteWindow frmNote;

@@ -6,14 +6,21 @@
 struct ParaNameWindow : Window {
     ParaNameWindow();
 
-    Label Label1, Label2;  // old name
+    Label Label1, Label2;
+    Label& OldName = Label2;
     Label Label3;
-    TextBox Text1;    // new name
-    Button Command1;  // OK
-    Button Command2;  // Cancel
+    TextBox Text1;
+    TextBox& NewName = Text1;
+    Button Command1;
+    Button& OkButton = Command1;
+    Button Command2;
+    Button& CancelButton = Command2;
 
-    Slider Slider1;  // not for the user: the field, 1..6
-    Label Label4;    // not for the user: the window that asked, "frmMain" or "frmNext"
+    // Not for the user.
+    Slider Slider1;
+    Slider& Param = Slider1;  // the field, 1..6
+    Label Label4;
+    Label& Caller = Label4;  // the window that asked, "frmMain" or "frmNext"
 };
 
 extern ParaNameWindow frmParaName;
