@@ -1,16 +1,12 @@
 #include "drive/headless_hands.h"
 
 #include "events/program.h"
+#include "platform/key_codes.h"
 #include "platform/run_event.h"
 #include "platform/text.h"
 #include "platform/user.h"
 
 namespace {
-
-constexpr int kBackspace = 8;
-constexpr int kEnter = 13;
-constexpr int kEscape = 27;
-constexpr int kDelete = 46;
 
 Control* FocusNow() {
     return ActiveWindow() ? ActiveWindow()->Focus() : nullptr;
@@ -21,13 +17,13 @@ void BreakLine(Control& box) {
 }
 
 void TypeInto(Control& box, int code, const std::string& character) {
-    if (code == kBackspace)
+    if (code == kBackspaceKey)
         DeleteBackward(box);
-    else if (code == kDelete)
+    else if (code == kDeleteKey)
         DeleteForward(box);
-    else if (code == kEnter)
+    else if (code == kEnterKey)
         BreakLine(box);
-    else if (code != kEscape && !character.empty())
+    else if (code != kEscapeKey && !character.empty())
         InsertText(box, character);
 }
 

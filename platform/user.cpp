@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
+#include "platform/key_codes.h"
 #include "platform/services.h"
 #include "platform/text.h"
 
 namespace {
 constexpr const char* kLineBreak = "\r\n";
-constexpr int kEnter = 13;
-constexpr int kEscape = 27;
 
 MenuItem* open_popup = nullptr;
 Control* pressed = nullptr;  // the control that the mouse went down on
@@ -174,10 +173,10 @@ void ReleaseKey(int code) {
 
 bool PressAnswer(int code) {
     Window* const window = ActiveWindow();
-    if (!window || (code != kEnter && code != kEscape)) return false;
+    if (!window || (code != kEnterKey && code != kEscapeKey)) return false;
     const Control* const focus = window->Focus();
     if (focus && (TakesKeysAsInput(*focus) || !CanReach(*focus))) return false;
-    Button* const button = code == kEnter ? EnterButton(*window) : window->dismiss;
+    Button* const button = code == kEnterKey ? EnterButton(*window) : window->dismiss;
     if (!button || !IsInSight(*button)) return false;
     ClickControl(*button);
     return true;

@@ -5,6 +5,7 @@
 
 #include "platform/controls.h"
 #include "platform/focus_walk.h"
+#include "platform/key_codes.h"
 #include "platform/qt/renderer.h"
 #include "platform/user.h"
 
@@ -18,8 +19,8 @@ std::vector<Control*> Siblings(const Control& option) {
 
 // By what the key is: one that a script only holds down is neither.
 int AnswerCode(const QKeyEvent& key) {
-    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return 13;
-    return key.key() == Qt::Key_Escape ? 27 : 0;
+    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return kEnterKey;
+    return key.key() == Qt::Key_Escape ? kEscapeKey : 0;
 }
 
 bool SelectSibling(OptionButton& option, int step) {

@@ -6,6 +6,7 @@
 #include <QPixmap>
 
 #include "events/program.h"
+#include "platform/key_codes.h"
 #include "platform/qt/combo_box_view.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/key_filter.h"
@@ -23,11 +24,6 @@
 #include "platform/user.h"
 
 namespace {
-constexpr int kBackspace = 8;
-constexpr int kEnter = 13;
-constexpr int kEscape = 27;
-constexpr int kDelete = 46;
-
 ControlWidget* WidgetOf(const Control& control) {
     WindowWidget* const window = TheRenderer().WidgetOf(*control.window);
     return window ? window->Find(control) : nullptr;
@@ -92,7 +88,7 @@ public:
     void KeyDown(int code) override { Key(QEvent::KeyPress, code, {}, KeyActs::No); }
     void KeyUp(int code) override { Key(QEvent::KeyRelease, code, {}, KeyActs::No); }
     void Press(int code, const std::string& character) override {
-        const bool acts = code == kBackspace || code == kDelete || code == kEnter || code == kEscape;
+        const bool acts = code == kBackspaceKey || code == kDeleteKey || code == kEnterKey || code == kEscapeKey;
         Key(QEvent::KeyPress, code, acts ? QString() : ToQt(character), acts ? KeyActs::Yes : KeyActs::No);
         KeyUp(code);
     }
@@ -135,7 +131,7 @@ public:
         if (!view || !CanReach(box)) return;
         ComboList& list = view->OpenList();
         list.setCurrentIndex(list.model()->index(item, 0));
-        SendKey(list, QEvent::KeyPress, kEnter, {}, KeyActs::Yes);
+        SendKey(list, QEvent::KeyPress, kEnterKey, {}, KeyActs::Yes);
         Rest();
     }
     void PressTab(TabControl& tabs, int tab) override {
@@ -250,7 +246,7 @@ private:
         auto* const menu = static_cast<const MenuItem*>(item.container);
         if (!menu) return menus.ActionOf(item)->trigger();
         menus.MenuOf(*menu)->setActiveAction(menus.ActionOf(item));
-        SendKey(*menus.MenuOf(*menu), QEvent::KeyPress, kEnter, {}, KeyActs::Yes);
+        SendKey(*menus.MenuOf(*menu), QEvent::KeyPress, kEnterKey, {}, KeyActs::Yes);
     }
 
     QApplication application_;
