@@ -42,7 +42,10 @@ struct Mouse {
     double y = 0;
 };
 
-struct Box {
+constexpr int kTwipsPerPixel = 15;  // at 100 %
+constexpr int kTwipsPerPoint = 20;
+
+struct Box {  // in twips
     int left = 0;
     int top = 0;
     int width = 0;

@@ -55,7 +55,7 @@ public:
     std::string failure;  // the word of the first failure that nothing caught; empty: none
 
     std::string Folder() override { return folder; }
-    Box ScreenSize() override { return {0, 0, 15 * 1024, 15 * 768}; }
+    Box ScreenSize() override { return {0, 0, 1024 * kTwipsPerPixel, 768 * kTwipsPerPixel}; }
     bool CanShow(const std::string& picture) override;  // goes by its first bytes
     void End() override { ended = true; }
     void Fail(const char* word) override {

@@ -16,7 +16,6 @@
 #include "platform/qt/scaling.h"
 
 namespace {
-constexpr int kTwipsPerPoint = 20;
 constexpr double kPlainPoints = 9;
 
 class Look : public QProxyStyle {

@@ -10,7 +10,7 @@
 #include "platform/qt/look.h"
 
 namespace {
-constexpr double kPixelsPerPoint = 20.0 / 15;
+constexpr double kPixelsPerPoint = static_cast<double>(kTwipsPerPoint) / kTwipsPerPixel;
 constexpr double kFarOut = 100'000;  // pixels: nothing beyond is on any screen
 constexpr double kLargestDot = 100;  // pixels
 constexpr double kNameWidth = 5;     // of a letter on the average, in pixels of the program

@@ -13,8 +13,6 @@
 #include "platform/services.h"
 
 namespace {
-constexpr int kTwipsPerPixel = 15;
-
 // What has been made persistent is kept as an image at the resolution of the screen; each paint adds only the overlay. Of a drawing that
 // changes, only the part that looks different is painted again: a key counts one sample, and its row alone is new in the diagram.
 class PictureView : public ControlWidget {

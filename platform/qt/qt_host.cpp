@@ -9,10 +9,6 @@
 #include "platform/qt/program_folder.h"
 #include "platform/qt/qt_message_boxes.h"
 
-namespace {
-constexpr int kTwipsPerPixel = 15;
-}
-
 QtHost::QtHost() : folder_(FromQt(FindProgramFolder())), lock_(ToQt(folder_) + "/.marlbrook.lock") {
     lock_.setStaleLockTime(0);  // held as long as its process lives
 }
