@@ -58,7 +58,7 @@ bool IsCommand(const Control& control) {
 void WriteCommands(std::ostream& out) {
     for (const Control* control : WindowOf("frmMain").Controls()) {
         if (!IsCommand(*control)) continue;
-        const bool is_checked = control->kind() == Kind::MenuItem && control->State().value != 0;
+        const bool is_checked = control->kind() == Kind::MenuItem && control->State().checked;
         out << (control->index < 0 ? control->name : Indexed(control->name, control->index)) << " = " << Quoted(control->State().text)
             << (control->Enabled() ? " enabled" : " disabled") << (is_checked ? " checked" : "") << "\n";
     }

@@ -31,12 +31,11 @@ bool IsOption(Kind kind) {
 bool IsRange(Kind kind) {
     return kind == Kind::Slider || kind == Kind::ScrollBar || kind == Kind::ProgressBar;
 }
-bool HasNumber(Kind kind) {
-    return IsRange(kind) || kind == Kind::CheckBox;
+bool IsCheckBox(Kind kind) {
+    return kind == Kind::CheckBox;
 }
 bool HasCaption(Kind kind) {
-    return kind == Kind::Label || kind == Kind::Button || kind == Kind::Frame || kind == Kind::OptionButton || kind == Kind::CheckBox ||
-           IsMenu(kind);
+    return kind == Kind::Label || kind == Kind::Button || kind == Kind::Frame || IsOption(kind) || IsCheckBox(kind) || IsMenu(kind);
 }
 
 struct PlainRow {
@@ -48,9 +47,10 @@ struct PlainRow {
 constexpr PlainRow kPlain[] = {
     {"Text", IsBox, [](const Properties& now) { return now.text; }},
     {"Caption", HasCaption, [](const Properties& now) { return now.text; }},
-    {"Value", IsOption, [](const Properties& now) { return ValueText(now.value != 0); }},
-    {"Value", HasNumber, [](const Properties& now) { return ValueText(now.value); }},
-    {"Checked", IsMenu, [](const Properties& now) { return ValueText(now.value != 0); }},
+    {"Value", IsOption, [](const Properties& now) { return ValueText(now.selected); }},
+    {"Value", IsCheckBox, [](const Properties& now) { return ValueText(now.ticked); }},
+    {"Value", IsRange, [](const Properties& now) { return ValueText(now.value); }},
+    {"Checked", IsMenu, [](const Properties& now) { return ValueText(now.checked); }},
     {"Enabled", IsAny, [](const Properties& now) { return ValueText(now.enabled); }},
     {"Visible", IsAny, [](const Properties& now) { return ValueText(now.visible); }},
     {"Bold", IsAny, [](const Properties& now) { return ValueText(now.bold); }},
@@ -64,7 +64,7 @@ constexpr PlainRow kPlain[] = {
     {"Height", IsAny, [](const Properties& now) { return ValueText(now.box.height); }},
     {"Max", IsRange, [](const Properties& now) { return ValueText(now.maximum); }},
     {"Min", IsRange, [](const Properties& now) { return ValueText(now.minimum); }},
-    {"Tab", IsTabs, [](const Properties& now) { return ValueText(now.value); }},
+    {"Tab", IsTabs, [](const Properties& now) { return ValueText(now.tab); }},
     {"SelStart", IsBox, [](const Properties& now) { return ValueText(now.caret); }},
     {"ToolTip", IsAny, [](const Properties& now) { return now.tool_tip; }},
     {"ListCount", IsList, [](const Properties& now) { return ValueText(now.items.size()); }},

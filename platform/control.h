@@ -72,11 +72,16 @@ struct Properties {
     std::string tool_tip;
     std::string text;  // the text of a box, the caption of all else
     int caret = 0;     // characters before it
-    int value = 0;     // also: the tab in front, 1 of a selected option, a ticked box or a checked menu item
+    int value = 0;     // of a slider, scroll bar or progress bar
     int minimum = 0;
     int maximum = 100;
     int small_change = 1;
     int large_change = 10;
+    int tab = 0;                     // the one in front, from 0
+    bool selected = false;           // of an option button
+    int ticked = 0;                  // of a check box: 0 or 1
+    bool checked = false;            // of a menu item
+    bool border = true;              // of a frame
     std::vector<std::string> items;  // of a list; the captions of tabs
 };
 

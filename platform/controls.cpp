@@ -57,12 +57,12 @@ void OptionButton::SetValue(bool selected) {
             if (sibling != this && sibling->kind() == Kind::OptionButton && sibling->container == container)
                 static_cast<OptionButton*>(sibling)->SetValue(false);
     }
-    Assign(now_.value, selected ? 1 : 0, Property::Value);
+    Assign(now_.selected, selected, Property::Value);
     if (selected) Click.Raise();
 }
 
 void CheckBox::SetValue(int value) {
-    if (Assign(now_.value, value, Property::Value)) Click.Raise();
+    if (Assign(now_.ticked, value, Property::Value)) Click.Raise();
 }
 
 void ComboBox::AddItem(const std::string& item) {
@@ -91,7 +91,7 @@ void ComboBox::Choose(int item) {
 }
 
 void TabControl::SetTab(int tab) {
-    if (Assign(now_.value, tab, Property::Value)) Change.Raise();
+    if (Assign(now_.tab, tab, Property::Value)) Change.Raise();
 }
 
 void ProgressBar::SetRange(int minimum, int maximum) {

@@ -61,8 +61,8 @@ public:
     OptionButton() : Control(Kind::OptionButton) {}
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
-    bool Value() const { return now_.value != 0; }
-    void SetValue(bool selected);  // True takes the selection from its siblings, then raises Click
+    bool Value() const { return now_.selected; }
+    void SetValue(bool selected);  // true takes the selection from its siblings, then raises Click
 };
 
 class CheckBox : public Control {
@@ -70,7 +70,7 @@ public:
     CheckBox() : Control(Kind::CheckBox) {}
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
-    int Value() const { return now_.value; }
+    int Value() const { return now_.ticked; }
     void SetValue(int value);  // 0 or 1; raises Click
 };
 
@@ -93,17 +93,17 @@ private:
 
 class Frame : public Control {
 public:
-    Frame() : Control(Kind::Frame) { now_.value = 1; }
+    Frame() : Control(Kind::Frame) {}
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
-    bool Border() const { return now_.value != 0; }  // without it the caption is not shown either
-    void SetBorder(bool border) { Assign(now_.value, border ? 1 : 0, Property::Value); }
+    bool Border() const { return now_.border; }  // without it the caption is not shown either
+    void SetBorder(bool border) { Assign(now_.border, border, Property::Value); }
 };
 
 class TabControl : public Control {
 public:
     TabControl() : Control(Kind::TabControl) {}
-    int Tab() const { return now_.value; }
+    int Tab() const { return now_.tab; }
     void SetTab(int tab);  // raises Change
     const std::vector<std::string>& TabCaptions() const { return now_.items; }
     void SetTabCaptions(const std::vector<std::string>& captions) { Assign(now_.items, captions, Property::Items); }
@@ -164,7 +164,7 @@ public:
     MenuItem() : Control(Kind::MenuItem) {}
     const std::string& Caption() const { return now_.text; }  // "&" stands before the access key, "-" alone is a separator
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
-    bool Checked() const { return now_.value != 0; }
-    void SetChecked(bool checked) { Assign(now_.value, checked ? 1 : 0, Property::Checked); }
+    bool Checked() const { return now_.checked; }
+    void SetChecked(bool checked) { Assign(now_.checked, checked, Property::Checked); }
     char control_letter = 0;  // 'S' for Ctrl+S; 0: none
 };

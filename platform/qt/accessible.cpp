@@ -82,5 +82,5 @@ void TellValue(const Control& control) {
         QAccessible::updateAccessibility(&event);
     }
     if (control.kind() != Kind::TabControl) return;
-    if (QWidget* const page = PageOf(static_cast<const TabControl&>(control), control.State().value)) Tell(*page, QAccessible::Selection);
+    if (QWidget* const page = PageOf(static_cast<const TabControl&>(control), control.State().tab)) Tell(*page, QAccessible::Selection);
 }

@@ -111,13 +111,13 @@ QString AccessibleControl::text(QAccessible::Text kind) const {
 
 QAccessible::State AccessibleControl::state() const {
     QAccessible::State state = AccessibleNode::state();
-    const int selected = control_.State().value;
+    const Properties& now = control_.State();
     state.disabled = state.disabled || !control_.window->Enabled();
     state.offscreen = IsBeyondEdge(*widget());
     state.focusable = TakesFocus(control_.kind()) && CanReach(control_);
     state.focused = HoldsFocus(control_);
     state.checkable = control_.kind() == Kind::CheckBox || control_.kind() == Kind::OptionButton;
-    state.checked = state.checkable && selected != 0;
+    state.checked = now.selected || now.ticked != 0;
     return state;
 }
 

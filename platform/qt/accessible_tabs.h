@@ -7,6 +7,7 @@ class AccessibleTabs : public AccessibleValue {
 public:
     AccessibleTabs(TabControl& tabs, QWidget& widget) : AccessibleValue(tabs, widget), tabs_(tabs) {}
 
+    QVariant currentValue() const override { return tabs_.Tab(); }
     void setCurrentValue(const QVariant& tab) override;
     QVariant maximumValue() const override;
 
