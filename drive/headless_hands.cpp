@@ -13,7 +13,7 @@ Control* FocusNow() {
 }
 
 void BreakLine(Control& box) {
-    if (const auto* text_box = dynamic_cast<TextBox*>(&box); text_box && text_box->multiline) InsertText(box, "\r\n");
+    if (const TextHolder* const holder = box.AsTextHolder(); holder && holder->BreaksLines()) InsertText(box, "\r\n");
 }
 
 void TypeInto(Control& box, int code, const std::string& character) {
@@ -28,9 +28,7 @@ void TypeInto(Control& box, int code, const std::string& character) {
 }
 
 void SelectAll(Control& box) {
-    const int all = static_cast<int>(Length(box.State().text));
-    if (auto* text_box = dynamic_cast<TextBox*>(&box)) text_box->Select(0, all);
-    if (auto* combo_box = dynamic_cast<ComboBox*>(&box)) combo_box->Select(0, all);
+    if (TextHolder* const holder = box.AsTextHolder()) holder->Select(0, static_cast<int>(Length(holder->Text())));
 }
 
 }  // namespace
@@ -91,7 +89,7 @@ void HeadlessHands::DoubleClick(Control& control) {
 }
 
 void HeadlessHands::RightClick(Control& control) {
-    const Mouse corner = AtCorner(control, MouseButton::Right);
+    const Mouse corner = control.AtCorner(MouseButton::Right);
     MouseDown(control, corner.button, corner.x, corner.y);
     MouseUp(control, corner.button, corner.x, corner.y);
 }

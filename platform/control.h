@@ -13,6 +13,7 @@
 
 class Window;
 class Control;
+class TextHolder;
 
 enum class Kind {
     TextBox,
@@ -85,6 +86,18 @@ struct Properties {
     std::vector<std::string> items;  // of a list; the captions of tabs
 };
 
+bool TakesFocus(Kind kind);  // at a click
+
+// The window of a control, as far as the control needs it.
+class ControlOwner {
+public:
+    virtual const std::vector<Control*>& Controls() const = 0;
+    virtual void SetFocus(Control& control) = 0;
+
+protected:
+    ~ControlOwner() = default;
+};
+
 class Control {
 public:
     Control(const Control&) = delete;
@@ -147,9 +160,17 @@ public:
     // Every property as it is now: for a platform and for the driver, which read all kinds alike.
     const Properties& State() const { return now_; }
 
-    // Makes this control the one with the focus in its window; nothing if it or what contains it is hidden or disabled.
-    void SetFocus();
+    // It and what contains it are visible and enabled, and it lies on the tab in front. The state of its window is left aside.
+    virtual bool IsUsable() const;
+    virtual bool IsPageInFront(int /*page*/) const { return true; }  // of those that it contains
+    void SetFocus();  // makes it the one with the focus in its window; nothing if it is not usable
 
+    virtual TextHolder* AsTextHolder() { return nullptr; }
+    const TextHolder* AsTextHolder() const { return const_cast<Control*>(this)->AsTextHolder(); }
+    virtual Mouse AtCorner(MouseButton button) const { return {button, 0, 0}; }  // at its upper left corner, in its own scale
+    virtual void TakeClick() { Click.Raise(); }                                  // a click by the user, after its press and release
+
+    void BelongTo(ControlOwner& owner) { owner_ = &owner; }
     void BindView(ControlView* view) { view_ = view; }
     void SetDesign(Properties design) { now_ = std::move(design); }  // by the window that lays it down: raises nothing
     void KeepDesign() { design_ = now_; }
@@ -171,6 +192,7 @@ protected:
     }
 
     Properties now_;
+    ControlOwner* owner_ = nullptr;
 
 private:
     Kind kind_;

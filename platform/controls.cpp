@@ -3,9 +3,10 @@
 #include <algorithm>
 
 #include "platform/text.h"
-#include "platform/window.h"
 
 namespace {
+MenuItem* opened_popup = nullptr;
+
 int WithinText(const std::string& text, int characters) {
     return std::clamp(characters, 0, static_cast<int>(Length(text)));
 }
@@ -53,9 +54,9 @@ void Label::SetCaption(const std::string& caption) {
 void OptionButton::SetValue(bool selected) {
     if (selected == Value()) return;
     if (selected) {
-        for (Control* sibling : window->Controls())
-            if (sibling != this && sibling->kind() == Kind::OptionButton && sibling->container == container)
-                static_cast<OptionButton*>(sibling)->SetValue(false);
+        for (Control* sibling : owner_->Controls())
+            if (auto* const option = dynamic_cast<OptionButton*>(sibling); option && option != this && option->container == container)
+                option->SetValue(false);
     }
     Assign(now_.selected, selected, Property::Value);
     if (selected) Click.Raise();
@@ -112,4 +113,37 @@ void RangeControl::SetRange(int minimum, int maximum) {
 void RangeControl::SetSteps(int small_change, int large_change) {
     Assign(now_.small_change, small_change, Property::Range);
     Assign(now_.large_change, large_change, Property::Range);
+}
+
+MenuItem* OpenedPopup() {
+    return opened_popup;
+}
+
+void SetOpenedPopup(MenuItem* menu) {
+    opened_popup = menu;
+}
+
+bool MenuItem::IsInOpenPopup() const {
+    const MenuItem* menu = this;
+    while (menu && menu != opened_popup) menu = menu->Menu();
+    return menu != nullptr;
+}
+
+bool MenuItem::IsUsable() const {
+    for (const MenuItem* menu = this; menu; menu = menu->Menu()) {
+        if (!menu->Enabled()) return false;
+        if (menu == opened_popup && menu != this) return true;
+        if (!menu->Visible()) return false;
+    }
+    return true;
+}
+
+bool TakesText(const Control& control) {
+    const TextHolder* const holder = control.AsTextHolder();
+    return holder && holder->TakesText();
+}
+
+bool TakesKeysAsInput(const Control& control) {
+    const TextHolder* const holder = control.AsTextHolder();
+    return holder && holder->TakesKeysAsInput();
 }

@@ -19,6 +19,14 @@ public:
     int SelLength() const { return selected_; }  // characters selected behind the caret
     void Select(int start, int length);          // by the user
     void SelectAll();                            // by the program: what is typed next replaces the whole text
+    void Deselect() { SetSelStart(now_.caret); }
+
+    TextHolder* AsTextHolder() override { return this; }
+    virtual bool TakesText() const { return true; }          // false: it can hold the focus, but what is typed lands nowhere
+    virtual bool TakesKeysAsInput() const { return false; }  // each key counts as itself
+    virtual bool BreaksLines() const { return false; }       // at Enter
+    virtual bool IsCentred() const { return false; }
+    virtual bool HoldsPlaceholder() const { return false; }
 
 protected:
     explicit TextHolder(Kind kind) : Control(kind) { now_.back = kWhite; }
@@ -37,6 +45,12 @@ public:
     bool takes_keys = false;  // each key counts as itself, whatever it types or does elsewhere: Tab, Enter and dead keys too
     bool takes_text = true;   // false: it can hold the focus, but what is typed lands nowhere
     std::string placeholder;  // stands for nothing: the hand that clicks into it marks it whole, to type over it; empty: none
+
+    bool TakesText() const override { return takes_text; }
+    bool TakesKeysAsInput() const override { return takes_keys; }
+    bool BreaksLines() const override { return multiline; }
+    bool IsCentred() const override { return centred; }
+    bool HoldsPlaceholder() const override { return !Text().empty() && Text() == placeholder; }
 };
 
 class Label : public Control {
@@ -63,6 +77,7 @@ public:
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
     bool Value() const { return now_.selected; }
     void SetValue(bool selected);  // true takes the selection from its siblings, then raises Click
+    void TakeClick() override { SetValue(true); }
 };
 
 class CheckBox : public Control {
@@ -72,13 +87,15 @@ public:
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
     int Value() const { return now_.ticked; }
     void SetValue(int value);  // 0 or 1; raises Click
+    void TakeClick() override { SetValue(Value() ? 0 : 1); }
 };
 
 class ComboBox : public TextHolder {
 public:
     ComboBox() : TextHolder(Kind::ComboBox) {}
 
-    Event<> Edited;  // the user typed into the text box; Change is raised as well
+    Event<> Edited;               // the user typed into the text box; Change is raised as well
+    void TakeClick() override {}  // its Click is the choice of an item
 
     const std::vector<std::string>& List() const { return now_.items; }
     int ListCount() const { return static_cast<int>(now_.items.size()); }
@@ -105,6 +122,7 @@ public:
     TabControl() : Control(Kind::TabControl) {}
     int Tab() const { return now_.tab; }
     void SetTab(int tab);  // raises Change
+    bool IsPageInFront(int page) const override { return page == Tab(); }
     const std::vector<std::string>& TabCaptions() const { return now_.items; }
     void SetTabCaptions(const std::vector<std::string>& captions) { Assign(now_.items, captions, Property::Items); }
 };
@@ -167,4 +185,16 @@ public:
     bool Checked() const { return now_.checked; }
     void SetChecked(bool checked) { Assign(now_.checked, checked, Property::Checked); }
     char control_letter = 0;  // 'S' for Ctrl+S; 0: none
+
+    MenuItem* Menu() const { return static_cast<MenuItem*>(container); }  // that it stands in; nullptr: on the bar
+    bool IsInOpenPopup() const;                                           // it is the popup that is open, or stands in it
+    bool IsUsable() const override;  // what stands in an open popup needs no place on the bar; all else needs every menu on its way
 };
+
+// The popup menu that is open. Its items can be reached until one is clicked, or another window comes up.
+MenuItem* OpenedPopup();  // nullptr: none
+void SetOpenedPopup(MenuItem* menu);
+
+// Of any control; false for one that holds no text.
+bool TakesText(const Control& control);
+bool TakesKeysAsInput(const Control& control);

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/controls.h"
-#include "platform/user.h"
 
 namespace {
 // A picture takes the focus at a click and is no stop: there is nothing to type in it.
@@ -13,15 +12,10 @@ bool IsTabStop(const Control& control) {
 
 // Of options that stand together only the selected one is a stop, as everywhere on the desktop.
 bool IsSecondaryOption(const Control& control) {
-    if (control.kind() != Kind::OptionButton || static_cast<const OptionButton&>(control).Value()) return false;
+    if (control.kind() != Kind::OptionButton || control.State().selected) return false;
     return std::ranges::any_of(control.window->Controls(), [&control](const Control* other) {
-        return other->kind() == Kind::OptionButton && other->container == control.container &&
-               static_cast<const OptionButton*>(other)->Value();
+        return other->kind() == Kind::OptionButton && other->container == control.container && other->State().selected;
     });
-}
-
-bool HasOneLine(const Control& control) {
-    return control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).multiline;
 }
 
 std::vector<Control*> Stops(Window& window) {
@@ -47,5 +41,5 @@ void WalkFocus(Window& window, bool back) {
     if (!next) return;
     next->SetFocus();
     next->WalkedTo.Raise();
-    if (HasOneLine(*next)) static_cast<TextHolder*>(next)->SelectAll();
+    if (TextHolder* const box = next->AsTextHolder(); next->kind() == Kind::TextBox && !box->BreaksLines()) box->SelectAll();
 }

@@ -2,7 +2,7 @@
 // QtHands turns each action into real key and mouse events on the widgets that show them.
 //
 // Each action is one or several events, each run to its end (through RunEvent) before the call returns, and all that it changed is on
-// show by then. What a user could not reach (platform/user.h, CanReach) is passed over in silence. When the program has ended within
+// show by then. What a user could not reach (CanReach, platform/window.h) is passed over in silence. When the program has ended within
 // an action, its remaining events are left out; the caller makes no further action.
 #pragma once
 #include <functional>

@@ -57,6 +57,7 @@ public:
     bool IsPersistent() const { return is_persistent_; }
     int PersistentVersion() const { return version_; }  // grows whenever the persistent image changes
 
+    Mouse AtCorner(MouseButton button) const override { return {button, scale_left_, scale_top_}; }
     void ReturnToDesign() override;
 
 private:

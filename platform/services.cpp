@@ -1,7 +1,5 @@
 #include "platform/services.h"
 
-#include "platform/user.h"
-
 Services services;
 int MousePointer = kPointerDefault;
 

@@ -9,33 +9,12 @@
 namespace {
 constexpr const char* kLineBreak = "\r\n";
 
-MenuItem* open_popup = nullptr;
 Control* pressed = nullptr;  // the control that the mouse went down on
 
-bool IsOnFrontTab(const Control& control) {
-    return control.page < 0 || static_cast<const TabControl*>(control.container)->Tab() == control.page;
-}
-
-// An item inside a popup needs no place on the bar; all others need every menu on their way to be there.
-bool MenuIsUsable(const MenuItem& item) {
-    for (const Control* menu = &item; menu; menu = menu->container) {
-        if (!menu->Enabled()) return false;
-        if (menu == open_popup && menu != &item) return true;
-        if (!menu->Visible()) return false;
-    }
-    return true;
-}
-
-void OpenMenusOnTheWay(const Control* menu) {
-    if (!menu || menu == open_popup) return;
-    OpenMenusOnTheWay(menu->container);
+void OpenMenusOnTheWay(const MenuItem* menu) {
+    if (!menu || menu == OpenedPopup()) return;
+    OpenMenusOnTheWay(menu->Menu());
     menu->Click.Raise();
-}
-
-bool IsInOpenPopup(const MenuItem& item) {
-    const Control* menu = &item;
-    while (menu && menu != open_popup) menu = menu->container;
-    return menu != nullptr;
 }
 
 bool HasItems(const MenuItem& menu) {
@@ -45,45 +24,30 @@ bool HasItems(const MenuItem& menu) {
 
 void ClickMenuItem(MenuItem& item) {
     BringToFront(*item.window);
-    if (!IsInOpenPopup(item)) ClosePopup();
-    OpenMenusOnTheWay(item.container);
+    if (!item.IsInOpenPopup()) SetOpenedPopup(nullptr);
+    OpenMenusOnTheWay(item.Menu());
     if (HasItems(item))
         OpenMenu(item);
     else
         ClickOpenMenuItem(item);
 }
 
-bool HasKeyFocus(const Control& control) {
-    return control.window == ActiveWindow() && control.window->Focus() == &control && CanReach(control);
-}
-
 // A window that shows only its upper part has buttons below its edge.
-bool IsInSight(const Button& button) {
+bool IsInSight(const Control& button) {
     return CanReach(button) && button.Top() < button.window->Height();
 }
 
 // A window that hears the keys first has its buttons for the mouse.
-Button* EnterButton(const Window& window) {
+Control* EnterButton(const Window& window) {
     Control* const focus = window.Focus();
-    if (focus && focus->kind() == Kind::Button) return window.key_preview ? nullptr : static_cast<Button*>(focus);
-    const bool breaks_line = focus && focus->kind() == Kind::TextBox && static_cast<const TextBox*>(focus)->multiline;
-    return breaks_line ? nullptr : window.confirm;
+    if (focus && focus->kind() == Kind::Button) return window.key_preview ? nullptr : focus;
+    const TextHolder* const box = focus ? focus->AsTextHolder() : nullptr;
+    return box && box->BreaksLines() ? nullptr : window.confirm;
 }
 
-struct Edit {
-    std::string text;
-    int caret;
-    int selected;
-};
-
-Edit EditOf(const Control& box) {
-    const auto& holder = static_cast<const TextHolder&>(box);
-    return {holder.Text(), holder.SelStart(), holder.SelLength()};
-}
-
-bool TakesText(const Control& control) {
-    if (control.kind() == Kind::TextBox) return static_cast<const TextBox&>(control).takes_text;
-    return control.kind() == Kind::ComboBox;
+// The box as one that can be typed into; nullptr: what is typed lands nowhere.
+TextHolder* EditorOf(Control& box) {
+    return TakesText(box) ? box.AsTextHolder() : nullptr;
 }
 
 // Characters of the line break that begins behind `place` characters; 1 where there is none.
@@ -92,57 +56,25 @@ int StepAt(const std::string& text, int place) {
 }
 
 // Puts `text` in place of the `count` characters after the first `start`.
-void Replace(Control& box, int start, int count, const std::string& text) {
-    const std::string old = EditOf(box).text;
+void Replace(TextHolder& box, int start, int count, const std::string& text) {
+    const std::string old = box.Text();
     const auto first = static_cast<std::size_t>(start);
     const std::size_t from = ByteOffset(old, first), to = ByteOffset(old, first + static_cast<std::size_t>(count));
     EnterText(box, old.substr(0, from) + text + old.substr(to), start + static_cast<int>(Length(text)));
 }
+
+void ReplaceSelection(TextHolder& box, const std::string& text) {
+    Replace(box, box.SelStart(), box.SelLength(), text);
+}
 }  // namespace
-
-bool TakesFocus(Kind kind) {
-    switch (kind) {
-        case Kind::TextBox:
-        case Kind::Button:
-        case Kind::OptionButton:
-        case Kind::CheckBox:
-        case Kind::ComboBox:
-        case Kind::Slider:
-        case Kind::TabControl:
-        case Kind::PictureBox:
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool TakesKeysAsInput(const Control& control) {
-    return control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_keys;
-}
-
-bool IsUsable(const Control& control) {
-    if (control.kind() == Kind::MenuItem) return MenuIsUsable(static_cast<const MenuItem&>(control));
-    for (const Control* inner = &control; inner; inner = inner->container)
-        if (!inner->Visible() || !inner->Enabled() || !IsOnFrontTab(*inner)) return false;
-    return true;
-}
-
-bool CanReach(const Control& control) {
-    const Window& window = *control.window;
-    return window.IsLoaded() && window.Visible() && window.Enabled() && IsUsable(control);
-}
 
 void BringToFront(Window& window) {
     if (window.Visible() && window.Enabled() && &window != ActiveWindow()) window.Show();
 }
 
 void OpenPopup(MenuItem& menu) {
-    open_popup = &menu;
+    SetOpenedPopup(&menu);
     services.popups->Open(menu);
-}
-
-void ClosePopup() {
-    open_popup = nullptr;
 }
 
 void OpenMenu(MenuItem& menu) {
@@ -151,7 +83,7 @@ void OpenMenu(MenuItem& menu) {
 
 void ClickOpenMenuItem(MenuItem& item) {
     if (!CanReach(item)) return;  // opening its menu may have switched it off
-    ClosePopup();
+    SetOpenedPopup(nullptr);
     item.Click.Raise();
 }
 
@@ -176,7 +108,7 @@ bool PressAnswer(int code) {
     if (!window || (code != kEnterKey && code != kEscapeKey)) return false;
     const Control* const focus = window->Focus();
     if (focus && (TakesKeysAsInput(*focus) || !CanReach(*focus))) return false;
-    Button* const button = code == kEnterKey ? EnterButton(*window) : window->dismiss;
+    Control* const button = code == kEnterKey ? EnterButton(*window) : window->dismiss;
     if (!button || !IsInSight(*button)) return false;
     ClickControl(*button);
     return true;
@@ -211,35 +143,16 @@ void PressMouseOnWindow(Window& window, Mouse mouse) {
 
 void FinishClick(Control& control) {
     if (!CanReach(control)) return;
-    switch (control.kind()) {
-        case Kind::OptionButton:
-            static_cast<OptionButton&>(control).SetValue(true);
-            return;
-        case Kind::CheckBox: {
-            auto& box = static_cast<CheckBox&>(control);
-            box.SetValue(box.Value() ? 0 : 1);
-            return;
-        }
-        case Kind::MenuItem:
-            ClickMenuItem(static_cast<MenuItem&>(control));
-            return;
-        case Kind::ComboBox:  // its Click is the choice of an item
-            return;
-        default:
-            control.Click.Raise();
-    }
-}
-
-Mouse AtCorner(const Control& control, MouseButton button) {
-    if (control.kind() != Kind::PictureBox) return {button, 0, 0};
-    const auto& picture = static_cast<const PictureBox&>(control);
-    return {button, picture.ScaleLeft(), picture.ScaleTop()};
+    if (auto* const item = dynamic_cast<MenuItem*>(&control))
+        ClickMenuItem(*item);
+    else
+        control.TakeClick();
 }
 
 void ClickControl(Control& control) {
     if (!CanReach(control)) return;
     if (control.kind() != Kind::MenuItem) {
-        const Mouse mouse = AtCorner(control, MouseButton::Left);
+        const Mouse mouse = control.AtCorner(MouseButton::Left);
         PressMouse(control, mouse);
         ReleaseMouse(control, mouse);
     }
@@ -251,33 +164,33 @@ void FinishDoubleClick(Control& control) {
 }
 
 void EnterText(Control& box, const std::string& text, int caret) {
-    if (!HasKeyFocus(box) || !TakesText(box)) return;
-    static_cast<TextHolder&>(box).Enter(text, caret);
+    if (!HoldsFocus(box)) return;
+    if (TextHolder* const editor = EditorOf(box)) editor->Enter(text, caret);
 }
 
 void InsertText(Control& box, const std::string& text) {
-    if (!TakesText(box)) return;
-    const Edit edit = EditOf(box);
-    Replace(box, edit.caret, edit.selected, text);
+    if (TextHolder* const editor = EditorOf(box)) ReplaceSelection(*editor, text);
 }
 
 void DeleteBackward(Control& box) {
-    if (!TakesText(box)) return;
-    const Edit edit = EditOf(box);
-    const int step = StepAt(edit.text, edit.caret - 2);
-    if (edit.selected > 0)
-        Replace(box, edit.caret, edit.selected, "");
-    else if (edit.caret > 0)
-        Replace(box, edit.caret - step, step, "");
+    TextHolder* const editor = EditorOf(box);
+    if (!editor) return;
+    const int caret = editor->SelStart();
+    const int step = StepAt(editor->Text(), caret - 2);
+    if (editor->SelLength() > 0)
+        ReplaceSelection(*editor, "");
+    else if (caret > 0)
+        Replace(*editor, caret - step, step, "");
 }
 
 void DeleteForward(Control& box) {
-    if (!TakesText(box)) return;
-    const Edit edit = EditOf(box);
-    if (edit.selected > 0)
-        Replace(box, edit.caret, edit.selected, "");
-    else if (edit.caret < static_cast<int>(Length(edit.text)))
-        Replace(box, edit.caret, StepAt(edit.text, edit.caret), "");
+    TextHolder* const editor = EditorOf(box);
+    if (!editor) return;
+    const int caret = editor->SelStart();
+    if (editor->SelLength() > 0)
+        ReplaceSelection(*editor, "");
+    else if (caret < static_cast<int>(Length(editor->Text())))
+        Replace(*editor, caret, StepAt(editor->Text(), caret), "");
 }
 
 void ChooseItem(ComboBox& box, int item) {

@@ -1,23 +1,15 @@
 // What a user does, told to the windows. The headless platform calls it from a script, a toolkit from its widgets, so both raise the
-// same events in the same order. Something that a user could not reach is passed over in silence.
+// same events in the same order. What a user could not reach (CanReach, platform/window.h) is passed over in silence.
 #pragma once
 #include "platform/controls.h"
 #include "platform/picture_box.h"
 #include "platform/window.h"
-
-// Its window is loaded, shown and enabled, it and what contains it are visible and enabled, and it lies on the tab in front. An item
-// of a menu that is hidden from the bar can be reached while its popup is open.
-bool CanReach(const Control& control);
-bool TakesFocus(Kind kind);             // at a click
-bool IsUsable(const Control& control);  // the same but for the state of its window
-bool TakesKeysAsInput(const Control& control);
 
 // Brings a window to the front, as a press in it does. A disabled one stays where it is.
 void BringToFront(Window& window);
 
 // Opens a popup menu at the pointer; its items can be reached until one is clicked, or a menu of the bar, or another window comes up.
 void OpenPopup(MenuItem& menu);
-void ClosePopup();  // nothing if none is open
 
 // Where menus are seen to open: one opens, and an item of an open one is clicked.
 void OpenMenu(MenuItem& menu);
@@ -39,7 +31,6 @@ void ReleaseMouse(Control& control, Mouse mouse);  // reaches the control that w
 void MoveMouseOverWindow(Window& window, Mouse mouse);
 void PressMouseOnWindow(Window& window, Mouse mouse);
 
-Mouse AtCorner(const Control& control, MouseButton button);  // at its upper left corner, in its own scale
 void ClickControl(Control& control);       // a press and release of the left button there, and what the kind does at a click
 void FinishClick(Control& control);        // only what the kind does at a click, after its press and release
 void FinishDoubleClick(Control& control);  // the double click itself, after the events of its clicks

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/user.h"
 #include "platform/window_table.h"
 
 namespace {
@@ -22,9 +21,7 @@ void Tell(Window& window, WindowProperty property) {
 
 // What was marked in a box that is left is not typed over when the focus comes back.
 void Deselect(Control& control) {
-    if (control.kind() != Kind::TextBox && control.kind() != Kind::ComboBox) return;
-    auto& holder = static_cast<TextHolder&>(control);
-    holder.SetSelStart(holder.SelStart());
+    if (TextHolder* const holder = control.AsTextHolder()) holder->Deselect();
 }
 
 Window* Foremost() {
@@ -63,7 +60,7 @@ void BindWindowView(WindowView* view) {
 void ChangeActiveWindow() {
     Window* const next = Foremost();
     if (next == active) return;
-    ClosePopup();
+    SetOpenedPopup(nullptr);
     Window* const left = active;
     active = next;
     if (left) left->LeaveFocus();
@@ -86,6 +83,7 @@ void Window::Lay(std::initializer_list<ControlRow> rows) {
         row.control.name = row.name.name;
         row.control.index = row.name.index;
         row.control.window = this;
+        row.control.BelongTo(*this);
         row.control.container = row.container;
         controls_.push_back(&row.control);
     }
@@ -193,9 +191,18 @@ void Window::LeaveFocus() {
 }
 
 void Window::EnterFocus() {
-    if (!focus_ && first_focus_ && IsUsable(*first_focus_)) {
+    if (!focus_ && first_focus_ && first_focus_->IsUsable()) {
         focus_ = first_focus_;
         Tell(*this, WindowProperty::Focus);
     }
     if (focus_) focus_->GotFocus.Raise();
+}
+
+bool CanReach(const Control& control) {
+    const Window& window = *control.window;
+    return window.IsLoaded() && window.Visible() && window.Enabled() && control.IsUsable();
+}
+
+bool HoldsFocus(const Control& control) {
+    return control.window == ActiveWindow() && control.window->Focus() == &control && CanReach(control);
 }

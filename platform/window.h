@@ -18,7 +18,7 @@ public:
     virtual void Changed(Window& window, WindowProperty property) = 0;
 };
 
-class Window {
+class Window : public ControlOwner {
 public:
     Window(const char* name, const char* title, int width, int height);  // twips, without the frame and the menu bar
     Window(const Window&) = delete;
@@ -63,9 +63,9 @@ public:
     void SetPlace(int left, int top);
 
     Control* Focus() const { return focus_; }
-    void SetFocus(Control& control);
+    void SetFocus(Control& control) override;
 
-    const std::vector<Control*>& Controls() const { return controls_; }
+    const std::vector<Control*>& Controls() const override { return controls_; }
     // The controls among which Tab goes round and round from this one, in order; empty: the stops of the whole window.
     virtual std::vector<Control*> RoundOf(const Control& /*control*/) { return {}; }
     Control* Find(const std::string& control_name, int index) const;  // index -1: not of an array; nullptr if there is none
@@ -99,3 +99,8 @@ const std::vector<Window*>& AllWindows();    // in no special order
 const std::vector<Window*>& ShownWindows();  // from the back to the front
 Window* ActiveWindow();                      // nullptr if none is shown and enabled
 void BindWindowView(WindowView* view);       // nullptr: nobody looks
+
+// Its window is loaded, shown and enabled, and it is usable there. An item of a menu that is hidden from the bar can be reached while its
+// popup is open.
+bool CanReach(const Control& control);
+bool HoldsFocus(const Control& control);  // in the active window, where it can be reached

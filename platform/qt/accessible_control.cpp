@@ -146,8 +146,8 @@ void AccessibleControl::doAction(const QString& action) {
 // would do more.
 void FocusForReader(Control& control) {
     if (!TakesFocus(control.kind()) || !CanReach(control)) return;
-    if (control.kind() == Kind::TextBox || control.kind() == Kind::ComboBox) {
-        const Mouse mouse = AtCorner(control, MouseButton::Left);
+    if (control.AsTextHolder()) {
+        const Mouse mouse = control.AtCorner(MouseButton::Left);
         PressMouse(control, mouse);
         return ReleaseMouse(control, mouse);
     }

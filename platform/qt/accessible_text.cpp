@@ -19,10 +19,6 @@ void SelectIn(QWidget& editor, int start, int end) {
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     area.setTextCursor(cursor);
 }
-
-bool IsMultiline(const Control& box) {
-    return box.kind() == Kind::TextBox && static_cast<const TextBox&>(box).multiline;
-}
 }  // namespace
 
 AccessibleText::AccessibleText(TextHolder& box, QWidget& editor) : AccessibleControl(box, editor, QAccessible::EditableText), box_(box) {}
@@ -36,7 +32,7 @@ QAccessible::State AccessibleText::state() const {
     QAccessible::State state = AccessibleControl::state();
     state.editable = true;
     state.readOnly = !CanReach(box_);
-    state.multiLine = IsMultiline(box_);
+    state.multiLine = box_.BreaksLines();
     state.selectableText = true;
     return state;
 }

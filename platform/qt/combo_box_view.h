@@ -4,6 +4,7 @@
 #include "platform/qt/combo_list.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/text_line.h"
+#include "platform/window.h"
 
 class ComboBoxView : public ControlWidget {
 public:

@@ -37,12 +37,8 @@ bool IsClipboardKey(const QKeyEvent& key) {
            key.matches(QKeySequence::SelectAll);
 }
 
-bool TakesText(const Control& control) {
-    return control.kind() == Kind::ComboBox || (control.kind() == Kind::TextBox && static_cast<const TextBox&>(control).takes_text);
-}
-
 bool IsSink(const Control& control) {
-    return control.kind() == Kind::TextBox && !static_cast<const TextBox&>(control).takes_text;
+    return control.AsTextHolder() && !TakesText(control);
 }
 
 bool OpensMenu(const QKeyEvent& key) {

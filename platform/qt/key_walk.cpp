@@ -23,7 +23,7 @@ int AnswerCode(const QKeyEvent& key) {
     return key.key() == Qt::Key_Escape ? kEscapeKey : 0;
 }
 
-bool SelectSibling(OptionButton& option, int step) {
+bool SelectSibling(Control& option, int step) {
     Control* const next = NextInRound(Siblings(option), &option, step);
     if (next && next != &option) TheRenderer().Run([next] { ClickControl(*next); });
     return true;
@@ -46,10 +46,10 @@ bool PressFocused(Control& focus, const QKeyEvent& key) {
             break;
         case Qt::Key_Up:
         case Qt::Key_Left:
-            return focus.kind() == Kind::OptionButton && SelectSibling(static_cast<OptionButton&>(focus), -1);
+            return focus.kind() == Kind::OptionButton && SelectSibling(focus, -1);
         case Qt::Key_Down:
         case Qt::Key_Right:
-            return focus.kind() == Kind::OptionButton && SelectSibling(static_cast<OptionButton&>(focus), 1);
+            return focus.kind() == Kind::OptionButton && SelectSibling(focus, 1);
         default:
             return false;
     }

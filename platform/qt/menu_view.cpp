@@ -65,7 +65,7 @@ MenuView::~MenuView() = default;
 std::vector<MenuItem*> MenuView::ItemsOf(const MenuItem* menu) const {
     std::vector<MenuItem*> items;
     for (Control* control : window_.Controls())
-        if (control->kind() == Kind::MenuItem && control->container == menu) items.push_back(static_cast<MenuItem*>(control));
+        if (auto* const item = dynamic_cast<MenuItem*>(control); item && item->Menu() == menu) items.push_back(item);
     return items;
 }
 

@@ -52,14 +52,13 @@ void SendKey(QWidget& widget, QEvent::Type type, int code, const QString& text, 
 
 // Opens the menus on the way to an item, each from the one before. False: something on the way keeps closed.
 bool OpenMenusTo(MenuView& menus, const MenuItem& item) {
-    const auto* const menu = static_cast<const MenuItem*>(item.container);
+    const MenuItem* const menu = item.Menu();
     if (!menu) return true;
     QMenu* const popup = menus.MenuOf(*menu);
     if (popup && popup->isVisible()) return true;
     QAction* const action = menus.ActionOf(*menu);
     if (!action || !action->isEnabled() || !OpenMenusTo(menus, *menu)) return false;
-    const auto* const outer = static_cast<const MenuItem*>(menu->container);
-    if (outer)
+    if (const MenuItem* const outer = menu->Menu())
         menus.MenuOf(*outer)->setActiveAction(action);
     else
         menus.Bar().setActiveAction(action);
@@ -108,7 +107,7 @@ public:
     }
 
     void Click(Control& control) override {
-        if (control.kind() == Kind::MenuItem) return ClickItem(static_cast<MenuItem&>(control));
+        if (auto* const item = dynamic_cast<MenuItem*>(&control)) return ClickItem(*item);
         const QPointF corner = Corner(control);
         MouseOn(control, QEvent::MouseButtonPress, MouseButton::Left, corner);
         MouseOn(control, QEvent::MouseButtonRelease, MouseButton::Left, corner);
@@ -243,7 +242,7 @@ private:
         while (QWidget* const open = QApplication::activePopupWidget()) open->close();
     }
     void Choose(MenuView& menus, const MenuItem& item) {
-        auto* const menu = static_cast<const MenuItem*>(item.container);
+        const MenuItem* const menu = item.Menu();
         if (!menu) return menus.ActionOf(item)->trigger();
         menus.MenuOf(*menu)->setActiveAction(menus.ActionOf(item));
         SendKey(*menus.MenuOf(*menu), QEvent::KeyPress, kEnterKey, {}, KeyActs::Yes);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/qt/text_places.h"
+#include "platform/window.h"
 
 namespace {
 constexpr int kMostLines = 99;

@@ -3,6 +3,7 @@
 #include "platform/qt/text_area.h"
 #include "platform/qt/text_line.h"
 #include "platform/qt/views.h"
+#include "platform/window.h"
 
 namespace {
 // `Editor` is TextLine or TextArea.

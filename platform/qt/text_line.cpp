@@ -5,19 +5,19 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/controls.h"
 #include "platform/qt/text_places.h"
+#include "platform/window.h"
 
 namespace {
 constexpr int kMostLines = 2;
 constexpr int kOwnMargin = 2;  // of a line edit
 }  // namespace
 
-TextLine::TextLine(QWidget* parent, Control& box, ModelView& view) : QLineEdit(parent), box_(box) {
+TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdit(parent), box_(box) {
     PrepareEditor(*this, box);
     setFrame(false);
     setDragEnabled(false);
-    if (box.kind() == Kind::TextBox && static_cast<TextBox&>(box).centred) setAlignment(Qt::AlignCenter);
+    if (box.IsCentred()) setAlignment(Qt::AlignCenter);
     connect(this, &QLineEdit::textEdited, this, [this, &view](const QString& text) { TellText(box_, view, text, cursorPosition()); });
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextLine::TellCaret);
     connect(this, &QLineEdit::selectionChanged, this, &TextLine::TellCaret);
@@ -33,15 +33,14 @@ void TextLine::Agree(const QFont& font, double factor) {
     const QSignalBlocker blocker(this);
     font_ = font;
     factor_ = factor;
-    if (const QString wanted = Shown(box_.State().text); text() != wanted) setText(wanted);
+    if (const QString wanted = Shown(box_.Text()); text() != wanted) setText(wanted);
     AgreeAboutCaret();
     if (hasFocus()) AgreeForEditing();
 }
 
 void TextLine::AgreeAboutCaret() {
-    const auto& holder = static_cast<const TextHolder&>(box_);
-    const int start = UnitAfter(text(), holder.SelStart());
-    const int length = UnitAfter(text(), holder.SelStart() + holder.SelLength()) - start;
+    const int start = UnitAfter(text(), box_.SelStart());
+    const int length = UnitAfter(text(), box_.SelStart() + box_.SelLength()) - start;
     if (selectionLength() == length && (length > 0 ? selectionStart() : cursorPosition()) == start) return;
     if (length > 0)
         setSelection(start, length);
@@ -63,13 +62,9 @@ void TextLine::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
 }
 
-bool TextLine::HoldsPlaceholder() const {
-    return box_.kind() == Kind::TextBox && !text().isEmpty() && box_.State().text == static_cast<const TextBox&>(box_).placeholder;
-}
-
 // The click that comes into a box with a placeholder marks it; once in, clicks and drags are as in any other text.
 void TextLine::mousePressEvent(QMouseEvent* event) {
-    marks_ = std::exchange(comes_in_, false) && event->button() == Qt::LeftButton && HoldsPlaceholder();
+    marks_ = std::exchange(comes_in_, false) && event->button() == Qt::LeftButton && box_.HoldsPlaceholder();
     if (marks_)
         selectAll();
     else

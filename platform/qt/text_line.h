@@ -7,7 +7,7 @@
 
 class TextLine : public QLineEdit {
 public:
-    TextLine(QWidget* parent, Control& box, ModelView& view);
+    TextLine(QWidget* parent, TextHolder& box, ModelView& view);
     void Agree(const QFont& font, double factor);  // with the box
 
 protected:
@@ -17,12 +17,11 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
-    bool HoldsPlaceholder() const;
     void TellCaret();
     void AgreeAboutCaret();  // and about what is selected
     void AgreeForEditing();  // what only matters while it holds the keyboard
 
-    Control& box_;
+    TextHolder& box_;
     QFont font_;
     double factor_ = 0;
     bool comes_in_ = false;  // the keyboard has just come here

@@ -240,7 +240,7 @@ void WindowWidget::changeEvent(QEvent* event) {
 
 void WindowWidget::AgreeAboutFocus() {
     const Control* const focus = window_.Focus();
-    ControlWidget* const holder = focus && IsUsable(*focus) ? Find(*focus) : nullptr;
+    ControlWidget* const holder = focus && focus->IsUsable() ? Find(*focus) : nullptr;
     QWidget* const wanted = holder ? holder->FocusWidget() : this;
     if (focusWidget() != wanted || !wanted->hasFocus()) wanted->setFocus(Qt::OtherFocusReason);
 }
