@@ -14,6 +14,21 @@
 class Window;
 class Control;
 class TextHolder;
+class Button;
+class CheckBox;
+class ComboBox;
+class Frame;
+class Label;
+class MenuItem;
+class OptionButton;
+class PictureBox;
+class ProgressBar;
+class ScrollBar;
+class Slider;
+class StatusBar;
+class TabControl;
+class TextBox;
+class UpDown;
 
 enum class Kind {
     TextBox,
@@ -87,6 +102,29 @@ struct Properties {
 };
 
 bool TakesFocus(Kind kind);  // at a click
+
+// What is done differently for each kind: Control::Accept calls the function of its own.
+class ControlVisitor {
+public:
+    virtual void Visit(TextBox& box) = 0;
+    virtual void Visit(Label& label) = 0;
+    virtual void Visit(Button& button) = 0;
+    virtual void Visit(OptionButton& option) = 0;
+    virtual void Visit(CheckBox& box) = 0;
+    virtual void Visit(ComboBox& box) = 0;
+    virtual void Visit(Frame& frame) = 0;
+    virtual void Visit(TabControl& tabs) = 0;
+    virtual void Visit(PictureBox& picture) = 0;
+    virtual void Visit(ProgressBar& bar) = 0;
+    virtual void Visit(Slider& slider) = 0;
+    virtual void Visit(ScrollBar& bar) = 0;
+    virtual void Visit(UpDown& arrows) = 0;
+    virtual void Visit(StatusBar& bar) = 0;
+    virtual void Visit(MenuItem& item) = 0;
+
+protected:
+    ~ControlVisitor() = default;
+};
 
 // The window of a control, as far as the control needs it.
 class ControlOwner {
@@ -165,6 +203,7 @@ public:
     virtual bool IsPageInFront(int /*page*/) const { return true; }  // of those that it contains
     void SetFocus();  // makes it the one with the focus in its window; nothing if it is not usable
 
+    virtual void Accept(ControlVisitor& visitor) = 0;
     virtual TextHolder* AsTextHolder() { return nullptr; }
     const TextHolder* AsTextHolder() const { return const_cast<Control*>(this)->AsTextHolder(); }
     virtual Mouse AtCorner(MouseButton button) const { return {button, 0, 0}; }  // at its upper left corner, in its own scale

@@ -39,6 +39,7 @@ private:
 class TextBox : public TextHolder {
 public:
     TextBox() : TextHolder(Kind::TextBox) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
     bool multiline = false;  // set once, with the design
     bool centred = false;
@@ -56,6 +57,7 @@ public:
 class Label : public Control {
 public:
     Label() : Control(Kind::Label) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption);  // raises Change
     bool centred = false;
@@ -65,6 +67,7 @@ public:
 class Button : public Control {
 public:
     Button() : Control(Kind::Button) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
 };
@@ -73,6 +76,7 @@ public:
 class OptionButton : public Control {
 public:
     OptionButton() : Control(Kind::OptionButton) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
     bool Value() const { return now_.selected; }
@@ -83,6 +87,7 @@ public:
 class CheckBox : public Control {
 public:
     CheckBox() : Control(Kind::CheckBox) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
     int Value() const { return now_.ticked; }
@@ -93,6 +98,7 @@ public:
 class ComboBox : public TextHolder {
 public:
     ComboBox() : TextHolder(Kind::ComboBox) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
     Event<> Edited;               // the user typed into the text box; Change is raised as well
     void TakeClick() override {}  // its Click is the choice of an item
@@ -111,6 +117,7 @@ private:
 class Frame : public Control {
 public:
     Frame() : Control(Kind::Frame) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     const std::string& Caption() const { return now_.text; }
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
     bool Border() const { return now_.border; }  // without it the caption is not shown either
@@ -120,6 +127,7 @@ public:
 class TabControl : public Control {
 public:
     TabControl() : Control(Kind::TabControl) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     int Tab() const { return now_.tab; }
     void SetTab(int tab);  // raises Change
     bool IsPageInFront(int page) const override { return page == Tab(); }
@@ -130,6 +138,7 @@ public:
 class ProgressBar : public Control {
 public:
     ProgressBar() : Control(Kind::ProgressBar) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     int Value() const { return now_.value; }
     int Min() const { return now_.minimum; }
     int Max() const { return now_.maximum; }
@@ -156,17 +165,20 @@ protected:
 class Slider : public RangeControl {
 public:
     Slider() : RangeControl(Kind::Slider) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     bool vertical = false;
 };
 
 class ScrollBar : public RangeControl {
 public:
     ScrollBar() : RangeControl(Kind::ScrollBar) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 };
 
 class UpDown : public Control {
 public:
     UpDown() : Control(Kind::UpDown) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     Event<> UpClick;
     Event<> DownClick;
 };
@@ -174,12 +186,14 @@ public:
 class StatusBar : public Control {
 public:
     StatusBar() : Control(Kind::StatusBar) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 };
 
 // An item of a menu bar or popup. Its container is the menu it stands in. Clicking an item first raises Click of the menus on its way.
 class MenuItem : public Control {
 public:
     MenuItem() : Control(Kind::MenuItem) {}
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
     const std::string& Caption() const { return now_.text; }  // "&" stands before the access key, "-" alone is a separator
     void SetCaption(const std::string& caption) { Assign(now_.text, caption, Property::Caption); }
     bool Checked() const { return now_.checked; }

@@ -25,6 +25,7 @@ struct DrawOperation {
 class PictureBox : public Control {
 public:
     PictureBox() : Control(Kind::PictureBox) { now_.back = kWhite; }
+    void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
     std::string image;  // a drawing that the program brings along, shown under all else; set once, with the design
 

@@ -1,37 +1,37 @@
 #include "platform/qt/views.h"
 
+namespace {
+class ViewMaker : public ControlVisitor {
+public:
+    ViewMaker(WindowWidget& window, ControlWidget* owner) : window_(window), owner_(owner) {}
+
+    std::unique_ptr<ControlWidget> Take() { return std::move(view_); }
+
+    void Visit(TextBox& box) override { view_ = MakeView(box, window_, owner_); }
+    void Visit(Label& label) override { view_ = MakeView(label, window_, owner_); }
+    void Visit(Button& button) override { view_ = MakeView(button, window_, owner_); }
+    void Visit(OptionButton& option) override { view_ = MakeView(option, window_, owner_); }
+    void Visit(CheckBox& box) override { view_ = MakeView(box, window_, owner_); }
+    void Visit(ComboBox& box) override { view_ = MakeView(box, window_, owner_); }
+    void Visit(Frame& frame) override { view_ = MakeView(frame, window_, owner_); }
+    void Visit(TabControl& tabs) override { view_ = MakeView(tabs, window_, owner_); }
+    void Visit(PictureBox& picture) override { view_ = MakeView(picture, window_, owner_); }
+    void Visit(ProgressBar& bar) override { view_ = MakeView(bar, window_, owner_); }
+    void Visit(Slider& slider) override { view_ = MakeView(slider, window_, owner_); }
+    void Visit(ScrollBar& bar) override { view_ = MakeView(bar, window_, owner_); }
+    void Visit(UpDown& arrows) override { view_ = MakeView(arrows, window_, owner_); }
+    void Visit(StatusBar& bar) override { view_ = MakeView(bar, window_, owner_); }
+    void Visit(MenuItem&) override {}  // the menu bar shows it
+
+private:
+    WindowWidget& window_;
+    ControlWidget* owner_;
+    std::unique_ptr<ControlWidget> view_;
+};
+}  // namespace
+
 std::unique_ptr<ControlWidget> ControlWidget::Make(Control& control, WindowWidget& window, ControlWidget* owner) {
-    switch (control.kind()) {
-        case Kind::TextBox:
-            return MakeView(static_cast<TextBox&>(control), window, owner);
-        case Kind::Label:
-            return MakeView(static_cast<Label&>(control), window, owner);
-        case Kind::Button:
-            return MakeView(static_cast<Button&>(control), window, owner);
-        case Kind::OptionButton:
-            return MakeView(static_cast<OptionButton&>(control), window, owner);
-        case Kind::CheckBox:
-            return MakeView(static_cast<CheckBox&>(control), window, owner);
-        case Kind::ComboBox:
-            return MakeView(static_cast<ComboBox&>(control), window, owner);
-        case Kind::Frame:
-            return MakeView(static_cast<Frame&>(control), window, owner);
-        case Kind::TabControl:
-            return MakeView(static_cast<TabControl&>(control), window, owner);
-        case Kind::PictureBox:
-            return MakeView(static_cast<PictureBox&>(control), window, owner);
-        case Kind::ProgressBar:
-            return MakeView(static_cast<ProgressBar&>(control), window, owner);
-        case Kind::Slider:
-            return MakeView(static_cast<Slider&>(control), window, owner);
-        case Kind::ScrollBar:
-            return MakeView(static_cast<ScrollBar&>(control), window, owner);
-        case Kind::UpDown:
-            return MakeView(static_cast<UpDown&>(control), window, owner);
-        case Kind::StatusBar:
-            return MakeView(static_cast<StatusBar&>(control), window, owner);
-        case Kind::MenuItem:
-            break;  // the menu bar shows it
-    }
-    return nullptr;
+    ViewMaker maker(window, owner);
+    control.Accept(maker);
+    return maker.Take();
 }
