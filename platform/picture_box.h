@@ -42,10 +42,10 @@ public:
     void SetScaleWidth(double width) { scale_width_ = width; }
     void SetScaleHeight(double height) { scale_height_ = height; }
 
-    // All in the scale of the moment. A filled rectangle over the whole scale area drops what lies under it.
-    void Line(double x1, double y1, double x2, double y2, Colour colour);
-    void FilledRectangle(double x1, double y1, double x2, double y2, Colour fill);
-    void Circle(double x, double y, double radius, Colour rim, Colour fill);
+    // All in the scale of the moment.
+    void Line(double x1, double y1, double x2, double y2, Colour colour);           // both end points belong to it
+    void FilledRectangle(double x1, double y1, double x2, double y2, Colour fill);  // over the whole scale area: drops what lies under it
+    void Circle(double x, double y, double radius, Colour rim, Colour fill);  // the radius in units of x; as far up and down on the screen
     void Print(double x, double y, double points, const std::string& text, Colour colour);  // (x, y): its upper left corner
     void Name(double x, double y, bool italic, const std::string& text);                    // in pixels
 
