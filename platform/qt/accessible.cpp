@@ -47,40 +47,8 @@ QAccessibleInterface* Make(const QString&, QObject* object) {
     MenuItem* const item = action ? window->Menus().ItemOf(*action) : nullptr;
     return item ? new AccessibleMenuItem(*item, *action) : nullptr;
 }
-
-void Tell(QWidget& widget, QAccessible::Event type) {
-    QAccessibleEvent event(&widget, type);
-    QAccessible::updateAccessibility(&event);
-}
-
-bool IsSeen(const QWidget* widget) {
-    return widget && widget->isVisible();
-}
 }  // namespace
 
 void OpenToReaders() {
     QAccessible::installFactory(Make);
-}
-
-void TellCaption(const Control& control) {
-    if (QWidget* const own = WidgetOf(control); IsSeen(own)) Tell(*own, QAccessible::NameChanged);
-}
-
-void TellNames(const Control& control) {
-    for (const Control* other : control.window->Controls()) {
-        if (other->named_by != &control) continue;
-        if (QWidget* const named = WidgetOf(*other); IsSeen(named)) Tell(*named, QAccessible::NameChanged);
-    }
-}
-
-void TellValue(const Control& control) {
-    QWidget* const widget = WidgetOf(control);
-    if (!IsSeen(widget)) return;
-    QAccessibleInterface* const shown = QAccessible::queryAccessibleInterface(widget);
-    if (shown->valueInterface()) {
-        QAccessibleValueChangeEvent event(widget, shown->text(QAccessible::Value));
-        QAccessible::updateAccessibility(&event);
-    }
-    if (control.kind() != Kind::TabControl) return;
-    if (QWidget* const page = PageOf(static_cast<const TabControl&>(control), control.State().tab)) Tell(*page, QAccessible::Selection);
 }

@@ -1,7 +1,6 @@
 #include "platform/qt/box_editing.h"
 
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/text_places.h"
 #include "platform/user.h"
 
@@ -11,7 +10,7 @@ constexpr double kMarginTwips = 40;
 
 void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret) {
     view.Changed(Property::Text);  // a procedure may have refused it
-    TheRenderer().Run([&] { EnterText(box, Unshown(shown), CharactersBefore(shown, caret)); });
+    view.Events().Run([&] { EnterText(box, Unshown(shown), CharactersBefore(shown, caret)); });
 }
 
 void TellSelection(TextHolder& box, const QString& shown, int start, int length) {

@@ -15,7 +15,7 @@ QColor Face(const QPushButton& button, Colour back) {
 
 class ButtonView : public ControlWidget {
 public:
-    ButtonView(Button& button, WindowWidget& window, ControlWidget* owner) : ControlWidget(button, window, owner), model_(button) {
+    ButtonView(Button& button, ViewHost& window, ControlWidget* owner) : ControlWidget(button, window, owner), model_(button) {
         button_ = new Painted<QPushButton>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         button_->setAutoDefault(false);
         Adopt(button_);
@@ -45,6 +45,6 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(Button& button, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(Button& button, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<ButtonView>(button, window, owner);
 }

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/views.h"
 #include "platform/user.h"
 
@@ -13,7 +12,7 @@ namespace {
 constexpr double kArrowTwips = 270;
 }
 
-ComboBoxView::ComboBoxView(ComboBox& box, WindowWidget& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
+ComboBoxView::ComboBoxView(ComboBox& box, ViewHost& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
     field_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { PaintArrow(painter); });
     Adopt(field_);
     line_ = new TextLine(field_, box, *this);
@@ -40,7 +39,7 @@ void ComboBoxView::Press(const Mouse& mouse, QPointF at) {
 }
 
 ComboList& ComboBoxView::OpenList() {
-    if (!list_) list_ = new ComboList(field_, box_, [this](int item) { TheRenderer().Run([&] { ChooseItem(box_, item); }); });
+    if (!list_) list_ = new ComboList(field_, box_, [this](int item) { Events().Run([&] { ChooseItem(box_, item); }); });
     list_->setFont(Font());
     list_->OpenBelow(*field_);
     return *list_;
@@ -67,6 +66,6 @@ void ComboBoxView::PaintArrow(QPainter& painter) {
     painter.drawPolyline(QPolygonF({middle + QPointF(-half, -half / 2), middle + QPointF(0, half / 2), middle + QPointF(half, -half / 2)}));
 }
 
-std::unique_ptr<ControlWidget> MakeView(ComboBox& box, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(ComboBox& box, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<ComboBoxView>(box, window, owner);
 }

@@ -8,7 +8,7 @@
 
 class ComboBoxView : public ControlWidget {
 public:
-    ComboBoxView(ComboBox& box, WindowWidget& window, ControlWidget* owner);
+    ComboBoxView(ComboBox& box, ViewHost& window, ControlWidget* owner);
 
     QWidget* FocusWidget() override { return line_; }
     QWidget* MouseWidget() override { return line_; }

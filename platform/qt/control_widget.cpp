@@ -3,13 +3,12 @@
 #include <QAccessible>
 #include <utility>
 
-#include "platform/qt/accessible.h"
 #include "platform/qt/look.h"
 #include "platform/qt/made_mouse.h"
-#include "platform/qt/renderer.h"
+#include "platform/qt/readers.h"
 #include "platform/qt/scaling.h"
-#include "platform/qt/window_widget.h"
 #include "platform/user.h"
+#include "platform/window.h"
 
 namespace {
 MouseButton ButtonOf(Qt::MouseButtons buttons) {
@@ -49,10 +48,20 @@ void ControlWidget::Show(Changes changes) {
     if (QAccessible::isActive()) TellReaders(changes);
 }
 
-void ControlWidget::TellReaders(Changes changes) const {
-    if (changes.Has(Property::Text) || changes.Has(Property::Value)) TellValue(control_);
-    if (changes.Has(Property::Caption)) TellCaption(control_);
-    if (changes.Has(Property::Text) || changes.Has(Property::Caption)) TellNames(control_);
+void ControlWidget::TellReaders(Changes changes) {
+    if (changes.Has(Property::Text) || changes.Has(Property::Value)) {
+        TellValue(*widget_);
+        if (control_.kind() == Kind::TabControl && widget_->isVisible()) TellSelection(*Ground(control_.State().tab));
+    }
+    if (changes.Has(Property::Caption)) TellName(*widget_);
+    if (changes.Has(Property::Text) || changes.Has(Property::Caption)) TellNamesOfOthers();
+}
+
+void ControlWidget::TellNamesOfOthers() const {
+    for (const Control* other : control_.window->Controls()) {
+        if (other->named_by != &control_) continue;
+        if (QWidget* const named = window_.WidgetOf(*other)) TellName(*named);
+    }
 }
 
 void ControlWidget::Apply(Changes changes) {
@@ -108,12 +117,12 @@ bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
     const MouseButton button = ButtonOf(event.button());
     if (button == MouseButton::None) return !PassesMouse();
     if (event.type() == QEvent::MouseButtonDblClick && button == MouseButton::Left && control_.DoubleClick.IsJoined()) {
-        TheRenderer().Run([this] { FinishDoubleClick(control_); });
+        Events().Run([this] { FinishDoubleClick(control_); });
         return !PassesMouse();
     }
     pressed_ = button;
     if (button == MouseButton::Left) ShowPressed(true);
-    TheRenderer().Run([&] { Press(MouseAt(button, at), at); });
+    Events().Run([&] { Press(MouseAt(button, at), at); });
     return !PassesMouse() || event.source() == Qt::MouseEventSynthesizedByApplication;  // a script's press has no place among letters
 }
 
@@ -122,13 +131,13 @@ bool ControlWidget::TakeMove(const QMouseEvent& event, QPointF at) {
     if (held == MouseButton::None && pressed_ != MouseButton::None) {  // a menu or another program has had the release
         const MouseButton lost = std::exchange(pressed_, MouseButton::None);
         ShowPressed(false);
-        TheRenderer().Run([&] { Release(MouseAt(lost, at), false); });
+        Events().Run([&] { Release(MouseAt(lost, at), false); });
     }
     if (LeavesWith(event, at)) {
         MoveElsewhere(at);
         return true;
     }
-    TheRenderer().Run([&] { MoveMouse(control_, MouseAt(held, at)); });
+    Events().Run([&] { MoveMouse(control_, MouseAt(held, at)); });
     return held == MouseButton::None || !PassesMouse();
 }
 
@@ -153,6 +162,6 @@ bool ControlWidget::TakeRelease(const QMouseEvent& event, QPointF at) {
     pressed_ = MouseButton::None;
     ShowPressed(false);
     const bool clicks = button == MouseButton::Left && QRectF(widget_->rect()).contains(at);
-    TheRenderer().Run([&] { Release(MouseAt(button, at), clicks); });
+    Events().Run([&] { Release(MouseAt(button, at), clicks); });
     return !PassesMouse();
 }

@@ -5,17 +5,23 @@
 #include <QPainter>
 #include <QWidget>
 #include <functional>
-#include <memory>
 
 #include "platform/qt/model_view.h"
 
-class WindowWidget;
+// The window of the screen on which controls are shown, as far as they need it.
+class ViewHost {
+public:
+    virtual UserEvents& Events() const = 0;
+    virtual QWidget* Ground() const = 0;                          // where the controls lie that no other contains
+    virtual double Factor() const = 0;                            // pixels a twip
+    virtual QWidget* WidgetOf(const Control& control) const = 0;  // nullptr: nothing of it is to be seen
+
+protected:
+    ~ViewHost() = default;
+};
 
 class ControlWidget : public QObject, public ModelView {
 public:
-    // Makes the view for the kind of the control, on a ground that belongs to `owner` (nullptr: the window's own).
-    static std::unique_ptr<ControlWidget> Make(Control& control, WindowWidget& window, ControlWidget* owner);
-
     Control& control() const { return control_; }
     QWidget* Widget() const { return widget_; }
     virtual QWidget* Ground(int /*page*/) { return widget_; }       // where the controls lie that this one contains
@@ -28,8 +34,8 @@ public:
     void Rescale() { Apply(Changes::All()); }
 
 protected:
-    ControlWidget(Control& control, WindowWidget& window, ControlWidget* owner)
-        : ModelView(control), control_(control), window_(window), owner_(owner) {}
+    ControlWidget(Control& control, ViewHost& window, ControlWidget* owner)
+        : ModelView(control, window.Events()), control_(control), window_(window), owner_(owner) {}
 
     QWidget* OwnerGround() const;
     void Adopt(QWidget* widget);       // the control's widget; its mouse is told to the program
@@ -52,7 +58,8 @@ protected:
 
 private:
     void Apply(Changes changes);  // what all kinds have in common
-    void TellReaders(Changes changes) const;
+    void TellReaders(Changes changes);
+    void TellNamesOfOthers() const;  // of the controls that are called after this one
     bool TakePress(const QMouseEvent& event, QPointF at);
     bool TakeMove(const QMouseEvent& event, QPointF at);
     bool LeavesWith(const QMouseEvent& event, QPointF at) const;
@@ -60,7 +67,7 @@ private:
     bool TakeRelease(const QMouseEvent& event, QPointF at);
 
     Control& control_;
-    WindowWidget& window_;
+    ViewHost& window_;
     ControlWidget* owner_;
     QWidget* widget_ = nullptr;
     MouseButton pressed_ = MouseButton::None;

@@ -7,7 +7,7 @@
 namespace {
 class FrameView : public ControlWidget {
 public:
-    FrameView(Frame& frame, WindowWidget& window, ControlWidget* owner) : ControlWidget(frame, window, owner), frame_(frame) {
+    FrameView(Frame& frame, ViewHost& window, ControlWidget* owner) : ControlWidget(frame, window, owner), frame_(frame) {
         ground_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         Adopt(ground_);
     }
@@ -39,7 +39,7 @@ private:
 
 class StatusBarView : public ControlWidget {
 public:
-    StatusBarView(StatusBar& bar, WindowWidget& window, ControlWidget* owner) : ControlWidget(bar, window, owner) {
+    StatusBarView(StatusBar& bar, ViewHost& window, ControlWidget* owner) : ControlWidget(bar, window, owner) {
         strip_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) {
             painter.fillRect(strip_->rect(), ToQt(control().BackColor()));
             painter.fillRect(QRect(0, 0, strip_->width(), 1), kOutline);
@@ -54,10 +54,10 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(Frame& frame, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(Frame& frame, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<FrameView>(frame, window, owner);
 }
 
-std::unique_ptr<ControlWidget> MakeView(StatusBar& bar, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(StatusBar& bar, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<StatusBarView>(bar, window, owner);
 }

@@ -7,7 +7,7 @@ constexpr int kMostLines = 99;
 
 class LabelView : public ControlWidget {
 public:
-    LabelView(Label& label, WindowWidget& window, ControlWidget* owner) : ControlWidget(label, window, owner), label_(label) {
+    LabelView(Label& label, ViewHost& window, ControlWidget* owner) : ControlWidget(label, window, owner), label_(label) {
         words_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         Adopt(words_);
     }
@@ -30,6 +30,6 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(Label& label, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(Label& label, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<LabelView>(label, window, owner);
 }

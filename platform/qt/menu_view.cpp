@@ -5,19 +5,18 @@
 #include <QMenu>
 
 #include "platform/qt/look.h"
-#include "platform/qt/model_view.h"
-#include "platform/qt/renderer.h"
 #include "platform/user.h"
 
 // One item: its action, and the menu that it opens if it has items of its own.
 class MenuItemView : public ModelView {
 public:
-    MenuItemView(MenuItem& item, QAction* action, QMenu* menu) : ModelView(item), item_(item), action_(action), menu_(menu) {
+    MenuItemView(MenuItem& item, UserEvents& events, QAction* action, QMenu* menu)
+        : ModelView(item, events), item_(item), action_(action), menu_(menu) {
         Show(Changes::All());
         if (menu_) return;
         QObject::connect(action_, &QAction::triggered, action_, [this] {
             Changed(Property::Checked);  // the action has turned its own mark over
-            TheRenderer().Run([this] { ClickOpenMenuItem(item_); });
+            Events().Run([this] { ClickOpenMenuItem(item_); });
         });
     }
 
@@ -49,7 +48,7 @@ void SelectFirst(QMenu& menu) {
 }
 }  // namespace
 
-MenuView::MenuView(Window& window, QWidget& widget) : window_(window), bar_(new QMenuBar(&widget)) {
+MenuView::MenuView(Window& window, QWidget& widget, UserEvents& events) : window_(window), events_(events), bar_(new QMenuBar(&widget)) {
 #ifndef Q_OS_MACOS
     bar_->setNativeMenuBar(false);
 #endif
@@ -74,11 +73,11 @@ void MenuView::Make(MenuItem& item, QWidget& place) {
     QMenu* const menu = inner.empty() ? nullptr : new QMenu(&place);
     QAction* const action = menu ? menu->menuAction() : new QAction(&place);
     place.addAction(action);
-    items_[&item] = std::make_unique<MenuItemView>(item, action, menu);
+    items_[&item] = std::make_unique<MenuItemView>(item, events_, action, menu);
     if (!menu) return;
     menu->setFont(font_);
     const bool pops_up = !item.container && !item.Visible();
-    if (!pops_up) QObject::connect(menu, &QMenu::aboutToShow, menu, [&item] { TheRenderer().Run([&item] { OpenMenu(item); }); });
+    if (!pops_up) QObject::connect(menu, &QMenu::aboutToShow, menu, [this, &item] { events_.Run([&item] { OpenMenu(item); }); });
     for (MenuItem* one : inner) Make(*one, *menu);
 }
 

@@ -9,13 +9,14 @@
 #include <memory>
 #include <vector>
 
+#include "platform/qt/model_view.h"
 #include "platform/window.h"
 
 class MenuItemView;
 
 class MenuView {
 public:
-    MenuView(Window& window, QWidget& widget);
+    MenuView(Window& window, QWidget& widget, UserEvents& events);
     ~MenuView();
     MenuView(const MenuView&) = delete;
     MenuView& operator=(const MenuView&) = delete;
@@ -33,6 +34,7 @@ private:
     void Make(MenuItem& item, QWidget& place);                   // with all that it contains
 
     Window& window_;
+    UserEvents& events_;
     QMenuBar* bar_;
     QFont font_;
     std::map<const MenuItem*, std::unique_ptr<MenuItemView>> items_;

@@ -2,12 +2,10 @@
 
 #include <utility>
 
-#include "platform/qt/renderer.h"
-
 void ModelView::Changed(Property property) {
-    if (!changes_.Any()) TheRenderer().Note(*this);
+    if (!changes_.Any()) events_.Note(*this);
     changes_.Add(property);
-    if (property == Property::Text) TheRenderer().NoteText();
+    if (property == Property::Text) events_.NoteText();
 }
 
 void ModelView::Agree() {

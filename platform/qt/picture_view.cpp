@@ -17,8 +17,7 @@ namespace {
 // changes, only the part that looks different is painted again: a key counts one sample, and its row alone is new in the diagram.
 class PictureView : public ControlWidget {
 public:
-    PictureView(PictureBox& picture, WindowWidget& window, ControlWidget* owner)
-        : ControlWidget(picture, window, owner), picture_(picture) {
+    PictureView(PictureBox& picture, ViewHost& window, ControlWidget* owner) : ControlWidget(picture, window, owner), picture_(picture) {
         canvas_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         canvas_->setAttribute(Qt::WA_OpaquePaintEvent);
         Adopt(canvas_);
@@ -140,6 +139,6 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(PictureBox& picture, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(PictureBox& picture, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<PictureView>(picture, window, owner);
 }

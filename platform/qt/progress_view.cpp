@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/views.h"
 
 namespace {
@@ -12,7 +11,7 @@ constexpr int kShortestMs = 15;  // up to the first repaint and between two: nob
 // The bar moves while an event still runs, so it is repainted at once; what is over sooner than that shows no bar.
 class ProgressView : public ControlWidget {
 public:
-    ProgressView(ProgressBar& bar, WindowWidget& window, ControlWidget* owner) : ControlWidget(bar, window, owner), bar_(bar) {
+    ProgressView(ProgressBar& bar, ViewHost& window, ControlWidget* owner) : ControlWidget(bar, window, owner), bar_(bar) {
         shown_ = new Painted<QProgressBar>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         Adopt(shown_);
         since_repaint_.start();
@@ -21,7 +20,7 @@ public:
     void Changed(Property property) override {
         ControlWidget::Changed(property);
         if (property == Property::Visible) since_repaint_.restart();
-        if (property != Property::Value || !bar_.Visible() || !TheRenderer().InEvent() || since_repaint_.elapsed() < kShortestMs) return;
+        if (property != Property::Value || !bar_.Visible() || !Events().InEvent() || since_repaint_.elapsed() < kShortestMs) return;
         Agree();  // alone: what else has changed may be half done
         shown_->repaint();
         since_repaint_.restart();
@@ -47,6 +46,6 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(ProgressBar& bar, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(ProgressBar& bar, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<ProgressView>(bar, window, owner);
 }

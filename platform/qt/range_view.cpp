@@ -6,7 +6,6 @@
 #include <QSlider>
 
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/views.h"
 #include "platform/user.h"
 
@@ -14,13 +13,13 @@ namespace {
 class RangeView : public ControlWidget {
 public:
     // `make` makes the widget on the ground it is given.
-    RangeView(RangeControl& range, WindowWidget& window, ControlWidget* owner, const std::function<QAbstractSlider*(QWidget*)>& make)
+    RangeView(RangeControl& range, ViewHost& window, ControlWidget* owner, const std::function<QAbstractSlider*(QWidget*)>& make)
         : ControlWidget(range, window, owner), range_(range), slider_(make(OwnerGround())) {
         slider_->setObjectName(kScaledRange);
         Adopt(slider_);
         connect(slider_, &QAbstractSlider::valueChanged, this, [this](int value) {
             RangeView::Changed(Property::Value);  // a procedure may put it elsewhere
-            TheRenderer().Run([&] { SlideTo(range_, value); });
+            Events().Run([&] { SlideTo(range_, value); });
         });
     }
 
@@ -44,7 +43,7 @@ private:
 }  // namespace
 
 // The lower end of a vertical slider is above, as samples stand in a diagram.
-std::unique_ptr<ControlWidget> MakeView(Slider& slider, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(Slider& slider, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<RangeView>(slider, window, owner, [&slider](QWidget* ground) {
         auto* const shown = new QSlider(slider.vertical ? Qt::Vertical : Qt::Horizontal, ground);
         shown->setInvertedAppearance(slider.vertical);
@@ -53,7 +52,7 @@ std::unique_ptr<ControlWidget> MakeView(Slider& slider, WindowWidget& window, Co
     });
 }
 
-std::unique_ptr<ControlWidget> MakeView(ScrollBar& bar, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(ScrollBar& bar, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<RangeView>(bar, window, owner, [&bar](QWidget* ground) {
         return new QScrollBar(bar.Width() >= bar.Height() ? Qt::Horizontal : Qt::Vertical, ground);
     });

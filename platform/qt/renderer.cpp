@@ -4,7 +4,6 @@
 #include <QTimer>
 #include <utility>
 
-#include "platform/qt/model_view.h"
 #include "platform/qt/pointer.h"
 #include "platform/qt/window_widget.h"
 #include "platform/run_event.h"
@@ -83,7 +82,7 @@ WindowWidget* Renderer::ActiveWidget() const {
 void Renderer::AgreeAboutWindows() {
     for (Window* window : std::vector<Window*>(ShownWindows())) {  // a copy: a window that comes to the front moves in the list
         auto& widget = widgets_[window];
-        if (!widget) widget = std::make_unique<WindowWidget>(*window);
+        if (!widget) widget = std::make_unique<WindowWidget>(*window, *this);
         if (widget->isVisible())
             widget->Agree();
         else

@@ -11,20 +11,20 @@
 #include <vector>
 
 #include "platform/controls.h"
+#include "platform/qt/model_view.h"
 #include "platform/window.h"
 
-class ModelView;
 class WindowWidget;
 
-class Renderer : public QObject, private WindowView {
+class Renderer : public QObject, public UserEvents, private WindowView {
 public:
     // Binds itself to the windows. No event reaches the program once it `has_ended`.
     explicit Renderer(std::function<bool()> has_ended = [] { return false; });
     ~Renderer() override;
 
-    void Run(const std::function<void()>& event);
+    void Run(const std::function<void()>& event) override;
     void Agree();
-    bool InEvent() const { return depth_ > 0; }
+    bool InEvent() const override { return depth_ > 0; }
 
     // Called after an event that leaves no window on the screen: the user could not go on.
     void WhenNothingIsShown(std::function<void()> procedure) { nothing_is_shown_ = std::move(procedure); }
@@ -32,11 +32,11 @@ public:
     // Called after every event, when what it changed is on show.
     void WhenEventIsOver(std::function<void()> procedure) { event_is_over_ = std::move(procedure); }
 
-    void Note(ModelView& view);                        // it has something to show
+    void Note(ModelView& view) override;
     int TextChanges() const { return text_changes_; }  // grows whenever the text of a box changes
-    void NoteText() { ++text_changes_; }
+    void NoteText() override { ++text_changes_; }
     void OpenPopupAfterEvent(MenuItem& menu) { popup_ = &menu; }
-    void UserActivates(Window& window);  // a window has come to the front of the screen
+    void UserActivates(Window& window) override;
 
     WindowWidget* WidgetOf(const Window& window) const;  // nullptr while it has never been shown
     WindowWidget* ActiveWidget() const;

@@ -2,10 +2,8 @@
 #include <vector>
 
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/tab_bar.h"
 #include "platform/qt/views.h"
-#include "platform/qt/window_widget.h"
 #include "platform/user.h"
 
 namespace {
@@ -13,7 +11,7 @@ namespace {
 // hides one widget, not a hundred.
 class TabView : public ControlWidget {
 public:
-    TabView(TabControl& tabs, WindowWidget& window, ControlWidget* owner) : ControlWidget(tabs, window, owner), tabs_(tabs) {
+    TabView(TabControl& tabs, ViewHost& window, ControlWidget* owner) : ControlWidget(tabs, window, owner), tabs_(tabs) {
         whole_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         Adopt(whole_);
     }
@@ -52,7 +50,7 @@ private:
         const int step = key.key() == Qt::Key_Right ? 1 : key.key() == Qt::Key_Left ? -1 : 0;
         const int next = tabs_.Tab() + step;
         if (step == 0 || next < 0 || next >= static_cast<int>(tabs_.TabCaptions().size())) return false;
-        TheRenderer().Run([&] { PressTab(tabs_, next); });
+        Events().Run([&] { PressTab(tabs_, next); });
         return true;
     }
 
@@ -84,6 +82,6 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(TabControl& tabs, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(TabControl& tabs, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<TabView>(tabs, window, owner);
 }

@@ -10,7 +10,7 @@ namespace {
 template <class Editor>
 class TextBoxView : public ControlWidget {
 public:
-    TextBoxView(TextBox& box, WindowWidget& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
+    TextBoxView(TextBox& box, ViewHost& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
         editor_ = new Editor(OwnerGround(), box, *this);
         Adopt(editor_);
         if (MouseWidget() != editor_) WatchMouse(MouseWidget());
@@ -38,7 +38,7 @@ private:
 }  // namespace
 
 // The box that holds the focus while nothing is to be typed is not there to be seen: the window itself has the keyboard then.
-std::unique_ptr<ControlWidget> MakeView(TextBox& box, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(TextBox& box, ViewHost& window, ControlWidget* owner) {
     if (!box.takes_text) return nullptr;
     if (box.multiline) return std::make_unique<TextBoxView<TextArea>>(box, window, owner);
     return std::make_unique<TextBoxView<TextLine>>(box, window, owner);

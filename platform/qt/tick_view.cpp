@@ -41,7 +41,7 @@ protected:
 template <class Model, class Base>
 class TickView : public ControlWidget {
 public:
-    TickView(Model& model, WindowWidget& window, ControlWidget* owner) : ControlWidget(model, window, owner), model_(model) {
+    TickView(Model& model, ViewHost& window, ControlWidget* owner) : ControlWidget(model, window, owner), model_(model) {
         button_ = new TickWidget<Base>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         button_->setAutoExclusive(false);
         Adopt(button_);
@@ -76,10 +76,10 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(OptionButton& option, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(OptionButton& option, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<TickView<OptionButton, QRadioButton>>(option, window, owner);
 }
 
-std::unique_ptr<ControlWidget> MakeView(CheckBox& box, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(CheckBox& box, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<TickView<CheckBox, QCheckBox>>(box, window, owner);
 }

@@ -1,7 +1,6 @@
 #include <QTimer>
 
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/views.h"
 #include "platform/user.h"
 
@@ -12,12 +11,12 @@ constexpr int kRepeatMs = 80;
 // Two arrows, one above the other, or side by side with up at the right. Held down, an arrow repeats.
 class UpDownView : public ControlWidget {
 public:
-    UpDownView(UpDown& arrows, WindowWidget& window, ControlWidget* owner) : ControlWidget(arrows, window, owner), arrows_(arrows) {
+    UpDownView(UpDown& arrows, ViewHost& window, ControlWidget* owner) : ControlWidget(arrows, window, owner), arrows_(arrows) {
         whole_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         Adopt(whole_);
         connect(&repeat_, &QTimer::timeout, this, [this] {
             repeat_.setInterval(kRepeatMs);
-            TheRenderer().Run([this] { Spin(arrows_, up_); });
+            Events().Run([this] { Spin(arrows_, up_); });
         });
     }
 
@@ -72,6 +71,6 @@ private:
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> MakeView(UpDown& arrows, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeView(UpDown& arrows, ViewHost& window, ControlWidget* owner) {
     return std::make_unique<UpDownView>(arrows, window, owner);
 }

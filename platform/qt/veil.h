@@ -5,11 +5,11 @@
 #include <QWidget>
 
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
+#include "platform/qt/model_view.h"
 
 class Veil : public QWidget {
 public:
-    Veil(QWidget* parent, Window& window) : QWidget(parent), window_(window) { hide(); }
+    Veil(QWidget* parent, Window& window, UserEvents& events) : QWidget(parent), window_(window), events_(events) { hide(); }
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -18,8 +18,9 @@ protected:
         QPainter(this).fillRect(rect(), mist);
     }
     void showEvent(QShowEvent*) override { raise(); }
-    void mousePressEvent(QMouseEvent*) override { TheRenderer().UserActivates(window_); }
+    void mousePressEvent(QMouseEvent*) override { events_.UserActivates(window_); }
 
 private:
     Window& window_;
+    UserEvents& events_;
 };

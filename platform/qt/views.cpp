@@ -3,7 +3,7 @@
 namespace {
 class ViewMaker : public ControlVisitor {
 public:
-    ViewMaker(WindowWidget& window, ControlWidget* owner) : window_(window), owner_(owner) {}
+    ViewMaker(ViewHost& window, ControlWidget* owner) : window_(window), owner_(owner) {}
 
     std::unique_ptr<ControlWidget> Take() { return std::move(view_); }
 
@@ -24,13 +24,13 @@ public:
     void Visit(MenuItem&) override {}  // the menu bar shows it
 
 private:
-    WindowWidget& window_;
+    ViewHost& window_;
     ControlWidget* owner_;
     std::unique_ptr<ControlWidget> view_;
 };
 }  // namespace
 
-std::unique_ptr<ControlWidget> ControlWidget::Make(Control& control, WindowWidget& window, ControlWidget* owner) {
+std::unique_ptr<ControlWidget> MakeControlWidget(Control& control, ViewHost& window, ControlWidget* owner) {
     ViewMaker maker(window, owner);
     control.Accept(maker);
     return maker.Take();

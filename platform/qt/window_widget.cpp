@@ -9,12 +9,11 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/qt/control_widget.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/scaling.h"
 #include "platform/qt/veil.h"
+#include "platform/qt/views.h"
 #include "platform/qt/wayland.h"
 #include "platform/user.h"
 
@@ -29,9 +28,9 @@ QSize Pixels(QSize twips, double factor) {
 }
 }  // namespace
 
-WindowWidget::WindowWidget(Window& window)
-    : window_(window), frame_(0, kTitleBar, 0, 0), ground_(new QWidget(this)), veil_(new Veil(this, window)) {
-    menus_ = std::make_unique<MenuView>(window, *this);
+WindowWidget::WindowWidget(Window& window, UserEvents& events)
+    : window_(window), events_(events), frame_(0, kTitleBar, 0, 0), ground_(new QWidget(this)), veil_(new Veil(this, window, events)) {
+    menus_ = std::make_unique<MenuView>(window, *this, events);
     setContextMenuPolicy(Qt::PreventContextMenu);
     ground_->setMouseTracking(true);
     ground_->installEventFilter(this);
@@ -48,12 +47,17 @@ ControlWidget* WindowWidget::Build(Control& control) {
     if (control.kind() == Kind::MenuItem) return nullptr;
     if (const auto made = controls_.find(&control); made != controls_.end()) return made->second.get();
     ControlWidget* const owner = control.container ? Build(*control.container) : nullptr;
-    return (controls_[&control] = ControlWidget::Make(control, *this, owner)).get();
+    return (controls_[&control] = MakeControlWidget(control, *this, owner)).get();
 }
 
 ControlWidget* WindowWidget::Find(const Control& control) const {
     const auto found = controls_.find(&control);
     return found == controls_.end() ? nullptr : found->second.get();
+}
+
+QWidget* WindowWidget::WidgetOf(const Control& control) const {
+    const ControlWidget* const shown = Find(control);
+    return shown ? shown->Widget() : nullptr;
 }
 
 ControlWidget* WindowWidget::ShownBy(const QWidget& widget) const {
@@ -168,7 +172,7 @@ void WindowWidget::TakeUserSize() {
     resize_soon_.stop();
     const QSize client = Client().size();
     const auto twips = [this](int pixels) { return static_cast<int>(std::lround(pixels / factor_)); };
-    TheRenderer().Run([&] { ResizeWindow(window_, twips(client.width()), twips(client.height())); });
+    events_.Run([&] { ResizeWindow(window_, twips(client.width()), twips(client.height())); });
 }
 
 // ---- Front and focus ----
@@ -228,14 +232,14 @@ bool WindowWidget::StopsWaiting() {
 
 // The desktop has had its time: what it has in front now is what the user sees.
 void WindowWidget::GiveUpWaiting() {
-    if (const auto* const front = dynamic_cast<WindowWidget*>(QApplication::activeWindow())) TheRenderer().UserActivates(front->window());
+    if (const auto* const front = dynamic_cast<WindowWidget*>(QApplication::activeWindow())) events_.UserActivates(front->window());
 }
 
 void WindowWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
     waits_.stop();
-    TheRenderer().UserActivates(window_);
+    events_.UserActivates(window_);
 }
 
 void WindowWidget::AgreeAboutFocus() {
@@ -253,7 +257,7 @@ void WindowWidget::OpenPopup(MenuItem& menu) {
 
 void WindowWidget::closeEvent(QCloseEvent* event) {
     event->ignore();
-    TheRenderer().Run([this] { CloseWindow(window_); });
+    events_.Run([this] { CloseWindow(window_); });
 }
 
 bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
@@ -265,7 +269,7 @@ bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
                                : buttons & Qt::RightButton ? MouseButton::Right
                                                            : MouseButton::None;
     const Mouse at{button, mouse.position().x() / factor_, mouse.position().y() / factor_};
-    TheRenderer().Run([&] {
+    events_.Run([&] {
         if (presses)
             PressMouseOnWindow(window_, at);
         else

@@ -9,22 +9,24 @@
 #include <memory>
 #include <vector>
 
+#include "platform/qt/control_widget.h"
 #include "platform/window.h"
 
-class ControlWidget;
 class MenuView;
 class Veil;
 
-class WindowWidget : public QWidget {
+class WindowWidget : public QWidget, public ViewHost {
 public:
-    explicit WindowWidget(Window& window);
+    WindowWidget(Window& window, UserEvents& events);
     ~WindowWidget() override;
 
     Window& window() const { return window_; }
-    double Factor() const { return factor_; }  // pixels a twip
-    QWidget* Ground() const { return ground_; }
+    UserEvents& Events() const override { return events_; }
+    double Factor() const override { return factor_; }
+    QWidget* Ground() const override { return ground_; }
     MenuView& Menus() const { return *menus_; }
-    ControlWidget* Find(const Control& control) const;    // nullptr: nothing of it is to be seen
+    ControlWidget* Find(const Control& control) const;  // nullptr: nothing of it is to be seen
+    QWidget* WidgetOf(const Control& control) const override;
     ControlWidget* ShownBy(const QWidget& widget) const;  // whose widget this is; nullptr: no control's
 
     void Note(WindowProperty property);
@@ -65,6 +67,7 @@ private:
     void MoveAround(QPoint middle);  // its inner middle goes there, as far as the screen allows
 
     Window& window_;
+    UserEvents& events_;
     double factor_ = 0;
     bool title_changed_ = true;
     bool size_changed_ = true;
