@@ -2,23 +2,12 @@
 
 #include "platform/qt/combo_box_view.h"
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
-#include "platform/qt/window_widget.h"
 #include "platform/user.h"
 
 namespace {
-ComboBoxView& ViewOf(const ComboBox& box) {
-    return static_cast<ComboBoxView&>(*TheRenderer().WidgetOf(*box.window)->Find(box));
-}
-
-bool ListIsOpen(const ComboBox& box) {
-    const ComboList* const list = ViewOf(box).List();
-    return list && list->isVisible();
-}
-
 class AccessibleLine : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    AccessibleLine(ComboList& list, int row) : list_(list), row_(row) {}
+    AccessibleLine(ComboList& list, int row, WindowWidget& window) : list_(list), row_(row), window_(window) {}
 
     bool isValid() const override { return row_ < list_.model()->rowCount(); }
     QObject* object() const override { return nullptr; }
@@ -46,7 +35,7 @@ public:
     QStringList actionNames() const override { return {pressAction()}; }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
     void doAction(const QString& action) override {
-        if (action == pressAction()) RunForReader([&list = list_, row = row_] { list.ChooseRow(row); });
+        if (action == pressAction()) RunForReader(window_, [&list = list_, row = row_] { list.ChooseRow(row); });
     }
 
     int Row() const { return row_; }
@@ -56,20 +45,25 @@ private:
 
     ComboList& list_;
     int row_;
+    WindowWidget& window_;
 };
 }  // namespace
+
+ComboBoxView& AccessibleComboBox::View() const {
+    return static_cast<ComboBoxView&>(*Around().Find(box_));
+}
 
 QAccessible::State AccessibleComboBox::state() const {
     QAccessible::State state = AccessibleControl::state();
     state.focused = false;  // its editor has it
     state.editable = state.expandable = state.hasPopup = true;
-    state.expanded = ListIsOpen(box_);
+    state.expanded = View().List() && View().List()->isVisible();
     state.collapsed = !state.expanded;
     return state;
 }
 
 QList<QAccessibleInterface*> AccessibleComboBox::Children() const {
-    ComboBoxView& view = ViewOf(box_);
+    ComboBoxView& view = View();
     QList<QAccessibleInterface*> parts{QAccessible::queryAccessibleInterface(view.FocusWidget())};
     if (ComboList* const list = view.List()) parts.append(QAccessible::queryAccessibleInterface(list));
     return parts;
@@ -81,13 +75,14 @@ QString AccessibleComboBox::ValueText() const {
 
 void AccessibleComboBox::doAction(const QString& action) {
     if (action != showMenuAction()) return AccessibleControl::doAction(action);
-    RunForReader([&box = box_] {
+    RunForReader(Around(), [&view = View(), &box = box_] {
         FocusForReader(box);
-        if (CanReach(box)) ViewOf(box).OpenList();
+        if (CanReach(box)) view.OpenList();
     });
 }
 
-AccessibleList::AccessibleList(ComboList& list) : QAccessibleWidget(&list, QAccessible::List), list_(list) {}
+AccessibleList::AccessibleList(ComboList& list, WindowWidget& window)
+    : QAccessibleWidget(&list, QAccessible::List), list_(list), window_(window) {}
 
 AccessibleList::~AccessibleList() {
     for (const QAccessible::Id line : std::as_const(lines_)) QAccessible::deleteAccessibleInterface(line);
@@ -100,7 +95,7 @@ int AccessibleList::childCount() const {
 QAccessibleInterface* AccessibleList::child(int row) const {
     if (row < 0 || row >= childCount()) return nullptr;
     if (const auto made = lines_.constFind(row); made != lines_.cend()) return QAccessible::accessibleInterface(*made);
-    auto* const line = new AccessibleLine(list_, row);
+    auto* const line = new AccessibleLine(list_, row, window_);
     lines_.insert(row, QAccessible::registerAccessibleInterface(line));
     return line;
 }

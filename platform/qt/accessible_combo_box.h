@@ -4,11 +4,12 @@
 
 #include "platform/qt/accessible_control.h"
 
+class ComboBoxView;
 class ComboList;
 
 class AccessibleComboBox : public AccessibleControl {
 public:
-    AccessibleComboBox(ComboBox& box, QWidget& field) : AccessibleControl(box, field), box_(box) {}
+    AccessibleComboBox(ComboBox& box, QWidget& field, WindowWidget& window) : AccessibleControl(box, field, window), box_(box) {}
 
     QAccessible::State state() const override;
     void doAction(const QString& action) override;
@@ -18,12 +19,14 @@ protected:
     QString ValueText() const override;
 
 private:
+    ComboBoxView& View() const;
+
     ComboBox& box_;
 };
 
 class AccessibleList : public QAccessibleWidget {
 public:
-    explicit AccessibleList(ComboList& list);
+    AccessibleList(ComboList& list, WindowWidget& window);
     ~AccessibleList() override;
 
     int childCount() const override;
@@ -33,5 +36,6 @@ public:
 
 private:
     ComboList& list_;
+    WindowWidget& window_;
     mutable QHash<int, QAccessible::Id> lines_;  // [row]
 };

@@ -1,10 +1,5 @@
 #include "platform/qt/accessible_control.h"
 
-#include "platform/qt/accessible_combo_box.h"
-#include "platform/qt/accessible_tabs.h"
-#include "platform/qt/accessible_text.h"
-#include "platform/qt/accessible_value.h"
-#include "platform/qt/box_editing.h"
 #include "platform/qt/look.h"
 #include "platform/spoken_name.h"
 #include "platform/user.h"
@@ -68,12 +63,6 @@ QStringList ActionsOf(const Control& control) {
     }
 }
 
-void Step(Control& control, bool up) {
-    if (control.kind() == Kind::UpDown) return Spin(static_cast<UpDown&>(control), up);
-    auto& range = static_cast<RangeControl&>(control);
-    SlideTo(range, range.Value() + (up ? range.SmallChange() : -range.SmallChange()));
-}
-
 // A window may show only its upper part.
 bool IsBeyondEdge(const QWidget& widget) {
     const QWidget& window = *widget.window();
@@ -81,19 +70,20 @@ bool IsBeyondEdge(const QWidget& widget) {
 }
 }  // namespace
 
-AccessibleControl::AccessibleControl(Control& control, QWidget& widget) : AccessibleControl(control, widget, RoleOf(control.kind())) {}
+AccessibleControl::AccessibleControl(Control& control, QWidget& widget, WindowWidget& window)
+    : AccessibleControl(control, widget, window, RoleOf(control.kind())) {}
 
-AccessibleControl::AccessibleControl(Control& control, QWidget& widget, QAccessible::Role role)
-    : AccessibleNode(&widget, role), control_(control) {}
+AccessibleControl::AccessibleControl(Control& control, QWidget& widget, WindowWidget& window, QAccessible::Role role)
+    : AccessibleNode(widget, role, window), control_(control) {}
 
 QAccessibleInterface* AccessibleControl::parent() const {
     if (control_.page >= 0) return QAccessible::queryAccessibleInterface(widget()->parentWidget());
-    QWidget* const outer = control_.container ? WidgetOf(*control_.container) : widget()->window();
+    QWidget* const outer = control_.container ? Around().WidgetOf(*control_.container) : widget()->window();
     return QAccessible::queryAccessibleInterface(outer);
 }
 
 QList<QAccessibleInterface*> AccessibleControl::Children() const {
-    return ControlsIn(*control_.window, &control_);
+    return ControlsIn(Around(), &control_);
 }
 
 QString AccessibleControl::text(QAccessible::Text kind) const {
@@ -122,7 +112,7 @@ QAccessible::State AccessibleControl::state() const {
 }
 
 QList<QPair<QAccessibleInterface*, QAccessible::Relation>> AccessibleControl::relations(QAccessible::Relation match) const {
-    QWidget* const label = control_.named_by ? WidgetOf(*control_.named_by) : nullptr;
+    QWidget* const label = control_.named_by ? Around().WidgetOf(*control_.named_by) : nullptr;
     if (!label || !(match & QAccessible::Label)) return {};
     return {{QAccessible::queryAccessibleInterface(label), QAccessible::Label}};
 }
@@ -135,10 +125,12 @@ QStringList AccessibleControl::actionNames() const {
 
 void AccessibleControl::doAction(const QString& action) {
     if (!actionNames().contains(action)) return;
-    RunForReader([this_control = &control_, action] {
-        if (action == setFocusAction()) return FocusForReader(*this_control);
-        if (action == increaseAction() || action == decreaseAction()) return Step(*this_control, action == increaseAction());
-        ClickControl(*this_control);
+    if (action == increaseAction() || action == decreaseAction()) return Step(action == increaseAction());
+    RunForReader(Around(), [&control = control_, action] {
+        if (action == setFocusAction())
+            FocusForReader(control);
+        else
+            ClickControl(control);
     });
 }
 
@@ -153,21 +145,4 @@ void FocusForReader(Control& control) {
     }
     BringToFront(*control.window);
     control.SetFocus();
-}
-
-QAccessibleInterface* MakeAccessible(Control& control, QWidget& widget) {
-    switch (control.kind()) {
-        case Kind::TextBox:
-            return new AccessibleText(static_cast<TextBox&>(control), widget);
-        case Kind::ComboBox:
-            return new AccessibleComboBox(static_cast<ComboBox&>(control), widget);
-        case Kind::TabControl:
-            return new AccessibleTabs(static_cast<TabControl&>(control), widget);
-        case Kind::Slider:
-        case Kind::ScrollBar:
-        case Kind::ProgressBar:
-            return new AccessibleValue(control, widget);
-        default:
-            return new AccessibleControl(control, widget);
-    }
 }

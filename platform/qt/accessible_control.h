@@ -7,7 +7,7 @@
 
 class AccessibleControl : public AccessibleNode {
 public:
-    AccessibleControl(Control& control, QWidget& widget);
+    AccessibleControl(Control& control, QWidget& widget, WindowWidget& window);
 
     QAccessibleInterface* parent() const override;
     QString text(QAccessible::Text kind) const override;
@@ -17,17 +17,15 @@ public:
     void doAction(const QString& action) override;
 
 protected:
-    AccessibleControl(Control& control, QWidget& widget, QAccessible::Role role);
+    AccessibleControl(Control& control, QWidget& widget, WindowWidget& window, QAccessible::Role role);
     Control& control() const { return control_; }
     QList<QAccessibleInterface*> Children() const override;
     virtual QString ValueText() const { return {}; }
+    virtual void Step(bool /*up*/) {}  // as a reader asks for it
 
 private:
     Control& control_;
 };
-
-// The right one for the kind of the control.
-QAccessibleInterface* MakeAccessible(Control& control, QWidget& widget);
 
 // Gives a control the focus as the user's hand does, if it can have it.
 void FocusForReader(Control& control);

@@ -72,9 +72,9 @@ void AccessibleMenuItem::doAction(const QString& name) {
     if (!actionNames().contains(name)) return;
     auto* const bar = qobject_cast<QMenuBar*>(Place());
     if (action_.menu() && bar)
-        RunForReader([bar, action = &action_] { bar->setActiveAction(action); });
+        RunForReader(window_, [bar, action = &action_] { bar->setActiveAction(action); });
     else
-        RunForReader([item = &item_] { ClickControl(*item); });
+        RunForReader(window_, [item = &item_] { ClickControl(*item); });
 }
 
 QStringList AccessibleMenuItem::keyBindingsForAction(const QString&) const {

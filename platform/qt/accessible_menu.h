@@ -5,10 +5,12 @@
 #include <QAction>
 
 #include "platform/controls.h"
+#include "platform/qt/window_widget.h"
 
 class AccessibleMenuItem : public QAccessibleObject, public QAccessibleActionInterface {
 public:
-    AccessibleMenuItem(MenuItem& item, QAction& action) : QAccessibleObject(&action), item_(item), action_(action) {}
+    AccessibleMenuItem(MenuItem& item, QAction& action, WindowWidget& window)
+        : QAccessibleObject(&action), item_(item), action_(action), window_(window) {}
 
     QAccessibleInterface* parent() const override;
     QAccessibleInterface* child(int place) const override;
@@ -29,4 +31,5 @@ private:
 
     MenuItem& item_;
     QAction& action_;
+    WindowWidget& window_;
 };

@@ -3,37 +3,27 @@
 #include <QApplication>
 #include <QMetaObject>
 
-#include "platform/qt/control_widget.h"
-#include "platform/qt/renderer.h"
-#include "platform/qt/window_widget.h"
-
 int AccessibleNode::indexOfChild(const QAccessibleInterface* child) const {
     return static_cast<int>(Children().indexOf(const_cast<QAccessibleInterface*>(child)));
 }
 
-QWidget* WidgetOf(const Control& control) {
-    const WindowWidget* const window = TheRenderer().WidgetOf(*control.window);
-    ControlWidget* const shown = window ? window->Find(control) : nullptr;
-    return shown ? shown->Widget() : nullptr;
-}
-
-QList<QAccessibleInterface*> ControlsIn(const Window& window, const Control* container, int page) {
+QList<QAccessibleInterface*> ControlsIn(const WindowWidget& window, const Control* container, int page) {
     QList<QAccessibleInterface*> found;
-    for (const Control* control : window.Controls()) {
+    for (const Control* control : window.window().Controls()) {
         if (control->container != container || control->page != page) continue;
-        if (QWidget* const widget = WidgetOf(*control)) found.append(QAccessible::queryAccessibleInterface(widget));
+        if (QWidget* const widget = window.WidgetOf(*control)) found.append(QAccessible::queryAccessibleInterface(widget));
     }
     return found;
 }
 
-void RunForReader(std::function<void()> act) {
+void RunForReader(WindowWidget& window, std::function<void()> act) {
     QMetaObject::invokeMethod(
-        &TheRenderer(),
-        [act = std::move(act)] {
+        &window,
+        [&window, act = std::move(act)] {
             if (QApplication::activeModalWidget()) return;
             while (QWidget* const popup = QApplication::activePopupWidget())
                 if (!popup->close()) break;
-            TheRenderer().Run(act);
+            window.Events().Run(act);
         },
         Qt::QueuedConnection);
 }

@@ -4,7 +4,7 @@
 #include <QList>
 #include <functional>
 
-#include "platform/window.h"
+#include "platform/qt/window_widget.h"
 
 class AccessibleNode : public QAccessibleWidget {
 public:
@@ -13,15 +13,17 @@ public:
     int indexOfChild(const QAccessibleInterface* child) const override;
 
 protected:
-    using QAccessibleWidget::QAccessibleWidget;
+    AccessibleNode(QWidget& widget, QAccessible::Role role, WindowWidget& window) : QAccessibleWidget(&widget, role), window_(window) {}
+    WindowWidget& Around() const { return window_; }  // the window that it is in
     virtual QList<QAccessibleInterface*> Children() const = 0;
+
+private:
+    WindowWidget& window_;
 };
 
 // What lies in a window (`container` nullptr) or a control, on this page of it (-1: on all), and has a widget.
-QList<QAccessibleInterface*> ControlsIn(const Window& window, const Control* container, int page = -1);
-
-QWidget* WidgetOf(const Control& control);  // nullptr: it has none
+QList<QAccessibleInterface*> ControlsIn(const WindowWidget& window, const Control* container, int page = -1);
 
 // Runs `act` as an event of the user's once the reader has its answer: what it does may open a box, and the reader would wait for the end
 // of that. Nothing is done behind an open box.
-void RunForReader(std::function<void()> act);
+void RunForReader(WindowWidget& window, std::function<void()> act);

@@ -1,22 +1,17 @@
 #include "platform/qt/accessible_tabs.h"
 
-#include "platform/qt/control_widget.h"
 #include "platform/qt/look.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/tab_bar.h"
-#include "platform/qt/window_widget.h"
 #include "platform/user.h"
 
-QWidget* PageOf(const TabControl& tabs, int tab) {
-    const WindowWidget* const window = TheRenderer().WidgetOf(*tabs.window);
-    ControlWidget* const shown = window ? window->Find(tabs) : nullptr;
-    return shown ? shown->Ground(tab) : nullptr;
+QWidget* PageOf(const WindowWidget& window, const TabControl& tabs, int tab) {
+    return window.Find(tabs)->Ground(tab);
 }
 
 QList<QAccessibleInterface*> AccessibleTabs::Children() const {
     QList<QAccessibleInterface*> found;
     for (int tab = 0; tab < static_cast<int>(tabs_.TabCaptions().size()); ++tab)
-        found.append(QAccessible::queryAccessibleInterface(PageOf(tabs_, tab)));
+        found.append(QAccessible::queryAccessibleInterface(PageOf(Around(), tabs_, tab)));
     return found + AccessibleControl::Children();
 }
 
@@ -31,14 +26,14 @@ QVariant AccessibleTabs::maximumValue() const {
 
 void AccessibleTabs::setCurrentValue(const QVariant& tab) {
     const int wanted = tab.toInt();
-    if (wanted >= 0 && wanted <= maximumValue().toInt()) RunForReader([&tabs = tabs_, wanted] { PressTab(tabs, wanted); });
+    if (wanted >= 0 && wanted <= maximumValue().toInt()) RunForReader(Around(), [&tabs = tabs_, wanted] { PressTab(tabs, wanted); });
 }
 
-AccessibleTab::AccessibleTab(TabControl& tabs, int tab, QWidget& page)
-    : AccessibleNode(&page, QAccessible::PageTab), tabs_(tabs), tab_(tab) {}
+AccessibleTab::AccessibleTab(TabControl& tabs, int tab, QWidget& page, WindowWidget& window)
+    : AccessibleNode(page, QAccessible::PageTab, window), tabs_(tabs), tab_(tab) {}
 
 QAccessibleInterface* AccessibleTab::parent() const {
-    return QAccessible::queryAccessibleInterface(WidgetOf(tabs_));
+    return QAccessible::queryAccessibleInterface(Around().WidgetOf(tabs_));
 }
 
 QString AccessibleTab::text(QAccessible::Text kind) const {
@@ -55,11 +50,11 @@ QAccessible::State AccessibleTab::state() const {
 }
 
 QRect AccessibleTab::rect() const {
-    const QWidget& whole = *WidgetOf(tabs_);
-    const double height = TabBarTwips(tabs_) * TheRenderer().WidgetOf(*tabs_.window)->Factor();
+    const QWidget& whole = *Around().WidgetOf(tabs_);
+    const double height = TabBarTwips(tabs_) * Around().Factor();
     return TabBarPlace(tabs_, tab_, whole.width(), height).toAlignedRect().translated(whole.mapToGlobal(QPoint()));
 }
 
 void AccessibleTab::doAction(const QString& action) {
-    if (action == pressAction()) RunForReader([&tabs = tabs_, tab = tab_] { PressTab(tabs, tab); });
+    if (action == pressAction()) RunForReader(Around(), [&tabs = tabs_, tab = tab_] { PressTab(tabs, tab); });
 }

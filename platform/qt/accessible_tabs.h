@@ -5,7 +5,7 @@
 
 class AccessibleTabs : public AccessibleValue {
 public:
-    AccessibleTabs(TabControl& tabs, QWidget& widget) : AccessibleValue(tabs, widget), tabs_(tabs) {}
+    AccessibleTabs(TabControl& tabs, QWidget& widget, WindowWidget& window) : AccessibleValue(tabs, widget, window), tabs_(tabs) {}
 
     QVariant currentValue() const override { return tabs_.Tab(); }
     void setCurrentValue(const QVariant& tab) override;
@@ -22,7 +22,7 @@ private:
 // On the ground of its page.
 class AccessibleTab : public AccessibleNode {
 public:
-    AccessibleTab(TabControl& tabs, int tab, QWidget& page);
+    AccessibleTab(TabControl& tabs, int tab, QWidget& page, WindowWidget& window);
 
     QAccessibleInterface* parent() const override;
     QString text(QAccessible::Text kind) const override;
@@ -32,11 +32,11 @@ public:
     void doAction(const QString& action) override;
 
 protected:
-    QList<QAccessibleInterface*> Children() const override { return ControlsIn(*tabs_.window, &tabs_, tab_); }
+    QList<QAccessibleInterface*> Children() const override { return ControlsIn(Around(), &tabs_, tab_); }
 
 private:
     TabControl& tabs_;
     int tab_;
 };
 
-QWidget* PageOf(const TabControl& tabs, int tab);  // its ground; nullptr: the tabs have never been shown
+QWidget* PageOf(const WindowWidget& window, const TabControl& tabs, int tab);  // its ground

@@ -21,7 +21,8 @@ void SelectIn(QWidget& editor, int start, int end) {
 }
 }  // namespace
 
-AccessibleText::AccessibleText(TextHolder& box, QWidget& editor) : AccessibleControl(box, editor, QAccessible::EditableText), box_(box) {}
+AccessibleText::AccessibleText(TextHolder& box, QWidget& editor, WindowWidget& window)
+    : AccessibleControl(box, editor, window, QAccessible::EditableText), box_(box) {}
 
 QAccessibleInterface* AccessibleText::parent() const {
     if (box_.kind() == Kind::ComboBox) return QAccessible::queryAccessibleInterface(widget()->parentWidget());
@@ -114,8 +115,8 @@ void AccessibleText::setCursorPosition(int offset) {
 
 // The editor has the keyboard only after the event that gives it the focus.
 void AccessibleText::addSelection(int start, int end) {
-    RunForReader([&box = box_] { FocusForReader(box); });
-    RunForReader([editor = QPointer<QWidget>(widget()), start, end] {
+    RunForReader(Around(), [&box = box_] { FocusForReader(box); });
+    RunForReader(Around(), [editor = QPointer<QWidget>(widget()), start, end] {
         if (editor && editor->hasFocus()) SelectIn(*editor, start, end);
     });
 }
@@ -142,7 +143,7 @@ void AccessibleText::insertText(int offset, const QString& text) {
 
 // Into the text as it is when the edit is done, the caret behind what was put in.
 void AccessibleText::replaceText(int start, int end, const QString& text) {
-    RunForReader([&box = box_, start, end, text] {
+    RunForReader(Around(), [&box = box_, start, end, text] {
         FocusForReader(box);
         const QString shown = Shown(box.Text());
         const QString edited = shown.left(start) + text + shown.mid(end);

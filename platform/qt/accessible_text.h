@@ -8,7 +8,7 @@ class AccessibleText : public AccessibleControl,
                        public QAccessibleEditableTextInterface,
                        public QAccessibleValueInterface {
 public:
-    AccessibleText(TextHolder& box, QWidget& editor);
+    AccessibleText(TextHolder& box, QWidget& editor, WindowWidget& window);
 
     QAccessibleInterface* parent() const override;
     QAccessible::State state() const override;

@@ -15,7 +15,14 @@ QVariant AccessibleValue::currentValue() const {
     return std::clamp(now.value, now.minimum, std::max(now.minimum, now.maximum));
 }
 
-void AccessibleValue::setCurrentValue(const QVariant& value) {
-    if (control().kind() == Kind::ProgressBar) return;
-    RunForReader([&range = static_cast<RangeControl&>(control()), to = value.toInt()] { SlideTo(range, to); });
+void AccessibleRange::setCurrentValue(const QVariant& value) {
+    RunForReader(Around(), [&range = range_, to = value.toInt()] { SlideTo(range, to); });
+}
+
+void AccessibleRange::Step(bool up) {
+    RunForReader(Around(), [&range = range_, up] { SlideTo(range, range.Value() + (up ? range.SmallChange() : -range.SmallChange())); });
+}
+
+void AccessibleArrows::Step(bool up) {
+    RunForReader(Around(), [&arrows = arrows_, up] { Spin(arrows, up); });
 }

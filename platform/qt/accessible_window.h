@@ -2,8 +2,6 @@
 #pragma once
 #include "platform/qt/accessible_node.h"
 
-class WindowWidget;
-
 class AccessibleWindow : public AccessibleNode {
 public:
     explicit AccessibleWindow(WindowWidget& window);
@@ -13,7 +11,4 @@ public:
 
 protected:
     QList<QAccessibleInterface*> Children() const override;
-
-private:
-    WindowWidget& window_;
 };
