@@ -65,8 +65,7 @@ struct Task {
     std::chrono::milliseconds Pause() const { return std::chrono::milliseconds(HasDiagram() ? 25 : 5); }
 };
 
-void BeginSample() {
-    Renderer& renderer = TheRenderer();
+void BeginSample(Renderer& renderer) {
     renderer.Run(StartProgram);
     renderer.Run([] { CloseWindow(*ActiveWindow()); });  // on a new machine the keyboard is not known yet
     if (frmNext.Visible()) renderer.Run([] { CloseWindow(frmNext); });
@@ -79,7 +78,7 @@ Rows LargeSheet(const Task& task) {
     return rows;
 }
 
-void OpenSheet(const std::filesystem::path& folder, const Rows& rows) {
+void OpenSheet(Renderer& renderer, const std::filesystem::path& folder, const Rows& rows) {
     const std::string path = (folder / "large.csv").string();
     std::ofstream(path, std::ios::binary) << Joined(rows);
     ScriptedMessageBoxes messages;
@@ -88,25 +87,25 @@ void OpenSheet(const std::filesystem::path& folder, const Rows& rows) {
     dialogs.answers = {path};
     MessageBoxes* const real_messages = std::exchange(services.messages, &messages);
     FileDialogs* const real_dialogs = std::exchange(services.dialogs, &dialogs);
-    TheRenderer().Run([] { ClickControl(frmMain.mnuOpen); });
+    renderer.Run([] { ClickControl(frmMain.mnuOpen); });
     services.messages = real_messages;
     services.dialogs = real_dialogs;
 }
 
 // Of so many pixels of the screen, which shows the window enlarged if it is a large one.
-int Twips(int pixels) {
-    return static_cast<int>(pixels / TheRenderer().WidgetOf(frmDiagram)->Factor());
+int Twips(const Renderer& renderer, int pixels) {
+    return static_cast<int>(pixels / renderer.WidgetOf(frmDiagram)->Factor());
 }
 
-void OpenDiagram(const Task& task) {
-    TheRenderer().Run([] { ClickControl(frmMain.mnuCurve); });
-    TheRenderer().Run([] { ResizeWindow(frmDiagram, Twips(1600), Twips(1000)); });
-    if (task.name == "tree") TheRenderer().Run([] { ClickControl(frmDiagram.nmuConiss); });
+void OpenDiagram(Renderer& renderer, const Task& task) {
+    renderer.Run([] { ClickControl(frmMain.mnuCurve); });
+    renderer.Run([&] { ResizeWindow(frmDiagram, Twips(renderer, 1600), Twips(renderer, 1000)); });
+    if (task.name == "tree") renderer.Run([] { ClickControl(frmDiagram.nmuConiss); });
 }
 
 // Where the line of a sample is on the screen, in the middle of the diagram.
-QPoint PlaceOfLine(int sample) {
-    const ControlWidget& picture = *TheRenderer().WidgetOf(frmDiagram)->Find(frmDiagram.Picture1);
+QPoint PlaceOfLine(const Renderer& renderer, int sample) {
+    const ControlWidget& picture = *renderer.WidgetOf(frmDiagram)->Find(frmDiagram.Picture1);
     return picture.Widget()->mapToGlobal(picture.PlaceOf(kUnitsAcross / 2, SamplePositions().Y(sample)).toPoint());
 }
 
@@ -152,22 +151,23 @@ double ResidentMegabytes() {
     return 0;
 }
 
-void ReportMemory(const std::filesystem::path& folder, const Task& task) {
+void ReportMemory(Renderer& renderer, const std::filesystem::path& folder, const Task& task) {
     const auto report = [](const char* with) {
         QApplication::processEvents();
         std::printf("  with %-8s %6.1f MB\n", with, ResidentMegabytes());
     };
     report("start");
-    OpenSheet(folder, LargeSheet(task));
+    OpenSheet(renderer, folder, LargeSheet(task));
     report("sheet");
-    OpenDiagram(task);
+    OpenDiagram(renderer, task);
     report("diagram");
-    TheRenderer().Run([] { ClickControl(frmDiagram.nmuConiss); });
+    renderer.Run([] { ClickControl(frmDiagram.nmuConiss); });
     report("tree");
 }
 
-std::thread Begin(const Task& task) {
-    const QPoint grip = task.Drags() ? PlaceOfLine(SampleCount) : QPoint(), top = task.Drags() ? PlaceOfLine(1) : QPoint();
+std::thread Begin(const Renderer& renderer, const Task& task) {
+    const QPoint grip = task.Drags() ? PlaceOfLine(renderer, SampleCount) : QPoint(),
+                 top = task.Drags() ? PlaceOfLine(renderer, 1) : QPoint();
     return std::thread([=] {
         XUser user;
         task.Drags() ? DragLine(user, task, grip, top) : SendKeys(user, task);
@@ -190,24 +190,24 @@ int main(int argc, char** argv) {
     application.moves_are_acts = task.Drags();
     ApplyLook(application);
     Renderer renderer;
-    KeyFilter keys;
+    KeyFilter keys(renderer);
     BenchHost host(folder);
-    DesktopServices desktop(host);
+    DesktopServices desktop(host, renderer);
     TimedSounds sounds(desktop.sounds);
     services.sounds = &sounds;
-    BeginSample();
+    BeginSample(renderer);
     if (task.name == "memory") {
-        ReportMemory(folder, task);
+        ReportMemory(renderer, folder, task);
         std::filesystem::remove_all(folder);
         return 0;
     }
-    if (task.HasDiagram()) OpenSheet(folder, LargeSheet(task));
-    if (task.HasDiagram()) OpenDiagram(task);
+    if (task.HasDiagram()) OpenSheet(renderer, folder, LargeSheet(task));
+    if (task.HasDiagram()) OpenDiagram(renderer, task);
     const int counted_before = Counted();
 
     std::thread user;
     QTimer::singleShot(1000, [&] { renderer.Run([&] { BringToFront(task.Drags() ? static_cast<Window&>(frmDiagram) : frmMain); }); });
-    QTimer::singleShot(2500, [&] { user = Begin(task); });
+    QTimer::singleShot(2500, [&] { user = Begin(renderer, task); });
     QApplication::exec();
     user.join();
     std::filesystem::remove_all(folder);

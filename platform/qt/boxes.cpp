@@ -8,9 +8,9 @@
 #include "platform/qt/scaling.h"
 #include "platform/qt/window_widget.h"
 
-BoxOpens::BoxOpens() {
-    TheRenderer().Agree();
-    WindowWidget* const active = TheRenderer().ActiveWidget();
+BoxOpens::BoxOpens(Renderer& renderer) {
+    renderer.Agree();
+    WindowWidget* const active = renderer.ActiveWidget();
     const bool is_seen = active && active->isVisible();
     if (is_seen) parent_ = active;
     font_ = PlainFont(is_seen ? active->Factor() : CommonFactor(*QApplication::primaryScreen()));

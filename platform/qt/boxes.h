@@ -5,9 +5,11 @@
 
 #include "platform/qt/pointer.h"
 
+class Renderer;
+
 class BoxOpens {
 public:
-    BoxOpens();
+    explicit BoxOpens(Renderer& renderer);
     QWidget* Parent() const { return parent_; }  // the active window; nullptr: there is none
     const QFont& Font() const { return font_; }  // in the size of that window's words
 

@@ -29,10 +29,11 @@ int RunDesktop(int argc, char** argv) {
     QtHost host;
     Renderer renderer([&host] { return host.HasEnded(); });
     renderer.WhenNothingIsShown([&host] { host.End(); });
-    KeyFilter keys;
-    if (!host.HasFolderAlone()) return 0;
+    KeyFilter keys(renderer);
+    QtMessageBoxes messages(renderer);
+    if (!host.HasFolderAlone(messages)) return 0;
 
-    DesktopServices desktop(host);
+    DesktopServices desktop(host, renderer);
     renderer.Run(StartProgram);
     return QApplication::exec();
 }

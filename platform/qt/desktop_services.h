@@ -19,7 +19,7 @@ struct DesktopServices {
     QtKeyboard keyboard;
 
     // Puts them all into `services`, with `host`; they must live as long as the program uses them.
-    explicit DesktopServices(ProgramHost& host) {
+    DesktopServices(ProgramHost& host, Renderer& renderer) : messages(renderer), dialogs(renderer), clipboard(renderer), popups(renderer) {
         services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host, &keyboard};
     }
 };

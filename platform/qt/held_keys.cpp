@@ -25,9 +25,9 @@ bool TakesKeys(const QWindow& window, const WindowWidget& front) {
 
 // Who hears the keys that come to a window. An open menu or list takes those of the window it belongs to. What was on its way to one that
 // has been closed or disabled is heard by the window in front.
-QWindow* Receiver(QWindow& window) {
+QWindow* Receiver(const Renderer& renderer, QWindow& window) {
     if (const QWidget* const popup = QApplication::activePopupWidget()) return popup->windowHandle();
-    const WindowWidget* const front = TheRenderer().ActiveWidget();
+    const WindowWidget* const front = renderer.ActiveWidget();
     return !front || TakesKeys(window, *front) ? &window : front->windowHandle();
 }
 }  // namespace
@@ -38,7 +38,7 @@ bool IsRepeat(const QKeyEvent& key) {
     return X11Repeats::IsRepeat(key).value_or(key.isAutoRepeat());
 }
 
-HeldKeys::HeldKeys() {
+HeldKeys::HeldKeys(const Renderer& renderer) : renderer_(renderer) {
     qApp->installEventFilter(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         if (!window) pressed_in_.clear();
@@ -57,7 +57,7 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
             x11_.Watch(static_cast<QWindow&>(*watched));
             return false;
         case QEvent::KeyPress:
-            return !Belongs(*static_cast<QKeyEvent*>(event), Receiver(static_cast<QWindow&>(*watched)));
+            return !Belongs(*static_cast<QKeyEvent*>(event), Receiver(renderer_, static_cast<QWindow&>(*watched)));
         case QEvent::KeyRelease: {
             const auto& key = *static_cast<QKeyEvent*>(event);
             if (IsRepeat(key)) return true;  // Wayland has one before each repeated press

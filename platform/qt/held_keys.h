@@ -9,12 +9,13 @@
 #include "platform/qt/x11_repeats.h"
 
 class QKeyEvent;
+class Renderer;
 
 bool IsRepeat(const QKeyEvent& key);  // of a key that is held; a script's key never is
 
 class HeldKeys : public QObject {
 public:
-    HeldKeys();                                            // joins the application
+    explicit HeldKeys(const Renderer& renderer);           // joins the application
     void HandOn(const QKeyEvent& key, QWindow* receiver);  // from now on the key counts as pressed there
 
 protected:
@@ -23,6 +24,7 @@ protected:
 private:
     bool Belongs(const QKeyEvent& press, QWindow* receiver);
 
+    const Renderer& renderer_;
     X11Repeats x11_;
     QHash<quint32, QPointer<QWindow>> pressed_in_;  // by native code; empty while no window of the program has the keyboard
 };

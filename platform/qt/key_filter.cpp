@@ -40,20 +40,15 @@ bool IsClipboardKey(const QKeyEvent& key) {
 bool IsSink(const Control& control) {
     return control.AsTextHolder() && !TakesText(control);
 }
-
-bool OpensMenu(const QKeyEvent& key) {
-    WindowWidget* const active = TheRenderer().ActiveWidget();
-    return active && key.modifiers() == Qt::AltModifier && IsLetterKey(key) && active->Menus().OpenByAccessKey(QChar(key.key()));
-}
 }  // namespace
 
-KeyFilter::KeyFilter() {
+KeyFilter::KeyFilter(Renderer& renderer) : renderer_(renderer), held_(renderer) {
     qApp->installEventFilter(this);
-    TheRenderer().WhenEventIsOver([this] { HearLate(); });
+    renderer_.WhenEventIsOver([this] { HearLate(); });
 }
 
 KeyFilter::~KeyFilter() {
-    TheRenderer().WhenEventIsOver([] {});
+    renderer_.WhenEventIsOver([] {});
 }
 
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
@@ -68,7 +63,7 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     auto* const widget = dynamic_cast<WindowWidget*>(top);
     if (!widget && !is_popup) return !top->isVisible() && KeepLate(key);
     key.accept();
-    if (type == QEvent::KeyPress && widget && widget->isVisible()) TheRenderer().UserActivates(widget->window());
+    if (type == QEvent::KeyPress && widget && widget->isVisible()) renderer_.UserActivates(widget->window());
     if (type == QEvent::KeyPress) Press(key);
     if (type == QEvent::KeyRelease) Release(key);
     return true;  // an overridden shortcut comes back as an ordinary press
@@ -83,7 +78,7 @@ bool KeyFilter::TakeInPopup(QWidget& popup, QKeyEvent& key) {
     key.accept();
     if (key.type() != QEvent::KeyPress) return true;
     list->hide();
-    if (WindowWidget* const below = TheRenderer().ActiveWidget()) held_.HandOn(key, below->windowHandle());
+    if (WindowWidget* const below = renderer_.ActiveWidget()) held_.HandOn(key, below->windowHandle());
     Press(key);
     return true;
 }
@@ -101,7 +96,12 @@ void KeyFilter::HearLate() {
 }
 
 void KeyFilter::Release(const QKeyEvent& key) {
-    if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { ReleaseKey(*code); });
+    if (const auto code = VirtualKey(key)) renderer_.Run([code] { ReleaseKey(*code); });
+}
+
+bool KeyFilter::OpensMenu(const QKeyEvent& key) {
+    WindowWidget* const active = renderer_.ActiveWidget();
+    return active && key.modifiers() == Qt::AltModifier && IsLetterKey(key) && active->Menus().OpenByAccessKey(QChar(key.key()));
 }
 
 // A box that takes each key as itself has it once, and moves on: the repeats would fill the next ones.
@@ -114,16 +114,16 @@ void KeyFilter::Press(QKeyEvent& key) {
 void KeyFilter::TakePress(QKeyEvent& key) {
     Window* const window = ActiveWindow();
     Control* const focus = window ? window->Focus() : nullptr;
-    const int text_changes = TheRenderer().TextChanges();
-    if (const auto code = VirtualKey(key)) TheRenderer().Run([code] { PressKey(*code); });
+    const int text_changes = renderer_.TextChanges();
+    if (const auto code = VirtualKey(key)) renderer_.Run([code] { PressKey(*code); });
     if (!window || window != ActiveWindow() || window->Focus() != focus) return;
     if (focus && (IsSink(*focus) || !CanReach(*focus))) return;
-    const bool used_as_input = focus && (TakesKeysAsInput(*focus) || TheRenderer().TextChanges() != text_changes);
+    const bool used_as_input = focus && (TakesKeysAsInput(*focus) || renderer_.TextChanges() != text_changes);
     if (IsWalk(key)) {
-        if (!used_as_input && (!window->key_preview || (focus && TakesText(*focus)))) WalkFocus(*window, key);
+        if (!used_as_input && (!window->key_preview || (focus && TakesText(*focus)))) WalkFocus(renderer_, *window, key);
         return;
     }
-    if (!used_as_input && !IsRepeat(key) && PressAnswer(key)) return;
+    if (!used_as_input && !IsRepeat(key) && PressAnswer(renderer_, key)) return;
     if (focus) Finish(key, *focus);
 }
 
@@ -133,8 +133,8 @@ void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
     if (IsControlChord(key) && (!TakesText(focus) || !IsClipboardKey(key))) return;
     if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) return;  // the program knows nothing of them
     if (!TakesText(focus) && focus.window->key_preview) return;
-    if (!IsRepeat(key) && PressFocused(focus, key)) return;
+    if (!IsRepeat(key) && PressFocused(renderer_, focus, key)) return;
     passing_ = true;
-    if (ControlWidget* const widget = TheRenderer().WidgetOf(*focus.window)->Find(focus)) widget->TakeKey(key);
+    if (ControlWidget* const widget = renderer_.WidgetOf(*focus.window)->Find(focus)) widget->TakeKey(key);
     passing_ = false;
 }

@@ -10,10 +10,11 @@
 
 class QKeyEvent;
 class QWidget;
+class Renderer;
 
 class KeyFilter : public QObject {
 public:
-    KeyFilter();  // joins the application and its renderer
+    explicit KeyFilter(Renderer& renderer);  // joins it and the application
     ~KeyFilter() override;
 
 protected:
@@ -26,8 +27,10 @@ private:
     void Press(QKeyEvent& key);
     void TakePress(QKeyEvent& key);
     void Release(const QKeyEvent& key);
+    bool OpensMenu(const QKeyEvent& key);
     void Finish(QKeyEvent& key, Control& focus);
 
+    Renderer& renderer_;
     HeldKeys held_;
     std::vector<std::unique_ptr<QKeyEvent>> late_;  // in their order
     bool passing_ = false;                          // a key is on its way to a widget

@@ -6,7 +6,6 @@
 #include "platform/controls.h"
 #include "platform/focus_walk.h"
 #include "platform/key_codes.h"
-#include "platform/qt/renderer.h"
 #include "platform/user.h"
 
 namespace {
@@ -23,9 +22,9 @@ int AnswerCode(const QKeyEvent& key) {
     return key.key() == Qt::Key_Escape ? kEscapeKey : 0;
 }
 
-bool SelectSibling(Control& option, int step) {
+bool SelectSibling(UserEvents& events, Control& option, int step) {
     Control* const next = NextInRound(Siblings(option), &option, step);
-    if (next && next != &option) TheRenderer().Run([next] { ClickControl(*next); });
+    if (next && next != &option) events.Run([next] { ClickControl(*next); });
     return true;
 }
 }  // namespace
@@ -34,26 +33,26 @@ bool IsWalk(const QKeyEvent& key) {
     return (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
 
-void WalkFocus(Window& window, const QKeyEvent& key) {
+void WalkFocus(UserEvents& events, Window& window, const QKeyEvent& key) {
     const bool back = key.key() == Qt::Key_Backtab || (key.modifiers() & Qt::ShiftModifier);
-    TheRenderer().Run([&] { WalkFocus(window, back); });
+    events.Run([&] { WalkFocus(window, back); });
 }
 
-bool PressFocused(Control& focus, const QKeyEvent& key) {
+bool PressFocused(UserEvents& events, Control& focus, const QKeyEvent& key) {
     switch (key.key()) {
         case Qt::Key_Space:
             if (focus.kind() != Kind::Button && focus.kind() != Kind::CheckBox && focus.kind() != Kind::OptionButton) return false;
             break;
         case Qt::Key_Up:
         case Qt::Key_Left:
-            return focus.kind() == Kind::OptionButton && SelectSibling(focus, -1);
+            return focus.kind() == Kind::OptionButton && SelectSibling(events, focus, -1);
         case Qt::Key_Down:
         case Qt::Key_Right:
-            return focus.kind() == Kind::OptionButton && SelectSibling(focus, 1);
+            return focus.kind() == Kind::OptionButton && SelectSibling(events, focus, 1);
         default:
             return false;
     }
-    TheRenderer().Run([&focus] { ClickControl(focus); });
+    events.Run([&focus] { ClickControl(focus); });
     return true;
 }
 
@@ -61,8 +60,8 @@ bool IsAnswer(const QKeyEvent& key) {
     return AnswerCode(key) != 0;
 }
 
-bool PressAnswer(const QKeyEvent& key) {
+bool PressAnswer(UserEvents& events, const QKeyEvent& key) {
     bool pressed = false;
-    if (const int code = AnswerCode(key); code != 0) TheRenderer().Run([&] { pressed = PressAnswer(code); });
+    if (const int code = AnswerCode(key); code != 0) events.Run([&] { pressed = PressAnswer(code); });
     return pressed;
 }

@@ -23,7 +23,7 @@ QString Suffix(const std::string& filter) {
 }  // namespace
 
 std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
-    const BoxOpens opens;
+    const BoxOpens opens(renderer_);
     const bool saves = question.kind == FileQuestion::Kind::Save;
     const QFileInfo proposed(SystemPath(question.proposed_name));
     if (folder_.isEmpty()) folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);

@@ -24,17 +24,6 @@
 #include "platform/user.h"
 
 namespace {
-ControlWidget* WidgetOf(const Control& control) {
-    WindowWidget* const window = TheRenderer().WidgetOf(*control.window);
-    return window ? window->Find(control) : nullptr;
-}
-
-QWidget* EditorInFocus() {
-    Control* const focus = ActiveWindow() ? ActiveWindow()->Focus() : nullptr;
-    ControlWidget* const holder = focus && CanReach(*focus) ? WidgetOf(*focus) : nullptr;
-    return holder ? holder->FocusWidget() : nullptr;
-}
-
 void PasteInto(QWidget* editor, const QString& text) {
     if (auto* const line = dynamic_cast<TextLine*>(editor)) line->insert(text);
     if (auto* const area = dynamic_cast<TextArea*>(editor)) area->insertPlainText(text);
@@ -95,7 +84,7 @@ public:
     void FocusBox(Control& box) override { Click(box); }
     void SetBox(Control& box, const std::string& text) override {
         FocusBox(box);
-        ControlWidget* const widget = WidgetOf(box);
+        ControlWidget* const widget = ViewOf(box);
         if (!widget || EditorInFocus() != widget->FocusWidget()) return;
         SelectAll(widget->FocusWidget());
         PasteInto(widget->FocusWidget(), Shown(text));
@@ -126,7 +115,7 @@ public:
     }
 
     void Choose(ComboBox& box, int item) override {
-        auto* const view = static_cast<ComboBoxView*>(WidgetOf(box));
+        auto* const view = static_cast<ComboBoxView*>(ViewOf(box));
         if (!view || !CanReach(box)) return;
         ComboList& list = view->OpenList();
         list.setCurrentIndex(list.model()->index(item, 0));
@@ -134,7 +123,7 @@ public:
         Rest();
     }
     void PressTab(TabControl& tabs, int tab) override {
-        const ControlWidget* const widget = WidgetOf(tabs);
+        const ControlWidget* const widget = ViewOf(tabs);
         if (!widget) return;
         const double height = TabBarTwips(tabs) * renderer_.WidgetOf(*tabs.window)->Factor();
         const QPointF place = TabBarPlace(tabs, tab, widget->Widget()->width(), height).center();
@@ -142,7 +131,7 @@ public:
         MouseOn(tabs, QEvent::MouseButtonRelease, MouseButton::Left, place);
     }
     void Slide(RangeControl& range, int value) override {
-        const ControlWidget* const widget = WidgetOf(range);
+        const ControlWidget* const widget = ViewOf(range);
         auto* const slider = widget ? qobject_cast<QAbstractSlider*>(widget->Widget()) : nullptr;
         if (!slider || !CanReach(range)) return;
         if (slider->value() == std::clamp(value, slider->minimum(), slider->maximum()))
@@ -152,7 +141,7 @@ public:
         Rest();
     }
     void Spin(UpDown& arrows, bool up) override {
-        const ControlWidget* const widget = WidgetOf(arrows);
+        const ControlWidget* const widget = ViewOf(arrows);
         if (!widget) return;
         const QRectF whole = widget->Widget()->rect();
         const QPointF place(up == (whole.height() < whole.width()) ? whole.right() : whole.left(), up ? whole.top() : whole.bottom());
@@ -161,15 +150,14 @@ public:
     }
 
     void MouseDown(Control& control, MouseButton button, double x, double y) override {
-        if (const ControlWidget* const widget = WidgetOf(control))
-            MouseOn(control, QEvent::MouseButtonPress, button, widget->PlaceOf(x, y));
+        if (const ControlWidget* const widget = ViewOf(control)) MouseOn(control, QEvent::MouseButtonPress, button, widget->PlaceOf(x, y));
     }
     void MouseUp(Control& control, MouseButton button, double x, double y) override {
-        if (const ControlWidget* const widget = WidgetOf(control))
+        if (const ControlWidget* const widget = ViewOf(control))
             MouseOn(control, QEvent::MouseButtonRelease, button, widget->PlaceOf(x, y));
     }
     void MouseMove(Control& control, double x, double y) override {
-        if (const ControlWidget* const widget = WidgetOf(control))
+        if (const ControlWidget* const widget = ViewOf(control))
             MouseOn(control, QEvent::MouseMove, MouseButton::None, widget->PlaceOf(x, y));
     }
     void MouseDownOnWindow(Window& window, MouseButton button, double x, double y) override {
@@ -200,6 +188,16 @@ public:
     }
 
 private:
+    ControlWidget* ViewOf(const Control& control) const {
+        WindowWidget* const window = renderer_.WidgetOf(*control.window);
+        return window ? window->Find(control) : nullptr;
+    }
+    QWidget* EditorInFocus() const {
+        Control* const focus = ActiveWindow() ? ActiveWindow()->Focus() : nullptr;
+        ControlWidget* const holder = focus && CanReach(*focus) ? ViewOf(*focus) : nullptr;
+        return holder ? holder->FocusWidget() : nullptr;
+    }
+
     // What waits for the end of an event, such as a window that changes its size, has its turn.
     void Rest() { QApplication::processEvents(); }
 
@@ -209,13 +207,13 @@ private:
     }
 
     QPointF Corner(const Control& control) const {
-        const ControlWidget* const widget = WidgetOf(control);
+        const ControlWidget* const widget = ViewOf(control);
         if (!widget || control.kind() != Kind::TabControl) return {};
         return {0, static_cast<double>(widget->Widget()->height() - 1)};  // its own corner is a tab
     }
 
     void MouseOn(Control& control, QEvent::Type type, MouseButton button, QPointF at) {
-        ControlWidget* const widget = WidgetOf(control);
+        ControlWidget* const widget = ViewOf(control);
         const bool is_release = type == QEvent::MouseButtonRelease;
         const bool drags = type == QEvent::MouseMove && mouse_.Holds();
         if (widget && (CanReach(control) || is_release || drags)) {
@@ -250,8 +248,8 @@ private:
 
     QApplication application_;
     Renderer renderer_;
-    KeyFilter keys_;
-    QtPopups popups_;
+    KeyFilter keys_{renderer_};
+    QtPopups popups_{renderer_};
     MadeMouse mouse_;
 };
 }  // namespace

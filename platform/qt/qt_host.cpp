@@ -7,16 +7,22 @@
 #include "platform/qt/look.h"
 #include "platform/qt/picture_file.h"
 #include "platform/qt/program_folder.h"
-#include "platform/qt/qt_message_boxes.h"
+
+namespace {
+// What is no part of the program's own talk.
+void Show(MessageBoxes& messages, const std::string& text) {
+    messages.Show({"Marlbrook", text, Icon::Exclamation, Buttons::Ok});
+}
+}  // namespace
 
 QtHost::QtHost() : folder_(FromQt(FindProgramFolder())), lock_(ToQt(folder_) + "/.marlbrook.lock") {
     lock_.setStaleLockTime(0);  // held as long as its process lives
 }
 
 // A folder that takes no lock is used all the same.
-bool QtHost::HasFolderAlone() {
+bool QtHost::HasFolderAlone(MessageBoxes& messages) {
     if (lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError) return true;
-    ShowPlainMessage("Marlbrook is running already. Two at a time would write the same settings and back-ups in\n" + folder_);
+    Show(messages, "Marlbrook is running already. Two at a time would write the same settings and back-ups in\n" + folder_);
     return false;
 }
 
@@ -37,6 +43,6 @@ void QtHost::End() {
 
 void QtHost::Fail(const char* word) {
     has_ended_ = true;  // from here on nothing is written
-    ShowPlainMessage(word);
+    Show(*services.messages, word);
     End();
 }

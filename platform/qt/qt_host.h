@@ -9,7 +9,7 @@ class QtHost : public ProgramHost {
 public:
     QtHost();
     bool HasEnded() const { return has_ended_; }
-    bool HasFolderAlone();  // False: another process works on it; the user has been told
+    bool HasFolderAlone(MessageBoxes& messages);  // false: another process works on it; the user has been told
 
     std::string Folder() override { return folder_; }
     Box ScreenSize() override;

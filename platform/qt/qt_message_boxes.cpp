@@ -81,7 +81,7 @@ private:
 }  // namespace
 
 Answer QtMessageBoxes::Show(const Message& message) {
-    const BoxOpens opens;
+    const BoxOpens opens(renderer_);
     QuestionBox box(opens.Parent());
     box.setFont(opens.Font());
     box.setWindowTitle(ToQt(message.title));
@@ -102,8 +102,4 @@ Answer QtMessageBoxes::Show(const Message& message) {
         default:
             return Answer::Ok;
     }
-}
-
-void ShowPlainMessage(const std::string& text) {
-    QtMessageBoxes().Show({"Marlbrook", text, Icon::Exclamation, Buttons::Ok});
 }

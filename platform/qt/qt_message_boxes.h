@@ -2,10 +2,13 @@
 #pragma once
 #include "platform/services.h"
 
+class Renderer;
+
 class QtMessageBoxes : public MessageBoxes {
 public:
+    explicit QtMessageBoxes(Renderer& renderer) : renderer_(renderer) {}
     Answer Show(const Message& message) override;
-};
 
-// A box that is no part of the program's own talk: a failure, a second program on the same folder.
-void ShowPlainMessage(const std::string& text);
+private:
+    Renderer& renderer_;
+};

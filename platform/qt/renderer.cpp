@@ -9,23 +9,13 @@
 #include "platform/run_event.h"
 #include "platform/user.h"
 
-namespace {
-Renderer* the_renderer = nullptr;
-}
-
-Renderer& TheRenderer() {
-    return *the_renderer;
-}
-
 Renderer::Renderer(std::function<bool()> has_ended) : has_ended_(std::move(has_ended)) {
-    the_renderer = this;
     BindWindowView(this);
 }
 
 Renderer::~Renderer() {
     BindWindowView(nullptr);
     widgets_.clear();
-    the_renderer = nullptr;
 }
 
 void Renderer::Run(const std::function<void()>& event) {

@@ -62,5 +62,3 @@ private:
     std::vector<ModelView*> noted_;
     std::map<const Window*, std::unique_ptr<WindowWidget>> widgets_;
 };
-
-Renderer& TheRenderer();

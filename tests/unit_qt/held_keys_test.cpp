@@ -53,7 +53,9 @@ protected:
         NameSample("20");
     }
 
-    KeyFilter keys_;
+    QString WordOfEnter(const Message& message);
+
+    KeyFilter keys_{renderer_};
 };
 
 TEST_F(HeldKeysTest, ACounterKeyCountsAtEachRepeat) {
@@ -133,7 +135,7 @@ TEST_F(HeldKeysTest, KeysOnTheirWayToAClosedMessageCountWhenItsEventIsOver) {
         }
         EXPECT_EQ(Counts[1][1], 1) << "the event goes on";
     });
-    Do([] { QtMessageBoxes().Show({"Caution!", "Do you proceed?", Icon::None, Buttons::YesNo}); });
+    Do([this] { QtMessageBoxes(renderer_).Show({"Caution!", "Do you proceed?", Icon::None, Buttons::YesNo}); });
     EXPECT_EQ(Counts[1][1], 4);
 }
 
@@ -167,7 +169,7 @@ TEST_F(HeldKeysTest, ABoxThatTakesEveryKeyHasAHeldOneOnce) {
 }
 
 // The words of the button that Enter presses in the box of this message.
-QString WordOfEnter(const Message& message) {
+QString HeldKeysTest::WordOfEnter(const Message& message) {
     QString word;
     QTimer::singleShot(0, [&word] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -175,7 +177,7 @@ QString WordOfEnter(const Message& message) {
         if (box->defaultButton()) word = box->defaultButton()->text();
         box->close();
     });
-    QtMessageBoxes().Show(message);
+    QtMessageBoxes(renderer_).Show(message);
     return word.remove('&');
 }
 

@@ -25,6 +25,6 @@ void OnScreenTest::Do(const std::function<void()>& act) {
     QApplication::processEvents();
 }
 
-ControlWidget& OnScreenTest::Shown(const Control& control) {
-    return *TheRenderer().WidgetOf(*control.window)->Find(control);
+ControlWidget& OnScreenTest::Shown(const Control& control) const {
+    return *renderer_.WidgetOf(*control.window)->Find(control);
 }

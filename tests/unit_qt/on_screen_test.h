@@ -16,7 +16,7 @@ protected:
     ~OnScreenTest() override;
 
     void Do(const std::function<void()>& act);  // one event, with all that follows from it
-    static ControlWidget& Shown(const Control& control);
+    ControlWidget& Shown(const Control& control) const;
 
 private:
     static constexpr const char* kFolder = "/program";

@@ -23,30 +23,30 @@ protected:
         renderer_.Run([] { ClickControl(frmMain.Command3[1]); });
     }
 
-    static QLineEdit& Line(const Control& box) { return *qobject_cast<QLineEdit*>(Shown(box).Widget()); }
-    static void Hand(const Control& box, QEvent::Type type, QPointF at) {
+    QLineEdit& Line(const Control& box) { return *qobject_cast<QLineEdit*>(Shown(box).Widget()); }
+    void Hand(const Control& box, QEvent::Type type, QPointF at) {
         const bool is_move = type == QEvent::MouseMove, is_release = type == QEvent::MouseButtonRelease;
         QMouseEvent event(type, at, Line(box).mapToGlobal(at), is_move ? Qt::NoButton : Qt::LeftButton,
                           is_release ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&Line(box), &event);
     }
     // With the tremble of a hand between press and release.
-    static void ClickByHand(const Control& box) {
+    void ClickByHand(const Control& box) {
         const QPointF middle = QRectF(Line(box).rect()).center();
         Hand(box, QEvent::MouseButtonPress, middle);
         Hand(box, QEvent::MouseMove, middle + QPointF(3, 1));
         Hand(box, QEvent::MouseButtonRelease, middle + QPointF(3, 1));
     }
-    static void Press(const Control& box, Qt::Key key, const char* text = "", Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    void Press(const Control& box, Qt::Key key, const char* text = "", Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, key, modifiers, text);
             QApplication::sendEvent(&Line(box), &event);
         }
     }
-    static void Type(const Control& box, const char* text) { Press(box, Qt::Key_P, text); }
+    void Type(const Control& box, const char* text) { Press(box, Qt::Key_P, text); }
 
 private:
-    KeyFilter keys_;
+    KeyFilter keys_{renderer_};
 };
 
 TEST_F(TextLineTest, TheClickIntoAnUnnamedCellMarksItsDashes) {
