@@ -4,12 +4,14 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <utility>
+#include <vector>
 
 #include "platform/controls.h"
+#include "platform/focus_walk.h"
+#include "platform/key_codes.h"
 #include "platform/qt/box_editing.h"
 #include "platform/qt/combo_list.h"
 #include "platform/qt/control_widget.h"
-#include "platform/qt/key_walk.h"
 #include "platform/qt/menu_view.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/virtual_key.h"
@@ -39,6 +41,67 @@ bool IsClipboardKey(const QKeyEvent& key) {
 
 bool IsSink(const Control& control) {
     return control.AsTextHolder() && !TakesText(control);
+}
+
+std::vector<Control*> Siblings(const Control& option) {
+    std::vector<Control*> options;
+    for (Control* other : option.window->Controls())
+        if (other->kind() == Kind::OptionButton && other->container == option.container && CanReach(*other)) options.push_back(other);
+    return options;
+}
+
+// By what the key is: one that a script only holds down is neither.
+int AnswerCode(const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return kEnterKey;
+    return key.key() == Qt::Key_Escape ? kEscapeKey : 0;
+}
+
+bool SelectSibling(UserEvents& events, Control& option, int step) {
+    Control* const next = NextInRound(Siblings(option), &option, step);
+    if (next && next != &option) events.Run([next] { ClickControl(*next); });
+    return true;
+}
+
+// Tab or Shift+Tab.
+bool IsWalk(const QKeyEvent& key) {
+    return (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
+// In the order of the window's controls, past those that cannot be reached.
+void WalkFocus(UserEvents& events, Window& window, const QKeyEvent& key) {
+    const bool back = key.key() == Qt::Key_Backtab || (key.modifiers() & Qt::ShiftModifier);
+    events.Run([&] { ::WalkFocus(window, back); });
+}
+
+// The space bar and Enter press a button, arrows walk among options. True: the key pressed something.
+bool PressFocused(UserEvents& events, Control& focus, const QKeyEvent& key) {
+    switch (key.key()) {
+        case Qt::Key_Space:
+            if (focus.kind() != Kind::Button && focus.kind() != Kind::CheckBox && focus.kind() != Kind::OptionButton) return false;
+            break;
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            return focus.kind() == Kind::OptionButton && SelectSibling(events, focus, -1);
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            return focus.kind() == Kind::OptionButton && SelectSibling(events, focus, 1);
+        default:
+            return false;
+    }
+    events.Run([&focus] { ClickControl(focus); });
+    return true;
+}
+
+// Enter or Esc.
+bool IsAnswer(const QKeyEvent& key) {
+    return AnswerCode(key) != 0;
+}
+
+// Enter or Esc in a dialog.
+bool PressAnswer(UserEvents& events, const QKeyEvent& key) {
+    bool pressed = false;
+    if (const int code = AnswerCode(key); code != 0) events.Run([&] { pressed = ::PressAnswer(code); });
+    return pressed;
 }
 }  // namespace
 
