@@ -1,7 +1,7 @@
 #include "platform/qt/accessible_tabs.h"
 
 #include "platform/qt/look.h"
-#include "platform/qt/tab_bar.h"
+#include "platform/qt/tab_view.h"
 #include "platform/user.h"
 
 QWidget* PageOf(const WindowWidget& window, const TabControl& tabs, int tab) {

@@ -15,7 +15,7 @@
 #include "platform/qt/menu_view.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/renderer.h"
-#include "platform/qt/tab_bar.h"
+#include "platform/qt/tab_view.h"
 #include "platform/qt/text_area.h"
 #include "platform/qt/text_line.h"
 #include "platform/qt/text_places.h"
