@@ -8,7 +8,7 @@
 #include "platform/qt/accessible_text.h"
 #include "platform/qt/accessible_value.h"
 #include "platform/qt/accessible_window.h"
-#include "platform/qt/combo_list.h"
+#include "platform/qt/combo_box_view.h"
 #include "platform/qt/menu_view.h"
 
 namespace {

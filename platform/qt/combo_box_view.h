@@ -1,11 +1,37 @@
-// A combo box: the editor of its text, an arrow, and the list that drops down.
+// A combo box on the screen, and the list that drops down from it.
 #pragma once
+#include <QListView>
+#include <functional>
+
 #include "platform/controls.h"
-#include "platform/qt/combo_list.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/text_line.h"
 #include "platform/window.h"
 
+// The list that drops down from a combo box. It reads the program's own list, ten thousand lines or more, and copies none of it.
+class ComboList : public QListView {
+public:
+    ComboList(QWidget* parent, const ComboBox& box, std::function<void(int)> choose);
+
+    void OpenBelow(const QWidget& field);  // wide enough for its lines, the line on show in view
+    void ShowItems();                      // the list has changed while it is open
+    void ChooseRow(int row);               // as a click on it
+    static bool IsNavigation(int key);     // moves in the list, chooses or closes; every other key closes it and goes to the window
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void Choose(const QModelIndex& item);
+    void SelectShown();
+    int LineWidth() const;
+
+    const ComboBox& box_;
+    std::function<void(int)> choose_;
+};
+
+// A combo box: the editor of its text, an arrow, and the list that drops down.
 class ComboBoxView : public ControlWidget {
 public:
     ComboBoxView(ComboBox& box, ViewHost& window, ControlWidget* owner);
