@@ -5,7 +5,7 @@
 
 #include "platform/controls.h"
 #include "platform/qt/control_widget.h"
-#include "platform/qt/text_line.h"
+#include "platform/qt/text_editors.h"
 #include "platform/window.h"
 
 // The list that drops down from a combo box. It reads the program's own list, ten thousand lines or more, and copies none of it.

@@ -1,7 +1,6 @@
 #include <QCoreApplication>
 
-#include "platform/qt/text_area.h"
-#include "platform/qt/text_line.h"
+#include "platform/qt/text_editors.h"
 #include "platform/qt/views.h"
 #include "platform/window.h"
 

@@ -1,0 +1,230 @@
+#include "platform/qt/text_editors.h"
+
+#include <QMouseEvent>
+#include <QSignalBlocker>
+#include <QTextBoundaryFinder>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/look.h"
+#include "platform/qt/text_places.h"
+#include "platform/user.h"
+#include "platform/window.h"
+
+namespace {
+constexpr double kMarginTwips = 40;
+}  // namespace
+
+void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret) {
+    view.Changed(Property::Text);  // a procedure may have refused it
+    view.Events().Run([&] { EnterText(box, Unshown(shown), CharactersBefore(shown, caret)); });
+}
+
+void TellSelection(TextHolder& box, const QString& shown, int start, int length) {
+    const int before = CharactersBefore(shown, start);
+    const int selected = CharactersBefore(shown, start + length) - before;
+    box.Select(before, selected);
+}
+
+int BoxMargin(double factor) {
+    return static_cast<int>(kMarginTwips * factor);
+}
+
+// An input method would keep dead keys to itself.
+void PrepareEditor(QWidget& editor, const TextHolder& box) {
+    editor.setFocusPolicy(Qt::NoFocus);
+    editor.setContextMenuPolicy(Qt::PreventContextMenu);
+    editor.setAcceptDrops(false);
+    if (box.TakesKeysAsInput()) editor.setAttribute(Qt::WA_InputMethodEnabled, false);
+}
+
+QPalette EditorPalette(const TextHolder& box) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, BoxGround(box.State()));
+    palette.setColor(QPalette::Text, ToQt(box.ForeColor()));
+    return palette;
+}
+
+void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
+                 int most_lines) {
+    painter.fillRect(room, BoxGround(box.State()));
+    PaintBoxOutline(painter, room, false);
+    painter.setPen(ToQt(box.ForeColor()));
+    const int margin = BoxMargin(factor);
+    const bool one_line = most_lines <= 2;
+    const Qt::Alignment across = box.IsCentred() ? Qt::AlignHCenter : Qt::AlignLeft;
+    const Qt::Alignment down = one_line ? Qt::AlignVCenter : Qt::AlignTop;
+    const int above = one_line ? 1 : margin;
+    fitted.Paint(painter, room.adjusted(margin, above, -margin, -above), Shown(box.Text()), font, across | down, most_lines);
+}
+
+void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus) {
+    PaintOutline(painter, room, in_focus ? kAccent : kOutline, in_focus ? 2 : 1, 0);
+}
+
+namespace {
+constexpr int kMostLines = 2;
+constexpr int kOwnMargin = 2;  // of a line edit
+}  // namespace
+
+TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdit(parent), box_(box) {
+    PrepareEditor(*this, box);
+    setFrame(false);
+    setDragEnabled(false);
+    if (box.IsCentred()) setAlignment(Qt::AlignCenter);
+    connect(this, &QLineEdit::textEdited, this, [this, &view](const QString& text) { TellText(box_, view, text, cursorPosition()); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, &TextLine::TellCaret);
+    connect(this, &QLineEdit::selectionChanged, this, &TextLine::TellCaret);
+}
+
+// The desktop may give the keyboard later than the program gives the focus, and what is typed by then must not go astray: the caret
+// follows the program.
+void TextLine::TellCaret() {
+    if (HoldsFocus(box_)) TellSelection(box_, text(), hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
+}
+
+void TextLine::Agree(const QFont& font, double factor) {
+    const QSignalBlocker blocker(this);
+    font_ = font;
+    factor_ = factor;
+    if (const QString wanted = Shown(box_.Text()); text() != wanted) setText(wanted);
+    AgreeAboutCaret();
+    if (hasFocus()) AgreeForEditing();
+}
+
+void TextLine::AgreeAboutCaret() {
+    const int start = UnitAfter(text(), box_.SelStart());
+    const int length = UnitAfter(text(), box_.SelStart() + box_.SelLength()) - start;
+    if (selectionLength() == length && (length > 0 ? selectionStart() : cursorPosition()) == start) return;
+    if (length > 0)
+        setSelection(start, length);
+    else
+        setCursorPosition(start);
+}
+
+void TextLine::AgreeForEditing() {
+    const QSignalBlocker blocker(this);
+    setFont(font_);
+    setPalette(EditorPalette(box_));
+    const int margin = std::max(0, BoxMargin(factor_) - kOwnMargin);
+    setTextMargins(margin, 0, margin, 0);
+}
+
+void TextLine::focusInEvent(QFocusEvent* event) {
+    comes_in_ = true;
+    AgreeForEditing();
+    QLineEdit::focusInEvent(event);
+}
+
+// The click that comes into a box with a placeholder marks it; once in, clicks and drags are as in any other text.
+void TextLine::mousePressEvent(QMouseEvent* event) {
+    marks_ = std::exchange(comes_in_, false) && event->button() == Qt::LeftButton && box_.HoldsPlaceholder();
+    if (marks_)
+        selectAll();
+    else
+        QLineEdit::mousePressEvent(event);
+}
+
+void TextLine::mouseMoveEvent(QMouseEvent* event) {
+    if (!marks_) QLineEdit::mouseMoveEvent(event);
+}
+
+void TextLine::paintEvent(QPaintEvent* event) {
+    if (hasFocus()) {
+        QLineEdit::paintEvent(event);
+        QPainter painter(this);
+        PaintBoxOutline(painter, rect(), true);
+    } else {
+        QPainter painter(this);
+        PaintAtRest(painter, rect(), box_, font_, factor_, fitted_, kMostLines);
+    }
+}
+
+namespace {
+constexpr int kMostLinesOfArea = 99;
+constexpr qsizetype kLongestWord = 1000;  // units from one place where a line can end to the next
+
+bool HoldsLongerWord(const QString& text) {
+    QTextBoundaryFinder places(QTextBoundaryFinder::Line, text);
+    for (qsizetype start = 0, end = places.toNextBoundary(); end >= 0; start = std::exchange(end, places.toNextBoundary()))
+        if (end - start > kLongestWord) return true;
+    return false;
+}
+}  // namespace
+
+TextArea::TextArea(QWidget* parent, TextBox& box, ModelView& view) : QPlainTextEdit(parent), box_(box) {
+    PrepareEditor(*this, box);
+    setFrameShape(QFrame::NoFrame);
+    setUndoRedoEnabled(false);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(document(), &QTextDocument::contentsChange, this, &TextArea::ChooseWrapping);
+    connect(this, &QPlainTextEdit::textChanged, this, [this, &view] {
+        if (const QString text = toPlainText(); text != Shown(box_.Text())) TellText(box_, view, text, textCursor().position());
+    });
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextArea::TellCaret);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &TextArea::TellCaret);
+}
+
+// Laying out a word takes a time that grows with the square of its length, unless its lines may end anywhere. The document tells of a
+// change, whoever made it, before it lays out what has changed.
+void TextArea::ChooseWrapping() {
+    setWordWrapMode(HoldsLongerWord(toPlainText()) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+void TextArea::TellCaret() {
+    const QTextCursor cursor = textCursor();
+    if (HoldsFocus(box_)) TellSelection(box_, toPlainText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
+}
+
+void TextArea::Agree(const QFont& font, double factor) {
+    const QSignalBlocker blocker(this);
+    font_ = font;
+    factor_ = factor;
+    if (const QString wanted = Shown(box_.Text()); toPlainText() != wanted) {
+        QTextCursor whole(document());
+        whole.select(QTextCursor::Document);
+        whole.insertText(wanted);  // setPlainText would lay it out before the document tells of it
+    }
+    AgreeAboutCaret();
+    if (hasFocus()) AgreeForEditing();
+}
+
+void TextArea::AgreeAboutCaret() {
+    const QString text = toPlainText();
+    const int start = UnitAfter(text, box_.SelStart());
+    const int end = UnitAfter(text, box_.SelStart() + box_.SelLength());
+    QTextCursor cursor = textCursor();
+    if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void TextArea::AgreeForEditing() {
+    const QSignalBlocker blocker(this);
+    setFont(font_);
+    setPalette(EditorPalette(box_));
+}
+
+void TextArea::paintEvent(QPaintEvent* event) {
+    if (hasFocus()) QPlainTextEdit::paintEvent(event);
+    QPainter painter(viewport());
+    if (hasFocus())
+        PaintBoxOutline(painter, viewport()->rect(), true);
+    else
+        PaintAtRest(painter, viewport()->rect(), box_, font_, factor_, fitted_, kMostLinesOfArea);
+}
+
+void TextArea::focusInEvent(QFocusEvent* event) {
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    AgreeForEditing();
+    QPlainTextEdit::focusInEvent(event);
+    viewport()->update();
+}
+
+void TextArea::focusOutEvent(QFocusEvent* event) {
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QPlainTextEdit::focusOutEvent(event);
+    viewport()->update();
+}

@@ -1,0 +1,74 @@
+// What the editors of text boxes and combo boxes have in common: how they tell the program, and how they look.
+#pragma once
+#include <QLineEdit>
+#include <QPainter>
+#include <QPalette>
+#include <QPlainTextEdit>
+#include <QWidget>
+
+#include "platform/controls.h"
+#include "platform/qt/fitted_text.h"
+#include "platform/qt/model_view.h"
+
+// The user has changed the text: the program hears it as a whole, with the caret (in units of `shown`). The view shows what became of it.
+void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret);
+void TellSelection(TextHolder& box, const QString& shown, int start, int length);  // in units of `shown`
+
+int BoxMargin(double factor);  // pixels left and right of the text
+void PrepareEditor(QWidget& editor, const TextHolder& box);
+QPalette EditorPalette(const TextHolder& box);
+
+// A box that does not hold the keyboard shows its whole text.
+void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
+                 int most_lines);
+void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus);
+
+// The editor of one line in a text box or combo box. While it holds the keyboard it is a line edit like any other; at rest it paints
+// its text so that all of it can be read.
+class TextLine : public QLineEdit {
+public:
+    TextLine(QWidget* parent, TextHolder& box, ModelView& view);
+    void Agree(const QFont& font, double factor);  // with the box
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    void TellCaret();
+    void AgreeAboutCaret();  // and about what is selected
+    void AgreeForEditing();  // what only matters while it holds the keyboard
+
+    TextHolder& box_;
+    QFont font_;
+    double factor_ = 0;
+    bool comes_in_ = false;  // the keyboard has just come here
+    bool marks_ = false;     // the mouse that is down has marked a placeholder
+    FittedText fitted_;
+};
+
+// The editor of several lines in a text box; like TextLine, it paints its text itself while it does not hold the keyboard.
+// A line ends between words, save where the text holds a word that nobody would write: then it may end anywhere.
+class TextArea : public QPlainTextEdit {
+public:
+    TextArea(QWidget* parent, TextBox& box, ModelView& view);
+    void Agree(const QFont& font, double factor);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void ChooseWrapping();
+    void TellCaret();
+    void AgreeAboutCaret();  // and about what is selected
+    void AgreeForEditing();  // what only matters while it holds the keyboard
+
+    TextBox& box_;
+    QFont font_;
+    double factor_ = 0;
+    FittedText fitted_;
+};
