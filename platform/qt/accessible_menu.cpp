@@ -3,7 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "platform/qt/accessible_node.h"
+#include "platform/qt/accessible_control.h"
 #include "platform/qt/look.h"
 #include "platform/spoken_name.h"
 #include "platform/user.h"

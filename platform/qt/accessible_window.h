@@ -1,6 +1,6 @@
 // A window of the program as a screen reader finds it: its menu bar, and the controls that lie in no other.
 #pragma once
-#include "platform/qt/accessible_node.h"
+#include "platform/qt/accessible_control.h"
 
 class AccessibleWindow : public AccessibleNode {
 public:
