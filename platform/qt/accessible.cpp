@@ -4,7 +4,6 @@
 
 #include "platform/qt/accessible_combo_box.h"
 #include "platform/qt/accessible_menu.h"
-#include "platform/qt/accessible_tabs.h"
 #include "platform/qt/accessible_text.h"
 #include "platform/qt/accessible_value.h"
 #include "platform/qt/accessible_window.h"
