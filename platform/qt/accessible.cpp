@@ -3,7 +3,6 @@
 #include <QAction>
 
 #include "platform/qt/accessible_combo_box.h"
-#include "platform/qt/accessible_menu.h"
 #include "platform/qt/accessible_text.h"
 #include "platform/qt/accessible_value.h"
 #include "platform/qt/accessible_window.h"
