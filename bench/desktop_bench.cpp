@@ -17,7 +17,6 @@
 #include "platform/qt/look.h"
 #include "platform/qt/picture_painter.h"
 #include "platform/qt/qt_files.h"
-#include "platform/qt/shown_operations.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <span>
+#include <vector>
 
 #include "platform/picture_box.h"
 
@@ -19,3 +20,15 @@ void RepaintPart(QPixmap& picture, const QRect& part, Colour ground, std::span<c
 
 // The pixels that an operation may colour, and some around them.
 QRectF Reach(const DrawOperation& operation, const PictureScale& scale);
+
+// A display list as it was last shown: tells in which part of the picture the next one looks different.
+class ShownOperations {
+public:
+    const std::vector<DrawOperation>& All() const { return shown_; }
+
+    // Shows `now` from here on. The pixels of the picture that may look different; an empty rectangle if none does.
+    QRect Show(std::span<const DrawOperation> now, const PictureScale& scale);
+
+private:
+    std::vector<DrawOperation> shown_;
+};

@@ -8,7 +8,6 @@
 #include "platform/qt/look.h"
 #include "platform/qt/picture_file.h"
 #include "platform/qt/picture_painter.h"
-#include "platform/qt/shown_operations.h"
 #include "platform/qt/views.h"
 #include "platform/services.h"
 

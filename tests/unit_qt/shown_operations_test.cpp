@@ -1,5 +1,5 @@
 // A picture that is repainted in parts is, to the pixel, the picture painted anew.
-#include "platform/qt/shown_operations.h"
+#include "platform/qt/picture_painter.h"
 
 #include <gtest/gtest.h>
 
