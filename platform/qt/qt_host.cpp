@@ -1,12 +1,19 @@
 #include "platform/qt/qt_host.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMetaObject>
+#include <QSaveFile>
 #include <QScreen>
+#include <QStandardPaths>
+#include <QTemporaryFile>
 
 #include "platform/qt/look.h"
 #include "platform/qt/picture_file.h"
-#include "platform/qt/program_folder.h"
 
 namespace {
 // What is no part of the program's own talk.
@@ -45,4 +52,60 @@ void QtHost::Fail(const char* word) {
     has_ended_ = true;  // from here on nothing is written
     Show(*services.messages, word);
     End();
+}
+
+namespace {
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+constexpr auto kName = "Marlbrook";
+#else
+constexpr auto kName = "marlbrook";
+#endif
+
+bool HoldsReferences(const QString& folder) {
+    return QFileInfo(folder + "/References").isDir();
+}
+
+// By making a file: permissions tell less, to root and behind access lists.
+bool CanBeWritten(const QString& folder) {
+    QTemporaryFile file(folder + "/.marlbrook-XXXXXX");
+    return file.open();
+}
+
+// The tree as it is installed: on Linux, on Windows, in a macOS bundle.
+QString InstalledTree() {
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const QString& folder : {program + "/../share/marlbrook", program, program + "/../Resources"})
+        if (HoldsReferences(folder)) return folder;
+    return {};
+}
+
+// Under its own name only when it is whole, which QFile::copy does not promise on every system: what a full disk or a power cut left
+// half-written would be taken for the user's own.
+void CopyWhole(const QString& file, const QString& copy) {
+    QFile from(file);
+    QSaveFile to(copy);
+    if (!from.open(QIODevice::ReadOnly) || !to.open(QIODevice::WriteOnly)) return;
+    if (to.write(from.readAll()) == from.size() && to.flush()) to.commit();  // which would keep what its own flush cut short
+}
+}  // namespace
+
+QString FindProgramFolder() {
+    QString program = QCoreApplication::applicationDirPath();
+    if (HoldsReferences(program) && CanBeWritten(program)) return program;
+    QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/" + kName;
+    QDir().mkpath(own);
+    if (const QString tree = InstalledTree(); !tree.isEmpty()) LayDownMissing(tree, own);
+    return own;
+}
+
+void LayDownMissing(const QString& from, const QString& to) {
+    QDirIterator entries(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString entry = entries.next();
+        const QString copy = to + "/" + QDir(from).relativeFilePath(entry);
+        if (entries.fileInfo().isDir())
+            QDir().mkpath(copy);
+        else if (!QFileInfo::exists(copy) && QDir().mkpath(QFileInfo(copy).path()))
+            CopyWhole(entry, copy);
+    }
 }

@@ -1,5 +1,5 @@
 // The user's own folder against the installed tree, however much of it an earlier start has laid down.
-#include "platform/qt/program_folder.h"
+#include "platform/qt/qt_host.h"
 
 #include <gtest/gtest.h>
 
