@@ -2,10 +2,9 @@
 #pragma once
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_files.h"
 #include "platform/qt/qt_keyboard.h"
-#include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_sounds.h"
 
 struct DesktopServices {

@@ -8,7 +8,7 @@
 #include "keys/first_run.h"
 #include "platform/qt/key_filter.h"
 #include "platform/qt/menu_view.h"
-#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_dialogs.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"

@@ -1,13 +1,31 @@
-#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_dialogs.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
 
-#include "platform/qt/boxes.h"
 #include "platform/qt/held_keys.h"
 #include "platform/qt/look.h"
+#include "platform/qt/paths.h"
+#include "platform/qt/renderer.h"
+#include "platform/qt/scaling.h"
+#include "platform/qt/window_widget.h"
+
+BoxOpens::BoxOpens(Renderer& renderer) {
+    renderer.Agree();
+    WindowWidget* const active = renderer.ActiveWidget();
+    const bool is_seen = active && active->isVisible();
+    if (is_seen) parent_ = active;
+    font_ = PlainFont(is_seen ? active->Factor() : CommonFactor(*QApplication::primaryScreen()));
+}
 
 namespace {
 constexpr int kDeafMs = 250;
@@ -102,4 +120,40 @@ Answer QtMessageBoxes::Show(const Message& message) {
         default:
             return Answer::Ok;
     }
+}
+
+namespace {
+constexpr QSize kSizeInLines(46, 28);
+
+// "DataFile(*.csv)|*.csv": what is said, then the pattern; Qt takes the pattern from the brackets.
+QString NameFilter(const std::string& filter) {
+    return ToQt(filter).section(u'|', 0, 0).replace(QLatin1String("("), QLatin1String(" (")).simplified();
+}
+
+QString Suffix(const std::string& filter) {
+    return ToQt(filter).section(QLatin1String("*."), -1);
+}
+}  // namespace
+
+std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
+    const BoxOpens opens(renderer_);
+    const bool saves = question.kind == FileQuestion::Kind::Save;
+    const QFileInfo proposed(SystemPath(question.proposed_name));
+    if (folder_.isEmpty()) folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();
+    const bool has_folder = proposed.isAbsolute() && proposed.dir().exists();
+
+    QFileDialog dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), has_folder ? proposed.path() : folder_);
+    dialog.setFont(opens.Font());
+    dialog.resize(kSizeInLines * QFontMetrics(opens.Font()).height());
+    dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setNameFilter(NameFilter(question.filter));
+    dialog.setDefaultSuffix(Suffix(question.filter));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.ask_before_overwriting);
+    if (!proposed.fileName().isEmpty() && (saves || proposed.exists())) dialog.selectFile(proposed.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    const QString path = dialog.selectedFiles().constFirst();
+    folder_ = QFileInfo(path).path();
+    return FromQt(path);
 }
