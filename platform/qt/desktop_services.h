@@ -1,12 +1,42 @@
-// The services of the desktop, together.
+// The services of the desktop.
 #pragma once
-#include "platform/qt/qt_clipboard.h"
-#include "platform/qt/qt_clock.h"
+#include <QDateTime>
+
+#include "platform/qt/look.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_files.h"
 #include "platform/qt/qt_keyboard.h"
 #include "platform/qt/qt_sounds.h"
+#include "platform/services.h"
 
+class Renderer;
+
+class QtClock : public Clock {
+public:
+    std::string DateText() override { return FromQt(QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy"))); }
+    std::string TimeText() override { return FromQt(QTime::currentTime().toString(QStringLiteral("HH:mm:ss"))); }
+};
+
+class QtClipboard : public Clipboard {
+public:
+    explicit QtClipboard(Renderer& renderer) : renderer_(renderer) {}
+    void PutImage(const PictureBox& picture) override;
+
+private:
+    Renderer& renderer_;
+};
+
+// A popup opens under the mouse when the event that asks for it is over.
+class QtPopups : public Popups {
+public:
+    explicit QtPopups(Renderer& renderer) : renderer_(renderer) {}
+    void Open(MenuItem& menu) override;
+
+private:
+    Renderer& renderer_;
+};
+
+// All of them together.
 struct DesktopServices {
     QtMessageBoxes messages;
     QtFileDialogs dialogs;
