@@ -9,7 +9,7 @@
 #include "platform/qt/look.h"
 #include "platform/qt/qt_host.h"
 #include "platform/qt/renderer.h"
-#include "platform/qt/wayland.h"
+#include "platform/qt/window_system.h"
 
 namespace {
 // Under Wayland the toolkit asks for its window to be activated whenever the focus moves inside it. The desktop answers later, and the

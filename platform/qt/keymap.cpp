@@ -11,8 +11,7 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/virtual_key.h"
-#include "platform/qt/wayland.h"
-#include "platform/qt/x11.h"
+#include "platform/qt/window_system.h"
 
 namespace {
 struct Accent {

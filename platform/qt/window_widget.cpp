@@ -14,7 +14,7 @@
 #include "platform/qt/scaling.h"
 #include "platform/qt/veil.h"
 #include "platform/qt/views.h"
-#include "platform/qt/wayland.h"
+#include "platform/qt/window_system.h"
 #include "platform/user.h"
 
 namespace {

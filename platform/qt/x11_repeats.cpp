@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "platform/qt/x11.h"
+#include "platform/qt/window_system.h"
 
 #if QT_CONFIG(xcb)
 #include <X11/XKBlib.h>
