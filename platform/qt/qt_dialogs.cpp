@@ -14,7 +14,7 @@
 
 #include "platform/qt/held_keys.h"
 #include "platform/qt/look.h"
-#include "platform/qt/paths.h"
+#include "platform/qt/qt_files.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/scaling.h"
 #include "platform/qt/window_widget.h"

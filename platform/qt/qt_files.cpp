@@ -4,7 +4,7 @@
 #include <QFileInfo>
 
 #include "platform/failure.h"
-#include "platform/qt/paths.h"
+#include "platform/qt/look.h"
 
 #ifdef Q_OS_WIN
 #include <io.h>
@@ -49,6 +49,10 @@ private:
     QFile file_;
 };
 }  // namespace
+
+QString SystemPath(const std::string& path) {
+    return ToQt(path).replace(u'\\', u'/');  // which separates folders everywhere there
+}
 
 std::string QtFiles::ReadAll(const std::string& path) {
     const QFileInfo info(SystemPath(path));

@@ -1,5 +1,7 @@
 // The files of the disk, under their paths in UTF-8.
 #pragma once
+#include <QString>
+
 #include "platform/files.h"
 
 class QtFiles : public Files {
@@ -7,3 +9,5 @@ public:
     std::string ReadAll(const std::string& path) override;
     std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
 };
+
+QString SystemPath(const std::string& path);  // as the toolkit takes it
