@@ -1,5 +1,5 @@
 // What the keys of a country's keyboard type, and whether the manual's table of keyboards says the same.
-#include "platform/qt/keymap.h"
+#include "platform/qt/qt_keyboard.h"
 
 #ifdef MARLBROOK_XKB
 #include <gtest/gtest.h>
