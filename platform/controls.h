@@ -45,7 +45,7 @@ public:
     bool centred = false;
     bool takes_keys = false;  // each key counts as itself, whatever it types or does elsewhere: Tab, Enter and dead keys too
     bool takes_text = true;   // false: it can hold the focus, but what is typed lands nowhere
-    std::string placeholder;  // stands for nothing: the hand that clicks into it marks it whole, to type over it; empty: none
+    std::string placeholder;  // a text that stands for nothing: a click into the box selects it, to type over it; empty: none
 
     bool TakesText() const override { return takes_text; }
     bool TakesKeysAsInput() const override { return takes_keys; }

@@ -57,7 +57,7 @@ public:
     virtual void Resize(Window& window, int width, int height) = 0;  // in twips; to the same size is a resize too
     virtual void Close(Window& window) = 0;                          // by its frame
 
-    // A PNG of a window (`control` nullptr) or of one of its controls, as a user sees it. False: these hands have no windows to show.
+    // A PNG of a window (`control` nullptr) or of one of its controls, as a user sees it. false: these hands have no windows to show.
     virtual bool SaveImage(Window& window, Control* control, const std::string& path) = 0;
 };
 

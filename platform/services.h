@@ -54,7 +54,7 @@ public:
     virtual ~Sounds() = default;
     virtual void Play(const Wave& wave) = 0;  // returns at once; cuts off the wave that plays. Silent without a device
     virtual void Beep() = 0;                  // the system's own signal
-    // Calls the procedure, at once or later, if there turns out to be no device; the one that was told last.
+    // Calls the procedure, at once or later, if there turns out to be no device. A later procedure replaces it.
     virtual void IfSilent(std::function<void()> procedure) = 0;
 };
 
@@ -123,7 +123,7 @@ std::string ProgramFile(const std::string& parts);
 class CommonDialog {
 public:
     std::string FileName;
-    bool AskForSaving();  // False: cancelled, and FileName is as it was
+    bool AskForSaving();  // false: cancelled, and FileName is as it was
     bool AskForOpening();
 
 private:

@@ -18,7 +18,7 @@ std::optional<double> AsNumber(std::string_view text);
 // locale, no exponent however large or small, "0" for minus zero. Raises "Overflow" for an infinite number and for what is no number.
 std::string NumberText(double number);
 
-// The same for a Single: the shortest decimal text that reads back as the same Single (0.1, not 0.10000000149).
+// The same for a float: the shortest decimal text that reads back as the same float (0.1, not 0.10000000149).
 std::string SingleText(float number);
 
 // Whether a text is just the text of its own numeric value: "12.5" is, "12.50", "007" and "top" are not.

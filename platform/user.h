@@ -21,7 +21,7 @@ void ReleaseKey(int code);
 
 // Enter (13) or Esc (27) in the active window, once PressKey has left it unused: clicks the button that it stands for. Enter is for the
 // button in focus, else for Window::confirm; Esc is for Window::dismiss. A box that takes keys keeps both for itself, one of several lines
-// keeps Enter. False: no button was there to click.
+// keeps Enter. false: no button was there to click.
 bool PressAnswer(int code);
 
 // A button goes down on a control, moves over it, comes up. Press moves the focus first, if the kind takes it.

@@ -53,5 +53,5 @@ private:
     Control& control_;
 };
 
-// Gives a control the focus as the user's hand does, if it can have it.
+// Gives a control the focus as a user's click does, if it can have it.
 void FocusForReader(Control& control);

@@ -29,7 +29,7 @@ public:
     virtual QWidget* FocusWidget() { return widget_; }              // what takes the keyboard while the control has the focus
     virtual QWidget* MouseWidget() { return widget_; }              // the part of it that the mouse meets
     virtual QPointF PlaceOf(double x, double y) const;              // in the widget, of a place as the mouse events tell it
-    // A key that the program has seen and not used up, while the control has the focus. True: the control used it.
+    // A key that the program has seen and not used up, while the control has the focus. true: the control used it.
     virtual bool TakeKey(QKeyEvent& /*key*/) { return false; }
     void Rescale() { Apply(Changes::All()); }
 

@@ -29,7 +29,7 @@ private:
     void PaintLayout(QPainter& painter, const QRectF& place, Qt::Alignment alignment) const;
     static Layout Fit(const Question& question);
     enum class Break { Never, BetweenWords, Anywhere };
-    // With the largest of the sizes that does; False: none does.
+    // With the largest of the sizes that does; false: none does.
     static bool FitLines(const Question& question, int largest, int smallest, Break where, Layout& layout, int stretch = 100);
     static bool FitAt(const Question& question, int pixels, Break where, Layout& layout, int stretch);
     static Layout Cut(const Question& question, int pixels);

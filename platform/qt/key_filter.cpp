@@ -73,7 +73,7 @@ void WalkFocus(UserEvents& events, Window& window, const QKeyEvent& key) {
     events.Run([&] { ::WalkFocus(window, back); });
 }
 
-// The space bar and Enter press a button, arrows walk among options. True: the key pressed something.
+// The space bar and Enter press a button, arrows walk among options. true: the key pressed something.
 bool PressFocused(UserEvents& events, Control& focus, const QKeyEvent& key) {
     switch (key.key()) {
         case Qt::Key_Space:

@@ -1,4 +1,4 @@
-// A mouse that no hand moves.
+// Mouse events that no mouse sends: a script's, and those that one control hands on to another.
 #pragma once
 #include <QEvent>
 #include <QPointF>

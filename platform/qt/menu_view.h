@@ -24,7 +24,7 @@ public:
     QMenuBar& Bar() const { return *bar_; }
     void SetFont(const QFont& font);
     void OpenPopup(MenuItem& menu, QPoint at);
-    bool OpenByAccessKey(QChar letter);             // True: a menu on the bar has it
+    bool OpenByAccessKey(QChar letter);             // true: a menu on the bar has it
     QAction* ActionOf(const MenuItem& item);        // nullptr: it is on no menu that has been opened
     QMenu* MenuOf(const MenuItem& item);            // nullptr: it has no items
     MenuItem* ItemOf(const QAction& action) const;  // nullptr: it is no item's

@@ -38,7 +38,7 @@ void SendKey(QWidget& widget, QEvent::Type type, int code, const QString& text, 
     QApplication::sendEvent(&widget, &event);
 }
 
-// Opens the menus on the way to an item, each from the one before. False: something on the way keeps closed.
+// Opens the menus on the way to an item, each from the one before. false: one of them does not open.
 bool OpenMenusTo(MenuView& menus, const MenuItem& item) {
     const MenuItem* const menu = item.Menu();
     if (!menu) return true;

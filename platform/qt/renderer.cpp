@@ -68,7 +68,7 @@ WindowWidget* Renderer::ActiveWidget() const {
     return ActiveWindow() ? WidgetOf(*ActiveWindow()) : nullptr;
 }
 
-// Windows that come are shown before those that go are hidden, so that the desktop gives the focus to no stranger in between.
+// Windows that come are shown before those that go are hidden, so that the desktop gives the focus to no other program in between.
 void Renderer::AgreeAboutWindows() {
     for (Window* window : std::vector<Window*>(ShownWindows())) {  // a copy: a window that comes to the front moves in the list
         auto& widget = widgets_[window];

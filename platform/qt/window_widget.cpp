@@ -230,7 +230,7 @@ bool WindowWidget::StopsWaiting() {
     return waited;
 }
 
-// The desktop has had its time: what it has in front now is what the user sees.
+// The desktop has not answered in time: the window that it has in front is the one that the user sees.
 void WindowWidget::GiveUpWaiting() {
     if (const auto* const front = dynamic_cast<WindowWidget*>(QApplication::activeWindow())) events_.UserActivates(front->window());
 }

@@ -37,7 +37,7 @@ public:
     void PutAway();
     void BringToFront();
     bool WaitsForFront() const { return waits_.isActive(); }  // it has been asked for and the desktop has not answered
-    bool StopsWaiting();                                      // True: it did wait
+    bool StopsWaiting();                                      // true: it did wait
     void OpenPopup(MenuItem& menu);
     void TakeUserSize();  // the user has made the window as large as it is now
 
