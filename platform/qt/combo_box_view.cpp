@@ -146,7 +146,7 @@ int ComboBoxView::ArrowWidth() const {
 
 void ComboBoxView::ShowContent(Changes changes) {
     line_->setGeometry(field_->rect().adjusted(0, 0, 1 - ArrowWidth(), 0));
-    line_->Agree(Font(), Factor());
+    line_->Sync(Font(), Factor());
     line_->update();
     if (changes.Has(Property::Items) && list_ && list_->isVisible()) list_->ShowItems();
 }

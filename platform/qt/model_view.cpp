@@ -3,11 +3,11 @@
 #include <utility>
 
 void ModelView::Changed(Property property) {
-    if (!changes_.Any()) events_.Note(*this);
+    if (!changes_.Any()) events_.SyncLater(*this);
     changes_.Add(property);
-    if (property == Property::Text) events_.NoteText();
+    if (property == Property::Text) events_.TextChanged();
 }
 
-void ModelView::Agree() {
+void ModelView::Sync() {
     if (const Changes changes = std::exchange(changes_, {}); changes.Any()) Show(changes);
 }

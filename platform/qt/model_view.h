@@ -12,8 +12,8 @@ public:
     virtual void Run(const std::function<void()>& event) = 0;  // something that the user does; what it changes is on show afterwards
     virtual bool InEvent() const = 0;                          // one is being run
     virtual void UserActivates(Window& window) = 0;            // a window has come to the front of the screen
-    virtual void Note(ModelView& view) = 0;                    // it has something to show
-    virtual void NoteText() = 0;                               // the text of a box has changed
+    virtual void SyncLater(ModelView& view) = 0;               // it has something to show
+    virtual void TextChanged() = 0;                            // the text of a box has changed
 
 protected:
     ~UserEvents() = default;
@@ -28,7 +28,7 @@ public:
 
     void Changed(Property property) override;
     UserEvents& Events() const { return events_; }
-    void Agree();  // shows what has changed since the last time
+    void Sync();  // shows what has changed since the last time
 
 protected:
     class Changes {

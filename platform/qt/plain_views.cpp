@@ -114,7 +114,7 @@ public:
         ControlWidget::Changed(property);
         if (property == Property::Visible) since_repaint_.restart();
         if (property != Property::Value || !bar_.Visible() || !Events().InEvent() || since_repaint_.elapsed() < kShortestMs) return;
-        Agree();  // alone: what else has changed may be half done
+        Sync();  // alone: what else has changed may be half done
         shown_->repaint();
         since_repaint_.restart();
     }

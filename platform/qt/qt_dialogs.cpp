@@ -20,7 +20,7 @@
 #include "platform/qt/window_widget.h"
 
 BoxOpens::BoxOpens(Renderer& renderer) {
-    renderer.Agree();
+    renderer.Sync();
     WindowWidget* const active = renderer.ActiveWidget();
     const bool is_seen = active && active->isVisible();
     if (is_seen) parent_ = active;

@@ -23,40 +23,40 @@ void Renderer::Run(const std::function<void()>& event) {
     ++depth_;
     RunEvent(event);
     if (--depth_ > 0) return;
-    Agree();
+    Sync();
     BringToFront();
-    if (WindowWidget* const active = ActiveWidget()) active->AgreeAboutFocus();
+    if (WindowWidget* const active = ActiveWidget()) active->SyncFocus();
     ShowPointer();
     OpenPopup();
     if (was_shown_ && ShownWindows().empty() && !has_ended_()) nothing_is_shown_();
     event_is_over_();
 }
 
-void Renderer::Note(ModelView& view) {
+void Renderer::SyncLater(ModelView& view) {
     noted_.push_back(&view);
-    AgreeSoon();
+    SyncSoon();
 }
 
 // What changes outside any event is shown all the same.
-void Renderer::AgreeSoon() {
-    if (depth_ > 0 || agree_soon_) return;
-    agree_soon_ = true;
+void Renderer::SyncSoon() {
+    if (depth_ > 0 || sync_soon_) return;
+    sync_soon_ = true;
     QTimer::singleShot(0, this, [this] {
-        agree_soon_ = false;
+        sync_soon_ = false;
         Run([] {});
     });
 }
 
-void Renderer::Agree() {
-    if (std::exchange(windows_changed_, false)) AgreeAboutWindows();
+void Renderer::Sync() {
+    if (std::exchange(windows_changed_, false)) SyncWindows();
     while (!noted_.empty())
-        for (ModelView* view : std::exchange(noted_, {})) view->Agree();
+        for (ModelView* view : std::exchange(noted_, {})) view->Sync();
 }
 
 void Renderer::Changed(Window& window, WindowProperty property) {
-    if (WindowWidget* const widget = WidgetOf(window)) widget->Note(property);
+    if (WindowWidget* const widget = WidgetOf(window)) widget->NoteChange(property);
     if (property != WindowProperty::Focus) windows_changed_ = true;
-    AgreeSoon();
+    SyncSoon();
 }
 
 WindowWidget* Renderer::WidgetOf(const Window& window) const {
@@ -69,12 +69,12 @@ WindowWidget* Renderer::ActiveWidget() const {
 }
 
 // Windows that come are shown before those that go are hidden, so that the desktop gives the focus to no other program in between.
-void Renderer::AgreeAboutWindows() {
+void Renderer::SyncWindows() {
     for (Window* window : std::vector<Window*>(ShownWindows())) {  // a copy: a window that comes to the front moves in the list
         auto& widget = widgets_[window];
         if (!widget) widget = std::make_unique<WindowWidget>(*window, *this);
         if (widget->isVisible())
-            widget->Agree();
+            widget->Sync();
         else
             ShowWindow(*window, *widget);
     }

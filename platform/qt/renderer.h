@@ -1,7 +1,7 @@
 // Shows the windows of the program and tells it what the user does.
 //
 // Each thing the user does is one event, run by Run. What the program changes meanwhile is noted and shown when the event is over, or
-// by Agree in the middle of it: before a box opens, when a bar moves. The program holds the focus and says which window is active; the
+// by Sync in the middle of it: before a box opens, when a bar moves. The program holds the focus and says which window is active; the
 // widgets are made to agree with it after every event. There is one renderer, from before the start of the program to its end.
 #pragma once
 #include <QObject>
@@ -23,7 +23,7 @@ public:
     ~Renderer() override;
 
     void Run(const std::function<void()>& event) override;
-    void Agree();
+    void Sync();
     bool InEvent() const override { return depth_ > 0; }
 
     // Called after an event that leaves no window on the screen: the user could not go on.
@@ -32,9 +32,9 @@ public:
     // Called after every event, when what it changed is on show.
     void WhenEventIsOver(std::function<void()> procedure) { event_is_over_ = std::move(procedure); }
 
-    void Note(ModelView& view) override;
+    void SyncLater(ModelView& view) override;
     int TextChanges() const { return text_changes_; }  // grows whenever the text of a box changes
-    void NoteText() override { ++text_changes_; }
+    void TextChanged() override { ++text_changes_; }
     void OpenPopupAfterEvent(MenuItem& menu) { popup_ = &menu; }
     void UserActivates(Window& window) override;
 
@@ -43,18 +43,18 @@ public:
 
 private:
     void Changed(Window& window, WindowProperty property) override;
-    void AgreeAboutWindows();
+    void SyncWindows();
     void ShowWindow(Window& window, WindowWidget& widget);
     void BringToFront();
     void OpenPopup();
-    void AgreeSoon();
+    void SyncSoon();
 
     std::function<bool()> has_ended_;
     std::function<void()> nothing_is_shown_ = [] {};
     std::function<void()> event_is_over_ = [] {};
     int depth_ = 0;  // events that run, one inside the other
     int text_changes_ = 0;
-    bool agree_soon_ = false;
+    bool sync_soon_ = false;
     bool windows_changed_ = false;
     bool was_shown_ = false;  // some window has been
     Window* in_front_ = nullptr;

@@ -22,7 +22,7 @@ public:
 
 private:
     void ShowContent(Changes) override {
-        editor_->Agree(Font(), Factor());
+        editor_->Sync(Font(), Factor());
         MouseWidget()->update();
     }
     bool PassesMouse() const override { return HoldsFocus(box_); }

@@ -83,16 +83,16 @@ void TextLine::TellCaret() {
     if (HoldsFocus(box_)) TellSelection(box_, text(), hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
 }
 
-void TextLine::Agree(const QFont& font, double factor) {
+void TextLine::Sync(const QFont& font, double factor) {
     const QSignalBlocker blocker(this);
     font_ = font;
     factor_ = factor;
     if (const QString wanted = Shown(box_.Text()); text() != wanted) setText(wanted);
-    AgreeAboutCaret();
-    if (hasFocus()) AgreeForEditing();
+    SyncCaret();
+    if (hasFocus()) SyncForEditing();
 }
 
-void TextLine::AgreeAboutCaret() {
+void TextLine::SyncCaret() {
     const int start = UnitAfter(text(), box_.SelStart());
     const int length = UnitAfter(text(), box_.SelStart() + box_.SelLength()) - start;
     if (selectionLength() == length && (length > 0 ? selectionStart() : cursorPosition()) == start) return;
@@ -102,7 +102,7 @@ void TextLine::AgreeAboutCaret() {
         setCursorPosition(start);
 }
 
-void TextLine::AgreeForEditing() {
+void TextLine::SyncForEditing() {
     const QSignalBlocker blocker(this);
     setFont(font_);
     setPalette(EditorPalette(box_));
@@ -112,7 +112,7 @@ void TextLine::AgreeForEditing() {
 
 void TextLine::focusInEvent(QFocusEvent* event) {
     comes_in_ = true;
-    AgreeForEditing();
+    SyncForEditing();
     QLineEdit::focusInEvent(event);
 }
 
@@ -177,7 +177,7 @@ void TextArea::TellCaret() {
     if (HoldsFocus(box_)) TellSelection(box_, toPlainText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
 }
 
-void TextArea::Agree(const QFont& font, double factor) {
+void TextArea::Sync(const QFont& font, double factor) {
     const QSignalBlocker blocker(this);
     font_ = font;
     factor_ = factor;
@@ -186,11 +186,11 @@ void TextArea::Agree(const QFont& font, double factor) {
         whole.select(QTextCursor::Document);
         whole.insertText(wanted);  // setPlainText would lay it out before the document tells of it
     }
-    AgreeAboutCaret();
-    if (hasFocus()) AgreeForEditing();
+    SyncCaret();
+    if (hasFocus()) SyncForEditing();
 }
 
-void TextArea::AgreeAboutCaret() {
+void TextArea::SyncCaret() {
     const QString text = toPlainText();
     const int start = UnitAfter(text, box_.SelStart());
     const int end = UnitAfter(text, box_.SelStart() + box_.SelLength());
@@ -201,7 +201,7 @@ void TextArea::AgreeAboutCaret() {
     setTextCursor(cursor);
 }
 
-void TextArea::AgreeForEditing() {
+void TextArea::SyncForEditing() {
     const QSignalBlocker blocker(this);
     setFont(font_);
     setPalette(EditorPalette(box_));
@@ -218,7 +218,7 @@ void TextArea::paintEvent(QPaintEvent* event) {
 
 void TextArea::focusInEvent(QFocusEvent* event) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    AgreeForEditing();
+    SyncForEditing();
     QPlainTextEdit::focusInEvent(event);
     viewport()->update();
 }

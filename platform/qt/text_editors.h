@@ -28,7 +28,7 @@ void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus);
 class TextLine : public QLineEdit {
 public:
     TextLine(QWidget* parent, TextHolder& box, ModelView& view);
-    void Agree(const QFont& font, double factor);  // with the box
+    void Sync(const QFont& font, double factor);  // with the box
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -38,8 +38,8 @@ protected:
 
 private:
     void TellCaret();
-    void AgreeAboutCaret();  // and about what is selected
-    void AgreeForEditing();  // what only matters while it holds the keyboard
+    void SyncCaret();       // and about what is selected
+    void SyncForEditing();  // what only matters while it holds the keyboard
 
     TextHolder& box_;
     QFont font_;
@@ -54,7 +54,7 @@ private:
 class TextArea : public QPlainTextEdit {
 public:
     TextArea(QWidget* parent, TextBox& box, ModelView& view);
-    void Agree(const QFont& font, double factor);
+    void Sync(const QFont& font, double factor);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -64,8 +64,8 @@ protected:
 private:
     void ChooseWrapping();
     void TellCaret();
-    void AgreeAboutCaret();  // and about what is selected
-    void AgreeForEditing();  // what only matters while it holds the keyboard
+    void SyncCaret();       // and about what is selected
+    void SyncForEditing();  // what only matters while it holds the keyboard
 
     TextBox& box_;
     QFont font_;

@@ -66,13 +66,13 @@ ControlWidget* WindowWidget::ShownBy(const QWidget& widget) const {
     return nullptr;
 }
 
-void WindowWidget::Note(WindowProperty property) {
+void WindowWidget::NoteChange(WindowProperty property) {
     if (property == WindowProperty::Title) title_changed_ = true;
     if (property == WindowProperty::Place) size_changed_ = true;
     if (property == WindowProperty::BackColor) update();
 }
 
-void WindowWidget::Agree() {
+void WindowWidget::Sync() {
     if (std::exchange(title_changed_, false)) setWindowTitle(ToQt(window_.Title()));
     if (std::exchange(size_changed_, false)) ChooseSize();
     veil_->setVisible(!window_.Enabled());
@@ -182,7 +182,7 @@ void WindowWidget::ShowAbove(WindowWidget* below) {
     windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
     if (below) setScreen(below->screen());
     setWindowState(windowState().setFlag(Qt::WindowMaximized, maximized_));
-    Agree();
+    Sync();
     PlaceAbove(below);
     shown_ = true;
     show();
@@ -242,7 +242,7 @@ void WindowWidget::changeEvent(QEvent* event) {
     events_.UserActivates(window_);
 }
 
-void WindowWidget::AgreeAboutFocus() {
+void WindowWidget::SyncFocus() {
     const Control* const focus = window_.Focus();
     ControlWidget* const holder = focus && focus->IsUsable() ? Find(*focus) : nullptr;
     QWidget* const wanted = holder ? holder->FocusWidget() : this;

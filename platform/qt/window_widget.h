@@ -29,9 +29,9 @@ public:
     QWidget* WidgetOf(const Control& control) const override;
     ControlWidget* ShownBy(const QWidget& widget) const;  // whose widget this is; nullptr: no control's
 
-    void Note(WindowProperty property);
-    void Agree();  // about title, size and whether it can be used
-    void AgreeAboutFocus();
+    void NoteChange(WindowProperty property);
+    void Sync();  // about title, size and whether it can be used
+    void SyncFocus();
 
     void ShowAbove(WindowWidget* below);  // nullptr: it stands for itself
     void PutAway();
