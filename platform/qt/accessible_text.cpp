@@ -6,6 +6,7 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/text_places.h"
+#include "platform/services.h"
 #include "platform/text.h"
 #include "platform/user.h"
 
@@ -141,9 +142,11 @@ void AccessibleText::insertText(int offset, const QString& text) {
     replaceText(offset, offset, text);
 }
 
-// Into the text as it is when the edit is done, the caret behind what was put in.
+// Into the text as it is when the edit is done, the caret behind what was put in. A double quotation mark would break the row of a sheet,
+// and no key goes down here that the guard of the boxes could watch.
 void AccessibleText::replaceText(int start, int end, const QString& text) {
     RunForReader(Around(), [&box = box_, start, end, text] {
+        if (text.contains(u'"')) return services.sounds->Beep();
         FocusForReader(box);
         const QString shown = Shown(box.Text());
         const QString edited = shown.left(start) + text + shown.mid(end);

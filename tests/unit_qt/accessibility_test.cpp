@@ -135,6 +135,25 @@ TEST_F(AccessibilityTest, WhileCountingNoBoxKeepsTheFocusAndNoneIsEdited) {
     EXPECT_EQ(frmMain.Text1[0].Text(), "712.5");
 }
 
+TEST_F(AccessibilityTest, AnEditThatWouldBringInAQuotationMarkIsRefusedWithABeep) {
+    Begin();
+    Do([] { ClickControl(frmMain.Command3[0]); });  // Modify
+    QAccessibleInterface* const editors[] = {Found(frmMain.Text1[0]), Found(frmMain.Text1[7]), Found(frmMain.Text4),
+                                             Found(frmMain.Text5[1]), Found(frmMain.Combo2)->child(0)};
+    for (QAccessibleInterface* const editor : editors) {
+        const QString before = editor->text(QAccessible::Value);
+        services_.sounds.played.clear();
+        editor->editableTextInterface()->replaceText(0, editor->textInterface()->characterCount(), "a\"b");
+        editor->editableTextInterface()->insertText(0, "\"");
+        QApplication::processEvents();
+        EXPECT_EQ(editor->text(QAccessible::Value), before);
+        EXPECT_EQ(services_.sounds.played, (std::vector<std::string>{"Beep", "Beep"})) << before.toStdString();
+        editor->editableTextInterface()->insertText(0, "ab");
+        QApplication::processEvents();
+        EXPECT_TRUE(editor->text(QAccessible::Value).startsWith("ab"));
+    }
+}
+
 TEST_F(AccessibilityTest, NothingInAWindowThatTakesNoInputCanBeUsed) {
     Begin();
     Do([] { frmMain.SetEnabled(false); });
