@@ -214,6 +214,7 @@ public:
     void SetDesign(Properties design) { now_ = std::move(design); }  // by the window that lays it down: raises nothing
     void KeepDesign() { design_ = now_; }
     const Box& DesignBox() const { return design_.box; }
+    const std::string& DesignText() const { return design_.text; }
     virtual void ReturnToDesign();
 
 protected:

@@ -33,11 +33,18 @@ std::string Caption(const Control& control) {
             return "";
     }
 }
+
+// A label that was renamed to nothing is called as it was designed: what it names keeps a name of its own.
+std::string LabelText(const Control* label) {
+    if (!label) return "";
+    const std::string& now = label->State().text;
+    return Words(now).empty() ? label->DesignText() : now;
+}
 }  // namespace
 
 std::string SpokenName(const Control& control) {
     std::string name;
-    for (const std::string& part : {control.accessible_name, Caption(control), control.named_by ? control.named_by->State().text : ""}) {
+    for (const std::string& part : {control.accessible_name, Caption(control), LabelText(control.named_by)}) {
         const std::string words = Words(part);
         if (!words.empty()) name += (name.empty() ? "" : ": ") + words;
     }

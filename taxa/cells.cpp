@@ -97,7 +97,9 @@ void EndWithColon(int p) {
 }
 
 void NameParamBox(int p) {
-    frmMain.Text5[p].SetToolTip(WithoutTrailingColon(frmMain.Label10[p].Caption()));
+    const Label& label = frmMain.Label10[p];
+    const std::string name = WithoutTrailingColon(label.Caption());
+    frmMain.Text5[p].SetToolTip(name.empty() ? WithoutTrailingColon(label.DesignText()) : name);
 }
 
 void RenameSampleOnShow() {

@@ -8,5 +8,5 @@ void NoteCountBeforeEdit(int slot);  // the mouse or Tab comes into Text2: what 
 void TakeNote();                     // Text4
 void TakeParam(int p);               // Text5
 void EndWithColon(int p);            // Label10: its caption ends in a colon, exactly one is added
-void NameParamBox(int p);            // Text5's tool tip is the name in Label10, which is hidden while counting
+void NameParamBox(int p);            // Text5's tool tip is the name in Label10, hidden while counting; if that is empty, the design's
 void RenameSampleOnShow();           // the user types into Combo2

@@ -1,5 +1,6 @@
 #include "taxa/param_names.h"
 
+#include "platform/spoken_name.h"
 #include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
@@ -104,5 +105,15 @@ TEST_F(ParamNamesTest, AFieldTellsItsNameWhileItsLabelIsHidden) {
     AnswerNext(Answer::Yes);
     ClickControl(frmMain.mnuNew);
     EXPECT_EQ(frmMain.Text5[2].ToolTip(), WithoutTrailingColon(frmMain.Label10[2].Caption()));
+}
+
+TEST_F(ParamNamesTest, AFieldRenamedToNothingIsCalledAsItIsSaved) {
+    Begin("10");
+    ClickControl(frmMain.Command3[0]);
+    Rename(3, "Tablets");
+    Rename(3, "");
+    EXPECT_EQ(frmMain.Text5[3].ToolTip(), "Additional info-3");
+    EXPECT_EQ(SpokenName(frmMain.Text5[3]), "Additional info-3");
+    EXPECT_EQ(SpokenName(frmMain.Command7[3]), "Rename: Additional info-3");
 }
 }  // namespace

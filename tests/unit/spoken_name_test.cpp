@@ -22,6 +22,19 @@ TEST(SpokenNameTest, ABoxIsCalledAsTheLabelBesideItReadsNow) {
     EXPECT_EQ(SpokenName(box), "Trees");
 }
 
+TEST(SpokenNameTest, ALabelRenamedToNothingIsCalledAsItWasDesigned) {
+    Label label;
+    OptionButton option;
+    option.SetCaption("Set alarm");
+    option.named_by = &label;
+    label.SetCaption("Subtotal-1:");
+    label.KeepDesign();
+    label.SetCaption(":");
+    EXPECT_EQ(SpokenName(option), "Set alarm: Subtotal-1");
+    label.SetCaption("Trees:");
+    EXPECT_EQ(SpokenName(option), "Set alarm: Trees");
+}
+
 TEST(SpokenNameTest, TheParts) {
     struct {
         const char *name, *caption, *label, *spoken;

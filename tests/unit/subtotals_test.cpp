@@ -1,5 +1,6 @@
 #include "taxa/subtotals.h"
 
+#include "platform/spoken_name.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
@@ -75,6 +76,15 @@ TEST_F(SubtotalsTest, ANameShowsEverywhereAtOnceAndSurvivesCancel) {
         EXPECT_EQ(frmMain.mnuPercentAll.Caption(), "% by All total");
         CancelSubtotals();
     }
+}
+
+TEST_F(SubtotalsTest, ASubtotalRenamedToNothingIsSpokenByItsNumber) {
+    Open();
+    ClickControl(frmSubtotal.Text1[1]);
+    EnterText(frmSubtotal.Text1[1], "", 0);
+    ASSERT_EQ(frmMain.Label2[1].Caption(), ":");
+    EXPECT_EQ(SpokenName(frmMain.Text3[1]), "Subtotal-1");
+    EXPECT_EQ(SpokenName(frmMain.Option1[1]), "Set alarm: Subtotal-1");
 }
 
 TEST_F(SubtotalsTest, OpeningAloneMakesNothingToSave) {
