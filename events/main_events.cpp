@@ -37,6 +37,7 @@ void JoinWindow() {
     frmMain.FrameClosed.Calls(CloseMainWindow);
     frmMain.KeyDown.Calls(TakeKeyDown);
     frmMain.KeyUp.Calls(TakeKeyUp);
+    frmMain.FocusGiven.Calls(ReturnFocus);
     frmMain.MouseMove.Calls([](Mouse) { ReturnFocusOnMove(); });
 }
 

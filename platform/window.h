@@ -35,6 +35,7 @@ public:
     Event<> Loaded;              // raised once by Load
     Event<> Unloading;
     Event<> Activated;    // it has become the active window
+    Event<> FocusGiven;   // by a screen reader, to a control that it does not press
     Event<> FrameClosed;  // the user closes it by its frame; if nothing is joined, it is just unloaded
     Event<> Resized;      // by the user, or by SetSize
     Event<int> KeyDown;

@@ -163,7 +163,7 @@ void AccessibleControl::doAction(const QString& action) {
 }
 
 // A box gets it by a press, for the program may send that elsewhere: while it counts, no key may land in a box. A press on anything else
-// would do more.
+// would do more; the window hears of it instead, and may send the focus elsewhere too.
 void FocusForReader(Control& control) {
     if (!TakesFocus(control.kind()) || !CanReach(control)) return;
     if (control.AsTextHolder()) {
@@ -173,4 +173,5 @@ void FocusForReader(Control& control) {
     }
     BringToFront(*control.window);
     control.SetFocus();
+    control.window->FocusGiven.Raise();
 }

@@ -116,8 +116,26 @@ TEST_F(AccessibilityTest, WhatTakesTheFocusAtAClickCanBeGivenIt) {
     Do([] { frmMain.Command3[0].SetEnabled(false); });
     EXPECT_FALSE(Found(frmMain.Command3[0])->state().focusable);
     Act(Found(frmMain.Command4[0]), Actions::setFocusAction());
-    EXPECT_EQ(frmMain.Focus(), &frmMain.Command4[0]);
-    EXPECT_TRUE(Found(frmMain.Command4[0])->state().focused);
+    EXPECT_EQ(frmMain.Focus(), &frmMain.Text99) << "while counting nothing keeps it";
+    Show(frmSubtotal);
+    Act(Found(frmSubtotal.Command3), Actions::setFocusAction());
+    EXPECT_EQ(frmSubtotal.Focus(), &frmSubtotal.Command3);
+    EXPECT_TRUE(Found(frmSubtotal.Command3)->state().focused);
+}
+
+TEST_F(AccessibilityTest, WhileCountingNothingKeepsTheFocusAndAllCanBePressed) {
+    Begin();
+    for (Control* control : std::initializer_list<Control*>{&frmMain.Command4[0], &frmMain.Option1[1], &frmMain.Command6, &frmMain.SSTab1,
+                                                            &frmMain.Picture2}) {
+        Act(Found(*control), Actions::setFocusAction());
+        EXPECT_EQ(frmMain.Focus(), &frmMain.Text99) << control->name;
+        EXPECT_FALSE(Shown(*control).Widget()->hasFocus()) << control->name;
+    }
+    Act(Found(frmMain.Option1[1]), Actions::pressAction());
+    EXPECT_TRUE(frmMain.Option1[1].Value());
+    Do([] { ClickControl(frmMain.Command3[0]); });  // Modify
+    Act(Found(frmMain.Option1[2]), Actions::setFocusAction());
+    EXPECT_EQ(frmMain.Focus(), &frmMain.Option1[2]);
 }
 
 TEST_F(AccessibilityTest, WhileCountingNoBoxKeepsTheFocusAndNoneIsEdited) {
