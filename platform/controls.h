@@ -26,7 +26,7 @@ public:
     virtual bool TakesKeysAsInput() const { return false; }  // each key counts as itself
     virtual bool BreaksLines() const { return false; }       // at Enter
     virtual bool IsCentred() const { return false; }
-    virtual bool HoldsPlaceholder() const { return false; }
+    virtual bool IsTypedOver() const { return false; }  // a click into it marks the whole text
 
 protected:
     explicit TextHolder(Kind kind) : Control(kind) { now_.back = kWhite; }
@@ -46,12 +46,13 @@ public:
     bool takes_keys = false;  // each key counts as itself, whatever it types or does elsewhere: Tab, Enter and dead keys too
     bool takes_text = true;   // false: it can hold the focus, but what is typed lands nowhere
     std::string placeholder;  // a text that stands for nothing: a click into the box selects it, to type over it; empty: none
+    bool marks_all = false;   // that click selects whatever it holds: a name that is there to be changed
 
     bool TakesText() const override { return takes_text; }
     bool TakesKeysAsInput() const override { return takes_keys; }
     bool BreaksLines() const override { return multiline; }
     bool IsCentred() const override { return centred; }
-    bool HoldsPlaceholder() const override { return !Text().empty() && Text() == placeholder; }
+    bool IsTypedOver() const override { return !Text().empty() && (marks_all || Text() == placeholder); }
 };
 
 class Label : public Control {

@@ -32,6 +32,7 @@ SubtotalWindow::SubtotalWindow() : Window("frmSubtotal", "Subtotal setting", kWi
         {Frame1[2], {"Frame1", 2}, nullptr, {120, 4520, kFrameWidth, kFrameHeight}, "Shift 1 and 2"},
     });
     Option1[1].SetValue(true);
+    for (TextBox& name : Text1) name.marks_all = true;
     for (int slot = 1; slot <= kSlots; ++slot) LaySlot(slot);
     Lay({
         {Command2[0], {"Command2", 0}, nullptr, {120, kCommandTop, 1280, 400}, "Clear"},

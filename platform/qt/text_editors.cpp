@@ -72,7 +72,10 @@ TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdi
     setFrame(false);
     setDragEnabled(false);
     if (box.IsCentred()) setAlignment(Qt::AlignCenter);
-    connect(this, &QLineEdit::textEdited, this, [this, &view](const QString& text) { TellText(box_, view, text, cursorPosition()); });
+    connect(this, &QLineEdit::textEdited, this, [this, &view](const QString& text) {
+        comes_in_ = false;
+        TellText(box_, view, text, cursorPosition());
+    });
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextLine::TellCaret);
     connect(this, &QLineEdit::selectionChanged, this, &TextLine::TellCaret);
 }
@@ -116,9 +119,9 @@ void TextLine::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
 }
 
-// The click that comes into a box with a placeholder marks it; once in, clicks and drags are as in any other text.
+// The click that comes into a box with a placeholder or a name to be changed marks it; once in, clicks and drags are as in any other text.
 void TextLine::mousePressEvent(QMouseEvent* event) {
-    marks_ = std::exchange(comes_in_, false) && event->button() == Qt::LeftButton && box_.HoldsPlaceholder();
+    marks_ = std::exchange(comes_in_, false) && event->button() == Qt::LeftButton && box_.IsTypedOver();
     if (marks_)
         selectAll();
     else

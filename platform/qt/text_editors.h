@@ -44,8 +44,8 @@ private:
     TextHolder& box_;
     QFont font_;
     double factor_ = 0;
-    bool comes_in_ = false;  // the keyboard has just come here
-    bool marks_ = false;     // the mouse that is down has marked a placeholder
+    bool comes_in_ = false;  // the keyboard has come here, and nothing has been typed or clicked since
+    bool marks_ = false;     // the mouse that is down has marked the whole text
     FittedText fitted_;
 };
 

@@ -11,6 +11,7 @@
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 #include "windows/para_name_window.h"
+#include "windows/subtotal_window.h"
 
 namespace {
 class TextLineTest : public OnScreenTest {
@@ -71,6 +72,28 @@ TEST_F(TextLineTest, AZeroIsMarkedAndACountIsNot) {
     EXPECT_EQ(Line(frmMain.Text2[5]).selectedText(), "0");
     ClickByHand(frmMain.Text2[6]);
     EXPECT_FALSE(Line(frmMain.Text2[6]).selectedText() == "12");
+}
+
+TEST_F(TextLineTest, TheClickIntoTheNameOfASubtotalMarksItWhateverItIs) {
+    for (const char* name : {"Subtotal-1", "Trees"}) {
+        Do([] { ClickControl(frmMain.mnuSubtotal); });
+        ClickByHand(frmSubtotal.Text1[1]);
+        EXPECT_EQ(Line(frmSubtotal.Text1[1]).selectedText(), name);
+        Type(frmSubtotal.Text1[1], "Trees");
+        EXPECT_EQ(frmSubtotal.Text1[1].Text(), "Trees");
+        ClickByHand(frmSubtotal.Text1[1]);
+        EXPECT_FALSE(Line(frmSubtotal.Text1[1]).selectedText() == "Trees") << "the next click sets the caret";
+        Do([] { ClickControl(frmSubtotal.Command1); });
+    }
+}
+
+TEST_F(TextLineTest, TheClickIntoANameThatIsBeingTypedSetsTheCaret) {
+    Do([] { ClickControl(frmMain.mnuSubtotal); });
+    Do([] { frmSubtotal.Text1[1].SetFocus(); });  // by a key: no click has come into it
+    Type(frmSubtotal.Text1[1], "Trees of ");
+    ClickByHand(frmSubtotal.Text1[1]);
+    EXPECT_FALSE(Line(frmSubtotal.Text1[1]).selectedText() == frmSubtotal.Text1[1].Text().c_str());
+    Do([] { ClickControl(frmSubtotal.Command1); });
 }
 
 TEST_F(TextLineTest, AScriptsClickLeavesTheCaretWhereItIs) {
