@@ -76,7 +76,8 @@ void MainWindow::LayColumns() {
         {Frame1, "Frame1", nullptr, {60, kColumnTop, 2560, kColumnHeight}, "", kPlain, "Sample"},
         {Label1[0], {"Label1", 0}, &Frame1, {80, 90, 1140, 270}, "Sample name: ", kSmallQuiet},
         {Text1[0], {"Text1", 0}, &Frame1, {1240, 70, 1240, 300}, "-9999", {.bold = true}, "", &Label1[0]},
-        {Combo2, "Combo2", &Frame1, {1240, 420, 1240, 300}, "-9999", kPlain, "Sample on show"},
+        // Not by Tab: a letter typed there renames the sample.
+        {Combo2, "Combo2", &Frame1, {1240, 420, 1240, 300}, "-9999", {.tab_stop = false}, "Sample on show"},
         {Label3, "Label3", &Frame1, {80, 800, 1140, 270}, "Serial No.:", kSmallQuiet},
         {Label4, "Label4", &Frame1, {1240, 800, 1240, 270}, "1/1", kPlain, "Serial No."},
         {Text4, "Text4", &Frame1, {80, 1140, 2400, 1440}, kEmpty, kSmall, "Note"},
@@ -132,7 +133,7 @@ void MainWindow::LayCommands() {
         {Command6, "Command6", nullptr, {6260, kCommandTop, 560, 400}, "%", kPlain, "Percentages while it is held"},
         {Command1, "Command1", nullptr, {0, kCommandTop, 0, 400}, "", kHidden},
         {Label5, "Label5", nullptr, {6960, kCommandTop + 80, 760, 280}, "History:", kQuiet},
-        {Combo1, "Combo1", nullptr, {7740, kCommandTop + 20, 3600, 360}, "", kPlain, "", &Label5},
+        {Combo1, "Combo1", nullptr, {7740, kCommandTop + 20, 3600, 360}, "", {.tab_stop = false}, "", &Label5},
     });
 }
 
