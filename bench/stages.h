@@ -21,6 +21,7 @@ public:
     explicit TimedSounds(Sounds& sounds) : sounds_(sounds) {}
     void Play(const Wave& wave) override;
     void Beep() override { sounds_.Beep(); }
+    void IfSilent(std::function<void()> procedure) override { sounds_.IfSilent(std::move(procedure)); }
 
 private:
     Sounds& sounds_;

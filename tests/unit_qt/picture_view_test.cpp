@@ -41,7 +41,7 @@ protected:
         Do([code] { PressKey(code); });
         Do([code] { ReleaseKey(code); });
     }
-    static QImage Seen(const PictureBox& picture) { return Shown(picture).Widget()->grab().toImage(); }
+    QImage Seen(const PictureBox& picture) { return Shown(picture).Widget()->grab().toImage(); }
     // As it lies in a window: its corner may be in the middle of a pixel of the screen.
     static QImage SeenAPixelDown(QWidget& widget) {
         const double density = widget.devicePixelRatioF();
@@ -51,11 +51,11 @@ protected:
         widget.render(&image, QPoint(0, 1));
         return image;
     }
-    static QImage PaintedAnew(const PictureBox& picture) {
+    QImage PaintedAnew(const PictureBox& picture) {
         Shown(picture).Rescale();
         return Seen(picture);
     }
-    static void ExpectSeenAsItIs(const std::string& after) {
+    void ExpectSeenAsItIs(const std::string& after) {
         for (PictureBox* picture : {&frmDiagram.Picture1, &frmDiagram.Picture2, &frmMain.Picture2}) {
             if (!picture->Visible()) continue;
             const QImage seen = Seen(*picture);
