@@ -1,5 +1,10 @@
 #include "unit_qt/on_screen_test.h"
 
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include "events/program.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/look.h"
@@ -27,4 +32,24 @@ void OnScreenTest::Do(const std::function<void()>& act) {
 
 ControlWidget& OnScreenTest::Shown(const Control& control) const {
     return *renderer_.WidgetOf(*control.window)->Find(control);
+}
+
+Screens::Screens(const QList<QRect>& places) {
+    QJsonArray screens;
+    for (const QRect& place : places)
+        screens.append(QJsonObject{{"name", QString("screen %1").arg(screens.size() + 1)},
+                                   {"x", place.x()},
+                                   {"y", place.y()},
+                                   {"width", place.width()},
+                                   {"height", place.height()},
+                                   {"logicalDpi", 96},
+                                   {"dpr", 1}});
+    QFile file(folder_.filePath("screens"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QJsonDocument(QJsonObject{{"screens", screens}}).toJson());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+}
+
+Screens::~Screens() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
 }

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QList>
+#include <QRect>
+#include <QTemporaryDir>
 #include <functional>
 
 #include "platform/headless/headless_services.h"
@@ -30,4 +33,15 @@ protected:
     HeadlessServices services_{kFolder};
     MemoryFiles files_;
     Renderer renderer_;
+};
+
+// The screens of the machine, in their own pixels: "screen 1", "screen 2" ... A base before OnScreenTest, as they are there before the
+// application starts.
+class Screens {
+protected:
+    explicit Screens(const QList<QRect>& places);
+    ~Screens();
+
+private:
+    QTemporaryDir folder_;
 };

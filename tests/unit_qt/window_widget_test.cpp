@@ -1,10 +1,8 @@
 // Where windows come up, and how large.
 #include "platform/qt/window_widget.h"
 
-#include <QFile>
 #include <QMenuBar>
 #include <QScreen>
-#include <QTemporaryDir>
 
 #include "diagram/open_diagram.h"
 #include "platform/qt/menu_view.h"
@@ -116,27 +114,16 @@ TEST_F(WindowWidgetTest, TheStartFaceGrowsAroundItsMiddleAndStaysOnTheScreen) {
 }
 
 // To the right of the first screen there is another one, on which the user has put the main window.
-struct TwoScreens {
-    TwoScreens() {
-        QFile file(folder_.filePath("screens"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 800, "height": 600, "logicalDpi": 96, "dpr": 1},
-                                   {"name": "two", "x": 800, "y": 0, "width": 800, "height": 600, "logicalDpi": 96, "dpr": 1}]})");
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
-    }
-    ~TwoScreens() { qputenv("QT_QPA_PLATFORM", "offscreen"); }
-
-private:
-    QTemporaryDir folder_;
+class TwoScreensTest : private Screens, public WindowWidgetTest {
+protected:
+    TwoScreensTest() : Screens({{0, 0, 800, 600}, {800, 0, 800, 600}}) {}
 };
-
-class TwoScreensTest : private TwoScreens, public WindowWidgetTest {};
 
 TEST_F(TwoScreensTest, ADialogComesUpOnTheScreenOfTheWindowBelowIt) {
     Do([] { CloseWindow(frmNext); });
     WindowWidget& main = Widget(frmMain);
     Place(main, main.rect().translated(850, 40));
-    ASSERT_EQ(main.screen()->name(), "two");
+    ASSERT_EQ(main.screen()->name(), "screen 2");
     Do([] { ClickControl(frmMain.mnuSubtotal); });
     EXPECT_TRUE(main.screen()->geometry().contains(Widget(frmSubtotal).geometry()));
 }
