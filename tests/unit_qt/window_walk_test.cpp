@@ -1,0 +1,197 @@
+// A walk through all windows on the screens that users have: at 100, 150 and 200 % every word is there, whole and inside its control.
+#include <QFontMetricsF>
+#include <QMenuBar>
+#include <QPaintEngine>
+#include <QTextItem>
+
+#include "diagram/open_diagram.h"
+#include "platform/qt/look.h"
+#include "platform/qt/menu_view.h"
+#include "platform/qt/window_widget.h"
+#include "platform/user.h"
+#include "session/state/sheet_state.h"
+#include "unit_qt/on_screen_test.h"
+#include "windows/diagram_window.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+// The texts that a widget paints, and the pixels of the screen that their letters cover, from its upper left corner.
+class Words : public QPaintDevice {
+public:
+    Words(QWidget& widget, QWidget::RenderFlags flags) : widget_(widget) { widget.render(this, {}, {}, flags); }
+
+    QString Text() const { return text_; }  // without its blanks, as lines are broken there
+    bool IsInside() const { return Room().adjusted(-1, -1, 1, 1).contains(ink_); }
+
+    QPaintEngine* paintEngine() const override { return &engine_; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override {
+        switch (metric) {
+            case PdmWidth:
+                return widget_.width();
+            case PdmHeight:
+                return widget_.height();
+            case PdmDevicePixelRatio:
+                return static_cast<int>(widget_.devicePixelRatioF());
+            case PdmDevicePixelRatioScaled:
+                return static_cast<int>(widget_.devicePixelRatioF() * devicePixelRatioFScale());
+            default:
+                return widget_.logicalDpiX();  // in either direction, or a number that nobody asks for
+        }
+    }
+
+private:
+    QRectF Room() const { return {QPointF(), QSizeF(widget_.size()) * widget_.devicePixelRatioF()}; }
+
+    class Engine : public QPaintEngine {
+    public:
+        explicit Engine(Words& words) : QPaintEngine(AllFeatures), words_(words) {}
+        bool begin(QPaintDevice*) override { return true; }
+        bool end() override { return true; }
+        void updateState(const QPaintEngineState&) override {}
+        void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+        void drawPath(const QPainterPath&) override {}
+        void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+        Type type() const override { return User; }
+        void drawTextItem(const QPointF& at, const QTextItem& item) override {
+            const QRectF letters = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at);
+            words_.text_ += QString(item.text()).remove(u' ');
+            words_.ink_ |= painter()->combinedTransform().mapRect(letters);
+        }
+
+    private:
+        Words& words_;
+    };
+
+    QWidget& widget_;
+    QString text_;
+    QRectF ink_;
+    mutable Engine engine_{*this};
+};
+
+QString WithoutBlanks(const std::string& text) {
+    return ToQt(text).remove(u' ').remove(u'\r').remove(u'\n');
+}
+
+// What the control has to say on the screen; empty for a kind that says nothing.
+QString Said(const Control& control) {
+    QString said;
+    switch (control.kind()) {
+        case Kind::TabControl:
+            for (const std::string& caption : control.State().items) said += WithoutBlanks(caption);
+            return said;
+        case Kind::Frame:
+            return static_cast<const Frame&>(control).Border() ? WithoutBlanks(control.State().text) : said;
+        case Kind::Label:
+        case Kind::Button:
+        case Kind::OptionButton:
+        case Kind::CheckBox:
+        case Kind::TextBox:
+        case Kind::ComboBox:
+            return WithoutBlanks(control.State().text);
+        default:
+            return said;
+    }
+}
+
+bool HoldsOthers(const Control& control) {
+    return control.kind() == Kind::Frame || control.kind() == Kind::TabControl;
+}
+
+// 1920 by 1080 pixels of the toolkit, each of so many pixels of its own.
+QRect ScreenOf(double density) {
+    return {0, 0, static_cast<int>(1920 * density), static_cast<int>(1080 * density)};
+}
+
+class WindowWalkTest : public testing::WithParamInterface<double>, private Screens, public OnScreenTest {
+protected:
+    WindowWalkTest() : Screens({ScreenOf(GetParam())}), OnScreenTest(GetParam()) {}
+
+    Words WordsOf(const Control& control) const {
+        return Words(*Shown(control).Widget(), HoldsOthers(control) ? QWidget::RenderFlags() : QWidget::DrawChildren);
+    }
+
+    void CheckWords(const Window& window, const char* state) {
+        int seen = 0;
+        for (const Control* control : window.Controls()) {
+            ControlWidget* const shown = renderer_.WidgetOf(window)->Find(*control);
+            const QString said = Said(*control);
+            if (!shown || !shown->Widget()->isVisible() || said.isEmpty()) continue;
+            ++seen;
+            const std::string name = window.name + " " + state + ": " + control->name + "(" + std::to_string(control->index) + ")";
+            EXPECT_EQ(WordsOf(*control).Text().toStdString(), said.toStdString()) << name;
+            EXPECT_TRUE(WordsOf(*control).IsInside()) << name;
+        }
+        EXPECT_GT(seen, 0) << window.name << " " << state;
+        CheckMenuBar(window);
+    }
+
+    void CheckMenuBar(const Window& window) {
+        const QMenuBar& bar = renderer_.WidgetOf(window)->Menus().Bar();
+        if (!bar.isVisible()) return;
+        for (QAction* menu : bar.actions())
+            EXPECT_TRUE(!menu->isVisible() || bar.rect().contains(bar.actionGeometry(menu))) << menu->text().toStdString();
+    }
+
+    void CheckTabs(TabControl& tabs, const char* state) {
+        for (int tab = 0; tab < static_cast<int>(tabs.TabCaptions().size()); ++tab) {
+            Do([&] { PressTab(tabs, tab); });
+            CheckWords(*tabs.window, state);
+        }
+    }
+
+    void BeginSheet() {
+        Do([] { ClickControl(frmNext.Command4); });
+        Do([] { ClickControl(frmNext.Command1); });
+    }
+};
+
+TEST_P(WindowWalkTest, NoWordIsCutOnTheWayToTheFirstSample) {
+    CheckWords(frmNext, "at the start");
+    Do([] { ClickControl(frmNext.Command4); });
+    CheckWords(frmNext, "first sample");
+    Do([] { ClickControl(frmNext.Command1); });
+    CheckTabs(frmMain.SSTab1, "while it counts");
+    Do([] { ClickControl(frmMain.Command3[0]); });
+    CheckTabs(frmMain.SSTab1, "in Modify mode");
+}
+
+TEST_P(WindowWalkTest, NoWordIsCutInTheDiagram) {
+    BeginSheet();
+    SampleCount = 2;
+    Do(LaunchDiagram);
+    Do([] { ClickControl(frmDiagram.Command1); });
+    CheckWords(frmDiagram, "open");
+    Do([] { ClickControl(frmDiagram.nmuConiss); });
+    CheckWords(frmDiagram, "with its tree");
+}
+
+TEST_P(WindowWalkTest, NoWordIsCutInADialog) {
+    BeginSheet();
+    for (Window* window : AllWindows()) {
+        if (window->name == "frmMain" || window->name == "frmNext" || window->name == "frmDiagram" || window->name == "frmPicture")
+            continue;
+        Do([&] { window->Show(); });
+        Control* const tabs = window->Find("SSTab1", -1);
+        if (tabs)
+            CheckTabs(static_cast<TabControl&>(*tabs), "open");
+        else
+            CheckWords(*window, "open");
+        Do([&] { window->Unload(); });
+    }
+}
+
+TEST_P(WindowWalkTest, AWordThatIsCutIsSeen) {
+    BeginSheet();
+    Do([] {
+        frmMain.Command5[0].SetCaption(std::string(300, 'W'));
+        frmMain.Frame1.SetCaption(std::string(300, 'W'));
+    });
+    EXPECT_NE(WordsOf(frmMain.Command5[0]).Text(), Said(frmMain.Command5[0])) << "dots stand for the rest";
+    EXPECT_FALSE(WordsOf(frmMain.Frame1).IsInside());
+}
+
+INSTANTIATE_TEST_SUITE_P(Densities, WindowWalkTest, testing::Values(1.0, 1.5, 2.0));
+}  // namespace
