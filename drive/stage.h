@@ -6,9 +6,9 @@
 #include <string>
 
 #include "drive/folders.h"
-#include "platform/hands.h"
 #include "drive/names.h"
 #include "drive/report.h"
+#include "platform/hands.h"
 #include "platform/headless/headless_services.h"
 
 namespace drive {

@@ -11,8 +11,7 @@ public:
     Any(std::string_view text) : text_(text) {}
     Any(const char* text) : text_(text) {}
     template <class T>
-        requires std::is_arithmetic_v<T>
-    Any(T number) : is_number_(true), number_(static_cast<double>(number)) {}
+    requires std::is_arithmetic_v<T> Any(T number) : is_number_(true), number_(static_cast<double>(number)) {}
 
     bool IsNumber() const { return is_number_; }
     double Number() const;     // of a text: its leading number, 0 if there is none
@@ -20,7 +19,7 @@ public:
 
     // With a number: by value. With a text: by the text that would be shown.
     template <class T>
-        requires std::is_arithmetic_v<T>
+    requires std::is_arithmetic_v<T>
     bool operator==(T number) const { return Number() == static_cast<double>(number); }
     bool operator==(std::string_view text) const { return Text() == text; }
 

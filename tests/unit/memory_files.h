@@ -11,9 +11,9 @@
 
 class MemoryFiles : public Files {
 public:
-    std::map<std::string, std::string> bytes;     // path: what the file holds
-    std::set<std::string> locked;                 // every opening fails
-    std::map<std::string, std::size_t> room;      // path: the bytes that its disk takes
+    std::map<std::string, std::string> bytes;  // path: what the file holds
+    std::set<std::string> locked;              // every opening fails
+    std::map<std::string, std::size_t> room;   // path: the bytes that its disk takes
 
     std::string ReadAll(const std::string& path) override {
         if (locked.count(path) || !bytes.count(path)) throw Failure(kFileError);
