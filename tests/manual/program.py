@@ -9,7 +9,7 @@ from pathlib import Path
 
 TOP = Path(__file__).resolve().parents[2]
 HERE = Path(__file__).resolve().parent
-DRIVER = os.environ["DRIVER"]
+DRIVER = Path(os.environ.get("MARLBROOK_BIN", TOP / "build/release/bin")) / "marlbrook-drive"
 
 WITH_CAPTION = ("Label", "Button", "Frame", "CheckBox", "OptionButton", "MenuItem")
 WITH_TOOL_TIP = ("Slider", "PictureBox")
