@@ -1,4 +1,3 @@
-import os
 import re
 import subprocess
 import sys
@@ -6,6 +5,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import examples
 import manual
 import program
 
@@ -156,32 +156,7 @@ class WebPagesTest(unittest.TestCase):
                     self.assertEqual(made.count(f">{heading}<") >= 2, True, heading)
 
 
-class ExamplesTest(unittest.TestCase):
-    """The examples of the page on the file format, run on a sheet that the program has saved."""
-
-    @classmethod
-    def setUpClass(cls):
-        cls.folder = tempfile.TemporaryDirectory()
-        cls.work = Path(cls.folder.name)
-        cls.page = manual.page("file_format.md")
-        cls.shipped = (manual.FOLDER / "lake_core.csv").read_bytes()
-        (cls.work / "opened.csv").write_bytes(cls.shipped)
-        script = "start\nfile ./opened.csv\nclick frmNext.Command2\n"
-        for place in range(12):
-            script += f"choose frmMain.Combo2 {4 + 8 * place}\nshow frmMain.Combo2 frmMain.Text3(1) frmMain.Text2(1)\n"
-        ran = program.play(script + "file ./lake_core.csv\nclick frmMain.mnuSaveAs\n", cls.work)
-        told = [line.split(" = ")[1] for line in ran.stdout.splitlines() if " = " in line]
-        cls.expected = "".join(f"{name} {trees} {100 * int(pinus) / int(trees):.1f}\n"
-                               for name, trees, pinus in zip(told[0::3], told[1::3], told[2::3]))
-
-    @classmethod
-    def tearDownClass(cls):
-        cls.folder.cleanup()
-
-    def run_example(self, command, code):
-        ran = subprocess.run([*command, "-"], input=code, cwd=self.work, capture_output=True, text=True, timeout=120)
-        self.assertEqual(ran.stdout, self.expected, ran.stderr)
-
+class ExamplesTest(examples.Examples):
     def test_the_page_shows_what_the_program_shows(self):
         self.assertEqual(len(self.expected.splitlines()), 12)
         self.assertEqual(self.page.blocks("text")[-1], self.expected)
@@ -199,14 +174,6 @@ class ExamplesTest(unittest.TestCase):
 
     def test_python(self):
         self.run_example([sys.executable], self.page.blocks("python")[0])
-
-    @unittest.skipUnless(os.environ.get("WITH_TOOLS"), "pandas is looked at with --with-spreadsheet")
-    def test_pandas(self):
-        self.run_example([sys.executable], self.page.blocks("python")[1])
-
-    @unittest.skipUnless(os.environ.get("WITH_TOOLS"), "R is looked at with --with-spreadsheet")
-    def test_r(self):
-        self.run_example(["Rscript", "--vanilla"], self.page.blocks("r")[0])
 
 
 if __name__ == "__main__":
