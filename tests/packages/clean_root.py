@@ -4,6 +4,7 @@ To be used in a mount namespace of its own: the root and all that is mounted in 
 """
 import pathlib
 import platform
+import shutil
 import subprocess
 
 ENVIRONMENT = {"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LANG": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
@@ -34,6 +35,8 @@ class CleanRoot:
 
     def __init__(self, kept, shared):
         self.path = kept / "root"
+        kept.mkdir(exist_ok=True)
+        shutil.rmtree(kept / "unfinished", ignore_errors=True)  # of a run that was broken off; what was mounted in it has ended with that
         if not (kept / "base").exists():
             self._fetch_base(kept / "unfinished").rename(kept / "base")
         self.path.mkdir(exist_ok=True)
