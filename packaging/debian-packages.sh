@@ -4,6 +4,8 @@
 #     packaging/debian-packages.sh test           that, and what the tests take
 #     packaging/debian-packages.sh spreadsheet    what the tests take that send sheets through a spreadsheet
 #     packaging/debian-packages.sh fuzz           what the fuzzers take
+#     packaging/debian-packages.sh format         what the check of the format takes
+#     packaging/debian-packages.sh lint           the compiler and the checkers of tests/lint.sh
 #     packaging/debian-packages.sh bench          the programs that the benchmarks compare with
 # or several of these words.
 set -euo pipefail
@@ -31,6 +33,8 @@ for_test=(
 for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)
 for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)
 for_fuzz=(clang libclang-rt-dev libgtest-dev)
+for_format=(clang-format)
+for_lint=(clang clang-tidy cppcheck)
 
 Fail() {
     echo "debian-packages.sh: $*" >&2
@@ -57,10 +61,12 @@ for purpose in "$@"; do
         spreadsheet) wanted+=("${for_spreadsheet[@]}") ;;
         bench) wanted+=("${for_bench[@]}") ;;
         fuzz) wanted+=("${for_fuzz[@]}") ;;
+        format) wanted+=("${for_format[@]}") ;;
+        lint) wanted+=("${for_lint[@]}") ;;
         *) wanted=() && break ;;
     esac
 done
-[ "${#wanted[@]}" -gt 0 ] || Fail "say build, test, spreadsheet, fuzz or bench"
+[ "${#wanted[@]}" -gt 0 ] || Fail "say build, test, spreadsheet, fuzz, format, lint or bench"
 
 if ! command -v apt-get >/dev/null; then
     echo "debian-packages.sh: no apt-get here, so nothing is installed; needed are: ${wanted[*]}" >&2
