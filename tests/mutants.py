@@ -2,11 +2,11 @@
 """Do the tests notice when the program is changed? Makes single small changes in the procedures of the core, one at a time in a copy of
 the checkout, and runs the unit tests and then the scripts until one fails:
 
-    tests/mutants.py COUNT [SEED]
+    tests/mutants.py COUNT [SEED [FOLDER...]]
 
 COUNT changes are drawn at random, of each kind about as many: a comparison turned, + and - or && and || exchanged, a constant one
-higher, a call left out. What no test notices is printed; someone must judge whether it matters. The copy and its build stay in
-build/mutants. Takes half a minute or so for each change.
+higher, a call left out. What no test notices is printed; someone must judge whether it matters. The driver scripts in the FOLDERs run
+beside those of the tests. The copy and its build stay in build/mutants. Takes half a minute or so for each change.
 """
 import filecmp
 import os
@@ -23,7 +23,6 @@ HOME = TOP / "build" / "mutants"
 TREE = HOME / "tree"
 BUILD = HOME / "build"
 FOLDERS = ["session", "files", "keys", "taxa", "diagram"]
-SHARED_SCRIPTS = TOP.parent / "shared" / "acceptance"
 MEMORY = 4 << 30  # bytes: a change may make a loop endless
 
 TEXT_OR_COMMENT = re.compile(r'"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])*\'|//.*')
@@ -102,8 +101,7 @@ def unit_tests_pass():
 
 
 def scripts_pass():
-    folders = [str(TREE / "tests" / "scripts")] + ([str(SHARED_SCRIPTS)] if SHARED_SCRIPTS.is_dir() else [])
-    return run([str(TREE / "tests" / "run_scripts.sh"), str(BUILD / "bin" / "marlbrook-drive"), *folders], 300)
+    return run(["ctest", "--test-dir", str(BUILD), "-L", "scripts", "--parallel", "2", "--stop-on-failure"], 300)
 
 
 def outcome():
@@ -133,7 +131,7 @@ def files_below(folder):
     return {path.relative_to(folder) for path in folder.rglob("*") if path.is_file() and not skipped & set(path.relative_to(folder).parts)}
 
 
-def make_copy():
+def make_copy(script_folders):
     """Files that have not changed stay as they are: what was built of them still holds."""
     wanted = files_below(TOP)
     for gone in files_below(TREE) - wanted:
@@ -145,17 +143,19 @@ def make_copy():
     (HOME / "tmp").mkdir(exist_ok=True)
     subprocess.run(
         ["cmake", "-S", str(TREE), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_CXX_FLAGS=-O1 -w", "-DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON",
-         "-DCMAKE_DISABLE_FIND_PACKAGE_benchmark=ON"], check=True, stdout=subprocess.DEVNULL)
+         "-DCMAKE_DISABLE_FIND_PACKAGE_benchmark=ON", "-DMARLBROOK_SCRIPT_FOLDERS=" + ";".join(script_folders)], check=True, stdout=subprocess.DEVNULL)
 
 
 def main():
-    if len(sys.argv) not in (2, 3) or not all(word.isdigit() for word in sys.argv[1:]):
-        sys.exit("usage: mutants.py COUNT [SEED]")
-    seed = int(sys.argv[2]) if len(sys.argv) == 3 else random.randrange(10**6)
+    numbers = sys.argv[1:3]
+    folders = [pathlib.Path(folder).resolve() for folder in sys.argv[3:]]
+    if not numbers or not all(word.isdigit() for word in numbers) or not all(folder.is_dir() for folder in folders):
+        sys.exit("usage: mutants.py COUNT [SEED [FOLDER...]]")
+    seed = int(numbers[1]) if len(numbers) == 2 else random.randrange(10**6)
     resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
     os.nice(19)
     TREE.mkdir(parents=True, exist_ok=True)
-    make_copy()
+    make_copy([str(folder) for folder in folders])
     if outcome() != "SURVIVES":
         sys.exit("mutants.py: the tests fail as it is")
     drawn = draw(int(sys.argv[1]), seed)
