@@ -13,6 +13,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/changed_mark.h"
 #include "session/dialog.h"
 #include "session/history.h"
 #include "session/italics.h"
@@ -111,7 +112,7 @@ void ShowOpenedSheet() {
     frmMain.Text4.SetText(SampleNotes[SampleCount]);
     frmMain.Command5[1].SetEnabled(true);
     frmMain.mnuNext.SetEnabled(true);
-    frmMain.Command5[0].SetEnabled(false);
+    MarkSheetChanged(false);
     frmMain.mnuSave.SetEnabled(false);
     frmMain.ProgressBar1.SetValue(0);
     frmMain.ProgressBar1.SetVisible(false);

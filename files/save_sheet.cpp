@@ -11,6 +11,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/changed_mark.h"
 #include "session/focus_rule.h"
 #include "session/history.h"
 #include "session/snapshot.h"
@@ -129,13 +130,13 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
     StampHeader("Last saved (dd/mm/yyyy):");
     WriteHeaderRows(cells, SampleCount);
     const std::size_t header_size = cells.Size();
-    const bool was_changed = frmMain.Command5[0].Enabled();
-    frmMain.Command5[0].SetEnabled(false);
+    const bool was_changed = IsSheetChanged();
+    MarkSheetChanged(false);
     WriteRows(cells, mode, sums);
     try {
         cells.Close();
     } catch (const WriteFailure& failure) {  // a disk that was full from the start has taken nothing worth the name
-        if (failure.taken < header_size) frmMain.Command5[0].SetEnabled(was_changed);
+        if (failure.taken < header_size) MarkSheetChanged(was_changed);
         throw;
     }
 }

@@ -3,8 +3,16 @@
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
+void MarkSheetChanged(bool changed) {
+    frmMain.Command5[0].SetEnabled(changed);
+}
+
+bool IsSheetChanged() {
+    return frmMain.Command5[0].Enabled();
+}
+
 void OfferSaving() {
     if (AmendMode) return;
-    frmMain.Command5[0].SetEnabled(true);
+    MarkSheetChanged(true);
     frmMain.mnuSave.SetEnabled(true);
 }

@@ -9,6 +9,7 @@
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/alarm.h"
+#include "session/changed_mark.h"
 #include "session/highlight.h"
 #include "session/history.h"
 #include "session/sound.h"
@@ -57,11 +58,10 @@ void TrackShiftPress(int code) {
     if (code == Shift2Code) Shift2Down = true;
 }
 
-void MarkSheetChanged() {
+void EnableCommandsOfACount() {
     frmMain.Command2[0].SetEnabled(true);
     frmMain.mnuReset.SetEnabled(true);
-    frmMain.Command5[0].SetEnabled(true);  // this is the sheet's changed mark
-    frmMain.mnuSave.SetEnabled(true);
+    OfferSaving();
     frmMain.mnuSaveHistory.SetEnabled(true);
 }
 
@@ -164,7 +164,7 @@ void TakeKeyDown(int code) {
     SampleUntouched = false;
     frmMain.mnuNext.SetEnabled(false);
     if (!AmendMode && ShiftLevel > 0) frmMain.SSTab1.SetTab(ShiftLevel);
-    if (!AmendMode && !IsShiftOrUndoKey(code)) MarkSheetChanged();
+    if (!AmendMode && !IsShiftOrUndoKey(code)) EnableCommandsOfACount();
     DetectReverse(code);
     if (code == UndoKeyCode || AmendMode)
         frmMain.Text99.SetText("");

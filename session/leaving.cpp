@@ -6,6 +6,7 @@
 #include "files/format/sheet_base_name.h"
 #include "platform/failure.h"
 #include "platform/text.h"
+#include "session/changed_mark.h"
 #include "session/focus_rule.h"
 #include "session/history.h"
 #include "session/sound.h"
@@ -65,7 +66,7 @@ void CloseForGood(Window& window) {
 // An answer of Cancel, like a failed save, has never kept the program open: all that it does is not to save.
 void AskAndEnd() {
     SaveOutcome = 1;
-    if (frmMain.Command5[0].Enabled()) {
+    if (IsSheetChanged()) {
         const Message question{"Marlbrook", ClosingQuestion(), Icon::None, Buttons::YesNoCancel};
         if (services.messages->Show(question) == Answer::Yes) SaveAsked.Raise();
     }
