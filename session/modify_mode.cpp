@@ -1,5 +1,6 @@
 #include "session/modify_mode.h"
 
+#include "session/changed_mark.h"
 #include "session/history.h"
 #include "session/italics.h"
 #include "session/state/sheet_state.h"
@@ -9,10 +10,10 @@ namespace {
 constexpr Colour kModifying{200, 100, 100};
 
 // What counts, saves or leaves the sheet, and comes back with counting. mnuNext does not: it waits for the next change of the total.
-Control* const kCountingCommands[] = {
-    &frmMain.Command2[0],   &frmMain.Command4[0], &frmMain.Command5[0], &frmMain.mnuSave,    &frmMain.Command5[1], &frmMain.Command3[0],
-    &frmMain.mnuStartAmend, &frmMain.Text3[0],    &frmMain.Text3[1],    &frmMain.Text3[2],   &frmMain.mnuUndo,     &frmMain.mnuReset,
-    &frmMain.mnuNew,        &frmMain.mnuOpen,     &frmMain.mnuSaveAs,   &frmMain.mnuPercent, &frmMain.mnuSaveCopy};
+Control* const kCountingCommands[] = {&frmMain.Command2[0], &frmMain.Command4[0],   &frmMain.mnuSave,    &frmMain.Command5[1],
+                                      &frmMain.Command3[0], &frmMain.mnuStartAmend, &frmMain.Text3[0],   &frmMain.Text3[1],
+                                      &frmMain.Text3[2],    &frmMain.mnuUndo,       &frmMain.mnuReset,   &frmMain.mnuNew,
+                                      &frmMain.mnuOpen,     &frmMain.mnuSaveAs,     &frmMain.mnuPercent, &frmMain.mnuSaveCopy};
 
 void ShowParamNames(bool visible) {
     for (int p = 1; p <= kParams; ++p) frmMain.Label10[p].SetVisible(visible);
@@ -44,6 +45,7 @@ void SwitchCommands(bool counting) {
     frmMain.Command3[1].SetEnabled(!counting);
     frmMain.mnuFinishAmend.SetEnabled(!counting);
     for (Control* command : kCountingCommands) command->SetEnabled(counting);
+    MarkSheetChanged(counting);
     frmMain.mnuNext.SetEnabled(false);
     frmMain.Label1[0].SetVisible(counting);
     for (Label& label : frmMain.Label2) label.SetVisible(counting);

@@ -5,6 +5,7 @@
 #include "accessories/rest_pictures.h"
 #include "keys/settings/key_settings.h"
 #include "platform/failure.h"
+#include "session/changed_mark.h"
 #include "session/history.h"
 #include "session/snapshot.h"
 #include "session/stamps.h"
@@ -106,10 +107,11 @@ void FreshNotes() {
 }
 
 void SwitchOffCommands() {
-    for (Control* command : std::initializer_list<Control*>{
-             &frmMain.Command2[0], &frmMain.Command3[1], &frmMain.mnuFinishAmend, &frmMain.Command5[0], &frmMain.mnuSave,
-             &frmMain.mnuSaveHistory, &frmMain.Command5[1], &frmMain.mnuNext, &frmMain.mnuUndo, &frmMain.mnuReset, &frmMain.mnuNew})
+    for (Control* command : std::initializer_list<Control*>{&frmMain.Command2[0], &frmMain.Command3[1], &frmMain.mnuFinishAmend,
+                                                            &frmMain.mnuSave, &frmMain.mnuSaveHistory, &frmMain.Command5[1],
+                                                            &frmMain.mnuNext, &frmMain.mnuUndo, &frmMain.mnuReset, &frmMain.mnuNew})
         command->SetEnabled(false);
+    MarkSheetChanged(false);
 }
 
 void ShowExclamation(const std::string& text) {
