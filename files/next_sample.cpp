@@ -1,10 +1,10 @@
 #include "files/next_sample.h"
 
-#include <algorithm>
 #include <string>
 
 #include "diagram/move_sample_column.h"
 #include "diagram/open_diagram.h"
+#include "files/read_sheet.h"
 #include "files/sample_fields.h"
 #include "platform/failure.h"
 #include "platform/number.h"
@@ -113,13 +113,6 @@ void ShowRenameButtons(bool visible) {
 }
 
 }  // namespace
-
-std::int16_t LargestSerial() {
-    constexpr double kNone = -9999;
-    double largest = kNone;
-    for (int sample = 1; sample <= SampleCount; ++sample) largest = std::max(largest, SampleTable[1][sample].Number());
-    return largest == kNone ? std::int16_t{0} : ToInteger(largest);
-}
 
 void LoadNextWindow() {
     frmNext.Text2.SetText(FreshNote());

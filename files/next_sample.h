@@ -1,9 +1,5 @@
 // frmNext: the start face of the program, and the sample that is added to the sheet.
 #pragma once
-#include <cstdint>
-
-std::int16_t LargestSerial();  // of the samples 1..SampleCount, 0 if there is none
-
 void LoadNextWindow();  // chooses the face; at the start of the program this loads the main window
 void BringNextToFront();
 void ShowSampleFields();  // "Create new data file" on the start face

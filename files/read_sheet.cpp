@@ -1,8 +1,8 @@
 #include "files/read_sheet.h"
 
+#include <algorithm>
 #include <string>
 
-#include "files/next_sample.h"
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
@@ -94,6 +94,13 @@ void ShowNoCounts(int slot) {
     frmMain.Text2[slot].SetText("0");
 }
 }  // namespace
+
+std::int16_t LargestSerial() {
+    constexpr double kNone = -9999;
+    double largest = kNone;
+    for (int sample = 1; sample <= SampleCount; ++sample) largest = std::max(largest, SampleTable[1][sample].Number());
+    return largest == kNone ? std::int16_t{0} : ToInteger(largest);
+}
 
 void ReadFirstRow(CellReader& cells) {
     ReadLabels(cells);
