@@ -8,6 +8,7 @@
 #include "files/format/cell_reader.h"
 #include "files/read_sheet.h"
 #include "files/save_sheet.h"
+#include "files/sheet_on_screen.h"
 #include "platform/encoding.h"
 #include "session/state/sheet_state.h"
 
@@ -28,9 +29,9 @@ void ReadSheet(benchmark::State& state) {
     for (auto _ : state) {
         CellReader cells(DecodeFile(bytes));
         SheetHeader[6] = cells.Next();
-        ReadFirstRow(cells);
-        ReadSampleNames(cells);
-        ReadTaxonRows(cells);
+        GridRead read;
+        ReadGrid(cells, read, [](int) {});
+        ShowSheet(read);
         ReadParamRows(cells);
         ReadNotes(cells);
     }

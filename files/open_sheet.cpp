@@ -8,6 +8,7 @@
 #include "files/back_up.h"
 #include "files/format/sheet_base_name.h"
 #include "files/read_sheet.h"
+#include "files/sheet_on_screen.h"
 #include "keys/settings/key_settings.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
@@ -133,15 +134,16 @@ void HandOver() {
         GiveMainWindowBack();
 }
 
-// False: a key index repeats, and the session has started afresh.
-bool ReadTaxa(CellReader& cells) {
-    TaxonTable[0][2] = TaxonTable[0][3] = 0;
-    AllTotal = 0;
-    for (TextBox& total : frmMain.Text3) total.SetText("0");
-    ReadTaxonRows(cells);
-    const std::optional<int> repeated = RepeatedKeyIndex();
-    if (repeated) StartAfresh(*repeated);
-    return !repeated;
+// What was read before a fault is on the screen too.
+void ReadAndShowGrid(CellReader& cells) {
+    GridRead read;
+    try {
+        ReadGrid(cells, read, [](int row) { frmMain.ProgressBar1.SetValue(row); });
+    } catch (const Failure&) {
+        ShowSheet(read);
+        throw;
+    }
+    ShowSheet(read);
 }
 
 void ReadRest(CellReader& cells) {
@@ -154,7 +156,7 @@ void ReadRest(CellReader& cells) {
     ReadNotes(cells);
 }
 
-// False: the session has started afresh, for a reason that the user was told.
+// False: a key index repeats, and the session has started afresh.
 bool ReadFile(const std::string& path) {
     CellReader cells(DecodeFile(services.files->ReadAll(path)));
     CloseDiagram();
@@ -163,9 +165,11 @@ bool ReadFile(const std::string& path) {
     ClearCounts();
     SheetHeader[6] = cells.Next();
     frmMain.SetTitle(Left(frmMain.Title(), kLongTitleLength) + " - [" + SheetBaseName(path) + "]");
-    ReadFirstRow(cells);
-    ReadSampleNames(cells);
-    if (!ReadTaxa(cells)) return false;
+    ReadAndShowGrid(cells);
+    if (const std::optional<int> repeated = RepeatedKeyIndex()) {
+        StartAfresh(*repeated);
+        return false;
+    }
     RecountTotals(CurrentSample);
     MakeColumnOfTemplate();
     ReadRest(cells);

@@ -2,15 +2,12 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/sample_on_show.h"
 #include "session/state/sheet_state.h"
-#include "session/subtotal_names.h"
-#include "session/totals.h"
-#include "windows/main_window.h"
 
 namespace {
 // The labels between the path and the serials. An older layout has one cell more before "Serial No.".
@@ -25,8 +22,8 @@ bool IsNumber(const Any& cell) {
 }
 
 // The run of numbers up to the first text, which begins the second row. Returns how many there are.
-int ReadSerials(CellReader& cells) {
-    int count = 0;
+std::int16_t ReadSerials(CellReader& cells) {
+    std::int16_t count = 0;
     for (Any cell = cells.Next();; cell = cells.Next()) {
         if (!IsNumber(cell)) {
             SheetHeader[11] = cell;
@@ -61,37 +58,48 @@ int ReadTaxonLabels(CellReader& cells, std::int16_t row) {
     TaxonTable[slot][2] = RowSubtotal1[row];
     TaxonTable[slot][3] = RowSubtotal2[row];
     TaxonTable[slot][4] = RowNames[row];
-    frmMain.Text1[slot].SetText(RowNames[row]);
     return slot;
 }
 
-// Bold goes by the row of the file and marks a count in any sample; the cell shows the last count that could be read.
-void ReadCounts(CellReader& cells, int row, int slot) {
-    int sample = 0;
-    bool any = false;
-    const auto show = [&] {
-        if (sample > 0) ShowCountOf(slot, Counts[slot][sample]);
-        if (!any) return;
-        frmMain.Text2[row].SetBold(true);
-        frmMain.Text1[row].SetBold(true);
-    };
-    try {
-        while (sample < SampleCount) {
-            Counts[slot][sample + 1] = ToLong(cells.Next().Number());
-            ++sample;
-            any = any || Counts[slot][sample] != 0;
-        }
-    } catch (const Failure&) {
-        show();
-        throw;
+void ReadCounts(CellReader& cells, int slot, GridRead& read) {
+    while (read.counts < SampleCount) {
+        const std::int32_t count = ToLong(cells.Next().Number());
+        Counts[slot][++read.counts] = count;
+        if (count != 0) read.has_count.set(read.rows);
     }
-    show();
 }
 
-void ShowNoCounts(int slot) {
-    frmMain.Text2[slot].SetBold(false);
-    frmMain.Text1[slot].SetBold(false);
-    frmMain.Text2[slot].SetText("0");
+// What follows the path: the labels, the serials and the begin of the second row.
+void ReadFirstRow(CellReader& cells, GridRead& read) {
+    ReadLabels(cells);
+    SampleCount = CurrentSample = ReadSerials(cells);
+    read.serials = true;
+    MaxSerial = LargestSerial();
+    read.largest_serial = true;
+    MapSerials();
+}
+
+void ReadSampleNames(CellReader& cells, GridRead& read) {
+    for (const int i : {12, 13, 14}) SheetHeader[i] = cells.Next();
+    read.subtotal_names = true;
+    while (read.sample_names < SampleCount) {
+        std::string name = cells.NextText();
+        const int sample = ++read.sample_names;
+        SampleTable[2][sample] = SampleNamesRead[sample] = std::move(name);
+    }
+}
+
+void ReadTaxonRows(CellReader& cells, GridRead& read, const RowProgress& progress) {
+    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    AllTotal = 0;
+    RowOfSlot[0] = 0;  // a key index of 0 in an earlier file may have taken it
+    for (std::int16_t row = 1; row <= kSlots; ++row) {
+        progress(row);
+        const int slot = ReadTaxonLabels(cells, row);
+        read.rows = row;
+        read.counts = 0;
+        ReadCounts(cells, slot, read);
+    }
 }
 }  // namespace
 
@@ -102,40 +110,10 @@ std::int16_t LargestSerial() {
     return largest == kNone ? std::int16_t{0} : ToInteger(largest);
 }
 
-void ReadFirstRow(CellReader& cells) {
-    ReadLabels(cells);
-    const int samples = ReadSerials(cells);
-    SampleCount = CurrentSample = static_cast<std::int16_t>(samples);
-    frmMain.Text99.SetText(std::to_string(samples));
-    MaxSerial = LargestSerial();
-    ShowSerial();
-    MapSerials();
-}
-
-void ReadSampleNames(CellReader& cells) {
-    for (const int i : {12, 13, 14}) SheetHeader[i] = cells.Next();
-    ShowSubtotalNames();
-    frmMain.Combo2.Clear();
-    std::string last;
-    for (int sample = 1; sample <= SampleCount; ++sample) {
-        last = SampleNamesRead[sample] = cells.NextText();
-        SampleTable[2][sample] = last;
-        frmMain.Combo2.AddItem(last);
-    }
-    frmMain.Combo2.SetText(last);
-    frmMain.Text1[0].SetText(last);
-}
-
-void ReadTaxonRows(CellReader& cells) {
-    RowOfSlot[0] = 0;  // a key index of 0 in an earlier file may have taken it
-    for (std::int16_t row = 1; row <= kSlots; ++row) {
-        frmMain.ProgressBar1.SetValue(row);
-        const int slot = ReadTaxonLabels(cells, row);
-        if (SampleCount > 0)
-            ReadCounts(cells, row, slot);
-        else
-            ShowNoCounts(slot);
-    }
+void ReadGrid(CellReader& cells, GridRead& read, const RowProgress& progress) {
+    ReadFirstRow(cells, read);
+    ReadSampleNames(cells, read);
+    ReadTaxonRows(cells, read, progress);
 }
 
 void ReadParamRows(CellReader& cells) {

@@ -279,6 +279,39 @@ TEST_F(OpenFailureTest, AFileCutShortAnywhereKeepsWhatWasRead) {
     EXPECT_TRUE(Open(cut)) << "the last cell made it whole";
 }
 
+TEST_F(OpenFailureTest, ARowThatBreaksOffShowsItsLastCountAsThatOfTheLastSample) {
+    Rows rows = DataSheet(3);
+    rows.resize(kTaxonRow + 11);
+    std::swap(rows[kTaxonRow + 9][0], rows[kTaxonRow + 10][0]);
+    rows.back().resize(6);
+    rows.back()[5] = "77";
+    FailToOpen(rows);
+    EXPECT_EQ(frmMain.Text2[10].Text(), "77");
+    EXPECT_EQ(Counts[10][1], 12);
+    EXPECT_EQ(Counts[10][2], 77);
+    EXPECT_EQ(Counts[10][3], 77);
+    EXPECT_EQ(frmMain.Text2[11].Text(), "13");
+    EXPECT_EQ(Counts[11][3], 13);
+    EXPECT_EQ(frmMain.Text2[12].Text(), "15") << "of the sheet before";
+}
+
+TEST_F(OpenFailureTest, BoldGoesByTheRowsThatWereRead) {
+    Rows rows = DataSheet(2);
+    for (int slot = 1; slot <= kSlots; ++slot) rows[kTaxonRow + slot - 1][4] = rows[kTaxonRow + slot - 1][5] = "0";
+    ASSERT_TRUE(Open(rows));
+    rows.resize(kTaxonRow + 11);
+    std::swap(rows[kTaxonRow][0], rows[kTaxonRow + 9][0]);
+    rows[kTaxonRow][4] = "5";  // slot 10, the sample that is not on show
+    rows.back()[4] = "6";
+    rows.back().resize(5);
+    FailToOpen(rows);
+    for (int row = 1; row <= kSlots; ++row) {
+        EXPECT_EQ(frmMain.Text1[row].Bold(), row == 1 || row == 11) << row;
+        EXPECT_EQ(frmMain.Text2[row].Bold(), row == 1 || row == 11) << row;
+    }
+    EXPECT_EQ(frmMain.Text2[10].Text(), "0");
+}
+
 TEST_F(OpenFailureTest, ATemplateCutShortLeavesOneColumn) {
     Rows rows = TemplateFile();
     rows.resize(kTaxonRow + 10);

@@ -6,6 +6,8 @@
 #include "files/save_sheet.h"
 #include "platform/failure.h"
 #include "platform/user.h"
+#include "session/modify_mode.h"
+#include "taxa/cells.h"
 #include "unit/open_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
@@ -78,6 +80,26 @@ TEST_F(OpenSheetTest, EveryCellOfTheGridFindsItsPlace) {
     EXPECT_EQ(ParamValues[6][1], "6/1");
     EXPECT_EQ(SheetFooter[4], "Note: ");
     EXPECT_EQ(SampleNotes[1], "Note 1");
+}
+
+TEST_F(OpenSheetTest, ACountThatIsReadIsNoEditOfItsCell) {
+    ASSERT_TRUE(Open(DataSheet(2)));
+    int edits = 0;
+    frmMain.Text2[7].Change.Calls([&edits] { edits += frmMain.ChangingSample ? 0 : 1; });
+    Rows rows = DataSheet(2);
+    rows[kTaxonRow + 6][5] = "77";
+    EXPECT_TRUE(Open(rows));
+    EXPECT_EQ(frmMain.Text2[7].Text(), "77");
+    EXPECT_EQ(edits, 0);
+    frmMain.Text2[7].Change.Calls([] { TakeCount(7); });
+}
+
+TEST_F(OpenSheetTest, InModifyModeACountThatIsReadIsAnEdit) {
+    ASSERT_TRUE(Open(DataSheet(2)));
+    EnterModifyMode();
+    ASSERT_FALSE(frmMain.mnuNew.Enabled());
+    ASSERT_TRUE(Open(DataSheet(3)));
+    EXPECT_TRUE(frmMain.mnuNew.Enabled());
 }
 
 TEST_F(OpenSheetTest, ASortedSheetKeepsItsOrderAndItsKeys) {

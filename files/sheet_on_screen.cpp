@@ -1,0 +1,64 @@
+#include "files/sheet_on_screen.h"
+
+#include <string>
+
+#include "session/sample_on_show.h"
+#include "session/subtotal_names.h"
+#include "session/totals.h"
+#include "windows/main_window.h"
+
+namespace {
+void ListSampleNames(int samples) {
+    frmMain.Combo2.Clear();
+    for (int sample = 1; sample <= samples; ++sample) frmMain.Combo2.AddItem(SampleNamesRead[sample]);
+}
+
+void ShowLastName() {
+    const std::string last = SampleCount > 0 ? SampleNamesRead[SampleCount] : "";
+    frmMain.Combo2.SetText(last);
+    frmMain.Text1[0].SetText(last);
+}
+
+void ShowNoCounts(int slot) {
+    frmMain.Text2[slot].SetBold(false);
+    frmMain.Text1[slot].SetBold(false);
+    frmMain.Text2[slot].SetText("0");
+}
+
+// `counts`: how many of the row were read.
+void ShowCounts(int row, int counts, bool bold) {
+    const int slot = KeyIndex[row];
+    if (counts > 0) ShowCountOf(slot, Counts[slot][counts]);
+    if (!bold) return;
+    frmMain.Text2[row].SetBold(true);
+    frmMain.Text1[row].SetBold(true);
+}
+
+// A cell that shows what its array holds is no edit, but in Modify mode every change of a cell is one. In a row that breaks off the
+// cell leads: the count that it shows becomes that of the last sample.
+void ShowRow(int row, const GridRead& read) {
+    const int slot = KeyIndex[row];
+    const int counts = row < read.rows ? SampleCount : read.counts;
+    frmMain.ChangingSample = counts == SampleCount && !AmendMode;
+    frmMain.Text1[slot].SetText(RowNames[row]);
+    if (SampleCount > 0)
+        ShowCounts(row, counts, read.has_count[row]);
+    else
+        ShowNoCounts(slot);
+    frmMain.ChangingSample = false;
+}
+}  // namespace
+
+void ShowSheet(const GridRead& read) {
+    if (!read.serials) return;
+    frmMain.Text99.SetText(std::to_string(SampleCount));
+    if (!read.largest_serial) return;
+    ShowSerial();
+    if (!read.subtotal_names) return;
+    ShowSubtotalNames();
+    ListSampleNames(read.sample_names);
+    if (read.sample_names < SampleCount) return;
+    ShowLastName();
+    for (TextBox& total : frmMain.Text3) total.SetText("0");
+    for (int row = 1; row <= read.rows; ++row) ShowRow(row, read);
+}
