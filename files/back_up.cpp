@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "files/sheet_on_screen.h"
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
+#include "session/stamps.h"
 #include "session/state/sheet_state.h"
 
 namespace {
@@ -19,11 +21,12 @@ std::string BackUpPath() {
 void WriteBackUp() {
     const auto file = services.files->OpenForWriting(BackUpPath());
     CellWriter cells(*file);
-    StampHeader("Backed up (dd/mm/yyyy):");
-    WriteHeaderRows(cells, SampleCount);
-    for (int row = 1; row <= kSlots; ++row) WriteCountRow(cells, row);
+    LabelHeader("Backed up (dd/mm/yyyy):", FileStamp());
+    TakeParamNames();
     FillEmptyParams();
     FillEmptyNotes();
+    WriteHeaderRows(cells, SampleCount);
+    for (int row = 1; row <= kSlots; ++row) WriteCountRow(cells, row);
     WriteParamRows(cells, SampleCount);
     WriteNoteRow(cells, SampleCount);
     cells.Close();

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "files/sheet_on_screen.h"
 #include "files/sheet_rows.h"
 #include "session/export.h"
 #include "session/focus_rule.h"
@@ -14,14 +15,15 @@
 namespace {
 void WriteTemplate(CellWriter& cells) {
     constexpr int kNoSamples = 0;
-    StampHeader("Last saved (dd/mm/yyyy):");
+    LabelHeader("Last saved (dd/mm/yyyy):", FileStamp());
+    TakeParamNames();
+    NameUntitledParams();
     WriteHeaderRows(cells, kNoSamples);
     for (int row = 1; row <= kSlots; ++row) {
         WriteTaxonLabels(cells, row);
         cells.EndRow();
         frmMain.ProgressBar1.SetValue(row);
     }
-    NameUntitledParams();
     WriteParamRows(cells, kNoSamples);
     WriteNoteRow(cells, kNoSamples);
     for (const Any& label : {SheetHeader[12], SheetHeader[13], Any("All total")}) {

@@ -7,6 +7,7 @@
 
 #include "diagram/data/percentages.h"
 #include "files/format/sheet_base_name.h"
+#include "files/sheet_on_screen.h"
 #include "files/sheet_rows.h"
 #include "platform/failure.h"
 #include "platform/number.h"
@@ -111,27 +112,36 @@ void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums
     }
 }
 
-void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
-    if (IsPercentTable(mode))
-        for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
-    WriteTaxonRows(cells, mode);
+void ComputeShares() {
+    for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
+}
+
+void GatherTexts() {
+    TakeParamNames();
     FillEmptyParams();
-    WriteParamRows(cells, SampleCount);
     StampNote();
     FillEmptyNotes();
+}
+
+void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
+    WriteTaxonRows(cells, mode);
+    WriteParamRows(cells, SampleCount);
     if (!IsPercentTable(mode)) WriteNoteRow(cells, SampleCount);
     WriteSumRows(cells, mode, sums);
 }
 
+// A file that cannot be opened changes nothing; a disk that takes no more finds all of the sheet gathered.
 void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& sums) {
     const auto file = services.files->OpenForWriting(path);
     if (mode == kSaveAs && SaveAsPending) AdoptPath(path);
-    CellWriter cells(*file);
-    StampHeader("Last saved (dd/mm/yyyy):");
-    WriteHeaderRows(cells, SampleCount);
-    const std::size_t header_size = cells.Size();
+    LabelHeader("Last saved (dd/mm/yyyy):", FileStamp());
     const bool was_changed = IsSheetChanged();
     MarkSheetChanged(false);
+    if (IsPercentTable(mode)) ComputeShares();
+    GatherTexts();
+    CellWriter cells(*file);
+    WriteHeaderRows(cells, SampleCount);
+    const std::size_t header_size = cells.Size();
     WriteRows(cells, mode, sums);
     try {
         cells.Close();

@@ -62,3 +62,12 @@ void ShowSheet(const GridRead& read) {
     for (TextBox& total : frmMain.Text3) total.SetText("0");
     for (int row = 1; row <= read.rows; ++row) ShowRow(row, read);
 }
+
+void TakeShownSample() {
+    SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
+    if (frmMain.KeysEnabled) CopyCellsToCounts();  // else they show percentages, and no key has counted since they do
+}
+
+void TakeParamNames() {
+    for (int p = 1; p <= kParams; ++p) ParamHeader[p][4] = frmMain.Label10[p].Caption();
+}

@@ -2,17 +2,13 @@
 
 #include <string>
 
-#include "platform/number.h"
 #include "platform/text.h"
-#include "session/stamps.h"
 #include "session/state/sheet_state.h"
-#include "session/totals.h"
-#include "windows/main_window.h"
 
-void StampHeader(const char* label) {
+void LabelHeader(const char* label, const std::string& stamp) {
     SheetHeader[6] = SheetPath;
     SheetHeader[7] = label;
-    SheetHeader[8] = FileStamp();
+    SheetHeader[8] = stamp;
 }
 
 void WriteHeaderRows(CellWriter& cells, int samples) {
@@ -58,7 +54,6 @@ void NameUntitledParams() {
     for (int p = 1; p <= kParams; ++p) {
         for (int i = 1; i <= 3; ++i)
             if (ParamHeader[p][i].empty()) ParamHeader[p][i] = kEmpty;
-        ParamHeader[p][4] = frmMain.Label10[p].Caption();
         if (WithoutTrailingColon(ParamHeader[p][4]).empty()) ParamHeader[p][4] = "Additional info-" + std::to_string(p);
     }
 }
@@ -73,9 +68,4 @@ void FillEmptyParams() {
 void FillEmptyNotes() {
     for (int sample = 1; sample <= SampleCount; ++sample)
         if (SampleNotes[sample].empty()) SampleNotes[sample] = kEmpty;
-}
-
-void TakeShownSample() {
-    SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
-    if (frmMain.KeysEnabled) CopyCellsToCounts();  // else they show percentages, and no key has counted since they do
 }

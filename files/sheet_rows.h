@@ -8,10 +8,13 @@
 //
 // Taxa stand in the order of the file's rows, not of the slots: a sheet sorted in a spreadsheet keeps its order and its keys.
 #pragma once
+#include <string>
+
 #include "files/format/cell_writer.h"
 #include "platform/any.h"
 
-void StampHeader(const char* label);  // SheetHeader[6..8]: path, "Last saved (dd/mm/yyyy):" or the like, date and time
+// SheetHeader[6..8]: the path, "Last saved (dd/mm/yyyy):" or the like, date and time.
+void LabelHeader(const char* label, const std::string& stamp);
 
 // `samples`: how many columns follow the labels; SampleCount, or 0 in a template.
 void WriteHeaderRows(CellWriter& cells, int samples);
@@ -21,8 +24,6 @@ void WriteParamRows(CellWriter& cells, int samples);
 void WriteNoteRow(CellWriter& cells, int samples);
 void WriteSumLabels(CellWriter& cells, const Any& label);  // the four label cells of a row below the notes
 
-void NameUntitledParams();  // ParamHeader takes the captions on the screen; no cell of the labels stays empty
+void NameUntitledParams();  // in ParamHeader: no cell of the labels stays empty
 void FillEmptyParams();     // the same, and no value stays empty: "---"
 void FillEmptyNotes();
-
-void TakeShownSample();  // the name and the counts on the screen go into the arrays, as the column of CurrentSample
