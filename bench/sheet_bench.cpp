@@ -6,7 +6,7 @@
 #include "diagram/data/percentages.h"
 #include "files/back_up.h"
 #include "files/format/cell_reader.h"
-#include "files/read_sheet.h"
+#include "files/format/read_sheet.h"
 #include "files/save_sheet.h"
 #include "files/sheet_on_screen.h"
 #include "platform/encoding.h"

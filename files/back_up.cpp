@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
-#include "files/sheet_rows.h"
 #include "platform/failure.h"
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"

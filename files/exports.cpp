@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
-#include "files/sheet_rows.h"
 #include "session/export.h"
 #include "session/focus_rule.h"
 #include "session/sound.h"

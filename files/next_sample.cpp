@@ -4,7 +4,7 @@
 
 #include "diagram/move_sample_column.h"
 #include "diagram/open_diagram.h"
-#include "files/read_sheet.h"
+#include "files/format/read_sheet.h"
 #include "files/sample_fields.h"
 #include "platform/failure.h"
 #include "platform/number.h"

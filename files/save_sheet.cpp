@@ -7,8 +7,8 @@
 
 #include "diagram/data/percentages.h"
 #include "files/format/sheet_base_name.h"
+#include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
-#include "files/sheet_rows.h"
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"

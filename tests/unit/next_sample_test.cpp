@@ -1,7 +1,7 @@
 // A sample that is added to the sheet: its column, its place among the others, and what it takes with it.
 #include "files/next_sample.h"
 
-#include "files/read_sheet.h"
+#include "files/format/read_sheet.h"
 #include "platform/run_event.h"
 #include "platform/user.h"
 #include "session/totals.h"

@@ -1,4 +1,4 @@
-#include "files/read_sheet.h"
+#include "files/format/read_sheet.h"
 
 #include <algorithm>
 #include <string>

@@ -1,4 +1,4 @@
-#include "files/sheet_rows.h"
+#include "files/format/sheet_rows.h"
 
 #include <string>
 
