@@ -1,0 +1,122 @@
+// Whatever bytes a sheet is, the arrays stay within their bounds and hold what was read before a fault; a sheet that was read whole is
+// written and read again as the same bytes. Nothing but the file format is linked: no window, no procedure.
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "files/format/cell_writer.h"
+#include "files/format/read_sheet.h"
+#include "files/format/sheet_rows.h"
+#include "platform/encoding.h"
+#include "platform/failure.h"
+#include "session/state/sheet_state.h"
+
+namespace {
+struct BytesInMemory : OutputFile {
+    std::string bytes;
+    void Replace(std::string_view all) override { bytes = all; }
+};
+
+void Check(bool holds, const char* what) {
+    if (holds) return;
+    std::fprintf(stderr, "not so: %s\n", what);
+    std::abort();
+}
+
+// Every input meets the same arrays.
+void StartAfresh() {
+    SampleCount = CurrentSample = 1;
+    for (auto& row : Counts) std::fill(std::begin(row), std::end(row), 0);
+    for (int slot = 0; slot <= kSlots; ++slot) KeyIndex[slot] = RowOfSlot[slot] = static_cast<std::int16_t>(slot);
+    for (auto& header : ParamHeader) std::fill(std::begin(header), std::end(header), kEmpty);
+    for (auto& values : ParamValues) std::fill(std::begin(values), std::end(values), kEmpty);
+}
+
+// False: a cell could not be read.
+bool Read(const std::string& bytes, GridRead& read) {
+    CellReader cells(DecodeFile(bytes));
+    try {
+        SheetHeader[6] = cells.Next();
+        ReadGrid(cells, read, [](int) {});
+        TemplateOpened = SampleCount == 0;
+        if (FileVersion > 1) ReadParamRows(cells);
+        ReadNotes(cells);
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+std::string Written() {
+    BytesInMemory file;
+    CellWriter cells(file);
+    LabelHeader("Last saved (dd/mm/yyyy):", "14/11/2026_(10:11:12)");
+    WriteHeaderRows(cells, SampleCount);
+    for (int row = 1; row <= kSlots; ++row) WriteCountRow(cells, row);
+    WriteParamRows(cells, SampleCount);
+    WriteNoteRow(cells, SampleCount);
+    cells.Close();
+    return file.bytes;
+}
+
+void CheckExtent(const GridRead& read) {
+    Check(SampleCount >= 0 && SampleCount <= kColumns, "SampleCount is within the arrays");
+    Check(!read.serials || CurrentSample == SampleCount, "the last sample is the current one");
+    Check(read.sample_names <= SampleCount, "no more names than samples");
+    Check(read.rows <= kSlots && read.counts <= SampleCount, "no more rows and counts than the grid has");
+    Check(read.rows == 0 || read.sample_names == SampleCount, "all names come before the first row");
+    for (int row = 1; row <= kSlots; ++row) {
+        Check(KeyIndex[row] >= 0 && KeyIndex[row] <= kSlots, "every row has a slot");
+        Check(row <= read.rows || !read.has_count[row], "a row that was not begun has no count");
+    }
+}
+
+// Each row that was read stands in the place of its slot, unless a later row has taken that.
+void CheckRows(const GridRead& read) {
+    for (int row = 1; row <= read.rows; ++row) {
+        const int slot = KeyIndex[row];
+        if (RowOfSlot[slot] != row) continue;
+        Check(TaxonTable[slot][0] == row && TaxonTable[slot][4] == RowNames[row], "the slot has the labels of its row");
+        const int counts = row < read.rows ? SampleCount : read.counts;
+        const bool any = std::any_of(&Counts[slot][1], &Counts[slot][counts] + 1, [](std::int32_t count) { return count != 0; });
+        Check(any == read.has_count[row] || (row == read.rows && counts < SampleCount), "a row is marked by its counts");
+    }
+}
+
+// What would not come back, as in no sheet of the program's own: a quotation mark inside a text, a name that ends in a colon, another
+// label in the place of "Serial No.".
+bool IsOurOwn() {
+    const auto has_mark = [](const Any& cell) { return cell.Text().find('"') != std::string::npos; };
+    if (!(SheetHeader[9] == "Serial No.") || std::any_of(std::begin(SheetHeader), std::end(SheetHeader), has_mark)) return false;
+    if (std::any_of(std::begin(SheetFooter), std::end(SheetFooter), has_mark)) return false;
+    for (int sample = 1; sample <= SampleCount; ++sample)
+        if (has_mark(SampleTable[2][sample]) || has_mark(SampleNotes[sample])) return false;
+    for (int row = 1; row <= kSlots; ++row)
+        if (has_mark(TaxonTable[KeyIndex[row]][4])) return false;
+    for (int p = 1; p <= kParams; ++p) {
+        if (ParamHeader[p][4].ends_with(':') || std::any_of(std::begin(ParamHeader[p]), std::end(ParamHeader[p]), has_mark)) return false;
+        if (std::any_of(&ParamValues[p][1], &ParamValues[p][SampleCount] + 1, has_mark)) return false;
+    }
+    return true;
+}
+
+void CheckRoundTrip() {
+    const std::string written = Written();
+    GridRead again;
+    Check(Read(written, again), "a written sheet can be read");
+    Check(again.rows == kSlots && again.counts == SampleCount, "to the end of its grid");
+    Check(Written() == written, "and is written as the same bytes");
+}
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    StartAfresh();
+    GridRead read;
+    const bool whole = Read({reinterpret_cast<const char*>(data), size}, read);
+    CheckExtent(read);
+    CheckRows(read);
+    if (whole && IsOurOwn()) CheckRoundTrip();
+    return 0;
+}
