@@ -2,11 +2,13 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/focus_walk.h"
 #include "platform/spoken_name.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
+#include "windows/picture_window.h"
 
 namespace {
 std::string NameOf(const Control& control) {
@@ -37,6 +39,18 @@ std::string ItemsOf(const Control* menu) {
 
 // Does nothing: its window is left by OK alone.
 const std::set<std::string> kIdleButtons = {"frmSiteName.Command3"};
+
+// Of an analysis that has no content.
+const std::set<std::string> kIdleItems = {"frmDiagram.mnuECC", "frmDiagram.mnuCopyEOF"};
+
+bool HoldsItems(const Control& menu) {
+    return std::ranges::any_of(menu.window->Controls(), [&menu](const Control* item) { return item->container == &menu; });
+}
+
+// A letter that is taken with Ctrl is there to do nothing.
+bool MustBeJoined(const MenuItem& item) {
+    return item.Caption() != "-" && item.control_letter == 0 && !HoldsItems(item) && !IsOneOf(item, kIdleItems);
+}
 
 bool HasAPlace(const Control& control) {
     return control.kind() != Kind::MenuItem && control.Visible() && control.Width() > 0 && control.Height() > 0;
@@ -84,6 +98,36 @@ Texts Covers(const Window& window) {
             if (CanBeSeenTogether(**one, **other) && Overlap(**one, **other) && !IsOneOf(**one, kGrounds) && !IsOneOf(**other, kGrounds))
                 faults.push_back(NameOf(**one) + " and " + NameOf(**other));
     return faults;
+}
+
+// Where Tab leads, all the way round.
+std::vector<Control*> Round(Window& window, bool back) {
+    std::vector<Control*> round;
+    WalkFocus(window, back);
+    do {
+        round.push_back(window.Focus());
+        WalkFocus(window, back);
+    } while (window.Focus() != round.front() && round.size() < window.Controls().size());
+    return round;
+}
+
+// The same, from the stop that the window has first.
+std::vector<Control*> FromTheFirst(const Window& window, std::vector<Control*> round) {
+    const auto place = [&window](Control* stop) { return std::ranges::find(window.Controls(), stop); };
+    std::ranges::rotate(round, std::ranges::min_element(round, {}, place));
+    return round;
+}
+
+// Boxes that stand as the keys of the pad do and are walked by their numbers; and the slider beside the diagram, which comes after what
+// lies below it.
+const std::set<std::string> kNotAsRead = {"frmSubtotal.Check1", "frmKeyCode.Text3", "frmDiagram.Slider1"};
+
+// Down a column, along a row, to the top of the next column.
+bool IsReadAfter(const Control& next, const Control& last) {
+    if (next.container != last.container || IsOneOf(next, kNotAsRead)) return true;
+    const bool is_above = next.Top() + next.Height() <= last.Top();
+    const bool is_below = last.Top() + last.Height() <= next.Top();
+    return is_below || (is_above ? next.Left() >= last.Left() + last.Width() : next.Left() > last.Left());
 }
 
 class WindowsTest : public SheetTest {
@@ -140,6 +184,33 @@ TEST_F(WindowsTest, EveryButtonIsJoined) {
             if (control->kind() != Kind::Button || !control->Visible() || IsOneOf(*control, kIdleButtons)) continue;
             EXPECT_TRUE(control->Click.IsJoined() || control->MouseDown.IsJoined()) << NameOf(*control);
         }
+}
+
+TEST_F(WindowsTest, EveryMenuItemIsJoined) {
+    Start();
+    int items = 0;
+    for (const Window* window : Windows())
+        for (const Control* control : window->Controls()) {
+            if (control->kind() != Kind::MenuItem || !MustBeJoined(static_cast<const MenuItem&>(*control))) continue;
+            ++items;
+            EXPECT_TRUE(control->Click.IsJoined()) << NameOf(*control);
+        }
+    EXPECT_GT(items, 150);
+}
+
+TEST_F(WindowsTest, TabGoesThroughADialogAsItIsReadAndTheSameWayBack) {
+    Begin("10");
+    for (Window* window : Windows()) {
+        if (window == &frmMain || window == &frmPicture) continue;  // the keyboard is the counter's in one, nobody's in the other
+        window->Show();
+        const std::vector<Control*> round = FromTheFirst(*window, Round(*window, false));
+        EXPECT_EQ(std::set<Control*>(round.begin(), round.end()).size(), round.size()) << window->name;
+        for (std::size_t at = 1; at < round.size(); ++at) EXPECT_TRUE(IsReadAfter(*round[at], *round[at - 1])) << NameOf(*round[at]);
+        std::vector<Control*> back = Round(*window, true);
+        std::ranges::reverse(back);
+        EXPECT_EQ(FromTheFirst(*window, back), round) << window->name;
+        window->Unload();
+    }
 }
 
 TEST_F(WindowsTest, NoNameStandsTwiceInAWindow) {
