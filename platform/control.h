@@ -86,9 +86,10 @@ struct Properties {
     Colour back = kFormColour;
     Colour fore = kBlack;
     std::string tool_tip;
-    std::string text;  // the text of a box, the caption of all else
-    int caret = 0;     // characters before it
-    int value = 0;     // of a slider, scroll bar or progress bar
+    std::string text;   // the text of a box, the caption of all else
+    double number = 0;  // the leading number of the text of a box
+    int caret = 0;      // characters before it
+    int value = 0;      // of a slider, scroll bar or progress bar
     int minimum = 0;
     int maximum = 100;
     int small_change = 1;

@@ -12,9 +12,15 @@ int WithinText(const std::string& text, int characters) {
 }
 }  // namespace
 
-void TextHolder::SetText(const std::string& text) {
-    if (text == now_.text) return;
+bool TextHolder::Hold(const std::string& text) {
+    if (text == now_.text) return false;
     now_.text = text;
+    now_.number = Val(text);
+    return true;
+}
+
+void TextHolder::SetText(const std::string& text) {
+    if (!Hold(text)) return;
     now_.caret = 0;
     selected_ = 0;
     Tell(Property::Text);
@@ -25,8 +31,7 @@ void TextHolder::Enter(const std::string& text, int caret) {
     selected_ = 0;
     now_.caret = WithinText(text, caret);
     Tell(Property::Caret);
-    if (text == now_.text) return;
-    now_.text = text;
+    if (!Hold(text)) return;
     Tell(Property::Text);
     Change.Raise();
     HasBeenEdited();
@@ -78,7 +83,7 @@ void ComboBox::SetItem(int item, const std::string& text) {
 void ComboBox::Clear() {
     if (now_.items.empty() && now_.text.empty()) return;
     now_.items.clear();
-    now_.text.clear();
+    Hold("");
     now_.caret = 0;
     Tell(Property::Items);
     Tell(Property::Text);
@@ -87,7 +92,7 @@ void ComboBox::Clear() {
 void ComboBox::Choose(int item) {
     if (item < 0 || item >= ListCount()) return;
     now_.caret = 0;
-    Assign(now_.text, now_.items[item], Property::Text);
+    if (Hold(now_.items[item])) Tell(Property::Text);
     Click.Raise();
 }
 

@@ -9,6 +9,7 @@
 class TextHolder : public Control {
 public:
     const std::string& Text() const { return now_.text; }
+    double Number() const { return now_.number; }  // Val of the text, kept so that reading it costs nothing
     // The program sets the text: the caret goes to its front, and Change is raised before SetText returns.
     void SetText(const std::string& text);
     // The user typed or pasted: the text as it now stands, the caret behind what was put in. Raises Change.
@@ -30,7 +31,8 @@ public:
 
 protected:
     explicit TextHolder(Kind kind) : Control(kind) { now_.back = kWhite; }
-    virtual void HasBeenEdited() {}  // by the user, after Change
+    virtual void HasBeenEdited() {}      // by the user, after Change
+    bool Hold(const std::string& text);  // tells nobody; false: it is the text already
 
 private:
     int selected_ = 0;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/text.h"
 #include "unit/test_window.h"
 
 namespace {
@@ -120,6 +121,34 @@ TEST_F(ControlsTest, ASelectionEndsWithTheTextAndWithTheNextMove) {
     box.Select(0, 2);
     box.SetText("xyz");
     EXPECT_EQ(box.SelLength(), 0);
+}
+
+TEST_F(ControlsTest, ABoxKnowsTheNumberOfItsTextHoweverThatChanges) {
+    TextBox box;
+    EXPECT_EQ(box.Number(), 0);
+    for (const char* text : {"12", "", "-3", "7 cf.", "1E2", "Pinus", ".5", "1e999"}) {
+        box.SetText(text);
+        EXPECT_EQ(box.Number(), Val(text)) << text;
+    }
+    box.Enter("41", 2);
+    EXPECT_EQ(box.Number(), 41);
+    double heard = 0;
+    box.Change.Calls([&] { heard = box.Number(); });
+    box.SetText("5");
+    EXPECT_EQ(heard, 5) << "the number is there before the change is told";
+    box.KeepDesign();
+    box.SetText("6");
+    box.ReturnToDesign();
+    EXPECT_EQ(box.Number(), 5);
+}
+
+TEST_F(ControlsTest, AListKnowsTheNumberOfTheItemOnShow) {
+    ComboBox list;
+    list.AddItem("12.5");
+    list.Choose(0);
+    EXPECT_EQ(list.Number(), 12.5);
+    list.Clear();
+    EXPECT_EQ(list.Number(), 0);
 }
 
 TEST_F(ControlsTest, ACaptionOfALabelRaisesChange) {
