@@ -16,8 +16,8 @@ constexpr double kLongestCurve = 32767;  // past it the curve stands still, and 
 void RecordPoint() {
     TaxaSeen = 0;
     for (int slot = 1; slot <= kSlots; ++slot)
-        if (Val(frmMain.Text2[slot].Text()) != 0) ++TaxaSeen;
-    const double total = Val(frmMain.Text3[0].Text());
+        if (frmMain.Text2[slot].Number() != 0) ++TaxaSeen;
+    const double total = frmMain.Text3[0].Number();
     if (std::abs(total) <= kLongestCurve) DiversityLength = ToInteger(total);
     if (DiversityLength < 0) return;  // reverse counts alone: there is nothing to hold
     DiversityCurve.resize(static_cast<std::size_t>(DiversityLength) + 1);

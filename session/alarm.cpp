@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "platform/text.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
@@ -15,7 +14,7 @@ bool IsFullHundred(double total) {
 bool AlarmDueAfterCount() {
     bool due = false;
     for (int i = 0; i < 3; ++i) {
-        const double total = Val(frmMain.Text3[i].Text());
+        const double total = frmMain.Text3[i].Number();
         if (!frmMain.Option1[i].Value() || total == 0) continue;
         if (IsFullHundred(total))
             due = true;
@@ -28,6 +27,6 @@ bool AlarmDueAfterCount() {
 bool AlarmDueAfterUndo() {
     bool due = false;
     for (int i = 0; i < 3; ++i)
-        if (IsFullHundred(Val(frmMain.Text3[i].Text()) - 1) && frmMain.Option1[i].Value()) due = true;
+        if (IsFullHundred(frmMain.Text3[i].Number() - 1) && frmMain.Option1[i].Value()) due = true;
     return due;
 }

@@ -10,7 +10,7 @@
 
 namespace {
 std::int16_t WholeNumber(const TextBox& box) {
-    return ToInteger(Val(box.Text()));
+    return ToInteger(box.Number());
 }
 
 // A product of two Singles, rounded as one, ties to even.
@@ -29,7 +29,7 @@ void ShowTotalsInPercent() {
     constexpr int kTestedSample = kSlots + 1;
     if (Counts[0][kTestedSample] == 0) return;
     if (Counts[0][CurrentSample] == 0) throw Failure(kDivisionByZero);
-    for (TextBox& total : frmMain.Text3) total.SetText(NumberText(RoundHalfEven(Val(total.Text()) * 100 / Counts[0][CurrentSample], 1)));
+    for (TextBox& total : frmMain.Text3) total.SetText(NumberText(RoundHalfEven(total.Number() * 100 / Counts[0][CurrentSample], 1)));
 }
 }  // namespace
 

@@ -31,7 +31,7 @@ void RecountTotals(std::int16_t sample) {
     TaxonTable[0][2] = TaxonTable[0][3] = 0;
     AllTotal = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        AddToTotals(slot, Val(frmMain.Text2[slot].Text()));
+        AddToTotals(slot, frmMain.Text2[slot].Number());
         ShowBold(slot, Counts[slot][sample] != 0);
         RestoreBlankName(slot);
     }
@@ -41,7 +41,7 @@ void RecountTotals(std::int16_t sample) {
 }
 
 void TakeChangedTotal() {
-    if (Val(frmMain.Text3[0].Text()) != 0) {
+    if (frmMain.Text3[0].Number() != 0) {
         frmMain.Command5[1].SetEnabled(true);
         frmMain.mnuNext.SetEnabled(true);
     }
@@ -80,7 +80,7 @@ void EmptyCountCells() {
 }
 
 void CopyCellsToCounts() {
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
+    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(frmMain.Text2[slot].Number());
 }
 
 void ShowZeroTotals() {

@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "platform/number.h"
-#include "platform/text.h"
 #include "session/alarm.h"
 #include "session/highlight.h"
 #include "session/history.h"
@@ -27,8 +26,8 @@ void GoToSampleOf(std::int16_t sample) {
 }
 
 void TakeBack(int slot, int direction) {
-    ShowCountOf(slot, Val(frmMain.Text2[slot].Text()) - direction);
-    Counts[slot][CurrentSample] = ToLong(Val(frmMain.Text2[slot].Text()));
+    ShowCountOf(slot, frmMain.Text2[slot].Number() - direction);
+    Counts[slot][CurrentSample] = ToLong(frmMain.Text2[slot].Number());
 }
 
 void PopUndoList() {
