@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/text.h"
 #include "platform/window_table.h"
 
 namespace {
@@ -33,6 +34,7 @@ Properties DesignOf(const ControlRow& row) {
     Properties design = row.control.State();
     design.box = row.place;
     design.text = row.caption;
+    design.number = Val(row.caption);
     design.font_size = row.style.points;
     design.bold = row.style.bold;
     design.fore = row.style.fore;

@@ -4,6 +4,7 @@
 
 #include "platform/focus_walk.h"
 #include "platform/spoken_name.h"
+#include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
@@ -211,6 +212,22 @@ TEST_F(WindowsTest, TabGoesThroughADialogAsItIsReadAndTheSameWayBack) {
         EXPECT_EQ(FromTheFirst(*window, back), round) << window->name;
         window->Unload();
     }
+}
+
+TEST_F(WindowsTest, EveryBoxKnowsTheNumberOfItsText) {
+    const auto expect_numbers = [](const std::string& when) {
+        for (Window* window : AllWindows())
+            for (Control* control : window->Controls()) {
+                const TextHolder* const box = control->AsTextHolder();
+                if (!box) continue;
+                EXPECT_EQ(box->Number(), Val(box->Text())) << window->name << "." << box->name << " " << when;
+            }
+    };
+    expect_numbers("at the start");
+    Begin("10");
+    expect_numbers("when counting");
+    for (Window* window : AllWindows()) window->Unload();
+    expect_numbers("as designed");
 }
 
 TEST_F(WindowsTest, NoNameStandsTwiceInAWindow) {
