@@ -16,12 +16,12 @@ void FollowBasis() {
 }
 
 void ChooseBasisItem(int option) {
-    OptionButton& basis = frmMain.Option1[option];
+    OptionButton& basis = frmMain.BasisOptions[option];
     if (!basis.Value()) {
         basis.SetValue(true);  // its click draws everything
         return;
     }
     RedrawDiagram();
-    if (frmDiagram.Picture2.Visible()) DrawClusterTree();
+    if (frmDiagram.ClusterTree.Visible()) DrawClusterTree();
     AlarmArmed = true;
 }

@@ -14,21 +14,21 @@ double RootHeight() {
 }
 
 void SetScale() {
-    PictureBox& tree = frmDiagram.Picture2;
-    tree.SetScaleTop(frmDiagram.Picture1.ScaleTop());
-    tree.SetScaleHeight(frmDiagram.Picture1.ScaleHeight());
+    PictureBox& tree = frmDiagram.ClusterTree;
+    tree.SetScaleTop(frmDiagram.Diagram.ScaleTop());
+    tree.SetScaleHeight(frmDiagram.Diagram.ScaleHeight());
     tree.SetScaleLeft(0);
     tree.SetScaleWidth(kRoomForStem * RootHeight());
 }
 
 void DrawStem() {
     const double y = (static_cast<double>(MergeUpper[LastMerge()]) + MergeLower[LastMerge()]) / 2;
-    frmDiagram.Picture2.Line(0, y, kRoomForStem * RootHeight(), y, kBlack);
+    frmDiagram.ClusterTree.Line(0, y, kRoomForStem * RootHeight(), y, kBlack);
 }
 
 // All lines begin at the left edge. The white ground of a bracket wipes those of the brackets above it, and the usual tree is left.
 void DrawBracket(int step) {
-    PictureBox& tree = frmDiagram.Picture2;
+    PictureBox& tree = frmDiagram.ClusterTree;
     const double upper = MergeUpper[step], lower = MergeLower[step], height = MergeHeight[step];
     tree.FilledRectangle(0, upper, height, lower, kWhite);
     tree.Line(0, upper, height, upper, kBlack);
@@ -37,7 +37,7 @@ void DrawBracket(int step) {
 }
 
 void DrawTicks() {
-    PictureBox& tree = frmDiagram.Picture2;
+    PictureBox& tree = frmDiagram.ClusterTree;
     const double top = tree.ScaleTop(), height = tree.ScaleHeight();
     int x = 1;
     do {
@@ -49,11 +49,11 @@ void DrawTicks() {
 }  // namespace
 
 void DrawClusterTree() {
-    Whiten(frmDiagram.Picture2);
+    Whiten(frmDiagram.ClusterTree);
     SetScale();
     DrawStem();
     for (int step = LastMerge(); step >= 1; --step) DrawBracket(step);
     DrawTicks();
-    frmDiagram.Picture2.Persist();
+    frmDiagram.ClusterTree.Persist();
     DrawSampleMarker();
 }

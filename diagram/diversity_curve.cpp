@@ -16,8 +16,8 @@ constexpr double kLongestCurve = 32767;  // past it the curve stands still, and 
 void RecordPoint() {
     TaxaSeen = 0;
     for (int slot = 1; slot <= kSlots; ++slot)
-        if (frmMain.Text2[slot].Number() != 0) ++TaxaSeen;
-    const double total = frmMain.Text3[0].Number();
+        if (frmMain.TaxonCounts[slot].Number() != 0) ++TaxaSeen;
+    const double total = frmMain.AllTotal.Number();
     if (std::abs(total) <= kLongestCurve) DiversityLength = ToInteger(total);
     if (DiversityLength < 0) return;  // reverse counts alone: there is nothing to hold
     DiversityCurve.resize(static_cast<std::size_t>(DiversityLength) + 1);
@@ -28,7 +28,7 @@ void RecordPoint() {
 
 // The data fill the right and upper part, both axes from 0 to ten times their largest value; the rest is room for the labels.
 void SetScale() {
-    PictureBox& picture = frmMain.Picture2;
+    PictureBox& picture = frmMain.DiversityPicture;
     if (TaxaSeen > 0) {
         picture.SetScaleTop(TaxaSeen * 11.7);
         picture.SetScaleHeight(TaxaSeen * -14.0);
@@ -45,7 +45,7 @@ void DrawLabels() {
     const std::string taxa_text = NumberText(taxa);
     const std::string total_text = NumberText(total);
     const auto digits = [](const std::string& text) { return static_cast<double>(Length(text)); };
-    const auto print = [](double x, double y, const std::string& text) { frmMain.Picture2.Print(x, y, 7, text, kAxis); };
+    const auto print = [](double x, double y, const std::string& text) { frmMain.DiversityPicture.Print(x, y, 7, text, kAxis); };
     print(0, taxa * -0.2, "0");
     print((9.9 - 0.2 * digits(total_text)) * total, taxa * -0.2, total_text);
     print(total * -0.43, taxa * 0.9, "0");
@@ -53,9 +53,9 @@ void DrawLabels() {
 }
 
 void DrawCurve() {
-    PictureBox& picture = frmMain.Picture2;
+    PictureBox& picture = frmMain.DiversityPicture;
     picture.Clear();
-    if (frmMain.Text3[0].Text() == "1") DiversityCurve[1] = 10;
+    if (frmMain.AllTotal.Text() == "1") DiversityCurve[1] = 10;
     for (int n = 1; n <= DiversityLength; ++n)
         if (DiversityCurve[n] != 0 && DiversityCurve[n - 1] != 0)
             picture.Line(10.0 * (n - 1), DiversityCurve[n - 1], 10.0 * n, DiversityCurve[n], kCurve);
@@ -66,8 +66,8 @@ void DrawCurve() {
 }  // namespace
 
 void FollowTotal() {
-    if (frmMain.Text3[0].Text() == "0")
-        frmMain.Picture2.Clear();
+    if (frmMain.AllTotal.Text() == "0")
+        frmMain.DiversityPicture.Clear();
     else
         DrawDiversityCurve();
 }

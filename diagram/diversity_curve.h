@@ -1,4 +1,4 @@
-// The small curve of taxa seen against grains counted, in frmMain.Picture2.
+// The small curve of taxa seen against grains counted, in frmMain.DiversityPicture.
 #pragma once
 #include <cstdint>
 #include <vector>

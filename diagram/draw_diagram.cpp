@@ -84,7 +84,7 @@ private:
     double left_;
     float scale_;
     const std::vector<float>& y_;
-    PictureBox& picture_ = frmDiagram.Picture1;
+    PictureBox& picture_ = frmDiagram.Diagram;
 };
 
 std::vector<float> SampleHeights() {
@@ -98,12 +98,12 @@ bool IsInView(int row, int scroll) {
     const double scale = HorizontalScale();
     const auto left = static_cast<float>((static_cast<double>(ColumnOffset[row]) - scroll) * scale);
     const auto right = static_cast<float>((static_cast<double>(ColumnOffset[row + 1]) - scroll) * scale);
-    return right >= 0 && left < frmDiagram.Picture1.ScaleWidth();
+    return right >= 0 && left < frmDiagram.Diagram.ScaleWidth();
 }
 }  // namespace
 
 float HorizontalScale() {
-    return static_cast<float>(frmDiagram.Slider2.Value() / 5.0);
+    return static_cast<float>(frmDiagram.HorizontalScale.Value() / 5.0);
 }
 
 void Whiten(PictureBox& picture) {
@@ -118,12 +118,12 @@ void DrawDiagram() {
     RestoreDiagramShares();
     const std::vector<float> y = SampleHeights();
     const DiagramStyle& style = StyleOnShow();
-    const int scroll = frmDiagram.HScroll1.Value();
-    Whiten(frmDiagram.Picture1);
+    const int scroll = frmDiagram.ColumnScroll.Value();
+    Whiten(frmDiagram.Diagram);
     for (int row = 1; row <= kSlots; ++row) {
-        frmMain.ProgressBar1.SetValue(row);
+        frmMain.Progress.SetValue(row);
         if (IsInView(row, scroll)) ColumnPainter(row, scroll, y).Paint(style);
     }
-    frmDiagram.Picture1.Persist();
+    frmDiagram.Diagram.Persist();
     DrawSampleMarker();
 }

@@ -1,4 +1,4 @@
-// The stratigraphic diagram in frmDiagram.Picture1: a column for each sheet row, from left to right; the samples from top to bottom.
+// The stratigraphic diagram in frmDiagram.Diagram: a column for each sheet row, from left to right; the samples from top to bottom.
 #pragma once
 
 class PictureBox;

@@ -8,17 +8,17 @@ namespace {
 constexpr Colour kGuide{255, 50, 0};
 
 void DrawVertical(float x, int source) {
-    const double top = frmDiagram.Picture1.ScaleTop(), bottom = top + frmDiagram.Picture1.ScaleHeight();
+    const double top = frmDiagram.Diagram.ScaleTop(), bottom = top + frmDiagram.Diagram.ScaleHeight();
     if (source == kOverDiagram) {
-        const double place = static_cast<double>(x) - frmDiagram.HScroll1.Value();
-        frmDiagram.Picture1.Line(place, top, place, bottom, kGuide);
+        const double place = static_cast<double>(x) - frmDiagram.ColumnScroll.Value();
+        frmDiagram.Diagram.Line(place, top, place, bottom, kGuide);
     } else {
-        frmDiagram.Picture2.Line(x, top, x, bottom, kGuide);
+        frmDiagram.ClusterTree.Line(x, top, x, bottom, kGuide);
     }
 }
 
 void DrawHorizontal(float y) {
-    for (PictureBox* picture : {&frmDiagram.Picture1, &frmDiagram.Picture2})
+    for (PictureBox* picture : {&frmDiagram.Diagram, &frmDiagram.ClusterTree})
         picture->Line(picture->ScaleLeft(), y, picture->ScaleLeft() + picture->ScaleWidth(), y, kGuide);
 }
 

@@ -26,49 +26,49 @@ void ForceSize(int width, int height) {
 }
 
 void RefuseTooSmall() {
-    const bool narrow = frmDiagram.Picture1.Width() < kSmallestPicture, low = frmDiagram.Picture1.Height() < kSmallestPicture;
+    const bool narrow = frmDiagram.Diagram.Width() < kSmallestPicture, low = frmDiagram.Diagram.Height() < kSmallestPicture;
     if (narrow) ForceSize(kSmallestWidth, frmDiagram.Height());
     if (low) ForceSize(frmDiagram.Width(), kSmallestHeight);
 }
 
 int WidthOfTree() {
-    return frmDiagram.Picture2.Visible() ? frmDiagram.Picture2.Width() : 0;
+    return frmDiagram.ClusterTree.Visible() ? frmDiagram.ClusterTree.Width() : 0;
 }
 
 void PlacePictures() {
-    PictureBox& diagram = frmDiagram.Picture1;
-    PictureBox& tree = frmDiagram.Picture2;
+    PictureBox& diagram = frmDiagram.Diagram;
+    PictureBox& tree = frmDiagram.ClusterTree;
     diagram.SetWidth(std::max(0, frmDiagram.Width() - frmDiagram.WidthMargin - WidthOfTree()));
     diagram.SetHeight(std::max(0, frmDiagram.Height() - frmDiagram.HeightMargin));
-    frmDiagram.Picture4.SetWidth(diagram.Width());
+    frmDiagram.NameStrip.SetWidth(diagram.Width());
     tree.SetLeft(frmDiagram.Width() - kDiagramRightEdge - tree.Width());
     tree.SetHeight(diagram.Height());
 }
 
 void PlaceBars() {
-    frmDiagram.HScroll1.SetTop(frmDiagram.Height() - frmDiagram.ScrollMargin);
-    frmDiagram.HScroll1.SetWidth(frmDiagram.Picture1.Width());
-    frmDiagram.Slider1.SetHeight(std::max(0, frmDiagram.Height() - frmDiagram.SliderMargin));
-    frmDiagram.Picture3.SetTop(frmDiagram.Height() - frmDiagram.BandMargin);
-    frmDiagram.Picture3.SetWidth(frmDiagram.Width());
-    frmDiagram.StatusBar1.SetTop(frmDiagram.Height() - frmDiagram.StatusBar1.Height());
-    frmDiagram.StatusBar1.SetWidth(frmDiagram.Width());
+    frmDiagram.ColumnScroll.SetTop(frmDiagram.Height() - frmDiagram.ScrollMargin);
+    frmDiagram.ColumnScroll.SetWidth(frmDiagram.Diagram.Width());
+    frmDiagram.SampleSlider.SetHeight(std::max(0, frmDiagram.Height() - frmDiagram.SliderMargin));
+    frmDiagram.Band.SetTop(frmDiagram.Height() - frmDiagram.BandMargin);
+    frmDiagram.Band.SetWidth(frmDiagram.Width());
+    frmDiagram.Status.SetTop(frmDiagram.Height() - frmDiagram.Status.Height());
+    frmDiagram.Status.SetWidth(frmDiagram.Width());
 }
 
 // The width in view counts in units of the screen here, whatever the horizontal scale.
 void SetScrollRangeOfPicture() {
-    const double end = SetScrollRange(frmDiagram.Picture1.ScaleWidth());
-    frmDiagram.HScroll1.SetEnabled(end > 0);
+    const double end = SetScrollRange(frmDiagram.Diagram.ScaleWidth());
+    frmDiagram.ColumnScroll.SetEnabled(end > 0);
 }
 }  // namespace
 
 void MeasureMargins() {
-    frmDiagram.WidthMargin = ToInteger(frmDiagram.Width() - frmDiagram.Picture1.Width());
-    frmDiagram.HeightMargin = ToInteger(frmDiagram.Height() - frmDiagram.Picture1.Height());
-    frmDiagram.ScrollMargin = ToInteger(frmDiagram.Height() - frmDiagram.HScroll1.Top());
-    frmDiagram.SliderMargin = ToInteger(frmDiagram.Height() - frmDiagram.Slider1.Height());
-    frmDiagram.FrameMargin = ToInteger(frmDiagram.Width() - frmDiagram.Frame3.Left());
-    frmDiagram.BandMargin = ToInteger(frmDiagram.Height() - frmDiagram.Picture3.Top());
+    frmDiagram.WidthMargin = ToInteger(frmDiagram.Width() - frmDiagram.Diagram.Width());
+    frmDiagram.HeightMargin = ToInteger(frmDiagram.Height() - frmDiagram.Diagram.Height());
+    frmDiagram.ScrollMargin = ToInteger(frmDiagram.Height() - frmDiagram.ColumnScroll.Top());
+    frmDiagram.SliderMargin = ToInteger(frmDiagram.Height() - frmDiagram.SampleSlider.Height());
+    frmDiagram.FrameMargin = ToInteger(frmDiagram.Width() - frmDiagram.Selector.Left());
+    frmDiagram.BandMargin = ToInteger(frmDiagram.Height() - frmDiagram.Band.Top());
 }
 
 void SetDiagramScale() {
@@ -79,7 +79,7 @@ void SetDiagramScale() {
     if (SampleCount == 2 || SampleCount == 3) height *= 1.05;
     frmDiagram.DiagramTop = static_cast<float>(top);
     frmDiagram.DiagramHeight = static_cast<float>(height);
-    PictureBox& picture = frmDiagram.Picture1;
+    PictureBox& picture = frmDiagram.Diagram;
     picture.SetScaleLeft(0);
     picture.SetScaleWidth(kUnitsAcross);
     picture.SetScaleTop(frmDiagram.DiagramTop);
@@ -89,8 +89,8 @@ void SetDiagramScale() {
 void LayOutDiagram() {
     PlacePictures();
     PlaceBars();
-    frmDiagram.Frame3.SetLeft(frmDiagram.Width() - frmDiagram.FrameMargin - WidthOfTree());
-    frmDiagram.UpDown1.SetLeft(frmDiagram.Frame3.Left() - frmDiagram.UpDown1.Width());
+    frmDiagram.Selector.SetLeft(frmDiagram.Width() - frmDiagram.FrameMargin - WidthOfTree());
+    frmDiagram.SampleArrows.SetLeft(frmDiagram.Selector.Left() - frmDiagram.SampleArrows.Width());
 }
 
 void ResizeDiagram() {

@@ -17,7 +17,7 @@ void WriteMerges(CellWriter& cells) {
     for (const char* heading : {"Depth from", "Depth to", "Sum square"}) cells.Write(heading);
     cells.EndRow();
     for (int step = SampleCount - 1; step >= 1; --step) {
-        frmMain.ProgressBar1.SetValue(SampleCount - step);
+        frmMain.Progress.SetValue(SampleCount - step);
         for (const float number : {MergeUpper[step], MergeLower[step], MergeHeight[step]}) cells.Write(SingleCell(number));
         cells.EndRow();
     }

@@ -19,32 +19,32 @@
 
 namespace {
 void FillReadOuts() {
-    frmDiagram.Text1.SetText(std::to_string(MoveFrom));
-    frmDiagram.Text2.SetText(std::to_string(MoveTo));
+    frmDiagram.MovedFrom.SetText(std::to_string(MoveFrom));
+    frmDiagram.MovedTo.SetText(std::to_string(MoveTo));
 }
 
 // The scroll value in `x` has not been scaled, and the last name is that of slot 135 whatever its row: on a scrolled or scaled diagram
 // the tip is off, as analysts know it.
 void NameTaxonAt(float x) {
     if (!frmDiagram.mnuTaxaName.Checked()) {
-        frmDiagram.Picture1.SetToolTip("");
+        frmDiagram.Diagram.SetToolTip("");
         return;
     }
     const double scale = HorizontalScale();
     for (int row = 1; row <= kSlots; ++row)
         if (scale * ColumnOffset[row] < x && scale * ColumnOffset[row + 1] > x)
-            frmDiagram.Picture1.SetToolTip(TaxonTable[KeyIndex[row]][4].Text());
-    if (x > ColumnOffset[kSlots]) frmDiagram.Picture1.SetToolTip(TaxonTable[kSlots][4].Text());
+            frmDiagram.Diagram.SetToolTip(TaxonTable[KeyIndex[row]][4].Text());
+    if (x > ColumnOffset[kSlots]) frmDiagram.Diagram.SetToolTip(TaxonTable[kSlots][4].Text());
 }
 
 bool IsOnSampleLine(float y) {
-    const double down = static_cast<double>(y) - 10 * RoundHalfEven(SamplePositions().Row(frmDiagram.Slider1.Value()), 0);
-    return static_cast<float>(down * down) < frmDiagram.Picture1.ScaleHeight() * 10 / 50;
+    const double down = static_cast<double>(y) - 10 * RoundHalfEven(SamplePositions().Row(frmDiagram.SampleSlider.Value()), 0);
+    return static_cast<float>(down * down) < frmDiagram.Diagram.ScaleHeight() * 10 / 50;
 }
 
 int NearestDepth(float y) {
     const SamplePositions positions;
-    int nearest = frmDiagram.Slider1.Value();
+    int nearest = frmDiagram.SampleSlider.Value();
     float best = 99999.0F;
     for (int sample = 1; sample <= SampleCount; ++sample) {
         const double away = y / 10.0 - positions.Row(sample);
@@ -62,13 +62,13 @@ int NearestRow(float y) {
 }
 
 void DragLine(float y) {
-    frmDiagram.Slider1.SetValue(SampleNamesAreText ? NearestRow(y) : NearestDepth(y));  // its change moves line and group
-    if (SampleNamesAreText) MoveTo = static_cast<std::int16_t>(frmDiagram.Slider1.Value());
+    frmDiagram.SampleSlider.SetValue(SampleNamesAreText ? NearestRow(y) : NearestDepth(y));  // its change moves line and group
+    if (SampleNamesAreText) MoveTo = static_cast<std::int16_t>(frmDiagram.SampleSlider.Value());
 }
 
 void BeginMove() {
     frmDiagram.MovingSample = true;
-    MoveFrom = MoveTo = static_cast<std::int16_t>(frmDiagram.Slider1.Value());
+    MoveFrom = MoveTo = static_cast<std::int16_t>(frmDiagram.SampleSlider.Value());
     DrawSampleMarker();  // it turns red
 }
 
@@ -88,7 +88,7 @@ void EndDrag() {
 }  // namespace
 
 void MoveOverPicture(Mouse mouse, int source) {
-    const auto x = static_cast<float>(mouse.x + frmDiagram.HScroll1.Value());
+    const auto x = static_cast<float>(mouse.x + frmDiagram.ColumnScroll.Value());
     const auto y = static_cast<float>(mouse.y);
     NameTaxonAt(x);
     if (IsOnSampleLine(y))
@@ -112,18 +112,18 @@ void PressOnPicture(Mouse mouse, int source) {
 void ReleaseOnPicture() {
     if (frmDiagram.MovingSample) MoveSampleColumn();
     EndDrag();
-    frmMain.ProgressBar1.SetVisible(false);
+    frmMain.Progress.SetVisible(false);
     TakeSelectedSample();
     FillReadOuts();
 }
 
 void LeavePictures() {
     EndDrag();
-    if (frmDiagram.Check1.Value() != 0) PlaceSampleSelector();
+    if (frmDiagram.SampleLine.Value() != 0) PlaceSampleSelector();
 }
 
 void ShowMoveReadOuts() {
-    frmDiagram.Text1.SetVisible(true);
-    frmDiagram.Text2.SetVisible(true);
+    frmDiagram.MovedFrom.SetVisible(true);
+    frmDiagram.MovedTo.SetVisible(true);
     FillReadOuts();
 }

@@ -45,7 +45,7 @@ void FollowSamples() {
 }
 
 void RefillSampleList() {
-    ComboBox& list = frmMain.Combo2;
+    ComboBox& list = frmMain.SampleList;
     const std::string shown = CurrentSample == MoveTo ? SampleTable[2][MoveTo].Text() : list.Text();
     list.Clear();
     for (int sample = 1; sample <= SampleCount; ++sample) list.AddItem(SampleTable[2][sample].Text());

@@ -21,9 +21,9 @@ void KeepSize() {
 }
 
 void NameBasisItems() {
-    frmDiagram.mnuAll.SetCaption(WithoutTrailingColon(frmMain.Label2[0].Caption()));
-    frmDiagram.mnuSub1.SetCaption(WithoutTrailingColon(frmMain.Label2[1].Caption()));
-    frmDiagram.mnuSub2.SetCaption(WithoutTrailingColon(frmMain.Label2[2].Caption()));
+    frmDiagram.mnuAll.SetCaption(WithoutTrailingColon(frmMain.AllTotalCaption.Caption()));
+    frmDiagram.mnuSub1.SetCaption(WithoutTrailingColon(frmMain.Subtotal1Caption.Caption()));
+    frmDiagram.mnuSub2.SetCaption(WithoutTrailingColon(frmMain.Subtotal2Caption.Caption()));
     ShowBasisInMenu();
 }
 
@@ -36,8 +36,8 @@ void TakeUpSamples() {
     SetDiagramScale();
     TakeUpNames();
     frmDiagram.SelectedSample = CurrentSample;
-    frmDiagram.Slider1.SetRange(1, SampleCount == 1 ? 2 : SampleCount);
-    frmDiagram.Slider1.SetValue(CurrentSample);
+    frmDiagram.SampleSlider.SetRange(1, SampleCount == 1 ? 2 : SampleCount);
+    frmDiagram.SampleSlider.SetValue(CurrentSample);
     FillSampleList();
 }
 }  // namespace
@@ -46,7 +46,7 @@ void LaunchDiagram() {
     if (SampleCount < 2) return;
     if (frmDiagram.IsLoaded() || frmDiagram.DiagramFormHeight == 0) KeepSize();
     frmDiagram.Load();
-    frmDiagram.HScroll1.SetRange(0, 0);  // back to the first column, without an event that would draw
+    frmDiagram.ColumnScroll.SetRange(0, 0);  // back to the first column, without an event that would draw
     ComputeDiagramData();
     frmDiagram.TakeSize(frmDiagram.DiagramFormWidth, frmDiagram.DiagramFormHeight);  // lays out and draws, whatever the size was
     frmDiagram.Show();

@@ -13,47 +13,47 @@ namespace {
 // In twips from the top of the diagram. A sample far off the scale takes the group out of sight, and no farther.
 int SelectorHeight(int sample) {
     constexpr double kFarOff = 1'000'000;
-    const PictureBox& picture = frmDiagram.Picture1;
+    const PictureBox& picture = frmDiagram.Diagram;
     const double down = (SamplePositions().Y(sample) - picture.ScaleTop()) * (picture.Height() - 60) / picture.ScaleHeight() - 90;
     return static_cast<int>(std::lround(std::clamp(down, -kFarOff, kFarOff)));
 }
 }  // namespace
 
 void PlaceSampleSelector() {
-    const int sample = frmDiagram.Slider1.Value();
+    const int sample = frmDiagram.SampleSlider.Value();
     const std::string name = SampleTable[2][sample].Text();
-    frmDiagram.Check1.SetCaption(name);
-    frmDiagram.Combo2.SetText(name);
-    frmDiagram.Frame3.SetTop(frmDiagram.Picture1.Top() + SelectorHeight(sample) - 300);
-    frmDiagram.UpDown1.SetTop(frmDiagram.Frame3.Top() + 240);
+    frmDiagram.SampleLine.SetCaption(name);
+    frmDiagram.SampleList.SetText(name);
+    frmDiagram.Selector.SetTop(frmDiagram.Diagram.Top() + SelectorHeight(sample) - 300);
+    frmDiagram.SampleArrows.SetTop(frmDiagram.Selector.Top() + 240);
 }
 
 void TakeSelectedSample() {
-    frmDiagram.SelectedSample = static_cast<std::int16_t>(frmDiagram.Slider1.Value());
+    frmDiagram.SelectedSample = static_cast<std::int16_t>(frmDiagram.SampleSlider.Value());
     DrawSampleMarker();
     PlaceSampleSelector();
 }
 
 void SelectNextSample() {
-    frmDiagram.Slider1.SetValue(frmDiagram.SelectedSample < SampleCount ? frmDiagram.SelectedSample + 1 : 1);
+    frmDiagram.SampleSlider.SetValue(frmDiagram.SelectedSample < SampleCount ? frmDiagram.SelectedSample + 1 : 1);
 }
 
 void SelectPreviousSample() {
-    frmDiagram.Slider1.SetValue(frmDiagram.SelectedSample > 1 ? frmDiagram.SelectedSample - 1 : SampleCount);
+    frmDiagram.SampleSlider.SetValue(frmDiagram.SelectedSample > 1 ? frmDiagram.SelectedSample - 1 : SampleCount);
 }
 
 void SelectChosenSample() {
-    const std::string chosen = frmDiagram.Combo2.Text();
+    const std::string chosen = frmDiagram.SampleList.Text();
     int sample = frmDiagram.SelectedSample;
     for (int each = 1; each <= SampleCount; ++each)
         if (SampleTable[2][each] == std::string_view(chosen)) sample = each;
-    frmDiagram.Slider1.SetValue(sample);
-    frmDiagram.UpDown1.SetFocus();
+    frmDiagram.SampleSlider.SetValue(sample);
+    frmDiagram.SampleArrows.SetFocus();
 }
 
 void FillSampleList() {
-    ComboBox& list = frmDiagram.Combo2;
+    ComboBox& list = frmDiagram.SampleList;
     list.Clear();
     for (int sample = 1; sample <= SampleCount; ++sample) list.AddItem(SampleTable[2][sample].Text());
-    list.SetText(SampleTable[2][frmDiagram.Slider1.Value()].Text());
+    list.SetText(SampleTable[2][frmDiagram.SampleSlider.Value()].Text());
 }

@@ -1,4 +1,4 @@
-// The selected sample: frmDiagram.Slider1 holds it, the group of Frame3 names it and stands beside its line.
+// The selected sample: frmDiagram.SampleSlider holds it, the group of Frame3 names it and stands beside its line.
 #pragma once
 
 void PlaceSampleSelector();  // Frame3 and UpDown1 go to the height of the sample, Check1 and Combo2 take its name

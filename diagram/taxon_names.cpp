@@ -31,7 +31,7 @@ Italics ItalicRows() {
 
 std::int32_t BaseLine() {
     constexpr double kPixelsPerTwip = 0.0667;
-    return ToLong(frmDiagram.Picture4.Height() * kPixelsPerTwip - 8);
+    return ToLong(frmDiagram.NameStrip.Height() * kPixelsPerTwip - 8);
 }
 }  // namespace
 
@@ -39,20 +39,20 @@ void DrawTaxonNames() {
     const double scale = HorizontalScale();
     const std::int32_t y = BaseLine();
     const Italics italic = ItalicRows();
-    frmDiagram.Picture4.Clear();
+    frmDiagram.NameStrip.Clear();
     for (int row = 1; row <= kSlots; ++row) {
-        const double left = static_cast<double>(ColumnOffset[row]) - frmDiagram.HScroll1.Value();
+        const double left = static_cast<double>(ColumnOffset[row]) - frmDiagram.ColumnScroll.Value();
         const auto x = static_cast<float>(left * scale);
-        if (x < 0 || x >= frmDiagram.Picture1.ScaleWidth()) continue;
+        if (x < 0 || x >= frmDiagram.Diagram.ScaleWidth()) continue;
         const bool has_name = HasName(row);
-        frmDiagram.Picture4.Name(ToLong(left * 0.99 * scale), y, has_name && italic[row], has_name ? DiagramNames[row] : kEmpty);
+        frmDiagram.NameStrip.Name(ToLong(left * 0.99 * scale), y, has_name && italic[row], has_name ? DiagramNames[row] : kEmpty);
     }
 }
 
 void CopyTaxonNames() {
-    frmDiagram.Picture4.SetBackColor(kWhite);
+    frmDiagram.NameStrip.SetBackColor(kWhite);
     DrawTaxonNames();
-    services.clipboard->PutImage(frmDiagram.Picture4);
-    frmDiagram.Picture4.SetBackColor(kFormColour);
+    services.clipboard->PutImage(frmDiagram.NameStrip);
+    frmDiagram.NameStrip.SetBackColor(kFormColour);
     DrawTaxonNames();
 }

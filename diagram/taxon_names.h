@@ -1,4 +1,4 @@
-// The names of the taxa, reading upward in frmDiagram.Picture4, each over the left edge of its column.
+// The names of the taxa, reading upward in frmDiagram.NameStrip, each over the left edge of its column.
 #pragma once
 
 // Families, which end in "ae" or "AE", stand upright, all else in italics; a list without any family is upright. Only names whose

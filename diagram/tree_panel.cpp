@@ -9,7 +9,7 @@
 void ToggleTree() {
     const bool open = !frmDiagram.nmuConiss.Checked();
     frmDiagram.nmuConiss.SetChecked(open);
-    frmDiagram.Picture2.SetVisible(open);
+    frmDiagram.ClusterTree.SetVisible(open);
     LayOutDiagram();
     ClusterAgain();
     frmDiagram.ConissDrawn = open;
@@ -17,7 +17,7 @@ void ToggleTree() {
 }
 
 void ClusterAgain() {
-    if (!frmDiagram.Picture2.Visible()) return;
+    if (!frmDiagram.ClusterTree.Visible()) return;
     ComputeConiss();
     DrawClusterTree();
 }

@@ -11,10 +11,10 @@ constexpr int kEscape = 27;
 
 void JoinAccessoryEvents() {
     frmAboutMB1.FrameClosed.Calls([] { CloseDialog(frmAboutMB1); });
-    frmAboutMB1.Command1.Click.Calls([] { CloseDialog(frmAboutMB1); });
+    frmAboutMB1.OkButton.Click.Calls([] { CloseDialog(frmAboutMB1); });
     frmAboutDX1.FrameClosed.Calls([] { CloseDialog(frmAboutDX1); });
-    frmAboutDX1.Command1.Click.Calls([] { CloseDialog(frmAboutDX1); });
-    frmNote.Command1.Click.Calls([] { frmNote.Unload(); });
+    frmAboutDX1.OkButton.Click.Calls([] { CloseDialog(frmAboutDX1); });
+    frmNote.OkButton.Click.Calls([] { frmNote.Unload(); });
     frmPicture.Loaded.Calls(CoverScreen);
     frmPicture.FrameClosed.Calls([] { frmPicture.Hide(); });
     frmPicture.KeyDown.Calls([](int code) {

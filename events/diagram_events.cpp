@@ -36,8 +36,8 @@ void JoinMenus() {
         item->Click.Calls(ToggleHorizontalLine);
     frmDiagram.mnuTaxaName.Click.Calls([] { frmDiagram.mnuTaxaName.SetChecked(!frmDiagram.mnuTaxaName.Checked()); });
     frmDiagram.nmuConiss.Click.Calls(ToggleTree);
-    frmDiagram.mnuCopyDiagram.Click.Calls([] { services.clipboard->PutImage(frmDiagram.Picture1); });
-    frmDiagram.mnuCopyConiss.Click.Calls([] { services.clipboard->PutImage(frmDiagram.Picture2); });
+    frmDiagram.mnuCopyDiagram.Click.Calls([] { services.clipboard->PutImage(frmDiagram.Diagram); });
+    frmDiagram.mnuCopyConiss.Click.Calls([] { services.clipboard->PutImage(frmDiagram.ClusterTree); });
     frmDiagram.mnuCopyTaxaName.Click.Calls(CopyTaxonNames);
     frmDiagram.mnuSaveConiss.Click.Calls(SaveMergeList);
     frmDiagram.mnuSaveEOF.Click.Calls([] { frmDiagram.SaveEOF(); });
@@ -46,33 +46,33 @@ void JoinMenus() {
 
 // 0 is no scale: the slider goes on to 1, and the change to that draws.
 void TakeHorizontalScale() {
-    if (frmDiagram.Slider2.Value() < 1) {
-        frmDiagram.Slider2.SetValue(1);
+    if (frmDiagram.HorizontalScale.Value() < 1) {
+        frmDiagram.HorizontalScale.SetValue(1);
         return;
     }
     RedrawDiagram();
-    frmDiagram.Slider1.SetFocus();
+    frmDiagram.SampleSlider.SetFocus();
 }
 
 void TakeScroll() {
     DrawTaxonNames();
     DrawDiagram();
-    frmDiagram.Slider1.SetFocus();
+    frmDiagram.SampleSlider.SetFocus();
 }
 
 void JoinSliders() {
-    frmDiagram.Slider2.Change.Calls(TakeHorizontalScale);
-    frmDiagram.HScroll1.Change.Calls(TakeScroll);
-    frmDiagram.Slider1.Change.Calls(TakeSelectedSample);
-    frmDiagram.Slider1.KeyUp.Calls([](int) { TakeSelectedSample(); });
+    frmDiagram.HorizontalScale.Change.Calls(TakeHorizontalScale);
+    frmDiagram.ColumnScroll.Change.Calls(TakeScroll);
+    frmDiagram.SampleSlider.Change.Calls(TakeSelectedSample);
+    frmDiagram.SampleSlider.KeyUp.Calls([](int) { TakeSelectedSample(); });
 }
 
 void JoinSelector() {
-    frmDiagram.Combo2.Click.Calls(SelectChosenSample);
-    frmDiagram.UpDown1.UpClick.Calls(SelectNextSample);
-    frmDiagram.UpDown1.DownClick.Calls(SelectPreviousSample);
-    frmDiagram.Check1.Click.Calls(DrawSampleMarker);
-    frmDiagram.Command1.Click.Calls(ShowMoveReadOuts);
+    frmDiagram.SampleList.Click.Calls(SelectChosenSample);
+    frmDiagram.SampleArrows.UpClick.Calls(SelectNextSample);
+    frmDiagram.SampleArrows.DownClick.Calls(SelectPreviousSample);
+    frmDiagram.SampleLine.Click.Calls(DrawSampleMarker);
+    frmDiagram.LastMoveButton.Click.Calls(ShowMoveReadOuts);
 }
 
 void JoinPicture(PictureBox& picture, int source) {
@@ -87,10 +87,10 @@ void JoinSurroundings() {
         LeavePictures();
     };
     frmDiagram.MouseMove.Calls(leave_and_mark);
-    frmDiagram.Picture4.MouseMove.Calls(leave_and_mark);
-    frmDiagram.Frame3.MouseMove.Calls([](Mouse) { LeavePictures(); });
-    frmDiagram.UpDown1.MouseMove.Calls([](Mouse) { LeavePictures(); });
-    frmDiagram.Picture4.MouseDown.Calls([](Mouse mouse) {
+    frmDiagram.NameStrip.MouseMove.Calls(leave_and_mark);
+    frmDiagram.Selector.MouseMove.Calls([](Mouse) { LeavePictures(); });
+    frmDiagram.SampleArrows.MouseMove.Calls([](Mouse) { LeavePictures(); });
+    frmDiagram.NameStrip.MouseDown.Calls([](Mouse mouse) {
         if (mouse.button == MouseButton::Right) OpenPopup(frmDiagram.RB3);
     });
 }
@@ -101,7 +101,7 @@ void JoinDiagramEvents() {
     JoinMenus();
     JoinSliders();
     JoinSelector();
-    JoinPicture(frmDiagram.Picture1, kOverDiagram);
-    JoinPicture(frmDiagram.Picture2, kOverTree);
+    JoinPicture(frmDiagram.Diagram, kOverDiagram);
+    JoinPicture(frmDiagram.ClusterTree, kOverTree);
     JoinSurroundings();
 }

@@ -5,9 +5,9 @@
 void JoinInitialEvents() {
     frmInitial.Loaded.Calls(LoadInitialWindow);
     frmInitial.FrameClosed.Calls(CloseInitialByFrame);
-    frmInitial.Command1.Click.Calls(AcceptNamedKeys);
+    frmInitial.OkButton.Click.Calls(AcceptNamedKeys);
     for (int key = 0; key < kNamedKeys; ++key) {
-        frmInitial.Text1[key].GotFocus.Calls([key] { EmptyNamedKey(key); });
-        frmInitial.Text1[key].KeyDown.Calls([key](int code) { TakeNamedKey(key, code); });
+        frmInitial.KeyCodes[key].GotFocus.Calls([key] { EmptyNamedKey(key); });
+        frmInitial.KeyCodes[key].KeyDown.Calls([key](int code) { TakeNamedKey(key, code); });
     }
 }

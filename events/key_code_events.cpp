@@ -8,7 +8,7 @@
 
 namespace {
 void JoinDefinition(int key) {
-    TextBox& box = frmKeyCode.Text1[key];
+    TextBox& box = frmKeyCode.Definitions[key];
     box.GotFocus.Calls([key] { EnterDefinition(key); });
     box.KeyDown.Calls([key](int code) { TakeDefinitionKey(key, code); });
     box.Change.Calls([key] { TakeDefinition(key); });
@@ -17,7 +17,7 @@ void JoinDefinition(int key) {
 }
 
 void JoinFunctional(int key) {
-    TextBox& box = frmKeyCode.Text4[key];
+    TextBox& box = frmKeyCode.FunctionalBoxes[key];
     box.GotFocus.Calls([key] { EnterFunctional(key); });
     box.KeyDown.Calls([key](int code) { TakeFunctionalKey(key, code); });
     box.KeyUp.Calls([key](int code) { NameFunctional(key, code); });
@@ -25,12 +25,12 @@ void JoinFunctional(int key) {
 }
 
 void JoinKeyNumber(int place) {
-    frmKeyCode.Text3[place].GotFocus.Calls([place] { EnterKeyNumber(place); });
-    frmKeyCode.Text3[place].LostFocus.Calls([place] { LeaveKeyNumber(place); });
+    frmKeyCode.KeyNumbers[place].GotFocus.Calls([place] { EnterKeyNumber(place); });
+    frmKeyCode.KeyNumbers[place].LostFocus.Calls([place] { LeaveKeyNumber(place); });
 }
 
 void LeaveBoxInHand(Mouse) {
-    frmKeyCode.Command4.SetFocus();
+    frmKeyCode.OkButton.SetFocus();
 }
 }  // namespace
 
@@ -38,19 +38,19 @@ void JoinKeyCodeEvents() {
     frmKeyCode.Loaded.Calls(FillKeyDialog);
     frmKeyCode.FrameClosed.Calls(CancelKeySettings);
     frmKeyCode.MouseDown.Calls(LeaveBoxInHand);
-    frmKeyCode.Frame3.MouseDown.Calls(LeaveBoxInHand);
+    frmKeyCode.NumberMap.MouseDown.Calls(LeaveBoxInHand);
     for (int key = 1; key <= kKeys; ++key) {
         JoinDefinition(key);
         JoinKeyNumber(key);
     }
     for (int key = 0; key <= kF1Box; ++key) JoinFunctional(key);
-    for (int row = 1; row <= kMapRows; ++row) frmKeyCode.Text2[row].Change.Calls([row] { ShowCharacter(row); });
-    frmKeyCode.SSTab1.Change.Calls(OfferDefault);
-    frmKeyCode.Option1[0].Click.Calls([] { MirrorMaps(1); });
-    frmKeyCode.Option1[1].Click.Calls([] { MirrorMaps(-1); });
-    frmKeyCode.Command1.Click.Calls(CancelKeySettings);
-    frmKeyCode.Command2.Click.Calls(ClearOpenMap);
-    frmKeyCode.Command3.Click.Calls([] { frmNote.Show(); });
-    frmKeyCode.Command4.Click.Calls(AcceptKeySettings);
-    frmKeyCode.Command5.Click.Calls(NumberPlacesInOrder);
+    for (int row = 1; row <= kMapRows; ++row) frmKeyCode.Codes[row].Change.Calls([row] { ShowCharacter(row); });
+    frmKeyCode.MapTabs.Change.Calls(OfferDefault);
+    frmKeyCode.LeftHanded.Click.Calls([] { MirrorMaps(1); });
+    frmKeyCode.RightHanded.Click.Calls([] { MirrorMaps(-1); });
+    frmKeyCode.CancelButton.Click.Calls(CancelKeySettings);
+    frmKeyCode.ClearButton.Click.Calls(ClearOpenMap);
+    frmKeyCode.NoticeButton.Click.Calls([] { frmNote.Show(); });
+    frmKeyCode.OkButton.Click.Calls(AcceptKeySettings);
+    frmKeyCode.DefaultButton.Click.Calls(NumberPlacesInOrder);
 }

@@ -42,20 +42,21 @@ void JoinWindow() {
 }
 
 void JoinGrounds() {
-    for (Control* ground : std::initializer_list<Control*>{&frmMain.Frame1, &frmMain.Frame2, &frmMain.Frame4, &frmMain.Frame5,
-                                                           &frmMain.Picture1, &frmMain.Combo1, &frmMain.Combo2, &frmMain.SSTab1})
+    for (Control* ground :
+         std::initializer_list<Control*>{&frmMain.SampleFrame, &frmMain.TotalsFrame, &frmMain.ParamsFrame, &frmMain.CurveFrame,
+                                         &frmMain.PadGround, &frmMain.History, &frmMain.SampleList, &frmMain.BankTabs})
         ground->MouseMove.Calls([ground](Mouse) {
-            if (ground == &frmMain.Frame1 || ground == &frmMain.SSTab1) MousePointer = kPointerArrow;
+            if (ground == &frmMain.SampleFrame || ground == &frmMain.BankTabs) MousePointer = kPointerArrow;
             ReturnFocusOnMove();
         });
-    for (ComboBox* list : {&frmMain.Combo1, &frmMain.Combo2}) {
+    for (ComboBox* list : {&frmMain.History, &frmMain.SampleList}) {
         list->MouseUp.Calls([](Mouse) { ReturnFocus(); });
         list->KeyDown.Calls([](int) { ReturnFocus(); });  // before the character: a counted key is no name
         list->KeyUp.Calls([](int) { ReturnFocus(); });
     }
-    frmMain.SSTab1.MouseDown.Calls([](Mouse) { HoldTab(); });
-    frmMain.SSTab1.MouseUp.Calls([](Mouse) { ReturnTab(); });
-    frmMain.Command1.Click.Calls([] { frmMain.Picture1.Clear(); });
+    frmMain.BankTabs.MouseDown.Calls([](Mouse) { HoldTab(); });
+    frmMain.BankTabs.MouseUp.Calls([](Mouse) { ReturnTab(); });
+    frmMain.ClearGroundButton.Click.Calls([] { frmMain.PadGround.Clear(); });
 }
 
 // A press of the right button in Modify mode offers the move; otherwise the keyboard stays with the counter. The name of the sample is
@@ -73,7 +74,7 @@ void JoinBox(TextBox& box) {
 }
 
 void JoinNameBox(int slot) {
-    TextBox& box = frmMain.Text1[slot];
+    TextBox& box = frmMain.TaxonNames[slot];
     JoinBox(box);
     box.GotFocus.Calls([slot] { EnterNameBox(slot); });
     box.LostFocus.Calls([slot] { LeaveNameBox(slot); });
@@ -84,7 +85,7 @@ void JoinNameBox(int slot) {
 }
 
 void JoinCountBox(int slot) {
-    TextBox& box = frmMain.Text2[slot];
+    TextBox& box = frmMain.TaxonCounts[slot];
     JoinBox(box);
     box.MouseMove.Calls(EnterCountCell);
     box.GotFocus.Calls([slot] { EnterCountBox(slot); });
@@ -99,11 +100,11 @@ void JoinCountBox(int slot) {
 }
 
 void JoinCells() {
-    frmMain.Text0.Change.Calls(CountSlotInChannel);
+    frmMain.CountChannel.Change.Calls(CountSlotInChannel);
     for (int slot = 0; slot <= kSlots; ++slot) {
         JoinNameBox(slot);
-        frmMain.Label1[slot].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
-        frmMain.Label1[slot].Click.Calls([slot] { SelectSlot(slot); });
+        frmMain.SlotNumbers[slot].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
+        frmMain.SlotNumbers[slot].Click.Calls([slot] { SelectSlot(slot); });
     }
     for (int slot = 1; slot <= kSlots; ++slot) JoinCountBox(slot);
 }
@@ -121,58 +122,58 @@ void JoinMoves() {
 }
 
 void JoinParam(int p) {
-    TextBox& box = frmMain.Text5[p];
+    TextBox& box = frmMain.ParamBoxes[p];
     JoinBox(box);
     box.GotFocus.Calls([p] { EnterParam(p); });
     box.LostFocus.Calls([&box] { RestoreDashes(box); });
     JoinGuardedKeys(box);
     box.Change.Calls([p] { TakeParam(p); });
-    frmMain.Label10[p].Change.Calls([p] {
+    frmMain.ParamNames[p].Change.Calls([p] {
         EndWithColon(p);
         NameParamBox(p);
     });
-    frmMain.Command7[p].Click.Calls([p] { RenameParamOfSheet(p); });
-    frmMain.Command7[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
+    frmMain.RenameButtons[p].Click.Calls([p] { RenameParamOfSheet(p); });
+    frmMain.RenameButtons[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
 }
 
 void JoinSample() {
-    JoinBox(frmMain.Text4);
-    frmMain.Text4.GotFocus.Calls(EnterNote);
-    JoinGuardedKeys(frmMain.Text4);
-    frmMain.Text4.DoubleClick.Calls(DoubleClickNote);
-    frmMain.Text4.Change.Calls(TakeNote);
+    JoinBox(frmMain.SampleNote);
+    frmMain.SampleNote.GotFocus.Calls(EnterNote);
+    JoinGuardedKeys(frmMain.SampleNote);
+    frmMain.SampleNote.DoubleClick.Calls(DoubleClickNote);
+    frmMain.SampleNote.Change.Calls(TakeNote);
     for (int p = 1; p <= kParams; ++p) JoinParam(p);
-    frmMain.Combo1.Change.Calls([] { frmMain.mnuSaveHistory.SetEnabled(true); });
-    frmMain.Combo2.Click.Calls(BringUpChosenSample);
-    frmMain.Combo2.Edited.Calls(RenameSampleOnShow);
-    frmMain.Label4.Change.Calls(OfferDiagram);
+    frmMain.History.Change.Calls([] { frmMain.mnuSaveHistory.SetEnabled(true); });
+    frmMain.SampleList.Click.Calls(BringUpChosenSample);
+    frmMain.SampleList.Edited.Calls(RenameSampleOnShow);
+    frmMain.SerialNumber.Change.Calls(OfferDiagram);
 }
 
 void JoinTotals() {
-    frmMain.Text3[0].Change.Calls(TakeChangedTotal);
-    for (int i = 0; i < 3; ++i) frmMain.Option1[i].Click.Calls([i] { ChooseBasis(i); });
-    frmMain.Command6.MouseDown.Calls([](Mouse) { ShowPercentages(); });
-    frmMain.Command6.MouseUp.Calls([](Mouse) { HidePercentages(); });
-    frmMain.Picture2.MouseMove.Calls([](Mouse) { frmMain.Picture2.SetToolTip("Taxa diversity vs. total count"); });
-    frmMain.Picture2.MouseDown.Calls([](Mouse mouse) {
+    frmMain.AllTotal.Change.Calls(TakeChangedTotal);
+    for (int i = 0; i < 3; ++i) frmMain.BasisOptions[i].Click.Calls([i] { ChooseBasis(i); });
+    frmMain.PercentButton.MouseDown.Calls([](Mouse) { ShowPercentages(); });
+    frmMain.PercentButton.MouseUp.Calls([](Mouse) { HidePercentages(); });
+    frmMain.DiversityPicture.MouseMove.Calls([](Mouse) { frmMain.DiversityPicture.SetToolTip("Taxa diversity vs. total count"); });
+    frmMain.DiversityPicture.MouseDown.Calls([](Mouse mouse) {
         if (mouse.button == MouseButton::Right) OpenPopup(frmMain.mnuDiversityRB);
     });
-    frmMain.mnuCopyDiversity.Click.Calls([] { services.clipboard->PutImage(frmMain.Picture2); });
+    frmMain.mnuCopyDiversity.Click.Calls([] { services.clipboard->PutImage(frmMain.DiversityPicture); });
 }
 
 void JoinCommands() {
-    frmMain.Command5[0].Click.Calls(SaveFromButton);
-    frmMain.Command5[1].Click.Calls(NextFromButton);
-    frmMain.Command4[0].Click.Calls(OpenSheetFromButton);
-    frmMain.Command3[0].Click.Calls(EnterModifyMode);
-    frmMain.Command3[1].Click.Calls(LeaveModifyMode);
+    frmMain.SaveButton.Click.Calls(SaveFromButton);
+    frmMain.NextSampleButton.Click.Calls(NextFromButton);
+    frmMain.OpenButton.Click.Calls(OpenSheetFromButton);
+    frmMain.ModifyButton.Click.Calls(EnterModifyMode);
+    frmMain.ResumeButton.Click.Calls(LeaveModifyMode);
     frmMain.mnuStartAmend.Click.Calls(EnterModifyMode);
     frmMain.mnuFinishAmend.Click.Calls(LeaveModifyMode);
     frmMain.mnuNew.Click.Calls(NewSheet);
     frmMain.mnuOpen.Click.Calls(OpenSheet);
     frmMain.mnuTemplate.Click.Calls(CreateTemplate);
     frmMain.mnuSaveHistory.Click.Calls(SaveHistory);
-    frmMain.Command2[0].Click.Calls(AbortCount);
+    frmMain.ResetButton.Click.Calls(AbortCount);
     frmMain.mnuNext.Click.Calls(NextFromMenu);
     frmMain.mnuSave.Click.Calls(SaveFromMenu);
     frmMain.mnuSaveAs.Click.Calls([] { SaveSheet(kSaveAs); });

@@ -11,13 +11,13 @@
 
 namespace {
 void JoinNote() {
-    TextBox& note = frmNext.Text2;
+    TextBox& note = frmNext.SampleNote;
     note.GotFocus.Calls([] {
-        PutCaretBehind(frmNext.Text2);
+        PutCaretBehind(frmNext.SampleNote);
         EnterGuardedBox();
     });
     JoinGuardedKeys(note);
-    note.Change.Calls([] { RefuseQuotationMark(frmNext.Text2); });
+    note.Change.Calls([] { RefuseQuotationMark(frmNext.SampleNote); });
     note.DoubleClick.Calls(AddSample);  // a short cut for OK
 }
 
@@ -39,13 +39,13 @@ void JoinNextEvents() {
     });
     frmNext.Activated.Calls(BringNextToFront);
     frmNext.FrameClosed.Calls(CloseNextByFrame);
-    frmNext.Command4.Click.Calls(ShowSampleFields);
-    frmNext.Command2.Click.Calls(OpenSheet);
-    frmNext.Command1.Click.Calls(AcceptSample);
-    frmNext.Command3.Click.Calls(CancelSample);
+    frmNext.CreateButton.Click.Calls(ShowSampleFields);
+    frmNext.OpenButton.Click.Calls(OpenSheet);
+    frmNext.OkButton.Click.Calls(AcceptSample);
+    frmNext.CancelButton.Click.Calls(CancelSample);
     JoinNote();
     for (int p = 1; p <= kParams; ++p) {
-        JoinParam(frmNext.Text3[p]);
-        frmNext.Command5[p].Click.Calls([p] { RenameParamOfNextSample(p); });
+        JoinParam(frmNext.ParamBoxes[p]);
+        frmNext.RenameButtons[p].Click.Calls([p] { RenameParamOfNextSample(p); });
     }
 }

@@ -5,11 +5,11 @@
 #include "windows/para_name_window.h"
 
 void JoinParaNameEvents() {
-    TextBox& name = frmParaName.Text1;
+    TextBox& name = frmParaName.NewName;
     name.GotFocus.Calls(EnterGuardedBox);
     JoinGuardedKeys(name);
-    name.Change.Calls([] { RefuseQuotationMark(frmParaName.Text1); });
+    name.Change.Calls([] { RefuseQuotationMark(frmParaName.NewName); });
     frmParaName.FrameClosed.Calls(CancelParamName);
-    frmParaName.Command1.Click.Calls(AcceptParamName);
-    frmParaName.Command2.Click.Calls(CancelParamName);
+    frmParaName.OkButton.Click.Calls(AcceptParamName);
+    frmParaName.CancelButton.Click.Calls(CancelParamName);
 }

@@ -7,12 +7,12 @@
 void JoinSiteNameEvents() {
     frmSiteName.Loaded.Calls(LoadSiteNameWindow);
     frmSiteName.FrameClosed.Calls([] {});  // it is left by OK alone
-    frmSiteName.Text1.Change.Calls(TakeFirstSampleName);
-    frmSiteName.Text2.GotFocus.Calls([] { PutCaretBehind(frmSiteName.Text2); });
+    frmSiteName.SampleName.Change.Calls(TakeFirstSampleName);
+    frmSiteName.SampleNote.GotFocus.Calls([] { PutCaretBehind(frmSiteName.SampleNote); });
     for (int p = 1; p <= kParams; ++p) {
-        TextBox& value = frmSiteName.Text3[p];
+        TextBox& value = frmSiteName.ParamBoxes[p];
         value.GotFocus.Calls([&value] { ClearDashes(value); });
         value.LostFocus.Calls([&value] { RestoreDashes(value); });
     }
-    frmSiteName.Command1.Click.Calls(AcceptFirstSample);
+    frmSiteName.OkButton.Click.Calls(AcceptFirstSample);
 }

@@ -8,14 +8,14 @@ void JoinSubtotalEvents() {
     frmSubtotal.Loaded.Calls(FillSubtotalWindow);
     frmSubtotal.FrameClosed.Calls(CancelSubtotals);
     for (int subtotal = 1; subtotal <= kSubtotals; ++subtotal) {
-        TextBox& name = frmSubtotal.Text1[subtotal];
+        TextBox& name = frmSubtotal.SubtotalNames[subtotal];
         name.GotFocus.Calls(EnterGuardedBox);
         JoinGuardedKeys(name);
         name.Change.Calls([subtotal] { TakeSubtotalName(subtotal); });
-        frmSubtotal.Option1[subtotal].Click.Calls(ShowChosenSubtotal);
+        frmSubtotal.SubtotalOptions[subtotal].Click.Calls(ShowChosenSubtotal);
     }
-    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Check1[slot].Click.Calls([slot] { TakeSubtotalFlag(slot); });
-    for (const int flag : {0, 1}) frmSubtotal.Command2[flag].Click.Calls([flag] { SetAllFlags(flag); });
-    frmSubtotal.Command1.Click.Calls(AcceptSubtotals);
-    frmSubtotal.Command3.Click.Calls(CancelSubtotals);
+    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Members[slot].Click.Calls([slot] { TakeSubtotalFlag(slot); });
+    for (const int flag : {0, 1}) frmSubtotal.FlagButtons[flag].Click.Calls([flag] { SetAllFlags(flag); });
+    frmSubtotal.OkButton.Click.Calls(AcceptSubtotals);
+    frmSubtotal.CancelButton.Click.Calls(CancelSubtotals);
 }

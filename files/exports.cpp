@@ -22,7 +22,7 @@ void WriteTemplate(CellWriter& cells) {
     for (int row = 1; row <= kSlots; ++row) {
         WriteTaxonLabels(cells, row);
         cells.EndRow();
-        frmMain.ProgressBar1.SetValue(row);
+        frmMain.Progress.SetValue(row);
     }
     WriteParamRows(cells, kNoSamples);
     WriteNoteRow(cells, kNoSamples);
@@ -34,7 +34,7 @@ void WriteTemplate(CellWriter& cells) {
 
 void WriteHistory(CellWriter& cells) {
     for (int i = 0; i <= HistoryCount; ++i) {
-        frmMain.ProgressBar1.SetValue(i);
+        frmMain.Progress.SetValue(i);
         cells.Write(HistoryLog[i]);
         cells.EndRow();
     }
@@ -52,6 +52,6 @@ void CreateTemplate() {
 
 void SaveHistory() {
     const Busy busy(HistoryCount);
-    frmMain.CommonDialog1.FileName = ProgramFile("References/History.csv");
+    frmMain.FileDialog.FileName = ProgramFile("References/History.csv");
     if (Export(WriteHistory)) ReturnFocus();
 }

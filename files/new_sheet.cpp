@@ -20,23 +20,23 @@
 namespace {
 // The bar runs once from end to end, so that the user sees that the sheet has gone.
 void ShowEmptying() {
-    frmMain.SSTab1.SetVisible(false);
-    frmMain.ProgressBar1.SetRange(0, 100);
-    frmMain.ProgressBar1.SetVisible(true);
-    for (int percent = 1; percent <= 100; ++percent) frmMain.ProgressBar1.SetValue(percent);
-    frmMain.ProgressBar1.SetValue(0);
-    frmMain.ProgressBar1.SetVisible(false);
+    frmMain.BankTabs.SetVisible(false);
+    frmMain.Progress.SetRange(0, 100);
+    frmMain.Progress.SetVisible(true);
+    for (int percent = 1; percent <= 100; ++percent) frmMain.Progress.SetValue(percent);
+    frmMain.Progress.SetValue(0);
+    frmMain.Progress.SetVisible(false);
 }
 
 void NameFirstSample() {
-    TextBox& box = frmSiteName.Text1;
+    TextBox& box = frmSiteName.SampleName;
     SampleNamesAreText = !IsPlainNumber(box.Text());
     if (box.Text().empty()) box.SetText(std::string("1: ") + kEmpty);
     const std::string name = box.Text();
-    frmMain.Text1[0].SetText(name);
+    frmMain.SampleName.SetText(name);
     AddHistoryLine("(New sample: " + name + ")");
-    frmMain.Combo2.AddItem(name);
-    frmMain.Combo2.SetText(name);
+    frmMain.SampleList.AddItem(name);
+    frmMain.SampleList.SetText(name);
     SampleTable[1][1] = 1;
     SampleTable[2][1] = name;
 }
@@ -44,7 +44,7 @@ void NameFirstSample() {
 void EmptyFirstSample() {
     CountsAtOpen.assign(2, {});
     for (int p = 1; p <= kParams; ++p) {
-        ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
+        ParamValuesAtOpen[p][0] = frmMain.ParamNames[p].Caption();
         ParamValuesAtOpen[p][1] = ParamValues[p][1];
     }
     EmptyCountCells();
@@ -52,41 +52,41 @@ void EmptyFirstSample() {
 
 void ShowFirstSample() {
     CurrentSample = 1;
-    frmMain.Label4.SetCaption(SampleTable[1][1].Text() + "/1");
+    frmMain.SerialNumber.SetCaption(SampleTable[1][1].Text() + "/1");
     ShowZeroTotals();
 }
 }  // namespace
 
 void NewSheet() {
-    if (frmMain.Text3[0].Text() != "0") PlayIfOn(WaveError);
+    if (frmMain.AllTotal.Text() != "0") PlayIfOn(WaveError);
     if (MayAbortData()) {
         if (AmendMode) LeaveModifyMode();
         ShowEmptying();
         InitialiseSheet();
         CloseDiagram();
     }
-    frmMain.SSTab1.SetVisible(true);
+    frmMain.BankTabs.SetVisible(true);
 }
 
 void LoadSiteNameWindow() {
-    frmSiteName.Text2.SetText(FreshNote());
+    frmSiteName.SampleNote.SetText(FreshNote());
 }
 
 void TakeFirstSampleName() {
-    SampleTable[2][CurrentSample] = frmSiteName.Text1.Text();
+    SampleTable[2][CurrentSample] = frmSiteName.SampleName.Text();
 }
 
 void AcceptFirstSample() {
-    SheetHeader[6] = frmSiteName.Text1.Text();
+    SheetHeader[6] = frmSiteName.SampleName.Text();
     frmMain.SetTitle("Marlbrook 2.7 - [" + SheetBaseName(SheetPath) + "]");
     NameFirstSample();
     EmptyFirstSample();
-    TakeSampleFields(1, frmSiteName.Text2, frmSiteName.Label3, frmSiteName.Text3);
+    TakeSampleFields(1, frmSiteName.SampleNote, frmSiteName.ParamNames, frmSiteName.ParamBoxes);
     frmSiteName.Unload();
     frmMain.SetEnabled(true);
     frmMain.Show();
-    frmMain.Text99.SetFocus();
-    frmMain.Text99.SetText("");
+    frmMain.FocusRest.SetFocus();
+    frmMain.FocusRest.SetText("");
     ShowFirstSample();
     LogShownLineAgain();
 }

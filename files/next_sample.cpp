@@ -40,13 +40,13 @@ void MakeColumn() {
 
 // The name as it ends up in the sheet; an empty one becomes "4: ---".
 std::string NameNewSample() {
-    frmMain.Text1[0].SetText("");
-    if (frmNext.Text1.Text().empty()) frmNext.Text1.SetText(std::to_string(SampleCount) + ": " + kEmpty);
-    std::string name = frmNext.Text1.Text();
-    frmMain.Text1[0].SetText(name);
+    frmMain.SampleName.SetText("");
+    if (frmNext.SampleName.Text().empty()) frmNext.SampleName.SetText(std::to_string(SampleCount) + ": " + kEmpty);
+    std::string name = frmNext.SampleName.Text();
+    frmMain.SampleName.SetText(name);
     AddHistoryLine("(New sample: " + name + ")");
-    frmMain.Combo2.AddItem(name);
-    frmMain.Combo2.SetText(name);
+    frmMain.SampleList.AddItem(name);
+    frmMain.SampleList.SetText(name);
     SampleTable[1][SampleCount] = MaxSerial;
     SampleTable[2][SampleCount] = name;
     return name;
@@ -77,51 +77,51 @@ void MoveIntoOrder(const std::string& name) {
 }
 
 void OfferParamNames() {
-    for (int p = 1; p <= kParams; ++p) frmNext.Label3[p].SetCaption(frmMain.Label10[p].Caption());
+    for (int p = 1; p <= kParams; ++p) frmNext.ParamNames[p].SetCaption(frmMain.ParamNames[p].Caption());
 }
 
 void ShowStartFace() {
-    frmNext.Frame1.SetVisible(false);
-    frmNext.Label1.SetCaption("Name of the first sample: ");
-    frmNext.Command2.SetVisible(true);
-    frmNext.Command3.SetVisible(false);
+    frmNext.SampleFace.SetVisible(false);
+    frmNext.SampleNameCaption.SetCaption("Name of the first sample: ");
+    frmNext.OpenButton.SetVisible(true);
+    frmNext.CancelButton.SetVisible(false);
     frmNext.unfolds_to = kBothFacesHeight;
     frmNext.SetSize(kNextWidth, kStartFaceHeight);
 }
 
 void PutOkBelowSampleFace() {
-    frmNext.Command1.SetPlace(kOkLeft, kSampleFaceHeight + 150);
+    frmNext.OkButton.SetPlace(kOkLeft, kSampleFaceHeight + 150);
 }
 
 void ShowSampleFace() {
-    frmNext.Frame1.SetPlace(0, 0);
-    frmNext.Frame1.SetWidth(kNextWidth);
-    frmNext.Frame1.SetBorder(false);
-    frmNext.Frame1.SetVisible(true);
+    frmNext.SampleFace.SetPlace(0, 0);
+    frmNext.SampleFace.SetWidth(kNextWidth);
+    frmNext.SampleFace.SetBorder(false);
+    frmNext.SampleFace.SetVisible(true);
     PutOkBelowSampleFace();
-    frmNext.Command3.SetPlace(kCancelLeft, frmNext.Command1.Top());
+    frmNext.CancelButton.SetPlace(kCancelLeft, frmNext.OkButton.Top());
     frmNext.unfolds_to = 0;
     frmNext.SetSize(kNextWidth, kSampleFaceHeight + kOkRowHeight);
-    frmNext.Label1.SetCaption("Name of the next sample: ");
-    frmNext.Command2.SetVisible(false);
-    frmNext.Command3.SetVisible(true);
-    frmNext.Text1.SetFocus();  // the start face lies below, and no key should reach its button
+    frmNext.SampleNameCaption.SetCaption("Name of the next sample: ");
+    frmNext.OpenButton.SetVisible(false);
+    frmNext.CancelButton.SetVisible(true);
+    frmNext.SampleName.SetFocus();  // the start face lies below, and no key should reach its button
 }
 
 void ShowRenameButtons(bool visible) {
-    for (int p = 1; p <= kParams; ++p) frmNext.Command5[p].SetVisible(visible);
+    for (int p = 1; p <= kParams; ++p) frmNext.RenameButtons[p].SetVisible(visible);
 }
 
 }  // namespace
 
 void LoadNextWindow() {
-    frmNext.Text2.SetText(FreshNote());
+    frmNext.SampleNote.SetText(FreshNote());
     if (SampleCount >= 1)
         ShowSampleFace();
     else
         ShowStartFace();
     frmMain.Load();
-    for (int p = 1; p <= kParams; ++p) frmNext.Text3[p].SetText(kEmpty);
+    for (int p = 1; p <= kParams; ++p) frmNext.ParamBoxes[p].SetText(kEmpty);
     OfferParamNames();
     frmMain.SetEnabled(false);
     if (frmInitial.Visible()) {  // the start has asked for the keyboard: both wait for the answer
@@ -135,14 +135,14 @@ void LoadNextWindow() {
 
 void BringNextToFront() {
     frmMain.SetEnabled(false);
-    if (SampleCount > 1) frmNext.Text1.SetFocus();
+    if (SampleCount > 1) frmNext.SampleName.SetFocus();
 }
 
 void ShowSampleFields() {
     frmNext.SetSize(kNextWidth, kBothFacesHeight);
-    frmNext.Command4.SetVisible(false);
-    frmNext.Frame1.SetVisible(true);
-    frmNext.Text1.SetFocus();
+    frmNext.CreateButton.SetVisible(false);
+    frmNext.SampleFace.SetVisible(true);
+    frmNext.SampleName.SetFocus();
 }
 
 void NextFile() {
@@ -160,9 +160,9 @@ void NextFromButton() {
     if (SampleCount != kSampleLimit) {
         frmNext.Load();
         PutOkBelowSampleFace();
-        frmNext.Command3.SetVisible(true);
-        frmNext.Command4.SetVisible(false);
-        frmNext.Frame2.SetVisible(false);
+        frmNext.CancelButton.SetVisible(true);
+        frmNext.CreateButton.SetVisible(false);
+        frmNext.StartFace.SetVisible(false);
     }
     NextFile();
     if (frmNext.IsLoaded()) ShowRenameButtons(false);
@@ -174,16 +174,16 @@ void NextFromMenu() {
 }
 
 void AddSample() {
-    if (IsNameTaken(frmNext.Text1.Text())) {
+    if (IsNameTaken(frmNext.SampleName.Text())) {
         services.messages->Show({"Error!", "The sample name is already used. Choose another name.", Icon::Exclamation, Buttons::Ok});
         return;
     }
-    if (!IsPlainNumber(frmNext.Text1.Text())) SampleNamesAreText = true;
+    if (!IsPlainNumber(frmNext.SampleName.Text())) SampleNamesAreText = true;
     MakeColumn();
     const std::string name = NameNewSample();
     SnapshotWithNewColumn();
     EmptyCountCells();
-    TakeSampleFields(SampleCount, frmNext.Text2, frmNext.Label3, frmNext.Text3);
+    TakeSampleFields(SampleCount, frmNext.SampleNote, frmNext.ParamNames, frmNext.ParamBoxes);
     SnapshotParamNames();  // the start face may have renamed them
     frmNext.Unload();
     GiveMainWindowBack();
@@ -199,7 +199,7 @@ void AcceptSample() {
     AddSample();
     if (frmNext.IsLoaded()) {  // the name was refused
         ShowRenameButtons(true);
-        frmNext.Frame2.SetVisible(true);
+        frmNext.StartFace.SetVisible(true);
     }
     frmMain.SetEnabled(true);
     if (SampleUntouched) CloseDiagram();
@@ -207,13 +207,13 @@ void AcceptSample() {
 
 void CancelSample() {
     ShowRenameButtons(true);
-    frmNext.Frame2.SetVisible(true);
+    frmNext.StartFace.SetVisible(true);
     frmMain.SetEnabled(true);
     frmNext.Hide();  // what was typed waits for the next opening
 }
 
 void CloseNextByFrame() {
-    if (frmNext.Command3.Visible()) {
+    if (frmNext.CancelButton.Visible()) {
         CancelSample();
         return;
     }

@@ -35,8 +35,8 @@ constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter
 // False: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
 bool MayReplaceSheet() {
     if (SheetClean) return true;
-    if (Val(frmMain.Text3[0].Text()) > 0) PlayIfOn(WaveError);
-    const bool has_sample = frmMain.Label4.Caption() != "1/0";
+    if (Val(frmMain.AllTotal.Text()) > 0) PlayIfOn(WaveError);
+    const bool has_sample = frmMain.SerialNumber.Caption() != "1/0";
     if (has_sample) PlayIfOn(WaveError);
     if (!has_sample && AllTotal == 0) return true;
     if (!MayAbortData()) return false;
@@ -54,17 +54,17 @@ void MakeColumnOfTemplate() {
     TemplateOpened = SampleCount == 0;
     if (!TemplateOpened) return;
     SampleCount = CurrentSample = MaxSerial = 1;
-    frmMain.Label4.SetCaption("1/1");
+    frmMain.SerialNumber.SetCaption("1/1");
     SampleTable[1][1] = 1;
-    SampleTable[2][1] = frmMain.Text1[0].Text();
+    SampleTable[2][1] = frmMain.SampleName.Text();
 }
 
 void CancelOpen() {
     SheetClean = true;
     SampleUntouched = false;
     MakeColumnOfTemplate();
-    frmMain.ProgressBar1.SetValue(0);
-    frmMain.ProgressBar1.SetVisible(false);
+    frmMain.Progress.SetValue(0);
+    frmMain.Progress.SetVisible(false);
 }
 
 // The key index that two rows have in common, the first met going down.
@@ -85,9 +85,9 @@ void StartAfresh(int key_index) {
 // The curve knows nothing of how the counts of the file were made: it only has room for them.
 void BeginCurve() {
     constexpr double kLongestCurve = 32767;
-    frmMain.Picture2.Clear();
+    frmMain.DiversityPicture.Clear();
     DiversityCurve.clear();
-    const double total = Val(frmMain.Text3[0].Text());
+    const double total = Val(frmMain.AllTotal.Text());
     if (total < 0 || total > kLongestCurve) return;
     DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
     DiversityCurve[0] = ToInteger(total);
@@ -103,22 +103,22 @@ void ForgetUndos() {
 void ShowParams() {
     if (FileVersion != 2) return;
     for (int p = 1; p <= kParams; ++p) {
-        frmMain.Label10[p].SetCaption(ParamHeader[p][4]);  // ends in one colon, the label sees to it
-        frmMain.Text5[p].SetText(ParamValues[p][SampleCount].Text());
+        frmMain.ParamNames[p].SetCaption(ParamHeader[p][4]);  // ends in one colon, the label sees to it
+        frmMain.ParamBoxes[p].SetText(ParamValues[p][SampleCount].Text());
     }
 }
 
 void ShowOpenedSheet() {
     RecountTotals(CurrentSample);
-    frmMain.Text4.SetText(SampleNotes[SampleCount]);
-    frmMain.Command5[1].SetEnabled(true);
+    frmMain.SampleNote.SetText(SampleNotes[SampleCount]);
+    frmMain.NextSampleButton.SetEnabled(true);
     frmMain.mnuNext.SetEnabled(true);
     MarkSheetChanged(false);
     frmMain.mnuSave.SetEnabled(false);
-    frmMain.ProgressBar1.SetValue(0);
-    frmMain.ProgressBar1.SetVisible(false);
-    frmMain.Option1[0].SetValue(true);
-    for (int slot = 1; slot <= kSlots; ++slot) frmMain.Text1[slot].SetUnderline(false);
+    frmMain.Progress.SetValue(0);
+    frmMain.Progress.SetVisible(false);
+    frmMain.AllTotalBasis.SetValue(true);
+    for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetUnderline(false);
 }
 
 void HandOver() {
@@ -138,7 +138,7 @@ void HandOver() {
 void ReadAndShowGrid(CellReader& cells) {
     GridRead read;
     try {
-        ReadGrid(cells, read, [](int row) { frmMain.ProgressBar1.SetValue(row); });
+        ReadGrid(cells, read, [](int row) { frmMain.Progress.SetValue(row); });
     } catch (const Failure&) {
         ShowSheet(read);
         throw;
@@ -151,7 +151,8 @@ void ReadRest(CellReader& cells) {
     if (TemplateOpened) {
         frmSiteName.Load();
         for (int p = 1; p <= kParams; ++p)  // an older file has no names: those on the screen go on
-            frmSiteName.Label3[p].SetCaption(FileVersion > 1 ? ParamHeader[p][4] : WithoutTrailingColon(frmMain.Label10[p].Caption()));
+            frmSiteName.ParamNames[p].SetCaption(FileVersion > 1 ? ParamHeader[p][4]
+                                                                 : WithoutTrailingColon(frmMain.ParamNames[p].Caption()));
     }
     ReadNotes(cells);
 }
@@ -161,7 +162,7 @@ bool ReadFile(const std::string& path) {
     CellReader cells(DecodeFile(services.files->ReadAll(path)));
     CloseDiagram();
     SheetPath = path;
-    frmMain.ProgressBar1.SetVisible(true);
+    frmMain.Progress.SetVisible(true);
     ClearCounts();
     SheetHeader[6] = cells.Next();
     frmMain.SetTitle(Left(frmMain.Title(), kLongTitleLength) + " - [" + SheetBaseName(path) + "]");
@@ -190,7 +191,7 @@ void FinishOpening() {
 // False: cancelled, or the file could not be read to its end.
 bool ReadChosenFile() {
     try {
-        if (!frmMain.CommonDialog1.AskForOpening() || !ReadFile(frmMain.CommonDialog1.FileName)) return false;
+        if (!frmMain.FileDialog.AskForOpening() || !ReadFile(frmMain.FileDialog.FileName)) return false;
         FinishOpening();
         return true;
     } catch (const Failure&) {
@@ -205,7 +206,7 @@ void OpenSheet() {
         return;
     }
     SampleUntouched = true;
-    frmMain.ProgressBar1.SetRange(0, kSlots);
+    frmMain.Progress.SetRange(0, kSlots);
     if (!ReadChosenFile()) CancelOpen();
 }
 

@@ -4,11 +4,11 @@
 
 void TakeSampleFields(std::int16_t sample, const TextBox& note, const Label (&names)[kParams + 1], const TextBox (&values)[kParams + 1]) {
     SampleNotes[sample] = note.Text();
-    frmMain.Text4.SetText(SampleNotes[sample]);
+    frmMain.SampleNote.SetText(SampleNotes[sample]);
     for (int p = 1; p <= kParams; ++p) {
-        frmMain.Label10[p].SetCaption(names[p].Caption());
+        frmMain.ParamNames[p].SetCaption(names[p].Caption());
         const std::string& value = values[p].Text();
-        frmMain.Text5[p].SetText(value.empty() ? kEmpty : value);
-        ParamValues[p][sample] = frmMain.Text5[p].Text();
+        frmMain.ParamBoxes[p].SetText(value.empty() ? kEmpty : value);
+        ParamValues[p][sample] = frmMain.ParamBoxes[p].Text();
     }
 }

@@ -52,7 +52,7 @@ std::string NameOfCopy() {
 
 // The file that the save goes to; empty if the user cancels the dialog.
 std::string ChooseTarget(std::int16_t mode) {
-    CommonDialog& dialog = frmMain.CommonDialog1;
+    CommonDialog& dialog = frmMain.FileDialog;
     if (mode == kSaveCopy) dialog.FileName = NameOfCopy();
     if (mode == kSaveAs || mode == kSaveCopy || IsPercentTable(mode)) return dialog.AskForSaving() ? dialog.FileName : "";
     SnapshotSheet();
@@ -78,19 +78,19 @@ void WritePercentRow(CellWriter& cells, int row) {
 void WriteTaxonRows(CellWriter& cells, std::int16_t mode) {
     for (int row = 1; row <= kSlots; ++row) {
         IsPercentTable(mode) ? WritePercentRow(cells, row) : WriteCountRow(cells, row);
-        frmMain.ProgressBar1.SetValue(row);
+        frmMain.Progress.SetValue(row);
     }
 }
 
 // One line at the end of the note tells the last save: a later one takes its place, unless something was written after it.
 void StampNote() {
     constexpr std::size_t kStampLength = 33;
-    const std::string note = frmMain.Text4.Text();
+    const std::string note = frmMain.SampleNote.Text();
     const std::string stamp = "Last saved: " + NoteStamp();
     if (Length(note) >= kStampLength && Left(Right(note, kStampLength), 10) == "Last saved")
-        frmMain.Text4.SetText(Left(note, Length(note) - kStampLength) + stamp);
+        frmMain.SampleNote.SetText(Left(note, Length(note) - kStampLength) + stamp);
     else
-        frmMain.Text4.SetText(note + "\r\n" + stamp);
+        frmMain.SampleNote.SetText(note + "\r\n" + stamp);
 }
 
 // A sum of a percentage table: the basis itself, or its share of the basis.
@@ -154,7 +154,7 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
 void TellSaved() {
     TemplateOpened = false;
     PlayIfOn(WaveSave);
-    frmMain.Command5[1].SetEnabled(true);
+    frmMain.NextSampleButton.SetEnabled(true);
     frmMain.mnuNext.SetEnabled(true);
     AddHistoryLine("(Save)");
     frmMain.mnuSaveCopy.SetEnabled(true);
@@ -207,7 +207,7 @@ void CheckIfReallyEnd() {
 }
 
 void SavePercentTable(int basis) {
-    frmMain.Option1[basis].SetValue(true);
+    frmMain.BasisOptions[basis].SetValue(true);
     SaveSheet(static_cast<std::int16_t>(kSavePercentAll + basis));
     AlarmArmed = true;
 }

@@ -9,20 +9,20 @@
 
 namespace {
 void ListSampleNames(int samples) {
-    frmMain.Combo2.Clear();
-    for (int sample = 1; sample <= samples; ++sample) frmMain.Combo2.AddItem(SampleNamesRead[sample]);
+    frmMain.SampleList.Clear();
+    for (int sample = 1; sample <= samples; ++sample) frmMain.SampleList.AddItem(SampleNamesRead[sample]);
 }
 
 void ShowLastName() {
     const std::string last = SampleCount > 0 ? SampleNamesRead[SampleCount] : "";
-    frmMain.Combo2.SetText(last);
-    frmMain.Text1[0].SetText(last);
+    frmMain.SampleList.SetText(last);
+    frmMain.SampleName.SetText(last);
 }
 
 void ShowNoCounts(int slot) {
-    frmMain.Text2[slot].SetBold(false);
-    frmMain.Text1[slot].SetBold(false);
-    frmMain.Text2[slot].SetText("0");
+    frmMain.TaxonCounts[slot].SetBold(false);
+    frmMain.TaxonNames[slot].SetBold(false);
+    frmMain.TaxonCounts[slot].SetText("0");
 }
 
 // `counts`: how many of the row were read.
@@ -30,8 +30,8 @@ void ShowCounts(int row, int counts, bool bold) {
     const int slot = KeyIndex[row];
     if (counts > 0) ShowCountOf(slot, Counts[slot][counts]);
     if (!bold) return;
-    frmMain.Text2[row].SetBold(true);
-    frmMain.Text1[row].SetBold(true);
+    frmMain.TaxonCounts[row].SetBold(true);
+    frmMain.TaxonNames[row].SetBold(true);
 }
 
 // A cell that shows what its array holds is no edit, but in Modify mode every change of a cell is one. In a row that breaks off the
@@ -40,7 +40,7 @@ void ShowRow(int row, const GridRead& read) {
     const int slot = KeyIndex[row];
     const int counts = row < read.rows ? SampleCount : read.counts;
     frmMain.ChangingSample = counts == SampleCount && !AmendMode;
-    frmMain.Text1[slot].SetText(RowNames[row]);
+    frmMain.TaxonNames[slot].SetText(RowNames[row]);
     if (SampleCount > 0)
         ShowCounts(row, counts, read.has_count[row]);
     else
@@ -51,7 +51,7 @@ void ShowRow(int row, const GridRead& read) {
 
 void ShowSheet(const GridRead& read) {
     if (!read.serials) return;
-    frmMain.Text99.SetText(std::to_string(SampleCount));
+    frmMain.FocusRest.SetText(std::to_string(SampleCount));
     if (!read.largest_serial) return;
     ShowSerial();
     if (!read.subtotal_names) return;
@@ -59,15 +59,15 @@ void ShowSheet(const GridRead& read) {
     ListSampleNames(read.sample_names);
     if (read.sample_names < SampleCount) return;
     ShowLastName();
-    for (TextBox& total : frmMain.Text3) total.SetText("0");
+    for (TextBox& total : frmMain.Totals) total.SetText("0");
     for (int row = 1; row <= read.rows; ++row) ShowRow(row, read);
 }
 
 void TakeShownSample() {
-    SampleTable[2][CurrentSample] = frmMain.Combo2.Text();
+    SampleTable[2][CurrentSample] = frmMain.SampleList.Text();
     if (frmMain.KeysEnabled) CopyCellsToCounts();  // else they show percentages, and no key has counted since they do
 }
 
 void TakeParamNames() {
-    for (int p = 1; p <= kParams; ++p) ParamHeader[p][4] = frmMain.Label10[p].Caption();
+    for (int p = 1; p <= kParams; ++p) ParamHeader[p][4] = frmMain.ParamNames[p].Caption();
 }

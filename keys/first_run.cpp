@@ -28,28 +28,28 @@ bool HoldsCode(TextBox& box) {
 
 bool AllBoxesHoldCodes() {
     bool all = true;
-    for (TextBox& box : frmInitial.Text1) all = HoldsCode(box) && all;
+    for (TextBox& box : frmInitial.KeyCodes) all = HoldsCode(box) && all;
     return all;
 }
 
 void FocusOk() {
-    if (frmInitial.Command1.Enabled()) frmInitial.Command1.SetFocus();
+    if (frmInitial.OkButton.Enabled()) frmInitial.OkButton.SetFocus();
 }
 
 void FocusNext(int key) {
-    TextBox& next = frmInitial.Text1[key + 1];
+    TextBox& next = frmInitial.KeyCodes[key + 1];
     if (!next.Text().empty()) {
         FocusOk();
         return;
     }
     next.SetEnabled(true);
-    frmInitial.Label4[key + 1].SetEnabled(true);
+    frmInitial.KeyNames[key + 1].SetEnabled(true);
     next.SetFocus();
 }
 
 // The start face of frmNext may still wait, unseen.
 void LeaveForCounting() {
-    if (frmNext.IsLoaded() && frmNext.Command2.Visible()) frmNext.Unload();
+    if (frmNext.IsLoaded() && frmNext.OpenButton.Visible()) frmNext.Unload();
     CloseDialog(frmInitial);
 }
 
@@ -70,27 +70,27 @@ void LoadInitialWindow() {
     const bool known = frmInitial.AllKnown == 1;
     for (int key = 0; key < kNamedKeys; ++key) {
         const bool usable = known || key == 0;  // a first run goes down the boxes one by one
-        frmInitial.Text1[key].SetText(known ? CodeOf(key).Text() : "");
-        frmInitial.Text1[key].SetEnabled(usable);
-        frmInitial.Label4[key].SetEnabled(usable);
+        frmInitial.KeyCodes[key].SetText(known ? CodeOf(key).Text() : "");
+        frmInitial.KeyCodes[key].SetEnabled(usable);
+        frmInitial.KeyNames[key].SetEnabled(usable);
     }
-    frmInitial.Command1.SetEnabled(known);
-    if (known) frmInitial.Command1.SetFocus();  // a box would be emptied by the focus
+    frmInitial.OkButton.SetEnabled(known);
+    if (known) frmInitial.OkButton.SetFocus();  // a box would be emptied by the focus
 }
 
 void EmptyNamedKey(int key) {
-    frmInitial.Text1[key].SetText("");
+    frmInitial.KeyCodes[key].SetText("");
 }
 
 void TakeNamedKey(int key, int code) {
-    TextBox& box = frmInitial.Text1[key];
+    TextBox& box = frmInitial.KeyCodes[key];
     box.SetText(std::to_string(code));
     if (code == kDelete) PutCaretBehind(box);  // it would take the first digit of its own code away
     if (key < kNamedKeys - 1) {
         FocusNext(key);
     } else {
-        frmInitial.Command1.SetEnabled(true);
-        frmInitial.Command1.SetFocus();
+        frmInitial.OkButton.SetEnabled(true);
+        frmInitial.OkButton.SetFocus();
     }
 }
 
@@ -99,7 +99,7 @@ void AcceptNamedKeys() {
         services.messages->Show({"Error", "Please fill all boxes.", Icon::None, Buttons::Ok});
         return;
     }
-    for (int key = 0; key < kNamedKeys; ++key) CodeOf(key) = Val(frmInitial.Text1[key].Text());
+    for (int key = 0; key < kNamedKeys; ++key) CodeOf(key) = Val(frmInitial.KeyCodes[key].Text());
     WriteKeySettings();
     PlayIfOn(WaveSave);
     LeaveToProgram();

@@ -19,11 +19,11 @@ void CopyRows(const Any (*from)[3], Any (*to)[3]) {
 
 void FillBoxes() {
     for (int row = 0; row <= kMapRows; ++row) {
-        if (row <= kKeys) frmKeyCode.Text1[row].SetText(KeySettings[row][0].Text());
-        frmKeyCode.Text2[row].SetText(KeySettings[row][1].Text());
-        frmKeyCode.Text3[row].SetText(KeySettings[row][2].Text());
+        if (row <= kKeys) frmKeyCode.Definitions[row].SetText(KeySettings[row][0].Text());
+        frmKeyCode.Codes[row].SetText(KeySettings[row][1].Text());
+        frmKeyCode.KeyNumbers[row].SetText(KeySettings[row][2].Text());
     }
-    for (int key = 0; key < kFunctionalKeys; ++key) frmKeyCode.Text4[key].SetText(KeySettings[kFunctionalRows[key]][0].Text());
+    for (int key = 0; key < kFunctionalKeys; ++key) frmKeyCode.FunctionalBoxes[key].SetText(KeySettings[kFunctionalRows[key]][0].Text());
 }
 
 void PutAt(TextBox& box, const TextBox& place) {
@@ -51,48 +51,48 @@ void FillKeyDialog() {
 void ShowCharacter(int row) {
     std::string tip;
     for (const auto& [code, character] : frmKeyCode.Characters)
-        if (frmKeyCode.Text2[row].Text() == std::to_string(code)) tip = "on this keyboard: " + character;
-    frmKeyCode.Text1[row].SetToolTip(tip);
-    frmKeyCode.Text2[row].SetToolTip(tip);
+        if (frmKeyCode.Codes[row].Text() == std::to_string(code)) tip = "on this keyboard: " + character;
+    frmKeyCode.Definitions[row].SetToolTip(tip);
+    frmKeyCode.Codes[row].SetToolTip(tip);
     for (int key = 0; key < kFunctionalKeys; ++key)
-        if (kFunctionalRows[key] == row) frmKeyCode.Text4[key].SetToolTip(tip);
+        if (kFunctionalRows[key] == row) frmKeyCode.FunctionalBoxes[key].SetToolTip(tip);
 }
 
 void LayOutMaps() {
     for (int place = 1; place <= kKeys; ++place) {
-        const int key = KeyNumber(frmKeyCode.Text3[place].Text());
+        const int key = KeyNumber(frmKeyCode.KeyNumbers[place].Text());
         if (key == 0) continue;
-        PutAt(frmKeyCode.Text1[key], frmKeyCode.Text3[place]);
-        PutAt(frmKeyCode.Text2[key], frmKeyCode.Text3[place]);
+        PutAt(frmKeyCode.Definitions[key], frmKeyCode.KeyNumbers[place]);
+        PutAt(frmKeyCode.Codes[key], frmKeyCode.KeyNumbers[place]);
     }
 }
 
 void MirrorMaps(int side) {
     for (int row = 1; row <= kMapRows; ++row)
-        for (TextBox* map : {frmKeyCode.Text1, frmKeyCode.Text2, frmKeyCode.Text3})
+        for (TextBox* map : {frmKeyCode.Definitions, frmKeyCode.Codes, frmKeyCode.KeyNumbers})
             map[row].SetLeft(map[row].Left() + side * MirrorStep(row));
 }
 
 void OfferDefault() {
-    frmKeyCode.Command5.SetVisible(frmKeyCode.SSTab1.Tab() == kNumberTab);
+    frmKeyCode.DefaultButton.SetVisible(frmKeyCode.MapTabs.Tab() == kNumberTab);
 }
 
 void NumberPlacesInOrder() {
     for (int place = 1; place <= kKeys; ++place) {
-        frmKeyCode.Text3[place].SetText(std::to_string(place));
+        frmKeyCode.KeyNumbers[place].SetText(std::to_string(place));
         KeySettings[place][2] = place;
     }
     LayOutMaps();
 }
 
 void ClearOpenMap() {
-    if (frmKeyCode.SSTab1.Tab() == kNumberTab) {
-        EmptyBoxes(frmKeyCode.Text3, 1, kKeys);
+    if (frmKeyCode.MapTabs.Tab() == kNumberTab) {
+        EmptyBoxes(frmKeyCode.KeyNumbers, 1, kKeys);
         return;
     }
-    EmptyBoxes(frmKeyCode.Text1, 1, kKeys);
-    EmptyBoxes(frmKeyCode.Text2, 1, kKeys);
-    EmptyBoxes(frmKeyCode.Text4, 0, kFunctionalKeys - 1);
+    EmptyBoxes(frmKeyCode.Definitions, 1, kKeys);
+    EmptyBoxes(frmKeyCode.Codes, 1, kKeys);
+    EmptyBoxes(frmKeyCode.FunctionalBoxes, 0, kFunctionalKeys - 1);
 }
 
 void CancelKeySettings() {

@@ -40,7 +40,7 @@ void Blacken(TextBox (&boxes)[kSize]) {
 // By its number in the encoding of the files; a character outside it has none.
 void ShowCharacterCode(const std::string& character) {
     const std::string bytes = EncodeFile(character);
-    frmKeyCode.Label4.SetCaption(bytes.size() == 1 ? std::to_string(static_cast<unsigned char>(bytes[0])) : "");
+    frmKeyCode.CharacterCode.SetCaption(bytes.size() == 1 ? std::to_string(static_cast<unsigned char>(bytes[0])) : "");
 }
 
 // Keys that type a character which no box takes, under its own number: BkSp, Tab, Enter, Esc.
@@ -49,12 +49,12 @@ bool TypesControlCharacter(int code) {
 }
 
 void RestoreDefinition(int key) {
-    frmKeyCode.Text1[key].SetText(frmKeyCode.OldDefinition);
-    frmKeyCode.Text2[key].SetText(frmKeyCode.OldCode);
+    frmKeyCode.Definitions[key].SetText(frmKeyCode.OldDefinition);
+    frmKeyCode.Codes[key].SetText(frmKeyCode.OldCode);
 }
 
 void GiveCode(int row, int code) {
-    frmKeyCode.Text2[row].SetText(std::to_string(code));
+    frmKeyCode.Codes[row].SetText(std::to_string(code));
 }
 
 void GiveTopRow(int code) {
@@ -64,21 +64,21 @@ void GiveTopRow(int code) {
 
 void EnterDefinition(int key) {
     EnterGuardedBox();
-    frmKeyCode.OldDefinition = frmKeyCode.Text1[key].Text();
-    frmKeyCode.OldCode = frmKeyCode.Text2[key].Text();
-    frmKeyCode.Text1[key].SetText("");
-    Blacken(frmKeyCode.Text1);
+    frmKeyCode.OldDefinition = frmKeyCode.Definitions[key].Text();
+    frmKeyCode.OldCode = frmKeyCode.Codes[key].Text();
+    frmKeyCode.Definitions[key].SetText("");
+    Blacken(frmKeyCode.Definitions);
 }
 
 void TakeDefinitionKey(int key, int code) {
-    frmKeyCode.OldCode = frmKeyCode.Text2[key].Text();
+    frmKeyCode.OldCode = frmKeyCode.Codes[key].Text();
     GiveCode(key, code);
     NoteEditKey(code);
-    if (TypesControlCharacter(code)) frmKeyCode.Label4.SetCaption(std::to_string(code));
+    if (TypesControlCharacter(code)) frmKeyCode.CharacterCode.SetCaption(std::to_string(code));
 }
 
 void TakeDefinition(int key) {
-    const TextBox& box = frmKeyCode.Text1[key];
+    const TextBox& box = frmKeyCode.Definitions[key];
     if (!IsTyped(box) || LastEditKey == kBackspace || LastEditKey == kDelete) return;
     ShowCharacterCode(Mid(box.Text(), static_cast<std::size_t>(box.SelStart()), 1));
     if (LastEditKey != kKeyOfThree || box.Text() == "3") return;
@@ -89,17 +89,17 @@ void TakeDefinition(int key) {
 
 void NameDefinition(int key, int code) {
     ForgetEditKey();
-    ShowName(frmKeyCode.Text1[key], code);
+    ShowName(frmKeyCode.Definitions[key], code);
 }
 
 void LeaveDefinition(int key) {
-    if (frmKeyCode.Text1[key].Text().empty()) RestoreDefinition(key);
+    if (frmKeyCode.Definitions[key].Text().empty()) RestoreDefinition(key);
 }
 
 void EnterFunctional(int box) {
-    frmKeyCode.OldFunctional = frmKeyCode.Text4[box].Text();
-    frmKeyCode.Text4[box].SetText("");
-    Blacken(frmKeyCode.Text4);
+    frmKeyCode.OldFunctional = frmKeyCode.FunctionalBoxes[box].Text();
+    frmKeyCode.FunctionalBoxes[box].SetText("");
+    Blacken(frmKeyCode.FunctionalBoxes);
 }
 
 void TakeFunctionalKey(int box, int code) {
@@ -108,25 +108,25 @@ void TakeFunctionalKey(int box, int code) {
     else
         GiveCode(kFunctionalRows[box], code);
     if (box == 0) GiveCode(kSecondShift1, code);
-    frmKeyCode.Text4[box].SetText("");
+    frmKeyCode.FunctionalBoxes[box].SetText("");
 }
 
 void NameFunctional(int box, int code) {
-    ShowName(frmKeyCode.Text4[box], code);
+    ShowName(frmKeyCode.FunctionalBoxes[box], code);
 }
 
 void LeaveFunctional(int box) {
-    if (frmKeyCode.Text4[box].Text().empty()) frmKeyCode.Text4[box].SetText(frmKeyCode.OldFunctional);
+    if (frmKeyCode.FunctionalBoxes[box].Text().empty()) frmKeyCode.FunctionalBoxes[box].SetText(frmKeyCode.OldFunctional);
 }
 
 void EnterKeyNumber(int place) {
-    frmKeyCode.OldDefinition = frmKeyCode.Text3[place].Text();
-    frmKeyCode.Text3[place].SetText("");
-    Blacken(frmKeyCode.Text3);
+    frmKeyCode.OldDefinition = frmKeyCode.KeyNumbers[place].Text();
+    frmKeyCode.KeyNumbers[place].SetText("");
+    Blacken(frmKeyCode.KeyNumbers);
 }
 
 void LeaveKeyNumber(int place) {
-    TextBox& box = frmKeyCode.Text3[place];
+    TextBox& box = frmKeyCode.KeyNumbers[place];
     if (box.Text().empty()) box.SetText(frmKeyCode.OldDefinition);
     if (const double number = Val(box.Text()); number < 1 || number > kKeys) {
         services.messages->Show({"Error", "Counte key index must be between 1 and 45.", Icon::Exclamation, Buttons::Ok});

@@ -39,8 +39,10 @@ std::optional<Fault> FindDoubleKey() {
 std::optional<Fault> FindDoubleFunctionalKey() {
     for (int i = 0; i < kFunctionalKeys; ++i)
         for (int j = 0; j < i; ++j)
-            if (Agree(frmKeyCode.Text4, i, j))
-                return Fault{"Same functional key is being used for more than one place.", 1, {&frmKeyCode.Text4[i], &frmKeyCode.Text4[j]}};
+            if (Agree(frmKeyCode.FunctionalBoxes, i, j))
+                return Fault{"Same functional key is being used for more than one place.",
+                             1,
+                             {&frmKeyCode.FunctionalBoxes[i], &frmKeyCode.FunctionalBoxes[j]}};
     return std::nullopt;
 }
 
@@ -51,31 +53,31 @@ std::optional<Fault> FindFault() {
 }
 
 void PutProgressAway() {
-    frmKeyCode.ProgressBar1.SetValue(0);
-    frmKeyCode.ProgressBar1.SetVisible(false);
+    frmKeyCode.Progress.SetValue(0);
+    frmKeyCode.Progress.SetVisible(false);
 }
 
 void Report(const Fault& fault) {
     PlayIfOn(WaveError);
     services.messages->Show({"Error", fault.text, Icon::Exclamation, Buttons::Ok});
-    frmKeyCode.SSTab1.SetTab(fault.tab);
+    frmKeyCode.MapTabs.SetTab(fault.tab);
     for (TextBox* box : fault.boxes) box->SetForeColor(kRed);
     PutProgressAway();
 }
 
 std::int16_t CodeInBox(int row) {
-    return ToInteger(Val(frmKeyCode.Text2[row].Text()));
+    return ToInteger(Val(frmKeyCode.Codes[row].Text()));
 }
 
 void StoreRow(int row) {
-    if (row <= kKeys) KeySettings[row][0] = frmKeyCode.Text1[row].Text();
-    KeySettings[row][1] = frmKeyCode.Text2[row].Text();
-    KeySettings[row][2] = frmKeyCode.Text3[row].Text();
+    if (row <= kKeys) KeySettings[row][0] = frmKeyCode.Definitions[row].Text();
+    KeySettings[row][1] = frmKeyCode.Codes[row].Text();
+    KeySettings[row][2] = frmKeyCode.KeyNumbers[row].Text();
 }
 
 void StoreFunctionalKeys() {
-    for (int key = 0; key < kFunctionalKeys; ++key) KeySettings[kFunctionalRows[key]][0] = frmKeyCode.Text4[key].Text();
-    KeySettings[kSecondShift1][0] = frmKeyCode.Text4[0].Text();
+    for (int key = 0; key < kFunctionalKeys; ++key) KeySettings[kFunctionalRows[key]][0] = frmKeyCode.FunctionalBoxes[key].Text();
+    KeySettings[kSecondShift1][0] = frmKeyCode.Shift1Box.Text();
 }
 
 void Store() {
@@ -83,7 +85,7 @@ void Store() {
     Shift2Code = CodeInBox(kFunctionalRows[1]);
     UndoKeyCode = CodeInBox(kFunctionalRows[2]);
     for (int row = 1; row <= kLastRow; ++row) {
-        frmKeyCode.ProgressBar1.SetValue(row);
+        frmKeyCode.Progress.SetValue(row);
         if (row <= kMapRows) StoreRow(row);
     }
     StoreFunctionalKeys();
@@ -93,8 +95,8 @@ void Store() {
 }  // namespace
 
 void AcceptKeySettings() {
-    frmKeyCode.ProgressBar1.SetRange(0, kLastRow);
-    frmKeyCode.ProgressBar1.SetVisible(true);
+    frmKeyCode.Progress.SetRange(0, kLastRow);
+    frmKeyCode.Progress.SetVisible(true);
     if (const auto fault = FindFault()) {
         Report(*fault);
         return;

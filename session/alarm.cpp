@@ -14,8 +14,8 @@ bool IsFullHundred(double total) {
 bool AlarmDueAfterCount() {
     bool due = false;
     for (int i = 0; i < 3; ++i) {
-        const double total = frmMain.Text3[i].Number();
-        if (!frmMain.Option1[i].Value() || total == 0) continue;
+        const double total = frmMain.Totals[i].Number();
+        if (!frmMain.BasisOptions[i].Value() || total == 0) continue;
         if (IsFullHundred(total))
             due = true;
         else if (IsFullHundred(total + 1))
@@ -27,6 +27,6 @@ bool AlarmDueAfterCount() {
 bool AlarmDueAfterUndo() {
     bool due = false;
     for (int i = 0; i < 3; ++i)
-        if (IsFullHundred(frmMain.Text3[i].Number() - 1) && frmMain.Option1[i].Value()) due = true;
+        if (IsFullHundred(frmMain.Totals[i].Number() - 1) && frmMain.BasisOptions[i].Value()) due = true;
     return due;
 }

@@ -4,11 +4,11 @@
 #include "windows/main_window.h"
 
 void MarkSheetChanged(bool changed) {
-    frmMain.Command5[0].SetEnabled(changed);
+    frmMain.SaveButton.SetEnabled(changed);
 }
 
 bool IsSheetChanged() {
-    return frmMain.Command5[0].Enabled();
+    return frmMain.SaveButton.Enabled();
 }
 
 void OfferSaving() {

@@ -5,9 +5,9 @@
 #include "windows/main_window.h"
 
 bool Export(const std::function<void(CellWriter&)>& write) {
-    if (!frmMain.CommonDialog1.AskForSaving()) return false;
+    if (!frmMain.FileDialog.AskForSaving()) return false;
     try {
-        const auto file = services.files->OpenForWriting(frmMain.CommonDialog1.FileName);
+        const auto file = services.files->OpenForWriting(frmMain.FileDialog.FileName);
         CellWriter cells(*file);
         write(cells);
         cells.Close();

@@ -9,7 +9,7 @@ int held_tab = 0;
 }
 
 void ReturnFocus() {
-    if (!AmendMode) frmMain.Text99.SetFocus();
+    if (!AmendMode) frmMain.FocusRest.SetFocus();
 }
 
 void ReturnFocusOnMove() {
@@ -19,7 +19,7 @@ void ReturnFocusOnMove() {
 void EnterBox(Mouse) {
     const bool counting = !AmendMode && !DiagramOpen;
     MousePointer = counting ? kPointerArrow : kPointerIBeam;
-    if (counting) frmMain.Text99.SetFocus();
+    if (counting) frmMain.FocusRest.SetFocus();
 }
 
 void EnterCountCell(Mouse mouse) {
@@ -30,10 +30,10 @@ void EnterCountCell(Mouse mouse) {
 }
 
 void HoldTab() {
-    held_tab = frmMain.SSTab1.Tab();
+    held_tab = frmMain.BankTabs.Tab();
 }
 
 void ReturnTab() {
-    if (!AmendMode) frmMain.SSTab1.SetTab(held_tab);
-    frmMain.Text99.SetFocus();
+    if (!AmendMode) frmMain.BankTabs.SetTab(held_tab);
+    frmMain.FocusRest.SetFocus();
 }

@@ -4,8 +4,8 @@
 #include "windows/main_window.h"
 
 void PaintCell(int slot, Colour colour) {
-    frmMain.Text1[slot].SetBackColor(colour);
-    frmMain.Text2[slot].SetBackColor(colour);
+    frmMain.TaxonNames[slot].SetBackColor(colour);
+    frmMain.TaxonCounts[slot].SetBackColor(colour);
 }
 
 void MoveHighlight(int slot, Colour colour) {

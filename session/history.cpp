@@ -5,16 +5,16 @@
 #include "windows/main_window.h"
 
 void AddHistoryLine(const std::string& line) {
-    frmMain.Combo1.AddItem(line);
-    frmMain.Combo1.SetText(line);
+    frmMain.History.AddItem(line);
+    frmMain.History.SetText(line);
     LogShownLineAgain();
 }
 
 void LogShownLineAgain() {
     HistoryCount = ToInteger(HistoryCount + 1);
-    HistoryLog.push_back(frmMain.Combo1.Text());
+    HistoryLog.push_back(frmMain.History.Text());
 }
 
 std::string SlotAndName(int slot) {
-    return frmMain.Label1[slot].Caption() + ": " + frmMain.Text1[slot].Text();
+    return frmMain.SlotNumbers[slot].Caption() + ": " + frmMain.TaxonNames[slot].Text();
 }

@@ -16,9 +16,9 @@ bool IsGenus(const std::string& name) {
 
 void ApplyItalics() {
     std::array<bool, kSlots + 1> italic{};
-    for (int slot = 1; slot <= kSlots; ++slot) italic[slot] = frmMain.mnuItalic.Checked() && IsGenus(frmMain.Text1[slot].Text());
+    for (int slot = 1; slot <= kSlots; ++slot) italic[slot] = frmMain.mnuItalic.Checked() && IsGenus(frmMain.TaxonNames[slot].Text());
     if (std::count(italic.begin(), italic.end(), true) == kSlots) italic.fill(false);
-    for (int slot = 1; slot <= kSlots; ++slot) frmMain.Text1[slot].SetItalic(italic[slot]);
+    for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetItalic(italic[slot]);
 }
 
 void ToggleItalics() {

@@ -59,7 +59,7 @@ void TrackShiftPress(int code) {
 }
 
 void EnableCommandsOfACount() {
-    frmMain.Command2[0].SetEnabled(true);
+    frmMain.ResetButton.SetEnabled(true);
     frmMain.mnuReset.SetEnabled(true);
     OfferSaving();
     frmMain.mnuSaveHistory.SetEnabled(true);
@@ -103,13 +103,13 @@ void AnswerWithSound() {
 
 // The panels of the pad vanish while the undo key is held: the next counter key will subtract.
 void ShowPadPanels(bool visible) {
-    for (Frame& panel : frmMain.Frame3) panel.SetVisible(visible);
+    for (Frame& panel : frmMain.PadBlocks) panel.SetVisible(visible);
 }
 
 // The question box has eaten the releases of the shift keys.
 void ForgetShifts() {
     ShiftLevel = 0;
-    frmMain.SSTab1.SetTab(0);
+    frmMain.BankTabs.SetTab(0);
     Shift1Down = Shift2Down = false;
 }
 
@@ -163,11 +163,11 @@ void TakeKeyDown(int code) {
     TrackShiftPress(code);
     SampleUntouched = false;
     frmMain.mnuNext.SetEnabled(false);
-    if (!AmendMode && ShiftLevel > 0) frmMain.SSTab1.SetTab(ShiftLevel);
+    if (!AmendMode && ShiftLevel > 0) frmMain.BankTabs.SetTab(ShiftLevel);
     if (!AmendMode && !IsShiftOrUndoKey(code)) EnableCommandsOfACount();
     DetectReverse(code);
     if (code == UndoKeyCode || AmendMode)
-        frmMain.Text99.SetText("");
+        frmMain.FocusRest.SetText("");
     else if (!CountOrAsk(code))
         return;
     if (code == UndoKeyCode && UndoKeyState == 0) {
@@ -179,16 +179,16 @@ void TakeKeyDown(int code) {
 
 void CountKeyPress(int code) {
     const std::string slot_text = SlotText(code);
-    frmMain.Text0.SetText(slot_text);  // its change applies the count
-    frmMain.Text99.SetText("");
+    frmMain.CountChannel.SetText(slot_text);  // its change applies the count
+    frmMain.FocusRest.SetText("");
     const int new_slot = static_cast<int>(Val(slot_text));
     if (UndoList[0][1] != 0) PaintCell(new_slot, kWhite);
     if (!IsShiftKey(code)) PushOnUndoList(new_slot);
     const int slot = std::abs(UndoList[0][1]);
     if (slot == 0 || SampleUntouched || IsShiftOrUndoKey(code)) return;
     AddHistoryLine((ReverseCount ? "(Amend) " : "") + SlotAndName(slot));
-    frmMain.Text2[slot].SetBold(true);
-    frmMain.Text1[slot].SetBold(true);
+    frmMain.TaxonCounts[slot].SetBold(true);
+    frmMain.TaxonNames[slot].SetBold(true);
     MoveHighlight(slot, kCounted);
 }
 
@@ -198,7 +198,7 @@ void TakeKeyUp(int code) {
         if (code == Shift1Code) Shift1Down = false;
         if (code == Shift2Code) Shift2Down = false;
     }
-    if (!AmendMode && ShiftLevel < 2) frmMain.SSTab1.SetTab(ShiftLevel);
+    if (!AmendMode && ShiftLevel < 2) frmMain.BankTabs.SetTab(ShiftLevel);
     if (UndoKeyState == 1 && !AmendMode) Undo();
     if (code == UndoKeyCode) {
         UndoKeyState = 0;

@@ -33,11 +33,11 @@ bool ConfirmLoss(const std::string& text) {
 }
 
 void RestoreSlot(int slot) {
-    frmMain.Text2[slot].SetBold(false);
-    frmMain.Text1[slot].SetBold(false);
+    frmMain.TaxonCounts[slot].SetBold(false);
+    frmMain.TaxonNames[slot].SetBold(false);
     const int samples = std::min<int>(SampleCount, static_cast<int>(CountsAtOpen.size()) - 1);
     if (CurrentSample <= samples) ShowCountOf(slot, CountsAtOpen[CurrentSample][slot]);
-    frmMain.Text1[slot].SetText(TaxonTableAtOpen[slot][4].Text());
+    frmMain.TaxonNames[slot].SetText(TaxonTableAtOpen[slot][4].Text());
     for (int field = 1; field <= 4; ++field) TaxonTable[slot][field] = TaxonTableAtOpen[slot][field];
     for (int sample = 1; sample <= samples; ++sample) Counts[slot][sample] = CountsAtOpen[sample][slot];
 }
@@ -45,8 +45,8 @@ void RestoreSlot(int slot) {
 void RestoreParams() {
     for (int p = 1; p <= kParams; ++p) {
         const std::string value = ParamValuesAtOpen[p][CurrentSample].Text();
-        frmMain.Text5[p].SetText(value.empty() ? kEmpty : value);
-        frmMain.Label10[p].SetCaption(ParamValuesAtOpen[p][0].Text());
+        frmMain.ParamBoxes[p].SetText(value.empty() ? kEmpty : value);
+        frmMain.ParamNames[p].SetCaption(ParamValuesAtOpen[p][0].Text());
     }
 }
 
@@ -89,9 +89,9 @@ void AbortCount() {
             RestoreSheet();
             AddHistoryLine("(Reset)");
             for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][1] = 0;
-            frmMain.Command2[0].SetEnabled(false);
+            frmMain.ResetButton.SetEnabled(false);
         } else {
-            frmMain.Command2[0].SetEnabled(true);
+            frmMain.ResetButton.SetEnabled(true);
         }
     }
     CountsChanged.Raise();

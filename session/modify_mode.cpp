@@ -1,5 +1,7 @@
 #include "session/modify_mode.h"
 
+#include <vector>
+
 #include "session/changed_mark.h"
 #include "session/history.h"
 #include "session/italics.h"
@@ -10,51 +12,53 @@ namespace {
 constexpr Colour kModifying{200, 100, 100};
 
 // What counts, saves or leaves the sheet, and comes back with counting. mnuNext does not: it waits for the next change of the total.
-Control* const kCountingCommands[] = {&frmMain.Command2[0], &frmMain.Command4[0],   &frmMain.mnuSave,    &frmMain.Command5[1],
-                                      &frmMain.Command3[0], &frmMain.mnuStartAmend, &frmMain.Text3[0],   &frmMain.Text3[1],
-                                      &frmMain.Text3[2],    &frmMain.mnuUndo,       &frmMain.mnuReset,   &frmMain.mnuNew,
-                                      &frmMain.mnuOpen,     &frmMain.mnuSaveAs,     &frmMain.mnuPercent, &frmMain.mnuSaveCopy};
+std::vector<Control*> CountingCommands() {
+    return {&frmMain.ResetButton,  &frmMain.OpenButton,    &frmMain.mnuSave,    &frmMain.NextSampleButton,
+            &frmMain.ModifyButton, &frmMain.mnuStartAmend, &frmMain.AllTotal,   &frmMain.Subtotal1,
+            &frmMain.Subtotal2,    &frmMain.mnuUndo,       &frmMain.mnuReset,   &frmMain.mnuNew,
+            &frmMain.mnuOpen,      &frmMain.mnuSaveAs,     &frmMain.mnuPercent, &frmMain.mnuSaveCopy};
+}
 
 void ShowParamNames(bool visible) {
-    for (int p = 1; p <= kParams; ++p) frmMain.Label10[p].SetVisible(visible);
+    for (int p = 1; p <= kParams; ++p) frmMain.ParamNames[p].SetVisible(visible);
 }
 
 void OpenParams(bool open) {
-    for (int p = 1; p <= kParams; ++p) frmMain.Text5[p].SetEnabled(open);
+    for (int p = 1; p <= kParams; ++p) frmMain.ParamBoxes[p].SetEnabled(open);
 }
 
 void EnableParamNames(bool enabled) {
-    for (int p = 1; p <= kParams; ++p) frmMain.Label10[p].SetEnabled(enabled);
+    for (int p = 1; p <= kParams; ++p) frmMain.ParamNames[p].SetEnabled(enabled);
 }
 
 void PaintGround(Colour colour) {
-    frmMain.Picture1.SetBackColor(colour);
-    frmMain.SSTab1.SetBackColor(colour);
+    frmMain.PadGround.SetBackColor(colour);
+    frmMain.BankTabs.SetBackColor(colour);
 }
 
 void ShowSlotNumbers(bool visible) {
     for (int slot = 1; slot <= kSlots; ++slot) {
-        if (!visible) frmMain.Label1[slot].SetBold(false);
-        frmMain.Label1[slot].SetVisible(visible);
+        if (!visible) frmMain.SlotNumbers[slot].SetBold(false);
+        frmMain.SlotNumbers[slot].SetVisible(visible);
     }
-    for (int p = 1; p <= kParams; ++p) frmMain.Command7[p].SetVisible(visible);
+    for (int p = 1; p <= kParams; ++p) frmMain.RenameButtons[p].SetVisible(visible);
 }
 
 // The counting commands and what only counting shows; Modify mode has the opposite of both.
 void SwitchCommands(bool counting) {
-    frmMain.Command3[1].SetEnabled(!counting);
+    frmMain.ResumeButton.SetEnabled(!counting);
     frmMain.mnuFinishAmend.SetEnabled(!counting);
-    for (Control* command : kCountingCommands) command->SetEnabled(counting);
+    for (Control* command : CountingCommands()) command->SetEnabled(counting);
     MarkSheetChanged(counting);
     frmMain.mnuNext.SetEnabled(false);
-    frmMain.Label1[0].SetVisible(counting);
-    for (Label& label : frmMain.Label2) label.SetVisible(counting);
-    for (Frame& panel : frmMain.Frame3) panel.SetVisible(counting);
+    frmMain.SampleNameCaption.SetVisible(counting);
+    for (Label& label : frmMain.TotalCaptions) label.SetVisible(counting);
+    for (Frame& panel : frmMain.PadBlocks) panel.SetVisible(counting);
 }
 
 void StartModifying() {
     PaintGround(kModifying);
-    frmMain.Text4.SetFocus();
+    frmMain.SampleNote.SetFocus();
     AmendMode = true;
     SwitchCommands(false);
     AddHistoryLine("(Modify)");
@@ -65,18 +69,18 @@ void StartCounting() {
     PaintGround(kFormColour);
     AmendMode = false;
     SwitchCommands(true);
-    frmMain.Text1[0].SetEnabled(true);
+    frmMain.SampleName.SetEnabled(true);
     if (SheetClean) {
-        frmMain.Command2[0].SetEnabled(false);
-        frmMain.Command5[1].SetEnabled(false);
+        frmMain.ResetButton.SetEnabled(false);
+        frmMain.NextSampleButton.SetEnabled(false);
     }
-    frmMain.SSTab1.SetTab(0);
-    frmMain.Text99.SetFocus();
+    frmMain.BankTabs.SetTab(0);
+    frmMain.FocusRest.SetFocus();
     AddHistoryLine("(Resume)");
     ShowSlotNumbers(false);
 }
 void CloseBoxes() {
-    frmMain.Text4.SetEnabled(false);
+    frmMain.SampleNote.SetEnabled(false);
     ShowParamNames(false);
     OpenParams(false);
     ApplyItalics();
@@ -92,8 +96,8 @@ void AmendingOnOff(std::int16_t mode) {
 }
 
 void EnterModifyMode() {
-    frmMain.Text4.SetEnabled(true);
-    frmMain.Text4.SetText(SampleNotes[CurrentSample]);
+    frmMain.SampleNote.SetEnabled(true);
+    frmMain.SampleNote.SetText(SampleNotes[CurrentSample]);
     ShowParamNames(true);
     EnableParamNames(true);
     OpenParams(true);
@@ -101,7 +105,7 @@ void EnterModifyMode() {
 }
 
 void LeaveModifyMode() {
-    frmMain.Text99.SetFocus();  // the box in hand is left while its edit still counts as one
+    frmMain.FocusRest.SetFocus();  // the box in hand is left while its edit still counts as one
     CloseBoxes();
 }
 

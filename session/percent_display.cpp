@@ -19,8 +19,8 @@ double ToOneDecimal(float value) {
 }
 
 void ParkCells() {
-    for (int slot = 0; slot <= kSlots; ++slot) frmMain.HeldCounts[slot] = WholeNumber(frmMain.Text2[slot]);
-    for (int i = 0; i < 3; ++i) frmMain.HeldTotals[i] = WholeNumber(frmMain.Text3[i]);
+    for (int slot = 0; slot <= kSlots; ++slot) frmMain.HeldCounts[slot] = WholeNumber(frmMain.TaxonCounts[slot]);
+    for (int i = 0; i < 3; ++i) frmMain.HeldTotals[i] = WholeNumber(frmMain.Totals[i]);
 }
 
 // The totals turn into percentages only where the sum kept for sample 136 is not 0, whatever sample is on show. On smaller sheets
@@ -29,7 +29,7 @@ void ShowTotalsInPercent() {
     constexpr int kTestedSample = kSlots + 1;
     if (Counts[0][kTestedSample] == 0) return;
     if (Counts[0][CurrentSample] == 0) throw Failure(kDivisionByZero);
-    for (TextBox& total : frmMain.Text3) total.SetText(NumberText(RoundHalfEven(total.Number() * 100 / Counts[0][CurrentSample], 1)));
+    for (TextBox& total : frmMain.Totals) total.SetText(NumberText(RoundHalfEven(total.Number() * 100 / Counts[0][CurrentSample], 1)));
 }
 }  // namespace
 
@@ -47,7 +47,7 @@ void ShowPercentages() {
 
 void HidePercentages() {
     for (int slot = 0; slot <= kSlots; ++slot) ShowCountOf(slot, frmMain.HeldCounts[slot]);
-    for (int i = 0; i < 3; ++i) frmMain.Text3[i].SetText(NumberText(frmMain.HeldTotals[i]));
+    for (int i = 0; i < 3; ++i) frmMain.Totals[i].SetText(NumberText(frmMain.HeldTotals[i]));
     frmMain.KeysEnabled = true;
-    frmMain.Text99.SetFocus();
+    frmMain.FocusRest.SetFocus();
 }

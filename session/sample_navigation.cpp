@@ -15,7 +15,7 @@ void ForgetCurve() {
 }
 
 void FindChosenSample() {
-    const std::string chosen = frmMain.Combo2.Text();
+    const std::string chosen = frmMain.SampleList.Text();
     for (std::int16_t sample = 1; sample <= SampleCount; ++sample)
         if (SampleTable[2][sample] == std::string_view(chosen)) CurrentSample = sample;
 }
@@ -30,8 +30,8 @@ void BringUpChosenSample() {
     frmMain.ChangingSample = false;
     ShowSampleName();
     RecountTotals(CurrentSample);
-    AddHistoryLine("(Change sample: " + frmMain.Combo2.Text() + ")");
+    AddHistoryLine("(Change sample: " + frmMain.SampleList.Text() + ")");
     ShowSerial();
     ShowNoteAndParams();
-    (AmendMode ? frmMain.Text4 : frmMain.Text99).SetFocus();
+    (AmendMode ? frmMain.SampleNote : frmMain.FocusRest).SetFocus();
 }

@@ -6,16 +6,16 @@
 #include "windows/main_window.h"
 
 void ShowSerial() {
-    frmMain.Label4.SetCaption(SampleTable[1][CurrentSample].Text() + "/" + std::to_string(MaxSerial));
+    frmMain.SerialNumber.SetCaption(SampleTable[1][CurrentSample].Text() + "/" + std::to_string(MaxSerial));
 }
 
 void ShowSampleName() {
     const std::string name = SampleTable[2][CurrentSample].Text();
-    frmMain.Text1[0].SetText(name);
-    frmMain.Combo2.SetText(name);
+    frmMain.SampleName.SetText(name);
+    frmMain.SampleList.SetText(name);
 }
 
 void ShowNoteAndParams() {
-    frmMain.Text4.SetText(SampleNotes[CurrentSample]);
-    for (int p = 1; p <= kParams; ++p) frmMain.Text5[p].SetText(ParamValues[p][CurrentSample].Text());
+    frmMain.SampleNote.SetText(SampleNotes[CurrentSample]);
+    for (int p = 1; p <= kParams; ++p) frmMain.ParamBoxes[p].SetText(ParamValues[p][CurrentSample].Text());
 }

@@ -20,5 +20,5 @@ void SnapshotParams() {
 }
 
 void SnapshotParamNames() {
-    for (int p = 1; p <= kParams; ++p) ParamValuesAtOpen[p][0] = frmMain.Label10[p].Caption();
+    for (int p = 1; p <= kParams; ++p) ParamValuesAtOpen[p][0] = frmMain.ParamNames[p].Caption();
 }

@@ -8,8 +8,8 @@ constexpr Colour kWarning{176, 48, 32};
 
 void SaySilent() {
     if (!frmNext.IsLoaded()) return;
-    frmNext.Label5[1].SetCaption("No sound device: keys count without a sound");
-    frmNext.Label5[1].SetForeColor(kWarning);
+    frmNext.StartLine.SetCaption("No sound device: keys count without a sound");
+    frmNext.StartLine.SetForeColor(kWarning);
 }
 }  // namespace
 

@@ -25,9 +25,9 @@ void LayOutCells() {
         KeyLeft[place] = static_cast<std::int16_t>(name.left);
         KeyTop[place] = static_cast<std::int16_t>(name.top);
         for (const int slot : {place + kKeys, place + 2 * kKeys}) {
-            frmMain.Text1[slot].SetPlace(name.left, name.top);
-            frmMain.Text2[slot].SetPlace(name.left, name.top + kCountBelowName);
-            frmMain.Label1[slot].SetPlace(name.left, name.top + kNumberBelowName);
+            frmMain.TaxonNames[slot].SetPlace(name.left, name.top);
+            frmMain.TaxonCounts[slot].SetPlace(name.left, name.top + kCountBelowName);
+            frmMain.SlotNumbers[slot].SetPlace(name.left, name.top + kNumberBelowName);
         }
     }
 }
@@ -44,13 +44,13 @@ void ClearSession() {
 
 void EmptyCells() {
     for (int slot = 1; slot <= kSlots; ++slot) {
-        frmMain.Label1[slot].SetVisible(false);
-        frmMain.Text1[slot].SetText(kEmpty);
-        frmMain.Text2[slot].SetText("0");
+        frmMain.SlotNumbers[slot].SetVisible(false);
+        frmMain.TaxonNames[slot].SetText(kEmpty);
+        frmMain.TaxonCounts[slot].SetText("0");
     }
-    frmMain.Text0.SetText("");
-    for (TextBox& total : frmMain.Text3) total.SetText("0");
-    frmMain.Text4.SetEnabled(false);
+    frmMain.CountChannel.SetText("");
+    for (TextBox& total : frmMain.Totals) total.SetText("0");
+    frmMain.SampleNote.SetEnabled(false);
 }
 
 void BeginFirstSample() {
@@ -59,7 +59,7 @@ void BeginFirstSample() {
     SampleCount = 1;
     CurrentSample = 1;
     MaxSerial = 1;
-    frmMain.Label4.SetCaption("1/1");
+    frmMain.SerialNumber.SetCaption("1/1");
     EnableDiagramItems(false);
     frmMain.mnuItalic.SetChecked(true);
 }
@@ -76,9 +76,9 @@ void FreshHeader() {
     SampleTable[1][0] = 0;
     SampleTable[1][1] = 1;
     SampleTable[2][0] = SampleTable[2][1] = kUnnamed;
-    frmMain.Text1[0].SetText(kUnnamed);
-    frmMain.Combo2.Clear();
-    frmMain.Combo2.SetText(kUnnamed);
+    frmMain.SampleName.SetText(kUnnamed);
+    frmMain.SampleList.Clear();
+    frmMain.SampleList.SetText(kUnnamed);
     if (frmMain.FormLoaded) ShowSubtotalNames();  // at the start the menu has words of its own
 }
 
@@ -98,17 +98,17 @@ void FreshNotes() {
     for (int i = 1; i <= 3; ++i) SheetFooter[i] = kEmpty;
     SheetFooter[4] = "Note: ";
     SampleNotes[1] = kEmpty;
-    frmMain.Text4.SetText(kEmpty);
+    frmMain.SampleNote.SetText(kEmpty);
     for (int p = 1; p <= kParams; ++p) {
         ParamValues[p][1] = kEmpty;
-        frmMain.Text5[p].SetText(kEmpty);
+        frmMain.ParamBoxes[p].SetText(kEmpty);
     }
     SheetClean = true;  // emptying the fields of an earlier sheet is no edit of this one
 }
 
 void SwitchOffCommands() {
-    for (Control* command : std::initializer_list<Control*>{&frmMain.Command2[0], &frmMain.Command3[1], &frmMain.mnuFinishAmend,
-                                                            &frmMain.mnuSave, &frmMain.mnuSaveHistory, &frmMain.Command5[1],
+    for (Control* command : std::initializer_list<Control*>{&frmMain.ResetButton, &frmMain.ResumeButton, &frmMain.mnuFinishAmend,
+                                                            &frmMain.mnuSave, &frmMain.mnuSaveHistory, &frmMain.NextSampleButton,
                                                             &frmMain.mnuNext, &frmMain.mnuUndo, &frmMain.mnuReset, &frmMain.mnuNew})
         command->SetEnabled(false);
     MarkSheetChanged(false);
@@ -174,10 +174,10 @@ void LoadMainWindow() {
     BackupSlot = 99;
     DiagramOpen = false;
     frmMain.FormLoaded = false;
-    for (int p = 1; p <= kParams; ++p) frmMain.Text5[p].SetText(kEmpty);
-    for (int slot = 0; slot <= kSlots; ++slot) frmMain.Text1[slot].tab_stop = frmMain.Text2[slot].tab_stop = false;
-    frmMain.Text99.tab_stop = false;
-    for (int p = 1; p <= kParams; ++p) frmMain.Command7[p].SetVisible(false);
+    for (int p = 1; p <= kParams; ++p) frmMain.ParamBoxes[p].SetText(kEmpty);
+    for (int slot = 0; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].tab_stop = frmMain.TaxonCounts[slot].tab_stop = false;
+    frmMain.FocusRest.tab_stop = false;
+    for (int p = 1; p <= kParams; ++p) frmMain.RenameButtons[p].SetVisible(false);
     frmMain.KeysEnabled = true;
     SaveOutcome = 0;
     AlarmArmed = true;
@@ -200,7 +200,7 @@ void InitialiseSheet() {
     SampleNamesAreText = false;
     UndoKeyState = 0;
     ReverseCount = false;
-    if (!AmendMode) frmMain.SSTab1.SetTab(0);
+    if (!AmendMode) frmMain.BankTabs.SetTab(0);
     RecountTotals(CurrentSample);
     if (!LoadKeySettings() || !LoadWaves()) return;
     services.sounds->Play(WaveOpening);

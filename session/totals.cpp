@@ -16,14 +16,14 @@ void AddToTotals(int slot, double count) {
 }
 
 void ShowBold(int slot, bool bold) {
-    frmMain.Text2[slot].SetBold(bold);
-    frmMain.Text1[slot].SetBold(bold);
+    frmMain.TaxonCounts[slot].SetBold(bold);
+    frmMain.TaxonNames[slot].SetBold(bold);
 }
 
 // A name that was wiped out is an empty slot.
 void RestoreBlankName(int slot) {
-    const std::string& name = frmMain.Text1[slot].Text();
-    if (name == "-" || name == "--" || name.empty() || name == " " || name == "  ") frmMain.Text1[slot].SetText(kEmpty);
+    const std::string& name = frmMain.TaxonNames[slot].Text();
+    if (name == "-" || name == "--" || name.empty() || name == " " || name == "  ") frmMain.TaxonNames[slot].SetText(kEmpty);
 }
 }  // namespace
 
@@ -31,31 +31,31 @@ void RecountTotals(std::int16_t sample) {
     TaxonTable[0][2] = TaxonTable[0][3] = 0;
     AllTotal = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        AddToTotals(slot, frmMain.Text2[slot].Number());
+        AddToTotals(slot, frmMain.TaxonCounts[slot].Number());
         ShowBold(slot, Counts[slot][sample] != 0);
         RestoreBlankName(slot);
     }
-    frmMain.Text3[0].SetText(NumberText(AllTotal));  // its change enables Next sample and draws the curve
-    frmMain.Text3[1].SetText(TaxonTable[0][2].Text());
-    frmMain.Text3[2].SetText(TaxonTable[0][3].Text());
+    frmMain.AllTotal.SetText(NumberText(AllTotal));  // its change enables Next sample and draws the curve
+    frmMain.Subtotal1.SetText(TaxonTable[0][2].Text());
+    frmMain.Subtotal2.SetText(TaxonTable[0][3].Text());
 }
 
 void TakeChangedTotal() {
-    if (frmMain.Text3[0].Number() != 0) {
-        frmMain.Command5[1].SetEnabled(true);
+    if (frmMain.AllTotal.Number() != 0) {
+        frmMain.NextSampleButton.SetEnabled(true);
         frmMain.mnuNext.SetEnabled(true);
     }
     TotalChanged.Raise();
 }
 
 void ChooseBasis(int option) {
-    for (int slot = 1; slot <= kSlots; ++slot) frmMain.Text1[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
+    for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
     AlarmArmed = true;
     BasisChosen.Raise();
 }
 
 void ShowCountOf(int slot, double count) {
-    frmMain.Text2[slot].SetText(NumberText(count));
+    frmMain.TaxonCounts[slot].SetText(NumberText(count));
 }
 
 void ShowCountsOfSample() {
@@ -74,17 +74,17 @@ void OfferDiagram() {
 void EmptyCountCells() {
     for (int slot = 0; slot <= kSlots; ++slot) {
         ShowBold(slot, false);
-        frmMain.Text2[slot].SetText("0");
+        frmMain.TaxonCounts[slot].SetText("0");
         Counts[slot][CurrentSample] = 0;  // a column of an earlier sheet may have left its counts
     }
 }
 
 void CopyCellsToCounts() {
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(frmMain.Text2[slot].Number());
+    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
 }
 
 void ShowZeroTotals() {
     AllTotal = 0;
     TaxonTable[0][2] = TaxonTable[0][3] = 0;
-    for (TextBox& total : frmMain.Text3) total.SetText("0");
+    for (TextBox& total : frmMain.Totals) total.SetText("0");
 }

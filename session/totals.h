@@ -2,7 +2,7 @@
 #pragma once
 #include <cstdint>
 
-// Sums the cells of slots 1..135 into AllTotal and TaxonTable[0][2..3], shows the sums in frmMain.Text3[0..2], sets a cell bold where
+// Sums the cells of slots 1..135 into AllTotal and TaxonTable[0][2..3], shows the sums in frmMain.Totals[0..2], sets a cell bold where
 // Counts (one count behind its cell) is not 0. `sample`: 1..SampleCount. Raises "Overflow" past 32 bits; Text3 then keeps the old sums.
 void RecountTotals(std::int16_t sample);
 

@@ -20,14 +20,14 @@ void GoToSampleOf(std::int16_t sample) {
     ShowSampleName();
     ShowCountsOfSample();
     RecountTotals(CurrentSample);
-    AddHistoryLine("(Change sample: " + frmMain.Combo2.Text() + ")");
+    AddHistoryLine("(Change sample: " + frmMain.SampleList.Text() + ")");
     ShowSerial();
     ShowNoteAndParams();  // a save stamps the note that is on show
 }
 
 void TakeBack(int slot, int direction) {
-    ShowCountOf(slot, frmMain.Text2[slot].Number() - direction);
-    Counts[slot][CurrentSample] = ToLong(frmMain.Text2[slot].Number());
+    ShowCountOf(slot, frmMain.TaxonCounts[slot].Number() - direction);
+    Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
 }
 
 void PopUndoList() {

@@ -18,7 +18,7 @@ namespace {
 // The list goes along: by the old name the sample could not be brought up any more.
 void NameSampleOnShow(const std::string& name) {
     SampleTable[2][CurrentSample] = name;
-    frmMain.Combo2.SetItem(CurrentSample - 1, name);
+    frmMain.SampleList.SetItem(CurrentSample - 1, name);
 }
 
 bool IsWholeNumber(const std::string& text) {
@@ -32,7 +32,7 @@ void RefuseCount(TextBox& box) {
 }
 
 void StoreCount(int slot) {
-    TextBox& box = frmMain.Text2[slot];
+    TextBox& box = frmMain.TaxonCounts[slot];
     if (AmendMode) {
         if (!IsWholeNumber(box.Text())) {
             RefuseCount(box);
@@ -50,19 +50,19 @@ void StoreCount(int slot) {
 }  // namespace
 
 void NoteCountBeforeEdit(int slot) {
-    CountAtMouseDown = static_cast<float>(Val(frmMain.Text2[slot].Text()));
+    CountAtMouseDown = static_cast<float>(Val(frmMain.TaxonCounts[slot].Text()));
 }
 
 void TakeSampleName() {
-    RefuseQuotationMark(frmMain.Text1[0]);
-    frmMain.Combo2.SetText(frmMain.Text1[0].Text());
+    RefuseQuotationMark(frmMain.SampleName);
+    frmMain.SampleList.SetText(frmMain.SampleName.Text());
     ShowSerial();
-    if (AmendMode) NameSampleOnShow(frmMain.Text1[0].Text());
+    if (AmendMode) NameSampleOnShow(frmMain.SampleName.Text());
 }
 
 void TakeTaxonName(int slot) {
-    RefuseQuotationMark(frmMain.Text1[slot]);
-    TaxonTable[slot][4] = frmMain.Text1[slot].Text();
+    RefuseQuotationMark(frmMain.TaxonNames[slot]);
+    TaxonTable[slot][4] = frmMain.TaxonNames[slot].Text();
 }
 
 void TakeCount(int slot) {
@@ -78,35 +78,35 @@ void TakeCount(int slot) {
 }
 
 void TakeNote() {
-    RefuseQuotationMark(frmMain.Text4);
-    SampleNotes[CurrentSample] = frmMain.Text4.Text();
+    RefuseQuotationMark(frmMain.SampleNote);
+    SampleNotes[CurrentSample] = frmMain.SampleNote.Text();
     SheetClean = false;
 }
 
 void TakeParam(int p) {
-    RefuseQuotationMark(frmMain.Text5[p]);
-    ParamValues[p][CurrentSample] = frmMain.Text5[p].Text();
+    RefuseQuotationMark(frmMain.ParamBoxes[p]);
+    ParamValues[p][CurrentSample] = frmMain.ParamBoxes[p].Text();
     SheetClean = false;
     frmMain.mnuNew.SetEnabled(true);
-    frmMain.Label8.SetCaption(frmMain.Text5[p].Text());
+    frmMain.LastEdited.SetCaption(frmMain.ParamBoxes[p].Text());
 }
 
 void EndWithColon(int p) {
-    Label& label = frmMain.Label10[p];
+    Label& label = frmMain.ParamNames[p];
     if (Right(label.Caption(), 1) != ":") label.SetCaption(label.Caption() + ":");
 }
 
 void NameParamBox(int p) {
-    const Label& label = frmMain.Label10[p];
+    const Label& label = frmMain.ParamNames[p];
     const std::string name = WithoutTrailingColon(label.Caption());
-    frmMain.Text5[p].SetToolTip(name.empty() ? WithoutTrailingColon(label.DesignText()) : name);
+    frmMain.ParamBoxes[p].SetToolTip(name.empty() ? WithoutTrailingColon(label.DesignText()) : name);
 }
 
 void RenameSampleOnShow() {
-    NameSampleOnShow(frmMain.Combo2.Text());
-    frmMain.Text1[0].SetText(frmMain.Combo2.Text());
-    frmMain.Text4.SetText(SampleNotes[CurrentSample]);
+    NameSampleOnShow(frmMain.SampleList.Text());
+    frmMain.SampleName.SetText(frmMain.SampleList.Text());
+    frmMain.SampleNote.SetText(SampleNotes[CurrentSample]);
     WarnOldSample = true;
-    frmMain.Text99.SetEnabled(true);
+    frmMain.FocusRest.SetEnabled(true);
     OfferSaving();
 }

@@ -12,43 +12,44 @@
 
 namespace {
 void LogChangedName(int slot, const std::string& text) {
-    if (AmendMode && text != EditedValue) AddHistoryLine(frmMain.Label1[slot].Caption() + ": Taxa name [" + text + "]");
+    if (AmendMode && text != EditedValue) AddHistoryLine(frmMain.SlotNumbers[slot].Caption() + ": Taxa name [" + text + "]");
 }
 }  // namespace
 
 void EnterNameBox(int slot) {
     EnterGuardedBox();
-    EditedValue = frmMain.Text1[slot].Text();
+    EditedValue = frmMain.TaxonNames[slot].Text();
 }
 
 void LeaveNameBox(int slot) {
-    LogChangedName(slot, frmMain.Text1[slot].Text());
+    LogChangedName(slot, frmMain.TaxonNames[slot].Text());
     RecountTotals(CurrentSample);
 }
 
 void EnterCountBox(int slot) {
-    EditedValue = frmMain.Text2[slot].Text();
+    EditedValue = frmMain.TaxonCounts[slot].Text();
 }
 
 void LeaveCountBox(int slot) {
-    const std::string count = frmMain.Text2[slot].Text();
+    const std::string count = frmMain.TaxonCounts[slot].Text();
     if (!AmendMode || count == EditedValue) return;
     SheetClean = false;
     frmMain.mnuNew.SetEnabled(true);
     RecountTotals(CurrentSample);
-    AddHistoryLine(frmMain.Label1[slot].Caption() + " (" + frmMain.Text1[slot].Text() + "): Replace " + EditedValue + " by " + count);
+    AddHistoryLine(frmMain.SlotNumbers[slot].Caption() + " (" + frmMain.TaxonNames[slot].Text() + "): Replace " + EditedValue + " by " +
+                   count);
 }
 
 void DoubleClickCell(int slot, bool in_count_box) {
     if (!AmendMode) return;
-    LogChangedName(slot, (in_count_box ? frmMain.Text2[slot] : frmMain.Text1[slot]).Text());
+    LogChangedName(slot, (in_count_box ? frmMain.TaxonCounts[slot] : frmMain.TaxonNames[slot]).Text());
     RecountTotals(CurrentSample);
     LeaveModifyModeByDoubleClick();
 }
 
 void EnterNote() {
     EnterGuardedBox();
-    PutCaretBehind(frmMain.Text4);
+    PutCaretBehind(frmMain.SampleNote);
 }
 
 void DoubleClickNote() {
@@ -57,7 +58,7 @@ void DoubleClickNote() {
 
 void EnterParam(int p) {
     EnterGuardedBox();
-    ClearDashes(frmMain.Text5[p]);
+    ClearDashes(frmMain.ParamBoxes[p]);
 }
 
 void PutCaretBehind(TextBox& box) {

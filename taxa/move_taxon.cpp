@@ -31,15 +31,15 @@ void MoveFields(int from, int to) {
 }
 
 void MoveCells(int from, int to) {
-    frmMain.Text1[to].SetText(frmMain.Text1[from].Text());
-    frmMain.Text2[to].SetText(frmMain.Text2[from].Text());
-    frmMain.Text1[from].SetText(kEmpty);
-    frmMain.Text2[from].SetText("0");
+    frmMain.TaxonNames[to].SetText(frmMain.TaxonNames[from].Text());
+    frmMain.TaxonCounts[to].SetText(frmMain.TaxonCounts[from].Text());
+    frmMain.TaxonNames[from].SetText(kEmpty);
+    frmMain.TaxonCounts[from].SetText("0");
 }
 }  // namespace
 
 void SelectSlot(int slot) {
-    for (int other = 1; other <= kSlots; ++other) frmMain.Label1[other].SetBold(other == slot);
+    for (int other = 1; other <= kSlots; ++other) frmMain.SlotNumbers[other].SetBold(other == slot);
     SelectedSlot = static_cast<std::int16_t>(slot);
     if (AmendMode) OpenPopup(frmMain.mnuRightButton);
 }
@@ -50,7 +50,7 @@ void OfferMove(int slot) {
 }
 
 void OpenBankMenu(int bank) {
-    frmMain.SSTab1.SetTab(bank);
+    frmMain.BankTabs.SetTab(bank);
     MenuItem* const items = bank == 0 ? frmMain.mnuMoveTo1 : bank == 1 ? frmMain.mnuMoveTo2 : frmMain.mnuMoveTo3;
     for (int i = 0; i < kKeys; ++i) items[i].SetEnabled(!HasCounts(bank * kKeys + i + 1));
 }
@@ -59,7 +59,7 @@ void TransferTaxa(std::int16_t target) {
     const int from = SelectedSlot;
     MoveFields(from, target);
     MoveCells(from, target);
-    frmMain.Label1[from].SetBold(false);
+    frmMain.SlotNumbers[from].SetBold(false);
     PaintCell(LastSlot, kWhite);
     if (target != 0) MoveHighlight(target, kPaleHighlight);
     AddHistoryLine("(Move) " + TaxonTable[target][4].Text() + ": " + std::to_string(from) + " to " + std::to_string(target));

@@ -10,7 +10,7 @@
 
 namespace {
 Window& Caller() {
-    if (frmParaName.Label4.Caption() == frmNext.name) return frmNext;
+    if (frmParaName.Caller.Caption() == frmNext.name) return frmNext;
     return frmMain;
 }
 
@@ -19,13 +19,13 @@ void Ask(Window& caller, int p, const std::string& caption) {
     frmMain.SetEnabled(false);
     caller.SetEnabled(false);
     frmParaName.Show();
-    frmParaName.Slider1.SetValue(p);
+    frmParaName.Param.SetValue(p);
     const std::string name = WithoutTrailingColon(caption);
-    frmParaName.Label2.SetCaption(name);
-    frmParaName.Text1.SetText(name);
-    frmParaName.Label4.SetCaption(caller.name);
-    frmParaName.Text1.SetFocus();
-    frmParaName.Text1.SelectAll();
+    frmParaName.OldName.SetCaption(name);
+    frmParaName.NewName.SetText(name);
+    frmParaName.Caller.SetCaption(caller.name);
+    frmParaName.NewName.SetFocus();
+    frmParaName.NewName.SelectAll();
 }
 
 void GiveBack(Window& caller) {
@@ -36,21 +36,21 @@ void GiveBack(Window& caller) {
 }  // namespace
 
 void RenameParamOfSheet(int p) {
-    Ask(frmMain, p, frmMain.Label10[p].Caption());
+    Ask(frmMain, p, frmMain.ParamNames[p].Caption());
 }
 
 void RenameParamOfNextSample(int p) {
-    Ask(frmNext, p, frmNext.Label3[p].Caption());
+    Ask(frmNext, p, frmNext.ParamNames[p].Caption());
 }
 
 void AcceptParamName() {
-    const int p = frmParaName.Slider1.Value();
-    const std::string& name = frmParaName.Text1.Text();
+    const int p = frmParaName.Param.Value();
+    const std::string& name = frmParaName.NewName.Text();
     if (&Caller() == &frmNext) {
-        frmNext.Label3[p].SetCaption(name);
+        frmNext.ParamNames[p].SetCaption(name);
     } else {
         ParamHeader[p][4] = name;
-        frmMain.Label10[p].SetCaption(name + ":");
+        frmMain.ParamNames[p].SetCaption(name + ":");
     }
     GiveBack(Caller());
 }

@@ -15,7 +15,7 @@ namespace {
 constexpr int kFirstName = 12;  // cell of SheetHeader: the name of Subtotal-1, that of Subtotal-2 behind it
 
 Any& ChosenFlag(int slot) {
-    return TaxonTable[slot][kSubtotalFlags[frmSubtotal.Option1[1].Value() ? 0 : 1]];
+    return TaxonTable[slot][kSubtotalFlags[frmSubtotal.Subtotal1Option.Value() ? 0 : 1]];
 }
 
 std::string CaptionOf(int slot) {
@@ -24,12 +24,12 @@ std::string CaptionOf(int slot) {
 }
 
 void ShowFlags() {
-    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Check1[slot].SetValue(ChosenFlag(slot) == 1 ? 1 : 0);
+    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Members[slot].SetValue(ChosenFlag(slot) == 1 ? 1 : 0);
 }
 
 void ShowNames() {
     for (int subtotal = 1; subtotal <= kSubtotals; ++subtotal)
-        frmSubtotal.Text1[subtotal].SetText(SheetHeader[kFirstName + subtotal - 1].Text());
+        frmSubtotal.SubtotalNames[subtotal].SetText(SheetHeader[kFirstName + subtotal - 1].Text());
 }
 
 void KeepFlags() {
@@ -47,8 +47,8 @@ void PlaceBoxes() {
         const int key = KeyNumber(KeySettings[place][2]);
         if (key == 0) continue;
         for (const int bank : {0, kKeys, 2 * kKeys}) {
-            const Button& there = frmSubtotal.Command4[place + bank];
-            frmSubtotal.Check1[key + bank].SetPlace(there.Left(), there.Top());
+            const Button& there = frmSubtotal.MemberPlaces[place + bank];
+            frmSubtotal.Members[key + bank].SetPlace(there.Left(), there.Top());
         }
     }
 }
@@ -58,7 +58,7 @@ void FillSubtotalWindow() {
     frmSubtotal.Filling = true;
     ShowNames();
     KeepFlags();
-    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Check1[slot].SetCaption(CaptionOf(slot));
+    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Members[slot].SetCaption(CaptionOf(slot));
     ShowFlags();
     frmSubtotal.Filling = false;
     PlaceBoxes();
@@ -73,7 +73,7 @@ void ShowChosenSubtotal() {
 
 void TakeSubtotalFlag(int slot) {
     if (frmSubtotal.Filling) return;
-    ChosenFlag(slot) = frmSubtotal.Check1[slot].Value();
+    ChosenFlag(slot) = frmSubtotal.Members[slot].Value();
     RecountTotals(CurrentSample);
     OfferSaving();
 }
@@ -88,7 +88,7 @@ void SetAllFlags(int flag) {
 }
 
 void TakeSubtotalName(int subtotal) {
-    TextBox& box = frmSubtotal.Text1[subtotal];
+    TextBox& box = frmSubtotal.SubtotalNames[subtotal];
     RefuseQuotationMark(box);
     SheetHeader[kFirstName + subtotal - 1] = box.Text();
     ShowSubtotalNames();

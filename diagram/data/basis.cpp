@@ -6,9 +6,9 @@
 BasisWeights WeightsOfBasis() {
     BasisWeights weights{};
     for (int slot = 1; slot <= kSlots; ++slot) {
-        if (frmMain.Option1[1].Value())
+        if (frmMain.Subtotal1Basis.Value())
             weights[slot] = TaxonTable[slot][2].Number();
-        else if (frmMain.Option1[2].Value())
+        else if (frmMain.Subtotal2Basis.Value())
             weights[slot] = TaxonTable[slot][3].Number();
         else
             weights[slot] = 1;
@@ -17,7 +17,7 @@ BasisWeights WeightsOfBasis() {
 }
 
 void ShowBasisInMenu() {
-    frmDiagram.mnuAll.SetChecked(frmMain.Option1[0].Value());
-    frmDiagram.mnuSub1.SetChecked(frmMain.Option1[1].Value());
-    frmDiagram.mnuSub2.SetChecked(frmMain.Option1[2].Value());
+    frmDiagram.mnuAll.SetChecked(frmMain.AllTotalBasis.Value());
+    frmDiagram.mnuSub1.SetChecked(frmMain.Subtotal1Basis.Value());
+    frmDiagram.mnuSub2.SetChecked(frmMain.Subtotal2Basis.Value());
 }

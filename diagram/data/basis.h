@@ -1,4 +1,4 @@
-// The percent basis: all taxa, or the members of a subtotal. frmMain.Option1 holds the choice, the menu of the diagram shows it.
+// The percent basis: all taxa, or the members of a subtotal. frmMain.BasisOptions holds the choice, the menu of the diagram shows it.
 #pragma once
 #include <array>
 

@@ -136,7 +136,7 @@ void ComputeConiss() {
     Prepare();
     for (int cluster = 1; cluster <= LastMerge(); ++cluster) ConissDistance[cluster] = SquaredDistance(cluster, cluster + 1);
     for (int step = 1; step <= LastMerge(); ++step) {
-        frmMain.ProgressBar1.SetValue(step);
+        frmMain.Progress.SetValue(step);
         Merge(step, SampleCount - step - ConissSkip);
     }
     KeepVectors();

@@ -104,17 +104,17 @@ void RestoreDiagramShares() {
 double SetScrollRange(double units_in_view) {
     constexpr double kFarthest = 32767;  // where a taxon far outside the basis makes the diagram wider, its end is out of reach
     const double end = static_cast<double>(ColumnOffset[kSlots]) - units_in_view + LastColumnMax + 2 * ColumnGap;
-    frmDiagram.HScroll1.SetRange(0, ToInteger(std::min(end, kFarthest)));
-    frmDiagram.HScroll1.SetSteps(10, ToInteger(units_in_view));
+    frmDiagram.ColumnScroll.SetRange(0, ToInteger(std::min(end, kFarthest)));
+    frmDiagram.ColumnScroll.SetSteps(10, ToInteger(units_in_view));
     return end;
 }
 
 void ComputeDiagramData() {
-    const double units_per_screen_unit = 5.0 / frmDiagram.Slider2.Value();
+    const double units_per_screen_unit = 5.0 / frmDiagram.HorizontalScale.Value();
     ColumnGap = ToInteger(units_per_screen_unit * 10);
     RankSamples();
     FillFractions();
     for (int slot = 1; slot <= kSlots; ++slot) DiagramNames[RowOfSlot[slot]] = TaxonTable[slot][4].Text();
     LayOutColumns();
-    SetScrollRange(units_per_screen_unit * frmDiagram.Picture1.ScaleWidth());
+    SetScrollRange(units_per_screen_unit * frmDiagram.Diagram.ScaleWidth());
 }

@@ -19,11 +19,11 @@ extern std::string DiagramNames[kSlots + 1];    // [sheet row]: taxon name; [0] 
 
 constexpr float kNoBasis = 99.99f;  // the mark of a sample whose basis sum is 0
 
-// The fractions of one sample on the basis selected in frmMain.Option1, into SamplePercent[slot][sample]; kNoBasis if its sum is 0,
+// The fractions of one sample on the basis selected in frmMain.BasisOptions, into SamplePercent[slot][sample]; kNoBasis if its sum is 0,
 // which goes to Counts[0][sample]. Raises "Overflow" if the sum leaves 32 bits.
 void SamplePercentages(std::int16_t sample);
 
-// Everything that the diagram draws from, on the same basis, with the horizontal scale of frmDiagram.Slider2; sets the range of its
+// Everything that the diagram draws from, on the same basis, with the horizontal scale of frmDiagram.HorizontalScale; sets the range of its
 // scroll bar. Calls CheckSampleNames. Raises "Overflow" as above.
 void ComputeDiagramData();
 
@@ -31,6 +31,6 @@ void ComputeDiagramData();
 // For whoever reads them without a ComputeDiagramData of his own.
 void RestoreDiagramShares();
 
-// Sets the range of frmDiagram.HScroll1 for a picture that shows so many percent units. Returns the end of the range before it is
+// Sets the range of frmDiagram.ColumnScroll for a picture that shows so many percent units. Returns the end of the range before it is
 // rounded and held within 32767: 0 or less if all columns are in view.
 double SetScrollRange(double units_in_view);

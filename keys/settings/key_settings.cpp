@@ -24,7 +24,7 @@ void ReadKeySettings() {
     Shift2Code = ToInteger(KeySettings[47][1].Number());
     UndoKeyCode = ToInteger(KeySettings[49][1].Number());
     for (int place = 1; place <= kKeys; ++place)
-        for (const int slot : {place, place + kKeys, place + 2 * kKeys}) frmMain.Label1[slot].SetCaption(std::to_string(slot));
+        for (const int slot : {place, place + kKeys, place + 2 * kKeys}) frmMain.SlotNumbers[slot].SetCaption(std::to_string(slot));
     PlaceKeyCells();
     KeyboardKnown = AreNamedKeysKnown() ? 1 : 0;
 }
@@ -44,9 +44,9 @@ void PlaceKeyCells() {
         const std::int16_t key = ToInteger(KeySettings[place][2].Number());
         if (key < 1 || key > kSlots) throw Failure(kSubscriptOutOfRange);
         if (key > kKeys) continue;
-        frmMain.Text1[key].SetPlace(KeyLeft[place], KeyTop[place]);
-        frmMain.Text2[key].SetPlace(KeyLeft[place], KeyTop[place] + kCountBelowName);
-        frmMain.Label1[key].SetPlace(KeyLeft[place], KeyTop[place] + kNumberBelowName);
+        frmMain.TaxonNames[key].SetPlace(KeyLeft[place], KeyTop[place]);
+        frmMain.TaxonCounts[key].SetPlace(KeyLeft[place], KeyTop[place] + kCountBelowName);
+        frmMain.SlotNumbers[key].SetPlace(KeyLeft[place], KeyTop[place] + kNumberBelowName);
     }
 }
 
