@@ -231,6 +231,9 @@ class AccessibilityTest(unittest.TestCase):
         self.program.window(MAIN)
         told = spoken.Told("object:property-change:accessible-value")
         self.addCleanup(told.close)
+        # A program hears of those who listen later than they begin to, and until then it tells nothing.
+        wait_for("a program that tells of its bank", lambda: self.program.chord(SHIFT_1) or told.events)
+        wait_for("the bank", lambda: bank.value == 0)
         for count in (1, 2):
             told.events.clear()
             self.program.press(PAD[0])
