@@ -47,7 +47,7 @@ def sheet_of(samples):
 @cache
 def constants():
     found = {}
-    for header in [TOP / "session/state/sheet_state.h", *sorted((TOP / "windows").glob("*.h"))]:
+    for header in [TOP / "sheet/sizes.h", *sorted((TOP / "windows").glob("*.h"))]:
         for name, value in re.findall(r"constexpr int (\w+) = (\d+);", header.read_text(encoding="utf-8")):
             found[name] = int(value)
     return found
