@@ -35,7 +35,7 @@ constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter
 // False: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
 bool MayReplaceSheet() {
     if (SheetClean) return true;
-    if (Val(frmMain.AllTotal.Text()) > 0) PlayIfOn(WaveError);
+    if (frmMain.AllTotal.Number() > 0) PlayIfOn(WaveError);
     const bool has_sample = frmMain.SerialNumber.Caption() != "1/0";
     if (has_sample) PlayIfOn(WaveError);
     if (!has_sample && AllTotal == 0) return true;
@@ -87,7 +87,7 @@ void BeginCurve() {
     constexpr double kLongestCurve = 32767;
     frmMain.DiversityPicture.Clear();
     DiversityCurve.clear();
-    const double total = Val(frmMain.AllTotal.Text());
+    const double total = frmMain.AllTotal.Number();
     if (total < 0 || total > kLongestCurve) return;
     DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
     DiversityCurve[0] = ToInteger(total);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "keys/settings/key_settings.h"
+#include "platform/key_codes.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "session/dialog.h"
@@ -15,7 +16,6 @@
 
 namespace {
 constexpr int kFirstRow = 51;  // of the named keys in the key settings
-constexpr int kDelete = 46;
 
 Any& CodeOf(int key) {
     return KeySettings[kFirstRow + key][1];
@@ -23,7 +23,7 @@ Any& CodeOf(int key) {
 
 bool HoldsCode(TextBox& box) {
     if (Left(box.Text(), 1) == " ") box.SetText(Mid(box.Text(), 2, Length(box.Text())));
-    return Val(box.Text()) != 0 && IsPlainNumber(box.Text());
+    return box.Number() != 0 && IsPlainNumber(box.Text());
 }
 
 bool AllBoxesHoldCodes() {
@@ -85,7 +85,7 @@ void EmptyNamedKey(int key) {
 void TakeNamedKey(int key, int code) {
     TextBox& box = frmInitial.KeyCodes[key];
     box.SetText(std::to_string(code));
-    if (code == kDelete) PutCaretBehind(box);  // it would take the first digit of its own code away
+    if (code == kDeleteKey) PutCaretBehind(box);  // it would take the first digit of its own code away
     if (key < kNamedKeys - 1) {
         FocusNext(key);
     } else {
@@ -99,7 +99,7 @@ void AcceptNamedKeys() {
         services.messages->Show({"Error", "Please fill all boxes.", Icon::None, Buttons::Ok});
         return;
     }
-    for (int key = 0; key < kNamedKeys; ++key) CodeOf(key) = Val(frmInitial.KeyCodes[key].Text());
+    for (int key = 0; key < kNamedKeys; ++key) CodeOf(key) = frmInitial.KeyCodes[key].Number();
     WriteKeySettings();
     PlayIfOn(WaveSave);
     LeaveToProgram();

@@ -4,6 +4,7 @@
 
 #include "keys/key_dialog.h"
 #include "platform/encoding.h"
+#include "platform/key_codes.h"
 #include "platform/text.h"
 #include "session/state/sheet_state.h"
 #include "taxa/quotation_guard.h"
@@ -15,8 +16,6 @@ constexpr int kLastNamedRow = 62;
 constexpr int kF1Row = 58;
 constexpr int kTopRow[] = {28, 29, 30, 34, 35, 36, 40, 41, 42};  // the keys that F1..F9 count on by default
 constexpr int kKeyOfThree = 51;
-constexpr int kBackspace = 8;
-constexpr int kDelete = 46;
 
 // "[Esc]", "[F5]"; empty for a key without a name. Only F1 is known by itself: the other function keys follow it.
 std::string BracketedName(int code) {
@@ -45,7 +44,7 @@ void ShowCharacterCode(const std::string& character) {
 
 // Keys that type a character which no box takes, under its own number: BkSp, Tab, Enter, Esc.
 bool TypesControlCharacter(int code) {
-    return code == kBackspace || code == 9 || code == 13 || code == 27;
+    return code == kBackspaceKey || code == kTabKey || code == kEnterKey || code == kEscapeKey;
 }
 
 void RestoreDefinition(int key) {
@@ -79,7 +78,7 @@ void TakeDefinitionKey(int key, int code) {
 
 void TakeDefinition(int key) {
     const TextBox& box = frmKeyCode.Definitions[key];
-    if (!IsTyped(box) || LastEditKey == kBackspace || LastEditKey == kDelete) return;
+    if (!IsTyped(box) || LastEditKey == kBackspaceKey || LastEditKey == kDeleteKey) return;
     ShowCharacterCode(Mid(box.Text(), static_cast<std::size_t>(box.SelStart()), 1));
     if (LastEditKey != kKeyOfThree || box.Text() == "3") return;
     services.messages->Show({"Are you an AZERTY keyboard user?",
@@ -128,7 +127,7 @@ void EnterKeyNumber(int place) {
 void LeaveKeyNumber(int place) {
     TextBox& box = frmKeyCode.KeyNumbers[place];
     if (box.Text().empty()) box.SetText(frmKeyCode.OldDefinition);
-    if (const double number = Val(box.Text()); number < 1 || number > kKeys) {
+    if (const double number = box.Number(); number < 1 || number > kKeys) {
         services.messages->Show({"Error", "Counte key index must be between 1 and 45.", Icon::Exclamation, Buttons::Ok});
         box.SetText(frmKeyCode.OldDefinition);
     }

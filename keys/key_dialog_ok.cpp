@@ -28,10 +28,10 @@ std::optional<Fault> FindDoubleKey() {
     KeyCodeWindow& dialog = frmKeyCode;
     for (int i = 1; i <= kKeys; ++i)
         for (int j = 1; j < i; ++j) {
-            if (Agree(dialog.Text1, i, j) || Agree(dialog.Text2, i, j))
-                return Fault{"Same key code is being used for more than one taxon.", 0, {&dialog.Text1[i], &dialog.Text1[j]}};
-            if (Agree(dialog.Text3, i, j))
-                return Fault{"Same Ergodex key is being used for more than one place.", 2, {&dialog.Text3[i], &dialog.Text3[j]}};
+            if (Agree(dialog.Definitions, i, j) || Agree(dialog.Codes, i, j))
+                return Fault{"Same key code is being used for more than one taxon.", 0, {&dialog.Definitions[i], &dialog.Definitions[j]}};
+            if (Agree(dialog.KeyNumbers, i, j))
+                return Fault{"Same Ergodex key is being used for more than one place.", 2, {&dialog.KeyNumbers[i], &dialog.KeyNumbers[j]}};
         }
     return std::nullopt;
 }
@@ -66,7 +66,7 @@ void Report(const Fault& fault) {
 }
 
 std::int16_t CodeInBox(int row) {
-    return ToInteger(Val(frmKeyCode.Codes[row].Text()));
+    return ToInteger(frmKeyCode.Codes[row].Number());
 }
 
 void StoreRow(int row) {

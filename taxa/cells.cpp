@@ -38,19 +38,19 @@ void StoreCount(int slot) {
             RefuseCount(box);
             return;
         }
-        Counts[slot][CurrentSample] = ToLong(Val(box.Text()));
+        Counts[slot][CurrentSample] = ToLong(box.Number());
         SampleUntouched = false;
         SheetClean = false;
         frmMain.mnuNew.SetEnabled(true);
         RecountTotals(CurrentSample);
     }
-    Counts[slot][CurrentSample] = ToLong(Val(box.Text()));
+    Counts[slot][CurrentSample] = ToLong(box.Number());
     if (!IsWholeNumber(box.Text())) RefuseCount(box);
 }
 }  // namespace
 
 void NoteCountBeforeEdit(int slot) {
-    CountAtMouseDown = static_cast<float>(Val(frmMain.TaxonCounts[slot].Text()));
+    CountAtMouseDown = static_cast<float>(frmMain.TaxonCounts[slot].Number());
 }
 
 void TakeSampleName() {
