@@ -20,6 +20,7 @@ Renderer::~Renderer() {
 
 void Renderer::Run(const std::function<void()>& event) {
     if (has_ended_()) return;
+    if (depth_ == 0) TakeUserSizes();
     ++depth_;
     RunEvent(event);
     if (--depth_ > 0) return;
@@ -30,6 +31,12 @@ void Renderer::Run(const std::function<void()>& event) {
     OpenPopup();
     if (was_shown_ && ShownWindows().empty() && !has_ended_()) nothing_is_shown_();
     event_is_over_();
+}
+
+// The user gave them before the event: it may close such a window.
+void Renderer::TakeUserSizes() {
+    for (const auto& [window, widget] : widgets_)
+        if (widget->HasNewSize()) widget->TakeUserSize();
 }
 
 void Renderer::SyncLater(ModelView& view) {

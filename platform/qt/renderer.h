@@ -43,6 +43,7 @@ public:
 
 private:
     void Changed(Window& window, WindowProperty property) override;
+    void TakeUserSizes();
     void SyncWindows();
     void ShowWindow(Window& window, WindowWidget& widget);
     void BringToFront();

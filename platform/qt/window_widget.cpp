@@ -75,6 +75,7 @@ void WindowWidget::NoteChange(WindowProperty property) {
 void WindowWidget::Sync() {
     if (std::exchange(title_changed_, false)) setWindowTitle(ToQt(window_.Title()));
     if (std::exchange(size_changed_, false)) ChooseSize();
+    if (window_.Enabled() && !veil_->isHidden()) NoteUserSize();  // while it took no input it took no size either
     veil_->setVisible(!window_.Enabled());
 }
 
@@ -165,6 +166,10 @@ void WindowWidget::LayOut() {
 
 void WindowWidget::resizeEvent(QResizeEvent*) {
     Fit();
+    NoteUserSize();
+}
+
+void WindowWidget::NoteUserSize() {
     if (window_.resizable && isVisible() && Client().size() != ClientSize(factor_)) resize_soon_.start(0);
 }
 

@@ -39,7 +39,8 @@ public:
     bool WaitsForFront() const { return waits_.isActive(); }  // it has been asked for and the desktop has not answered
     bool StopsWaiting();                                      // true: it did wait
     void OpenPopup(MenuItem& menu);
-    void TakeUserSize();  // the user has made the window as large as it is now
+    bool HasNewSize() const { return resize_soon_.isActive(); }  // the program has not been told of it
+    void TakeUserSize();                                         // the user has made the window as large as it is now
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -58,6 +59,7 @@ private:
     QRect Room() const;  // of the screen, what its frame leaves
     bool IsAsUserLeftIt() const;
     void ChooseSize();
+    void NoteUserSize();
     void Fit();      // the factor and all places, after a change of size
     void Enlarge();  // what lies in it, to what fills it
     double FactorThatFills(QSize client) const;

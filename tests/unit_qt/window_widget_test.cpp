@@ -64,6 +64,27 @@ TEST_F(WindowWidgetTest, TheDiagramComesUpAsItsUserHasLeftIt) {
     }
 }
 
+TEST_F(WindowWidgetTest, TheSizeIsTakenEvenIfTheWindowIsClosedAtOnce) {
+    OpenDiagram();
+    WindowWidget& diagram = Widget(frmDiagram);
+    diagram.resize(743, 511);
+    diagram.close();
+    ASSERT_FALSE(diagram.isVisible());
+    OpenDiagram();
+    EXPECT_EQ(diagram.size(), QSize(743, 511));
+    EXPECT_EQ(Pixels(frmDiagram, diagram.Factor()), diagram.Ground()->size());
+}
+
+TEST_F(WindowWidgetTest, ASizeGivenWhileTheWindowTakesNoInputIsTakenAfterwards) {
+    OpenDiagram();
+    WindowWidget& diagram = Widget(frmDiagram);
+    Do([] { frmDiagram.SetEnabled(false); });
+    Place(diagram, {31, 47, 743, 511});
+    Do([] { frmDiagram.SetEnabled(true); });
+    Do([] {});
+    EXPECT_EQ(Pixels(frmDiagram, diagram.Factor()), diagram.Ground()->size());
+}
+
 TEST_F(WindowWidgetTest, ADiagramThatFilledTheScreenFillsItAgain) {
     OpenDiagram();
     WindowWidget& diagram = Widget(frmDiagram);

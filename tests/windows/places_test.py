@@ -1,4 +1,5 @@
 """Where windows stand on a screen of X11: whole, with their frames, and where their user has left them."""
+import signal
 import subprocess
 import unittest
 
@@ -9,6 +10,7 @@ from x11_desk import X11Desk
 
 DIAGRAM = "Diagram"
 SCREEN = (1366, 768)
+PLACE = (200, 100, 1000, 600)
 F4 = 70
 
 
@@ -51,13 +53,24 @@ class DiagramPlacesTest(Places):
     def wait_for_place(self, place):
         wait_for(f"the diagram at {place}", lambda: self.desk.place(self.diagram) == place)
 
-    def test_closed_and_opened_it_stays_where_its_user_has_put_it(self):
-        place = (200, 100, 1000, 600)
+    def put(self):
         # Until it has taken in its frame, the program moves a new window itself.
-        wait_for(f"the diagram put to {place}", lambda: self.desk.put(self.diagram, *place) or self.desk.place(self.diagram) == place)
+        wait_for(f"the diagram put to {PLACE}", lambda: self.desk.put(self.diagram, *PLACE) or self.desk.place(self.diagram) == PLACE)
+
+    def test_closed_and_opened_it_stays_where_its_user_has_put_it(self):
+        self.put()
         for _ in range(4):
             self.open_diagram_again()
-            self.wait_for_place(place)
+            self.wait_for_place(PLACE)
+
+    def test_a_late_program_that_hears_of_place_and_close_at_once_keeps_the_place(self):
+        self.program.process.send_signal(signal.SIGSTOP)
+        self.put()
+        self.program.chord(ALT, F4)
+        self.program.process.send_signal(signal.SIGCONT)
+        self.desk.gone(DIAGRAM)
+        self.open_diagram()
+        self.wait_for_place(PLACE)
 
     def test_filling_the_screen_it_fills_it_again_and_then_shrinks_to_its_old_size(self):
         before = self.desk.place(self.diagram)
