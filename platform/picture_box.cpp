@@ -1,13 +1,13 @@
 #include "platform/picture_box.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
-// Whether a rectangle in fractions covers the whole picture, but for the rounding of the scale.
-bool CoversAll(const DrawOperation& operation) {
+// Whether two edges in fractions have the whole picture between them, but for the rounding of the scale.
+bool CoversAll(double edge, double other) {
     constexpr double kSlack = 1e-6;
-    return std::min(operation.x1, operation.x2) <= kSlack && std::max(operation.x1, operation.x2) >= 1 - kSlack &&
-           std::min(operation.y1, operation.y2) <= kSlack && std::max(operation.y1, operation.y2) >= 1 - kSlack;
+    return std::min(edge, other) <= kSlack && std::max(edge, other) >= 1 - kSlack;
 }
 }  // namespace
 
@@ -17,64 +17,58 @@ void PictureBox::SetImageBytes(std::string bytes) {
     Tell(Property::Drawing);
 }
 
-void PictureBox::Add(DrawOperation operation) {
-    operations_.push_back(std::move(operation));
+// In place: a curve of thousands of lines is drawn anew at each key.
+DrawOperation& PictureBox::Add(DrawOperation::Shape shape) {
+    DrawOperation& operation = operations_.emplace_back();
+    operation.shape = shape;
     Tell(Property::Drawing);
+    return operation;
 }
 
 void PictureBox::Line(double x1, double y1, double x2, double y2, Colour colour) {
-    DrawOperation line;
-    line.shape = DrawOperation::Shape::Line;
+    DrawOperation& line = Add(DrawOperation::Shape::Line);
     line.x1 = FractionX(x1);
     line.y1 = FractionY(y1);
     line.x2 = FractionX(x2);
     line.y2 = FractionY(y2);
     line.rim = colour;
-    Add(std::move(line));
 }
 
 void PictureBox::FilledRectangle(double x1, double y1, double x2, double y2, Colour fill) {
-    DrawOperation rectangle;
-    rectangle.shape = DrawOperation::Shape::Rectangle;
-    rectangle.x1 = FractionX(x1);
-    rectangle.y1 = FractionY(y1);
-    rectangle.x2 = FractionX(x2);
-    rectangle.y2 = FractionY(y2);
+    const double left = FractionX(x1), top = FractionY(y1), right = FractionX(x2), bottom = FractionY(y2);
+    if (CoversAll(left, right) && CoversAll(top, bottom)) Clear();
+    DrawOperation& rectangle = Add(DrawOperation::Shape::Rectangle);
+    rectangle.x1 = left;
+    rectangle.y1 = top;
+    rectangle.x2 = right;
+    rectangle.y2 = bottom;
     rectangle.fill = fill;
-    if (CoversAll(rectangle)) Clear();
-    Add(std::move(rectangle));
 }
 
 void PictureBox::Circle(double x, double y, double radius, Colour rim, Colour fill) {
-    DrawOperation circle;
-    circle.shape = DrawOperation::Shape::Circle;
+    DrawOperation& circle = Add(DrawOperation::Shape::Circle);
     circle.x1 = FractionX(x);
     circle.y1 = FractionY(y);
     circle.radius = radius / std::abs(Span(scale_width_));
     circle.rim = rim;
     circle.fill = fill;
-    Add(std::move(circle));
 }
 
 void PictureBox::Print(double x, double y, double points, const std::string& text, Colour colour) {
-    DrawOperation print;
-    print.shape = DrawOperation::Shape::Text;
+    DrawOperation& print = Add(DrawOperation::Shape::Text);
     print.x1 = FractionX(x);
     print.y1 = FractionY(y);
     print.size = points;
     print.rim = colour;
     print.text = text;
-    Add(std::move(print));
 }
 
 void PictureBox::Name(double x, double y, bool italic, const std::string& text) {
-    DrawOperation name;
-    name.shape = DrawOperation::Shape::Name;
+    DrawOperation& name = Add(DrawOperation::Shape::Name);
     name.x1 = x;
     name.y1 = y;
     name.italic = italic;
     name.text = text;
-    Add(std::move(name));
 }
 
 void PictureBox::Clear() {

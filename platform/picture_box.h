@@ -62,7 +62,7 @@ public:
     void ReturnToDesign() override;
 
 private:
-    void Add(DrawOperation operation);
+    DrawOperation& Add(DrawOperation::Shape shape);
     double FractionX(double x) const { return (x - scale_left_) / Span(scale_width_); }
     double FractionY(double y) const { return (y - scale_top_) / Span(scale_height_); }
     static double Span(double length) { return length == 0 ? 1 : length; }
