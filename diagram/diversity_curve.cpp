@@ -52,11 +52,25 @@ void DrawLabels() {
     print((-0.35 - 0.33 * digits(taxa_text)) * total, taxa * 10.9, taxa_text);
 }
 
+// The least total that has a point. In a sheet that was opened with thousands of grains it is far from 0: the way there is looked
+// through in blocks, at each key.
+int FirstPoint() {
+    constexpr int kBlock = 64;
+    const auto is_empty = [](const std::int16_t* begin) {
+        std::int16_t any = 0;
+        for (int i = 0; i < kBlock; ++i) any |= begin[i];
+        return any == 0;
+    };
+    int first = 0;
+    while (first + kBlock <= DiversityLength && is_empty(&DiversityCurve[first])) first += kBlock;
+    return first;
+}
+
 void DrawCurve() {
     PictureBox& picture = frmMain.DiversityPicture;
     picture.Clear();
     if (frmMain.AllTotal.Text() == "1") DiversityCurve[1] = 10;
-    for (int n = 1; n <= DiversityLength; ++n)
+    for (int n = FirstPoint() + 1; n <= DiversityLength; ++n)
         if (DiversityCurve[n] != 0 && DiversityCurve[n - 1] != 0)
             picture.Line(10.0 * (n - 1), DiversityCurve[n - 1], 10.0 * n, DiversityCurve[n], kCurve);
     picture.Line(0, 0, 10.0 * DiversityLength, 0, kAxis);
