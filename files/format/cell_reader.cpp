@@ -1,8 +1,10 @@
 #include "files/format/cell_reader.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "platform/failure.h"
+#include "platform/number.h"
 #include "platform/text.h"
 
 namespace {
@@ -35,6 +37,22 @@ Any CellReader::Next() {
     if (!cell.quoted)
         if (const auto number = AsNumber(cell.text)) return *number;
     return cell.text;
+}
+
+std::int32_t CellReader::NextCount() {
+    const auto digits = TakeDigits();
+    return digits ? *digits : ToLong(Next().Number());
+}
+
+// Nearly all cells of a sheet are like this: digits from the first character to the comma.
+std::optional<std::int32_t> CellReader::TakeDigits() {
+    const char* const end = text_.data() + text_.size();
+    std::int32_t number = 0;
+    const auto [next, fault] = std::from_chars(text_.data() + at_, end, number);
+    if (fault != std::errc() || next == end || *next != ',') return std::nullopt;
+    at_ = static_cast<std::size_t>(next + 1 - text_.data());
+    after_comma_ = true;
+    return number;
 }
 
 std::string CellReader::NextText() {

@@ -6,6 +6,8 @@
 // quoted text that is never closed runs to the end.
 #pragma once
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,8 +17,9 @@ class CellReader {
 public:
     explicit CellReader(std::string text) : text_(std::move(text)) {}  // UTF-8, as DecodeFile gives it
     bool AtEnd();                                                      // no cell is left
-    Any Next();              // quoted: a text. Bare: a number if it is wholly one, else a text. Raises "Input past end of file"
-    std::string NextText();  // the cell as a text, quoted or bare, just as it stands in the file. Raises the same
+    Any Next();                // quoted: a text. Bare: a number if it is wholly one, else a text. Raises "Input past end of file"
+    std::int32_t NextCount();  // the cell as a whole number, 0 of a text that begins with none. Raises the same, and "Overflow"
+    std::string NextText();    // the cell as a text, quoted or bare, just as it stands in the file. Raises the same
 
 private:
     struct Cell {
@@ -24,6 +27,7 @@ private:
         bool quoted;
     };
     Cell Take();
+    std::optional<std::int32_t> TakeDigits();  // nothing is taken if the cell is any other
     void SkipToCell();
     void PassSeparator();
 

@@ -63,7 +63,7 @@ int ReadTaxonLabels(CellReader& cells, std::int16_t row) {
 
 void ReadCounts(CellReader& cells, int slot, GridRead& read) {
     while (read.counts < SampleCount) {
-        const std::int32_t count = ToLong(cells.Next().Number());
+        const std::int32_t count = cells.NextCount();
         Counts[slot][++read.counts] = count;
         if (count != 0) read.has_count.set(read.rows);
     }

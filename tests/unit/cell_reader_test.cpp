@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 #include <vector>
 
 #include "platform/encoding.h"
 #include "platform/failure.h"
+#include "platform/number.h"
 
 namespace {
 
@@ -179,4 +181,33 @@ TEST(CellReaderTest, AnyTextHasTheCellsFoundByteByByte) {
             ASSERT_EQ(CellsOf(text), CellsByteByByte(text)) << testing::PrintToString(text) << " of seed " << seed;
         }
     }
+}
+
+// A count as text, or what the failure says.
+std::string CountOrFailure(const std::function<std::int32_t()>& next) {
+    try {
+        return std::to_string(next());
+    } catch (const Failure& failure) {
+        return failure.what();
+    }
+}
+
+TEST(CellReaderTest, ACountIsTheCellRoundedToAWholeNumber) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        std::mt19937 random(seed);
+        for (int round = 0; round < 2000; ++round) {
+            std::string text;
+            for (std::size_t length = random() % 40; length > 0; --length) text += "0123456789-,,,,. +e\"\r\n"[random() % 22];
+            CellReader counts(text), cells(text);
+            while (!cells.AtEnd()) {
+                const std::string expected = CountOrFailure([&] { return ToLong(cells.Next().Number()); });
+                ASSERT_EQ(CountOrFailure([&] { return counts.NextCount(); }), expected)
+                    << testing::PrintToString(text) << " of seed " << seed;
+            }
+            EXPECT_TRUE(counts.AtEnd());
+        }
+    }
+    CellReader reader("2147483647,2147483648,-2147483648,12.5,013,-0,\"7\",x,");
+    for (const char* count : {"2147483647", "Overflow", "-2147483648", "12", "13", "0", "7", "0", "0", "Input past end of file"})
+        EXPECT_EQ(CountOrFailure([&] { return reader.NextCount(); }), count);
 }
