@@ -1,7 +1,7 @@
 #include "files/format/cell_writer.h"
 
 #include <charconv>
-#include <iterator>
+#include <utility>
 
 #include "platform/encoding.h"
 
@@ -18,10 +18,16 @@ void CellWriter::Write(const Any& cell) {
         text_.append("\"").append(cell.Text()).append("\"");
 }
 
-void CellWriter::WriteCount(std::int32_t count) {
-    BeginCell();
-    char digits[12];
-    text_.append(digits, std::to_chars(digits, std::end(digits), count).ptr);
+void CellWriter::WriteCounts(std::span<const std::int32_t> counts) {
+    constexpr std::size_t kLongest = 11;  // "-2147483648"
+    const std::size_t begin = text_.size();
+    text_.resize(begin + counts.size() * (1 + kLongest));
+    char* place = text_.data() + begin;
+    for (const std::int32_t count : counts) {
+        if (std::exchange(row_begun_, true)) *place++ = ',';
+        place = std::to_chars(place, place + kLongest, count).ptr;
+    }
+    text_.resize(static_cast<std::size_t>(place - text_.data()));
 }
 
 void CellWriter::EndRow() {

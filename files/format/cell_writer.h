@@ -8,6 +8,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "platform/any.h"
@@ -17,7 +18,7 @@ class CellWriter {
 public:
     explicit CellWriter(OutputFile& file) : file_(file) {}  // the file must outlive the writer
     void Write(const Any& cell);
-    void WriteCount(std::int32_t count);  // the same as Write, for the thousands of them
+    void WriteCounts(std::span<const std::int32_t> counts);  // the same as Write of each, for the thousands of them
     void EndRow();
     std::size_t Size() const;  // of what has been written so far, in bytes of the file
     void Close();              // raises WriteFailure when the file takes no more; what it took stays in it

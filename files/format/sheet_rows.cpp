@@ -26,7 +26,7 @@ void WriteTaxonLabels(CellWriter& cells, int row) {
 
 void WriteCountRow(CellWriter& cells, int row) {
     WriteTaxonLabels(cells, row);
-    for (int sample = 1; sample <= SampleCount; ++sample) cells.WriteCount(Counts[KeyIndex[row]][sample]);
+    cells.WriteCounts({&Counts[KeyIndex[row]][1], static_cast<std::size_t>(SampleCount)});
     cells.EndRow();
 }
 

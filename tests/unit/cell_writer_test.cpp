@@ -59,17 +59,19 @@ TEST(CellWriterTest, ANumberIsBareAndPlain) {
               "-3,12.5,0.05,98.0392,9999,100000000000000000000,0.3,0\r\n");
 }
 
-TEST(CellWriterTest, ACountIsWrittenLikeAnyNumber) {
-    for (const std::int32_t count : {0, 7, -1, 2147483647, std::numeric_limits<std::int32_t>::min()}) {
-        RecordingFile file;
-        CellWriter writer(file);
-        writer.Write("Pinus");
-        writer.WriteCount(count);
-        writer.WriteCount(count);
-        writer.EndRow();
-        writer.Close();
-        EXPECT_EQ(file.Bytes, Written({{"Pinus", count, count}}));
-    }
+TEST(CellWriterTest, CountsAreWrittenLikeAnyNumbers) {
+    constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t counts[] = {0, 7, -1, 2147483647, kLeast, kLeast};
+    RecordingFile file;
+    CellWriter writer(file);
+    writer.Write("Pinus");
+    writer.WriteCounts(counts);
+    writer.EndRow();
+    writer.WriteCounts(counts);
+    writer.WriteCounts({});
+    writer.EndRow();
+    writer.Close();
+    EXPECT_EQ(file.Bytes, Written({{"Pinus", 0, 7, -1, 2147483647, kLeast, kLeast}, {0, 7, -1, 2147483647, kLeast, kLeast}}));
 }
 
 TEST(CellWriterTest, ALastRowMayStayOpen) {
