@@ -37,9 +37,11 @@ SubtotalSums SumSamples() {
     for (auto& row : sums) row.resize(SampleCount + 1);
     for (int slot = 1; slot <= kSlots; ++slot) {
         const double weights[3] = {1, TaxonTable[slot][2].Number(), TaxonTable[slot][3].Number()};
-        for (int which = 0; which < 3; ++which)
+        for (int which = 0; which < 3; ++which) {
+            if (weights[which] == 0) continue;
             for (int sample = 1; sample <= SampleCount; ++sample)
                 sums[which][sample] = ToInteger(sums[which][sample] + Counts[slot][sample] * weights[which]);
+        }
     }
     return sums;
 }
