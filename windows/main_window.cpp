@@ -243,3 +243,18 @@ std::vector<Control*> MainWindow::RoundOf(const Control& control) {
 void MainWindow::ForgetMembers() {
     FormLoaded = ChangingSample = KeysEnabled = false;
 }
+
+// ---- The progress bar ----
+
+Busy::Busy(int maximum) {
+    MousePointer = kPointerBusy;
+    frmMain.ProgressBar1.SetValue(0);
+    frmMain.ProgressBar1.SetRange(0, maximum);
+    frmMain.ProgressBar1.SetVisible(true);
+}
+
+Busy::~Busy() {
+    MousePointer = kPointerDefault;
+    frmMain.ProgressBar1.SetVisible(false);
+    frmMain.ProgressBar1.SetValue(0);
+}
