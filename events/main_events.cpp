@@ -24,7 +24,7 @@
 #include "taxa/edit_boxes.h"
 #include "taxa/move_taxon.h"
 #include "taxa/param_names.h"
-#include "windows/about_windows.h"
+#include "windows/information_windows.h"
 #include "windows/initial_window.h"
 #include "windows/key_code_window.h"
 #include "windows/main_window.h"
