@@ -6,7 +6,7 @@
 #include "windows/information_windows.h"
 #include "windows/key_code_window.h"
 #include "windows/main_window.h"
-#include "windows/para_name_window.h"
+#include "windows/name_windows.h"
 #include "windows/picture_window.h"
 #include "windows/subtotal_window.h"
 

@@ -8,10 +8,9 @@
 #include "windows/initial_window.h"
 #include "windows/key_code_window.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/para_name_window.h"
 #include "windows/picture_window.h"
-#include "windows/site_name_window.h"
 #include "windows/subtotal_window.h"
 
 namespace {

@@ -16,8 +16,8 @@
 #include "windows/diagram_window.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/para_name_window.h"
 
 namespace {
 constexpr quint32 kPlaceOfQ = 24;
