@@ -4,7 +4,7 @@
 #include "keys/key_dialog_ok.h"
 #include "session/state/sheet_state.h"
 #include "windows/information_windows.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 
 namespace {
 void JoinDefinition(int key) {

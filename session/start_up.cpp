@@ -12,7 +12,7 @@
 #include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"
 #include "session/totals.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/pad_places.h"
 

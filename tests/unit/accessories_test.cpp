@@ -4,7 +4,7 @@
 #include "session/leaving.h"
 #include "unit/sheet_test.h"
 #include "windows/information_windows.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/name_windows.h"
 #include "windows/picture_window.h"
