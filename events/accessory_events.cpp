@@ -1,4 +1,3 @@
-#include "accessories/rest_pictures.h"
 #include "events/join.h"
 #include "session/dialog.h"
 #include "windows/information_windows.h"

@@ -1,4 +1,3 @@
-#include "accessories/rest_pictures.h"
 #include "events/boxes.h"
 #include "events/join.h"
 #include "files/exports.h"

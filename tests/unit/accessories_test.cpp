@@ -1,4 +1,3 @@
-#include "accessories/rest_pictures.h"
 #include "platform/failure.h"
 #include "platform/user.h"
 #include "session/leaving.h"
