@@ -9,7 +9,7 @@
 #include "platform/key_codes.h"
 #include "platform/qt/combo_box_view.h"
 #include "platform/qt/control_widget.h"
-#include "platform/qt/desktop_services.h"
+#include "platform/qt/desktop.h"
 #include "platform/qt/key_filter.h"
 #include "platform/qt/look.h"
 #include "platform/qt/made_mouse.h"
