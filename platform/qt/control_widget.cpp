@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/qt/look.h"
-#include "platform/qt/made_mouse.h"
+#include "platform/qt/mouse.h"
 #include "platform/qt/readers.h"
 #include "platform/qt/scaling.h"
 #include "platform/user.h"

@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <utility>
 
-#include "platform/qt/pointer.h"
+#include "platform/qt/mouse.h"
 #include "platform/qt/window_widget.h"
 #include "platform/run_event.h"
 #include "platform/user.h"

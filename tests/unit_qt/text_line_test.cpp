@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 
 #include "platform/qt/key_filter.h"
-#include "platform/qt/made_mouse.h"
+#include "platform/qt/mouse.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
