@@ -12,7 +12,6 @@
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
 #include "platform/qt/scaling.h"
-#include "platform/qt/veil.h"
 #include "platform/qt/views.h"
 #include "platform/qt/window_system.h"
 #include "platform/user.h"
@@ -27,6 +26,26 @@ QSize Pixels(QSize twips, double factor) {
     return Scaled({0, 0, twips.width(), twips.height()}, factor).size();
 }
 }  // namespace
+
+// Lies over a window that takes no input: its words stay readable, it is plainly not the one to work in, and no mouse gets through. A
+// press brings up the window that waits for an answer.
+class Veil : public QWidget {
+public:
+    Veil(QWidget* parent, Window& window, UserEvents& events) : QWidget(parent), window_(window), events_(events) { hide(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QColor mist = ToQt(kFormColour);
+        mist.setAlpha(120);
+        QPainter(this).fillRect(rect(), mist);
+    }
+    void showEvent(QShowEvent*) override { raise(); }
+    void mousePressEvent(QMouseEvent*) override { events_.UserActivates(window_); }
+
+private:
+    Window& window_;
+    UserEvents& events_;
+};
 
 WindowWidget::WindowWidget(Window& window, UserEvents& events)
     : window_(window), events_(events), frame_(0, kTitleBar, 0, 0), ground_(new QWidget(this)), veil_(new Veil(this, window, events)) {
