@@ -6,7 +6,7 @@
 #include "platform/qt/accessible_combo_box.h"
 #include "platform/qt/accessible_text.h"
 #include "platform/qt/accessible_value.h"
-#include "platform/qt/combo_box_view.h"
+#include "platform/qt/box_views.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
 #include "platform/spoken_name.h"

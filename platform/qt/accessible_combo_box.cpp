@@ -1,6 +1,6 @@
 #include "platform/qt/accessible_combo_box.h"
 
-#include "platform/qt/combo_box_view.h"
+#include "platform/qt/box_views.h"
 #include "platform/qt/look.h"
 #include "platform/user.h"
 

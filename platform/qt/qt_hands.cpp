@@ -7,7 +7,7 @@
 
 #include "events/program.h"
 #include "platform/key_codes.h"
-#include "platform/qt/combo_box_view.h"
+#include "platform/qt/box_views.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/key_filter.h"

@@ -1,4 +1,4 @@
-// A combo box on the screen, and the list that drops down from it.
+// Text boxes and combo boxes on the screen, and the list that drops down from a combo box.
 #pragma once
 #include <QListView>
 #include <functional>
