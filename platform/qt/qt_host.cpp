@@ -13,7 +13,7 @@
 #include <QTemporaryFile>
 
 #include "platform/qt/look.h"
-#include "platform/qt/picture_file.h"
+#include "platform/qt/qt_files.h"
 
 namespace {
 // What is no part of the program's own talk.
