@@ -5,7 +5,6 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/mouse.h"
-#include "platform/qt/readers.h"
 #include "platform/qt/scaling.h"
 #include "platform/user.h"
 #include "platform/window.h"
@@ -15,6 +14,30 @@ MouseButton ButtonOf(Qt::MouseButtons buttons) {
     if (buttons & Qt::LeftButton) return MouseButton::Left;
     if (buttons & Qt::RightButton) return MouseButton::Right;
     return MouseButton::None;
+}
+
+// What screen readers are told of a widget, while it can be seen.
+void Tell(QWidget& widget, QAccessible::Event type) {
+    QAccessibleEvent event(&widget, type);
+    QAccessible::updateAccessibility(&event);
+}
+
+// Its value is another now, if it has one.
+void TellValue(QWidget& widget) {
+    if (!widget.isVisible()) return;
+    QAccessibleInterface* const shown = QAccessible::queryAccessibleInterface(&widget);
+    if (!shown->valueInterface()) return;
+    QAccessibleValueChangeEvent event(&widget, shown->text(QAccessible::Value));
+    QAccessible::updateAccessibility(&event);
+}
+
+void TellName(QWidget& widget) {
+    if (widget.isVisible()) Tell(widget, QAccessible::NameChanged);
+}
+
+// It is the one selected of several, whether it can be seen yet or not.
+void TellSelection(QWidget& widget) {
+    Tell(widget, QAccessible::Selection);
 }
 }  // namespace
 
