@@ -9,6 +9,18 @@
 #include "platform/user.h"
 #include "platform/window.h"
 
+void ModelView::Changed(Property property) {
+    if (!changes_.Any()) events_.SyncLater(*this);
+    changes_.Add(property);
+    if (property == Property::Text) events_.TextChanged();
+}
+
+void ModelView::Sync() {
+    if (const Changes changes = std::exchange(changes_, {}); changes.Any()) Show(changes);
+}
+
+// ---- Widgets ----
+
 namespace {
 MouseButton ButtonOf(Qt::MouseButtons buttons) {
     if (buttons & Qt::LeftButton) return MouseButton::Left;

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "platform/controls.h"
-#include "platform/qt/model_view.h"
+#include "platform/qt/control_widget.h"
 #include "platform/window.h"
 
 class WindowWidget;

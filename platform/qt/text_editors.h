@@ -7,8 +7,8 @@
 #include <QWidget>
 
 #include "platform/controls.h"
+#include "platform/qt/control_widget.h"
 #include "platform/qt/fitted_text.h"
-#include "platform/qt/model_view.h"
 
 // The user has changed the text: the program hears it as a whole, with the caret (in units of `shown`). The view shows what became of it.
 void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret);
