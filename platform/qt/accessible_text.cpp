@@ -5,7 +5,7 @@
 #include <QPointer>
 
 #include "platform/qt/look.h"
-#include "platform/qt/text_places.h"
+#include "platform/qt/text_editors.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "platform/user.h"

@@ -17,7 +17,6 @@
 #include "platform/qt/renderer.h"
 #include "platform/qt/tab_view.h"
 #include "platform/qt/text_editors.h"
-#include "platform/qt/text_places.h"
 #include "platform/qt/virtual_key.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
