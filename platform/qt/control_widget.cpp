@@ -5,7 +5,6 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/mouse.h"
-#include "platform/qt/scaling.h"
 #include "platform/user.h"
 #include "platform/window.h"
 

@@ -11,7 +11,6 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
-#include "platform/qt/scaling.h"
 #include "platform/qt/views.h"
 #include "platform/qt/window_system.h"
 #include "platform/user.h"
