@@ -3,8 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "platform/qt/accessible_combo_box.h"
-#include "platform/qt/accessible_text.h"
+#include "platform/qt/accessible_boxes.h"
 #include "platform/qt/accessible_value.h"
 #include "platform/qt/box_views.h"
 #include "platform/qt/look.h"
