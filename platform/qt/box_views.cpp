@@ -34,7 +34,7 @@ private:
         MouseWidget()->update();
     }
     bool PassesMouse() const override { return HoldsFocus(box_); }
-    bool TakeKey(QKeyEvent& key) override {
+    bool UseKey(QKeyEvent& key) override {
         QCoreApplication::sendEvent(editor_, &key);
         return true;
     }
@@ -207,7 +207,7 @@ ComboList& ComboBoxView::OpenList() {
     return *list_;
 }
 
-bool ComboBoxView::TakeKey(QKeyEvent& key) {
+bool ComboBoxView::UseKey(QKeyEvent& key) {
     if (key.key() == Qt::Key_Down || key.key() == Qt::Key_Up || key.key() == Qt::Key_F4)
         OpenList();
     else

@@ -38,7 +38,7 @@ public:
 
     QWidget* FocusWidget() override { return line_; }
     QWidget* MouseWidget() override { return line_; }
-    bool TakeKey(QKeyEvent& key) override;  // the arrow keys up and down and F4 open the list, all else is typed
+    bool UseKey(QKeyEvent& key) override;  // the arrow keys up and down and F4 open the list, all else is typed
     ComboList& OpenList();
     ComboList* List() const { return list_; }  // nullptr: it has never been open
 

@@ -141,13 +141,13 @@ bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
     const auto& mouse = *static_cast<const QMouseEvent*>(event);
     const auto* const part = static_cast<const QWidget*>(watched);
     const QPointF at = part == widget_ ? mouse.position() : part->mapTo(widget_, mouse.position());
-    if (event->type() == QEvent::MouseButtonRelease) return TakeRelease(mouse, at);
-    if (event->type() == QEvent::MouseMove) return (control_.Enabled() || pressed_ != MouseButton::None) && TakeMove(mouse, at);
-    return control_.Enabled() && TakePress(mouse, at);
+    if (event->type() == QEvent::MouseButtonRelease) return TellRelease(mouse, at);
+    if (event->type() == QEvent::MouseMove) return (control_.Enabled() || pressed_ != MouseButton::None) && TellMove(mouse, at);
+    return control_.Enabled() && TellPress(mouse, at);
 }
 
 // The second press of a double click is no press of its own where the double click is answered; elsewhere it is one like the first.
-bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
+bool ControlWidget::TellPress(const QMouseEvent& event, QPointF at) {
     const MouseButton button = ButtonOf(event.button());
     if (button == MouseButton::None) return !PassesMouse();
     if (event.type() == QEvent::MouseButtonDblClick && button == MouseButton::Left && control_.DoubleClick.IsJoined()) {
@@ -160,7 +160,7 @@ bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
     return !PassesMouse() || event.source() == Qt::MouseEventSynthesizedByApplication;  // a script's press has no place among letters
 }
 
-bool ControlWidget::TakeMove(const QMouseEvent& event, QPointF at) {
+bool ControlWidget::TellMove(const QMouseEvent& event, QPointF at) {
     const MouseButton held = ButtonOf(event.buttons());
     if (held == MouseButton::None && pressed_ != MouseButton::None) {  // a menu or another program has had the release
         const MouseButton lost = std::exchange(pressed_, MouseButton::None);
@@ -190,7 +190,7 @@ void ControlWidget::MoveElsewhere(QPointF at) {
 }
 
 // With both buttons down the first release ends the press, whichever it is of.
-bool ControlWidget::TakeRelease(const QMouseEvent& event, QPointF at) {
+bool ControlWidget::TellRelease(const QMouseEvent& event, QPointF at) {
     const MouseButton button = ButtonOf(event.button());
     if (button == MouseButton::None || pressed_ == MouseButton::None) return !PassesMouse();
     pressed_ = MouseButton::None;

@@ -82,7 +82,7 @@ public:
     virtual QWidget* MouseWidget() { return widget_; }              // the part of it that the mouse meets
     virtual QPointF PlaceOf(double x, double y) const;              // in the widget, of a place as the mouse events tell it
     // A key that the program has seen and not used up, while the control has the focus. true: the control used it.
-    virtual bool TakeKey(QKeyEvent& /*key*/) { return false; }
+    virtual bool UseKey(QKeyEvent& /*key*/) { return false; }
     void Rescale() { Apply(Changes::All()); }
 
 protected:
@@ -112,11 +112,11 @@ private:
     void Apply(Changes changes);  // what all kinds have in common
     void TellReaders(Changes changes);
     void TellNamesOfOthers() const;  // of the controls that are called after this one
-    bool TakePress(const QMouseEvent& event, QPointF at);
-    bool TakeMove(const QMouseEvent& event, QPointF at);
+    bool TellPress(const QMouseEvent& event, QPointF at);
+    bool TellMove(const QMouseEvent& event, QPointF at);
     bool LeavesWith(const QMouseEvent& event, QPointF at) const;
     void MoveElsewhere(QPointF at);
-    bool TakeRelease(const QMouseEvent& event, QPointF at);
+    bool TellRelease(const QMouseEvent& event, QPointF at);
 
     Control& control_;
     ViewHost& window_;

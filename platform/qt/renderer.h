@@ -43,7 +43,7 @@ public:
 
 private:
     void Changed(Window& window, WindowProperty property) override;
-    void TakeUserSizes();
+    void TellUserSizes();
     void SyncWindows();
     void ShowWindow(Window& window, WindowWidget& widget);
     void BringToFront();

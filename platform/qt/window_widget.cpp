@@ -53,7 +53,7 @@ WindowWidget::WindowWidget(Window& window, UserEvents& events)
     ground_->setMouseTracking(true);
     ground_->installEventFilter(this);
     resize_soon_.setSingleShot(true);
-    connect(&resize_soon_, &QTimer::timeout, this, &WindowWidget::TakeUserSize);
+    connect(&resize_soon_, &QTimer::timeout, this, &WindowWidget::TellUserSize);
     waits_.setSingleShot(true);
     connect(&waits_, &QTimer::timeout, this, &WindowWidget::GiveUpWaiting);
     for (Control* control : window_.Controls()) Build(*control);
@@ -191,7 +191,7 @@ void WindowWidget::NoteUserSize() {
     if (window_.resizable && isVisible() && Client().size() != ClientSize(factor_)) resize_soon_.start(0);
 }
 
-void WindowWidget::TakeUserSize() {
+void WindowWidget::TellUserSize() {
     resize_soon_.stop();
     const QSize client = Client().size();
     const auto twips = [this](int pixels) { return static_cast<int>(std::lround(pixels / factor_)); };

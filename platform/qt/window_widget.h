@@ -40,7 +40,7 @@ public:
     bool StopsWaiting();                                      // true: it did wait
     void OpenPopup(MenuItem& menu);
     bool HasNewSize() const { return resize_soon_.isActive(); }  // the program has not been told of it
-    void TakeUserSize();                                         // the user has made the window as large as it is now
+    void TellUserSize();                                         // to the program: the window is as large as its user has made it
 
 protected:
     void closeEvent(QCloseEvent* event) override;
