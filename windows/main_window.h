@@ -13,7 +13,7 @@
 
 struct MainWindow : Window {
     MainWindow();
-    void Amend() {}                                                  // a reserved entry
+    void Amend() {}                                                  // empty: docs/quirks.md
     std::vector<Control*> RoundOf(const Control& control) override;  // of a cell: the names, or the counts, of its bank as they are read
 
     // The pad. Cells lie on the tab of their bank; [0] of their arrays is the name of the sample, its caption, and nothing.
