@@ -118,9 +118,9 @@ struct MainWindow : Window {
     MenuItem mnuDiversityRB, mnuCopyDiversity;
     MenuItem mnuByPass, mnuLetters[26];  // take Ctrl and a letter, so that the chord does nothing else
 
-    bool FormLoaded = false;                   // False while the window loads
+    bool FormLoaded = false;                   // false while the window loads
     bool ChangingSample = false;               // another sample's counts are being put into the cells
-    bool KeysEnabled = false;                  // False while the % button is held
+    bool KeysEnabled = false;                  // false while the % button is held
     std::int16_t HeldCounts[kSlots + 1] = {};  // the cells while they show percentages
     std::int16_t HeldTotals[3] = {};
 
