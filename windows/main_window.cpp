@@ -246,15 +246,15 @@ void MainWindow::ForgetMembers() {
 
 // ---- The progress bar ----
 
-Busy::Busy(int maximum) {
+Busy::Busy(int maximum) : bar_(frmMain.Progress) {
     MousePointer = kPointerBusy;
-    frmMain.ProgressBar1.SetValue(0);
-    frmMain.ProgressBar1.SetRange(0, maximum);
-    frmMain.ProgressBar1.SetVisible(true);
+    bar_.SetValue(0);
+    bar_.SetRange(0, maximum);
+    bar_.SetVisible(true);
 }
 
 Busy::~Busy() {
     MousePointer = kPointerDefault;
-    frmMain.ProgressBar1.SetVisible(false);
-    frmMain.ProgressBar1.SetValue(0);
+    bar_.SetVisible(false);
+    bar_.SetValue(0);
 }

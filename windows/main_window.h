@@ -146,4 +146,7 @@ public:
     ~Busy();
     Busy(const Busy&) = delete;
     Busy& operator=(const Busy&) = delete;
+
+private:
+    ProgressBar& bar_;
 };
