@@ -144,7 +144,7 @@ void AccessibleText::insertText(int offset, const QString& text) {
 }
 
 // Into the text as it is when the edit is done, the caret behind what was put in. A double quotation mark would break the row of a sheet,
-// and no key goes down here that the guard of the boxes could watch.
+// and there is no key press here that the guard of the boxes could refuse.
 void AccessibleText::replaceText(int start, int end, const QString& text) {
     RunForReader(Around(), [&box = box_, start, end, text] {
         if (text.contains(u'"')) return services.sounds->Beep();

@@ -157,12 +157,12 @@ bool ControlWidget::TellPress(const QMouseEvent& event, QPointF at) {
     pressed_ = button;
     if (button == MouseButton::Left) ShowPressed(true);
     Events().Run([&] { Press(MouseAt(button, at), at); });
-    return !PassesMouse() || event.source() == Qt::MouseEventSynthesizedByApplication;  // a script's press has no place among letters
+    return !PassesMouse() || event.source() == Qt::MouseEventSynthesizedByApplication;  // a script's press must not move the caret
 }
 
 bool ControlWidget::TellMove(const QMouseEvent& event, QPointF at) {
     const MouseButton held = ButtonOf(event.buttons());
-    if (held == MouseButton::None && pressed_ != MouseButton::None) {  // a menu or another program has had the release
+    if (held == MouseButton::None && pressed_ != MouseButton::None) {  // the release went to a menu or another program
         const MouseButton lost = std::exchange(pressed_, MouseButton::None);
         ShowPressed(false);
         Events().Run([&] { Release(MouseAt(lost, at), false); });

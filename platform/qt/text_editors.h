@@ -59,7 +59,7 @@ private:
 };
 
 // The editor of several lines in a text box; like TextLine, it paints its text itself while it does not hold the keyboard.
-// A line ends between words, save where the text holds a word that nobody would write: then it may end anywhere.
+// A line ends between words, unless the text holds a word too long to be laid out in time: then it may end anywhere.
 class TextArea : public QPlainTextEdit {
 public:
     TextArea(QWidget* parent, TextBox& box, ModelView& view);

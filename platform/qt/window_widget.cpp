@@ -18,7 +18,7 @@
 namespace {
 constexpr double kSmallest = 0.4;  // of the size that a window comes up with
 constexpr QSize kSmallestOfUser{240, 160};
-constexpr int kTitleBar = 30;          // about, before the desktop has made it
+constexpr int kTitleBar = 30;          // an estimate until the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
 
 QSize Pixels(QSize twips, double factor) {
