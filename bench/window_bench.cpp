@@ -24,7 +24,7 @@
 #include "events/program.h"
 #include "platform/headless/scripted_dialogs.h"
 #include "platform/qt/control_widget.h"
-#include "platform/qt/desktop_services.h"
+#include "platform/qt/desktop.h"
 #include "platform/qt/key_filter.h"
 #include "platform/qt/look.h"
 #include "platform/qt/renderer.h"

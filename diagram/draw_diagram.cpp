@@ -6,7 +6,6 @@
 #include "diagram/data/sample_position.h"
 #include "diagram/sample_marker.h"
 #include "diagram/style.h"
-#include "windows/busy.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 

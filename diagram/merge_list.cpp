@@ -4,7 +4,6 @@
 #include "platform/text.h"
 #include "session/export.h"
 #include "session/sound.h"
-#include "windows/busy.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include "platform/services.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 
 namespace drive {

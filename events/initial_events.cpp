@@ -1,6 +1,6 @@
 #include "events/join.h"
 #include "keys/first_run.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 
 void JoinInitialEvents() {
     frmInitial.Loaded.Calls(LoadInitialWindow);

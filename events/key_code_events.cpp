@@ -3,8 +3,8 @@
 #include "keys/key_dialog_capture.h"
 #include "keys/key_dialog_ok.h"
 #include "session/state/sheet_state.h"
-#include "windows/key_code_window.h"
-#include "windows/note_window.h"
+#include "windows/information_windows.h"
+#include "windows/key_windows.h"
 
 namespace {
 void JoinDefinition(int key) {

@@ -2,7 +2,7 @@
 #include "events/join.h"
 #include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
-#include "windows/para_name_window.h"
+#include "windows/name_windows.h"
 
 void JoinParaNameEvents() {
     TextBox& name = frmParaName.NewName;

@@ -2,7 +2,7 @@
 #include "files/new_sheet.h"
 #include "session/state/sheet_state.h"
 #include "taxa/edit_boxes.h"
-#include "windows/site_name_window.h"
+#include "windows/name_windows.h"
 
 void JoinSiteNameEvents() {
     frmSiteName.Loaded.Calls(LoadSiteNameWindow);

@@ -9,7 +9,6 @@
 #include "session/sound.h"
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"
-#include "windows/busy.h"
 #include "windows/main_window.h"
 
 namespace {

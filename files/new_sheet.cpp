@@ -15,7 +15,7 @@
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
-#include "windows/site_name_window.h"
+#include "windows/name_windows.h"
 
 namespace {
 // The bar runs once from end to end, so that the user sees that the sheet has gone.

@@ -16,7 +16,7 @@
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 

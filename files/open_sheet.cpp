@@ -26,8 +26,8 @@
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/site_name_window.h"
 
 namespace {
 constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter title gives its first 15 characters all the same

@@ -10,7 +10,7 @@
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
 #include "taxa/edit_boxes.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 

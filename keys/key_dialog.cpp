@@ -7,7 +7,7 @@
 #include "platform/services.h"
 #include "session/dialog.h"
 #include "session/state/sheet_state.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 
 namespace {
 constexpr int kNumberTab = 2;

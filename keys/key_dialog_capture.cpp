@@ -8,7 +8,7 @@
 #include "platform/text.h"
 #include "session/state/sheet_state.h"
 #include "taxa/quotation_guard.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 
 namespace {
 constexpr int kFirstNamedRow = 51;

@@ -8,7 +8,7 @@
 #include "session/dialog.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 
 namespace {
 constexpr Colour kRed{255, 0, 0};

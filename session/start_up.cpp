@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "accessories/rest_pictures.h"
 #include "keys/settings/key_settings.h"
 #include "platform/failure.h"
 #include "session/changed_mark.h"
@@ -12,9 +11,10 @@
 #include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"
 #include "session/totals.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/pad_places.h"
+#include "windows/picture_window.h"
 
 namespace {
 constexpr const char* kUnnamed = "-9999";

@@ -5,8 +5,8 @@
 #include "platform/text.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/para_name_window.h"
 
 namespace {
 Window& Caller() {

@@ -63,7 +63,7 @@ struct DiagramWindow : Window {
     bool MovingSample = false;        // the same, with the right button and named samples: the column goes along
     bool ConissDrawn = false;         // the tree is open and drawn
 
-    void SaveEOF() {}  // the entries of an analysis that has no content: they do nothing
+    void SaveEOF() {}  // both empty: docs/quirks.md
     void SaveAllEOF() {}
 
 private:

@@ -243,3 +243,18 @@ std::vector<Control*> MainWindow::RoundOf(const Control& control) {
 void MainWindow::ForgetMembers() {
     FormLoaded = ChangingSample = KeysEnabled = false;
 }
+
+// ---- The progress bar ----
+
+Busy::Busy(int maximum) : bar_(frmMain.Progress) {
+    MousePointer = kPointerBusy;
+    bar_.SetValue(0);
+    bar_.SetRange(0, maximum);
+    bar_.SetVisible(true);
+}
+
+Busy::~Busy() {
+    MousePointer = kPointerDefault;
+    bar_.SetVisible(false);
+    bar_.SetValue(0);
+}

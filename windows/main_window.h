@@ -13,7 +13,7 @@
 
 struct MainWindow : Window {
     MainWindow();
-    void Amend() {}                                                  // a reserved entry
+    void Amend() {}                                                  // empty: docs/quirks.md
     std::vector<Control*> RoundOf(const Control& control) override;  // of a cell: the names, or the counts, of its bank as they are read
 
     // The pad. Cells lie on the tab of their bank; [0] of their arrays is the name of the sample, its caption, and nothing.
@@ -118,9 +118,9 @@ struct MainWindow : Window {
     MenuItem mnuDiversityRB, mnuCopyDiversity;
     MenuItem mnuByPass, mnuLetters[26];  // take Ctrl and a letter, so that the chord does nothing else
 
-    bool FormLoaded = false;                   // False while the window loads
+    bool FormLoaded = false;                   // false while the window loads
     bool ChangingSample = false;               // another sample's counts are being put into the cells
-    bool KeysEnabled = false;                  // False while the % button is held
+    bool KeysEnabled = false;                  // false while the % button is held
     std::int16_t HeldCounts[kSlots + 1] = {};  // the cells while they show percentages
     std::int16_t HeldTotals[3] = {};
 
@@ -138,3 +138,15 @@ private:
 };
 
 extern MainWindow frmMain;
+
+// The busy pointer and the progress bar, from here to the end of the scope, however it is left.
+class Busy {
+public:
+    explicit Busy(int maximum);  // of the progress bar
+    ~Busy();
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+private:
+    ProgressBar& bar_;
+};

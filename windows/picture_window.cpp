@@ -1,5 +1,9 @@
 #include "windows/picture_window.h"
 
+#include <string>
+
+#include "platform/failure.h"
+#include "platform/services.h"
 #include "platform/window_table.h"
 
 PictureWindow frmPicture;
@@ -24,4 +28,29 @@ PictureWindow::PictureWindow() : Window("frmPicture", "Marlbrook 2.5", kWidth, k
     imgBeach.image = "beach";
     imgCoffee.image = "coffee";
     KeepDesign();
+}
+
+// ---- The pictures ----
+
+void LoadFavoritePicture() {
+    std::string bytes = services.files->ReadAll(ProgramFile("References/My_favorite.jpg"));
+    if (!services.host->CanShow(bytes)) throw Failure(kFileError);
+    frmPicture.imgFavorite.SetImageBytes(std::move(bytes));
+}
+
+void CoverScreen() {
+    const Box screen = services.host->ScreenSize();
+    frmPicture.SetPlace(0, 0);
+    frmPicture.SetSize(screen.width, screen.height);
+    for (PictureBox* picture : frmPicture.pictures) {
+        picture->SetPlace(0, 0);
+        picture->SetWidth(screen.width);
+        picture->SetHeight(screen.height);
+    }
+}
+
+void ShowRestPicture(PictureBox& picture) {
+    for (PictureBox* other : frmPicture.pictures) other->SetVisible(other == &picture);
+    frmPicture.SetPlace(0, 0);
+    frmPicture.Show();
 }

@@ -1,4 +1,4 @@
-// frmPicture: one of three pictures over the whole screen, for a rest from counting.
+// frmPicture: one of three pictures over the whole screen, for a rest from counting. Each stays until it is clicked.
 #pragma once
 #include "platform/picture_box.h"
 #include "platform/window.h"
@@ -15,3 +15,10 @@ struct PictureWindow : Window {
 };
 
 extern PictureWindow frmPicture;
+
+// Reads References/My_favorite.jpg, which the user may replace by any picture. Raises "File error" if it is not there or is no picture;
+// the last one then stays.
+void LoadFavoritePicture();
+
+void CoverScreen();                         // frmPicture loads
+void ShowRestPicture(PictureBox& picture);  // of frmPicture: it alone

@@ -6,7 +6,6 @@
 #include "diagram/data/basis.h"
 #include "diagram/data/percentages.h"
 #include "diagram/data/sample_position.h"
-#include "windows/busy.h"
 #include "windows/main_window.h"
 
 std::vector<ClusterVector> ConissData;

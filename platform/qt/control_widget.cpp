@@ -4,17 +4,51 @@
 #include <utility>
 
 #include "platform/qt/look.h"
-#include "platform/qt/made_mouse.h"
-#include "platform/qt/readers.h"
-#include "platform/qt/scaling.h"
+#include "platform/qt/mouse.h"
 #include "platform/user.h"
 #include "platform/window.h"
+
+void ModelView::Changed(Property property) {
+    if (!changes_.Any()) events_.SyncLater(*this);
+    changes_.Add(property);
+    if (property == Property::Text) events_.TextChanged();
+}
+
+void ModelView::Sync() {
+    if (const Changes changes = std::exchange(changes_, {}); changes.Any()) Show(changes);
+}
+
+// ---- Widgets ----
 
 namespace {
 MouseButton ButtonOf(Qt::MouseButtons buttons) {
     if (buttons & Qt::LeftButton) return MouseButton::Left;
     if (buttons & Qt::RightButton) return MouseButton::Right;
     return MouseButton::None;
+}
+
+// What screen readers are told of a widget, while it can be seen.
+void Tell(QWidget& widget, QAccessible::Event type) {
+    QAccessibleEvent event(&widget, type);
+    QAccessible::updateAccessibility(&event);
+}
+
+// Its value is another now, if it has one.
+void TellValue(QWidget& widget) {
+    if (!widget.isVisible()) return;
+    QAccessibleInterface* const shown = QAccessible::queryAccessibleInterface(&widget);
+    if (!shown->valueInterface()) return;
+    QAccessibleValueChangeEvent event(&widget, shown->text(QAccessible::Value));
+    QAccessible::updateAccessibility(&event);
+}
+
+void TellName(QWidget& widget) {
+    if (widget.isVisible()) Tell(widget, QAccessible::NameChanged);
+}
+
+// It is the one selected of several, whether it can be seen yet or not.
+void TellSelection(QWidget& widget) {
+    Tell(widget, QAccessible::Selection);
 }
 }  // namespace
 
@@ -107,13 +141,13 @@ bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
     const auto& mouse = *static_cast<const QMouseEvent*>(event);
     const auto* const part = static_cast<const QWidget*>(watched);
     const QPointF at = part == widget_ ? mouse.position() : part->mapTo(widget_, mouse.position());
-    if (event->type() == QEvent::MouseButtonRelease) return TakeRelease(mouse, at);
-    if (event->type() == QEvent::MouseMove) return (control_.Enabled() || pressed_ != MouseButton::None) && TakeMove(mouse, at);
-    return control_.Enabled() && TakePress(mouse, at);
+    if (event->type() == QEvent::MouseButtonRelease) return TellRelease(mouse, at);
+    if (event->type() == QEvent::MouseMove) return (control_.Enabled() || pressed_ != MouseButton::None) && TellMove(mouse, at);
+    return control_.Enabled() && TellPress(mouse, at);
 }
 
 // The second press of a double click is no press of its own where the double click is answered; elsewhere it is one like the first.
-bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
+bool ControlWidget::TellPress(const QMouseEvent& event, QPointF at) {
     const MouseButton button = ButtonOf(event.button());
     if (button == MouseButton::None) return !PassesMouse();
     if (event.type() == QEvent::MouseButtonDblClick && button == MouseButton::Left && control_.DoubleClick.IsJoined()) {
@@ -123,12 +157,12 @@ bool ControlWidget::TakePress(const QMouseEvent& event, QPointF at) {
     pressed_ = button;
     if (button == MouseButton::Left) ShowPressed(true);
     Events().Run([&] { Press(MouseAt(button, at), at); });
-    return !PassesMouse() || event.source() == Qt::MouseEventSynthesizedByApplication;  // a script's press has no place among letters
+    return !PassesMouse() || event.source() == Qt::MouseEventSynthesizedByApplication;  // a script's press must not move the caret
 }
 
-bool ControlWidget::TakeMove(const QMouseEvent& event, QPointF at) {
+bool ControlWidget::TellMove(const QMouseEvent& event, QPointF at) {
     const MouseButton held = ButtonOf(event.buttons());
-    if (held == MouseButton::None && pressed_ != MouseButton::None) {  // a menu or another program has had the release
+    if (held == MouseButton::None && pressed_ != MouseButton::None) {  // the release went to a menu or another program
         const MouseButton lost = std::exchange(pressed_, MouseButton::None);
         ShowPressed(false);
         Events().Run([&] { Release(MouseAt(lost, at), false); });
@@ -156,7 +190,7 @@ void ControlWidget::MoveElsewhere(QPointF at) {
 }
 
 // With both buttons down the first release ends the press, whichever it is of.
-bool ControlWidget::TakeRelease(const QMouseEvent& event, QPointF at) {
+bool ControlWidget::TellRelease(const QMouseEvent& event, QPointF at) {
     const MouseButton button = ButtonOf(event.button());
     if (button == MouseButton::None || pressed_ == MouseButton::None) return !PassesMouse();
     pressed_ = MouseButton::None;

@@ -1,4 +1,4 @@
-// A control on the screen: the widget that shows it, and the mouse on it. One class below this one for each kind of control.
+// What shows a control of the program.
 #pragma once
 #include <QMouseEvent>
 #include <QObject>
@@ -6,7 +6,58 @@
 #include <QWidget>
 #include <functional>
 
-#include "platform/qt/model_view.h"
+#include "platform/control.h"
+
+class ModelView;
+
+// The renderer, as far as the widgets need it.
+class UserEvents {
+public:
+    virtual void Run(const std::function<void()>& event) = 0;  // something that the user does; what it changes is on show afterwards
+    virtual bool InEvent() const = 0;                          // one is being run
+    virtual void UserActivates(Window& window) = 0;            // a window has come to the front of the screen
+    virtual void SyncLater(ModelView& view) = 0;               // it has something to show
+    virtual void TextChanged() = 0;                            // the text of a box has changed
+
+protected:
+    ~UserEvents() = default;
+};
+
+// A change of the control is only noted; the renderer has it shown when the event is over.
+class ModelView : public ControlView {
+public:
+    ModelView(Control& control, UserEvents& events) : control_(control), events_(events) { control_.BindView(this); }
+    ~ModelView() override { control_.BindView(nullptr); }
+    ModelView(const ModelView&) = delete;
+    ModelView& operator=(const ModelView&) = delete;
+
+    void Changed(Property property) override;
+    UserEvents& Events() const { return events_; }
+    void Sync();  // shows what has changed since the last time
+
+protected:
+    class Changes {
+    public:
+        static Changes All() { return Changes(~0u); }
+        Changes() = default;
+        void Add(Property property) { bits_ |= Bit(property); }
+        bool Any() const { return bits_ != 0; }
+        bool Has(Property property) const { return (bits_ & Bit(property)) != 0; }
+        bool HasOnly(Property property) const { return bits_ == Bit(property); }
+
+    private:
+        explicit Changes(unsigned bits) : bits_(bits) {}
+        static unsigned Bit(Property property) { return 1u << static_cast<unsigned>(property); }
+        unsigned bits_ = 0;
+    };
+    // Reads the control and never writes it.
+    virtual void Show(Changes changes) = 0;
+
+private:
+    Control& control_;
+    UserEvents& events_;
+    Changes changes_;
+};
 
 // The window of the screen on which controls are shown, as far as they need it.
 class ViewHost {
@@ -20,6 +71,7 @@ protected:
     ~ViewHost() = default;
 };
 
+// A control on the screen: the widget that shows it, and the mouse on it. One class below this one for each kind of control.
 class ControlWidget : public QObject, public ModelView {
 public:
     Control& control() const { return control_; }
@@ -30,7 +82,7 @@ public:
     virtual QWidget* MouseWidget() { return widget_; }              // the part of it that the mouse meets
     virtual QPointF PlaceOf(double x, double y) const;              // in the widget, of a place as the mouse events tell it
     // A key that the program has seen and not used up, while the control has the focus. true: the control used it.
-    virtual bool TakeKey(QKeyEvent& /*key*/) { return false; }
+    virtual bool UseKey(QKeyEvent& /*key*/) { return false; }
     void Rescale() { Apply(Changes::All()); }
 
 protected:
@@ -60,11 +112,11 @@ private:
     void Apply(Changes changes);  // what all kinds have in common
     void TellReaders(Changes changes);
     void TellNamesOfOthers() const;  // of the controls that are called after this one
-    bool TakePress(const QMouseEvent& event, QPointF at);
-    bool TakeMove(const QMouseEvent& event, QPointF at);
+    bool TellPress(const QMouseEvent& event, QPointF at);
+    bool TellMove(const QMouseEvent& event, QPointF at);
     bool LeavesWith(const QMouseEvent& event, QPointF at) const;
     void MoveElsewhere(QPointF at);
-    bool TakeRelease(const QMouseEvent& event, QPointF at);
+    bool TellRelease(const QMouseEvent& event, QPointF at);
 
     Control& control_;
     ViewHost& window_;

@@ -1,15 +1,30 @@
 #include "platform/qt/desktop.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPixmap>
 
 #include "events/program.h"
 #include "platform/qt/accessible.h"
-#include "platform/qt/desktop_services.h"
 #include "platform/qt/key_filter.h"
-#include "platform/qt/look.h"
 #include "platform/qt/qt_host.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/window_system.h"
+#include "platform/qt/window_widget.h"
+
+void QtClipboard::PutImage(const PictureBox& picture) {
+    renderer_.Sync();  // the picture is to be as it stands now, in the middle of the event
+    WindowWidget* const window = renderer_.WidgetOf(*picture.window);
+    QWidget* const shown = window ? window->WidgetOf(picture) : nullptr;
+    if (shown) QGuiApplication::clipboard()->setPixmap(shown->grab());
+}
+
+void QtPopups::Open(MenuItem& menu) {
+    renderer_.OpenPopupAfterEvent(menu);
+}
+
+// ---- The run ----
 
 namespace {
 // Under Wayland the toolkit asks for its window to be activated whenever the focus moves inside it. The desktop answers later, and the

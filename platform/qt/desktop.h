@@ -1,4 +1,57 @@
+// The program on the desktop: the services that it has there, and its run.
 #pragma once
+#include <QDateTime>
+
+#include "platform/qt/look.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_files.h"
+#include "platform/qt/qt_keyboard.h"
+#include "platform/qt/qt_sounds.h"
+#include "platform/services.h"
+
+class Renderer;
+
+class QtClock : public Clock {
+public:
+    std::string DateText() override { return FromQt(QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy"))); }
+    std::string TimeText() override { return FromQt(QTime::currentTime().toString(QStringLiteral("HH:mm:ss"))); }
+};
+
+class QtClipboard : public Clipboard {
+public:
+    explicit QtClipboard(Renderer& renderer) : renderer_(renderer) {}
+    void PutImage(const PictureBox& picture) override;
+
+private:
+    Renderer& renderer_;
+};
+
+// A popup opens under the mouse when the event that asks for it is over.
+class QtPopups : public Popups {
+public:
+    explicit QtPopups(Renderer& renderer) : renderer_(renderer) {}
+    void Open(MenuItem& menu) override;
+
+private:
+    Renderer& renderer_;
+};
+
+// All of them together.
+struct DesktopServices {
+    QtMessageBoxes messages;
+    QtFileDialogs dialogs;
+    QtSounds sounds;
+    QtClock clock;
+    QtClipboard clipboard;
+    QtPopups popups;
+    QtFiles files;
+    QtKeyboard keyboard;
+
+    // Puts them all into `services`, with `host`; they must live as long as the program uses them.
+    DesktopServices(ProgramHost& host, Renderer& renderer) : messages(renderer), dialogs(renderer), clipboard(renderer), popups(renderer) {
+        services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host, &keyboard};
+    }
+};
 
 // The program on the desktop: its windows, sounds and files, until the user ends it. Returns the exit status of the process.
 int RunDesktop(int argc, char** argv);

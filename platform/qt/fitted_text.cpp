@@ -8,7 +8,7 @@ constexpr double kLittleLess = 0.85;  // of the font, before lines are broken wh
 constexpr double kLeast = 0.7;        // of the font, before they are broken where there is not
 constexpr double kSmall = 0.55;       // of the font, before words are
 constexpr int kNarrow[] = {85, 70};   // percent of their width, for letters that would else be too small
-constexpr int kSmallestPixels = 6;    // nobody reads less
+constexpr int kSmallestPixels = 6;    // smaller letters cannot be read
 constexpr int kBeyondAnyLine = 500;   // characters
 constexpr double kTight = 0.9;        // several lines stand closer than single ones where they must
 
@@ -112,7 +112,7 @@ FittedText::Layout FittedText::Fit(const Question& question) {
     const auto part = [full](double of_full) { return std::max(std::min(full, kSmallestPixels), static_cast<int>(full * of_full)); };
     const double line = Pitch(QFontMetricsF(question.font), 2);
     const bool has_room_for_two = question.most_lines > 1 && 2 * line <= question.room.height();
-    const bool is_for_reading = question.most_lines > 2 && 3 * line <= question.room.height();  // a note: rather cut than tiny
+    const bool is_for_reading = question.most_lines > 2 && 3 * line <= question.room.height();  // a note is cut before it gets tiny
     Layout layout;
     if (FitLines(question, full, part(has_room_for_two ? kLittleLess : kLeast), Break::Never, layout) ||
         FitLines(question, full, part(kLeast), Break::BetweenWords, layout) ||

@@ -9,7 +9,7 @@
 #include "platform/controls.h"
 #include "platform/focus_walk.h"
 #include "platform/key_codes.h"
-#include "platform/qt/combo_box_view.h"
+#include "platform/qt/box_views.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/menu_view.h"
 #include "platform/qt/renderer.h"
@@ -122,7 +122,7 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     if (QApplication::activeModalWidget()) return IsAnswer(key) && IsRepeat(key);
     auto* const top = static_cast<QWidget*>(watched)->window();
     const bool is_popup = top->windowType() == Qt::Popup;
-    if (is_popup && top->isVisible()) return TakeInPopup(*top, key);
+    if (is_popup && top->isVisible()) return HearInPopup(*top, key);
     auto* const widget = dynamic_cast<WindowWidget*>(top);
     if (!widget && !is_popup) return !top->isVisible() && KeepLate(key);
     key.accept();
@@ -134,7 +134,7 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
 
 // An open menu has the keyboard, but what is released then has been pressed before. A list that is open has only the keys that move in
 // it: any other closes it, so that none is lost to a list left open.
-bool KeyFilter::TakeInPopup(QWidget& popup, QKeyEvent& key) {
+bool KeyFilter::HearInPopup(QWidget& popup, QKeyEvent& key) {
     if (key.type() == QEvent::KeyRelease) Release(key);
     auto* const list = dynamic_cast<ComboList*>(&popup);
     if (!list || ComboList::IsNavigation(key.key())) return false;
@@ -171,10 +171,10 @@ bool KeyFilter::OpensMenu(const QKeyEvent& key) {
 void KeyFilter::Press(QKeyEvent& key) {
     const Control* const focus = ActiveWindow() ? ActiveWindow()->Focus() : nullptr;
     if (IsRepeat(key) && focus && TakesKeysAsInput(*focus)) return;
-    if (!OpensMenu(key)) TakePress(key);
+    if (!OpensMenu(key)) Dispatch(key);
 }
 
-void KeyFilter::TakePress(QKeyEvent& key) {
+void KeyFilter::Dispatch(QKeyEvent& key) {
     Window* const window = ActiveWindow();
     Control* const focus = window ? window->Focus() : nullptr;
     const int text_changes = renderer_.TextChanges();
@@ -198,6 +198,6 @@ void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
     if (!TakesText(focus) && focus.window->key_preview) return;
     if (!IsRepeat(key) && PressFocused(renderer_, focus, key)) return;
     passing_ = true;
-    if (ControlWidget* const widget = renderer_.WidgetOf(*focus.window)->Find(focus)) widget->TakeKey(key);
+    if (ControlWidget* const widget = renderer_.WidgetOf(*focus.window)->Find(focus)) widget->UseKey(key);
     passing_ = false;
 }

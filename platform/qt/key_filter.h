@@ -21,11 +21,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool TakeInPopup(QWidget& popup, QKeyEvent& key);
+    bool HearInPopup(QWidget& popup, QKeyEvent& key);
     bool KeepLate(QKeyEvent& key);
     void HearLate();
     void Press(QKeyEvent& key);
-    void TakePress(QKeyEvent& key);
+    void Dispatch(QKeyEvent& key);
     void Release(const QKeyEvent& key);
     bool OpensMenu(const QKeyEvent& key);
     void Finish(QKeyEvent& key, Control& focus);

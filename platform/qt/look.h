@@ -1,7 +1,10 @@
-// How everything looks: one palette, whatever the desktop's own, so that words stand out from their ground in a dark theme too.
+// How everything looks: one palette, whatever the desktop's own, so that words stand out from their ground in a dark theme too. And how
+// large the windows of the program come up.
 #pragma once
 #include <QColor>
 #include <QFont>
+#include <QRect>
+#include <QSize>
 #include <QString>
 #include <string>
 
@@ -10,6 +13,7 @@
 class QApplication;
 class QPainter;
 class QRectF;
+class QScreen;
 
 constexpr QColor kAccent{0x1c, 0x6e, 0x8c};   // what is chosen, pressed, in focus
 constexpr QColor kOutline{0xb4, 0xbc, 0xc4};  // around boxes, buttons and frames
@@ -31,3 +35,12 @@ QFont PlainFont(double factor);  // of menus, message boxes and file dialogs
 
 QColor BoxGround(const Properties& control);  // of a text box: light grey instead of white while it is disabled
 void PaintOutline(QPainter& painter, const QRectF& box, const QColor& colour, double width, double radius);
+
+// The pixels a twip with which the window that takes the counter keys (without one: the largest) comfortably fills the screen, frame
+// and menu bar included. All windows come up with it, so that letters are of one size everywhere.
+double CommonFactor(const QScreen& screen);
+
+// No larger than `wanted`, and such that a window of so many twips fits the room, in pixels, that its frame leaves on the screen.
+double FactorThatFits(QSize room, QSize twips, double wanted);
+
+QRect Scaled(const Box& box, double factor);  // two controls that touch in twips touch in pixels

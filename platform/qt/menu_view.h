@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/qt/model_view.h"
+#include "platform/qt/control_widget.h"
 #include "platform/window.h"
 
 class MenuItemView;

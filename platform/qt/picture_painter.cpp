@@ -20,7 +20,7 @@ double Thickness(const PictureScale& scale) {
     return std::max(1.0, std::round(scale.pixel));
 }
 
-// The library's own question allows for rectangles turned inside out, and took a quarter of the time of a repaint.
+// QRectF::intersects allows for rectangles of negative size, and took a quarter of the time of a repaint.
 bool Meets(const QRectF& reach, const QRect& part) {
     return reach.left() <= part.right() + 1 && reach.right() >= part.left() && reach.top() <= part.bottom() + 1 &&
            reach.bottom() >= part.top();

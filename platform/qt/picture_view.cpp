@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "platform/qt/look.h"
-#include "platform/qt/picture_file.h"
 #include "platform/qt/picture_painter.h"
+#include "platform/qt/qt_files.h"
 #include "platform/qt/views.h"
 #include "platform/services.h"
 

@@ -16,7 +16,6 @@
 #include "platform/qt/look.h"
 #include "platform/qt/qt_files.h"
 #include "platform/qt/renderer.h"
-#include "platform/qt/scaling.h"
 #include "platform/qt/window_widget.h"
 
 BoxOpens::BoxOpens(Renderer& renderer) {

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "platform/qt/pointer.h"
+#include "platform/qt/mouse.h"
 #include "platform/services.h"
 
 class Renderer;

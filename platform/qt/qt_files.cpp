@@ -1,7 +1,9 @@
 #include "platform/qt/qt_files.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
+#include <QImageReader>
 
 #include "platform/failure.h"
 #include "platform/qt/look.h"
@@ -66,4 +68,22 @@ std::string QtFiles::ReadAll(const std::string& path) {
 
 std::unique_ptr<OutputFile> QtFiles::OpenForWriting(const std::string& path) {
     return std::make_unique<QtOutputFile>(SystemPath(path));
+}
+
+// ---- Pictures ----
+
+namespace {
+QByteArray View(const std::string& bytes) {
+    return QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size()));
+}
+}  // namespace
+
+bool IsPicture(const std::string& bytes) {
+    QByteArray view = View(bytes);
+    QBuffer buffer(&view);
+    return QImageReader(&buffer).size().isValid();
+}
+
+QImage ReadPicture(const std::string& bytes) {
+    return QImage::fromData(View(bytes));
 }

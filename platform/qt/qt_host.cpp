@@ -13,10 +13,10 @@
 #include <QTemporaryFile>
 
 #include "platform/qt/look.h"
-#include "platform/qt/picture_file.h"
+#include "platform/qt/qt_files.h"
 
 namespace {
-// What is no part of the program's own talk.
+// A message of the host itself: no procedure of the program asks for it.
 void Show(MessageBoxes& messages, const std::string& text) {
     messages.Show({"Marlbrook", text, Icon::Exclamation, Buttons::Ok});
 }

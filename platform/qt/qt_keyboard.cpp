@@ -74,7 +74,7 @@ struct WaylandKeyboard {
     std::string keymap;  // as text; empty: none was sent
 };
 
-void TakeKeymap(void* data, wl_keyboard*, std::uint32_t format, std::int32_t file, std::uint32_t size) {
+void ReadKeymap(void* data, wl_keyboard*, std::uint32_t format, std::int32_t file, std::uint32_t size) {
     void* const bytes = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
     if (bytes != MAP_FAILED && format == WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1)
         static_cast<WaylandKeyboard*>(data)->keymap = static_cast<char*>(bytes);
@@ -83,7 +83,7 @@ void TakeKeymap(void* data, wl_keyboard*, std::uint32_t format, std::int32_t fil
 }
 
 constexpr wl_keyboard_listener kKeyboardListener = {
-    TakeKeymap,
+    ReadKeymap,
     [](void*, wl_keyboard*, std::uint32_t, wl_surface*, wl_array*) {},
     [](void*, wl_keyboard*, std::uint32_t, wl_surface*) {},
     [](void*, wl_keyboard*, std::uint32_t, std::uint32_t, std::uint32_t, std::uint32_t) {},
@@ -91,23 +91,23 @@ constexpr wl_keyboard_listener kKeyboardListener = {
     [](void*, wl_keyboard*, std::int32_t, std::int32_t) {},
 };
 
-void TakeCapabilities(void* data, wl_seat* seat, std::uint32_t capabilities) {
+void FindKeyboard(void* data, wl_seat* seat, std::uint32_t capabilities) {
     auto& wanted = *static_cast<WaylandKeyboard*>(data);
     if (!(capabilities & WL_SEAT_CAPABILITY_KEYBOARD) || wanted.keyboard) return;
     wanted.keyboard = wl_seat_get_keyboard(seat);
     wl_keyboard_add_listener(wanted.keyboard, &kKeyboardListener, data);
 }
 
-constexpr wl_seat_listener kSeatListener = {TakeCapabilities, [](void*, wl_seat*, const char*) {}};
+constexpr wl_seat_listener kSeatListener = {FindKeyboard, [](void*, wl_seat*, const char*) {}};
 
-void TakeGlobal(void* data, wl_registry* registry, std::uint32_t name, const char* interface, std::uint32_t) {
+void FindSeat(void* data, wl_registry* registry, std::uint32_t name, const char* interface, std::uint32_t) {
     auto& wanted = *static_cast<WaylandKeyboard*>(data);
     if (wanted.seat || std::strcmp(interface, wl_seat_interface.name) != 0) return;
     wanted.seat = static_cast<wl_seat*>(wl_registry_bind(registry, name, &wl_seat_interface, 1));
     wl_seat_add_listener(wanted.seat, &kSeatListener, data);
 }
 
-constexpr wl_registry_listener kRegistryListener = {TakeGlobal, [](void*, wl_registry*, std::uint32_t) {}};
+constexpr wl_registry_listener kRegistryListener = {FindSeat, [](void*, wl_registry*, std::uint32_t) {}};
 
 std::string KeymapTextOfWayland() {
     wl_display* const display = wl_display_connect(nullptr);

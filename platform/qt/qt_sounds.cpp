@@ -22,7 +22,7 @@ bool OpenDevice() {
 
 QtSounds::QtSounds() : opening_([this] { Open(); }) {}
 
-// SDL would keep SIGTERM for itself, and the program would outlive it.
+// SDL would catch SIGTERM, and the program would not end on it.
 void QtSounds::Open() {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Marlbrook");

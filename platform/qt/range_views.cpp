@@ -33,7 +33,7 @@ private:
         slider_->setValue(range_.Value());
     }
     bool PassesMouse() const override { return CanReach(range_); }
-    bool TakeKey(QKeyEvent& key) override {
+    bool UseKey(QKeyEvent& key) override {
         QCoreApplication::sendEvent(slider_, &key);
         return key.isAccepted();
     }

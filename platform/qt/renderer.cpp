@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <utility>
 
-#include "platform/qt/pointer.h"
+#include "platform/qt/mouse.h"
 #include "platform/qt/window_widget.h"
 #include "platform/run_event.h"
 #include "platform/user.h"
@@ -20,7 +20,7 @@ Renderer::~Renderer() {
 
 void Renderer::Run(const std::function<void()>& event) {
     if (has_ended_()) return;
-    if (depth_ == 0) TakeUserSizes();
+    if (depth_ == 0) TellUserSizes();
     ++depth_;
     RunEvent(event);
     if (--depth_ > 0) return;
@@ -34,9 +34,9 @@ void Renderer::Run(const std::function<void()>& event) {
 }
 
 // The user gave them before the event: it may close such a window.
-void Renderer::TakeUserSizes() {
+void Renderer::TellUserSizes() {
     for (const auto& [window, widget] : widgets_)
-        if (widget->HasNewSize()) widget->TakeUserSize();
+        if (widget->HasNewSize()) widget->TellUserSize();
 }
 
 void Renderer::SyncLater(ModelView& view) {

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "platform/controls.h"
-#include "platform/qt/model_view.h"
+#include "platform/qt/control_widget.h"
 #include "platform/window.h"
 
 class WindowWidget;
@@ -43,7 +43,7 @@ public:
 
 private:
     void Changed(Window& window, WindowProperty property) override;
-    void TakeUserSizes();
+    void TellUserSizes();
     void SyncWindows();
     void ShowWindow(Window& window, WindowWidget& widget);
     void BringToFront();

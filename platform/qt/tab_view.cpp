@@ -68,7 +68,7 @@ private:
         ControlWidget::Press(mouse, at);
     }
 
-    bool TakeKey(QKeyEvent& key) override {
+    bool UseKey(QKeyEvent& key) override {
         const int step = key.key() == Qt::Key_Right ? 1 : key.key() == Qt::Key_Left ? -1 : 0;
         const int next = tabs_.Tab() + step;
         if (step == 0 || next < 0 || next >= static_cast<int>(tabs_.TabCaptions().size())) return false;

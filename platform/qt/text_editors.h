@@ -4,11 +4,20 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPlainTextEdit>
+#include <QString>
 #include <QWidget>
+#include <string>
 
 #include "platform/controls.h"
+#include "platform/qt/control_widget.h"
 #include "platform/qt/fitted_text.h"
-#include "platform/qt/model_view.h"
+
+// Texts and carets between the program and the widgets. The program counts characters and breaks lines with CR LF, two characters;
+// a widget counts UTF-16 units and breaks lines with one LF.
+QString Shown(const std::string& text);                // a program's text as a widget holds it
+std::string Unshown(const QString& shown);             // and back
+int CharactersBefore(const QString& shown, int unit);  // the program's count of what stands before a widget's place
+int UnitAfter(const QString& shown, int characters);   // the widget's place behind so many of the program's characters
 
 // The user has changed the text: the program hears it as a whole, with the caret (in units of `shown`). The view shows what became of it.
 void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret);
@@ -50,7 +59,7 @@ private:
 };
 
 // The editor of several lines in a text box; like TextLine, it paints its text itself while it does not hold the keyboard.
-// A line ends between words, save where the text holds a word that nobody would write: then it may end anywhere.
+// A line ends between words, unless the text holds a word too long to be laid out in time: then it may end anywhere.
 class TextArea : public QPlainTextEdit {
 public:
     TextArea(QWidget* parent, TextBox& box, ModelView& view);

@@ -1,4 +1,5 @@
-// One view for each kind of control.
+// One view for each kind of control. Here are the plain ones: labels, frames, progress bars, and the status bar, which shows nothing but
+// its edge.
 #pragma once
 #include <memory>
 

@@ -53,7 +53,7 @@ constexpr Place kPlaces[] = {
     {35, 0x1e, 221},   // ]
     {48, 0x27, 222},   // '
     {94, 0x0a, 226},   // < > beside the left Shift
-    {97, 0x5e, 225},   // the key more in the lower row of Japanese and Brazilian boards
+    {97, 0x5e, 225},   // the extra key in the lower row of Japanese and Brazilian boards
     {132, 0x5d, 227},  // yen
 };
 

@@ -11,8 +11,6 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
-#include "platform/qt/scaling.h"
-#include "platform/qt/veil.h"
 #include "platform/qt/views.h"
 #include "platform/qt/window_system.h"
 #include "platform/user.h"
@@ -20,13 +18,33 @@
 namespace {
 constexpr double kSmallest = 0.4;  // of the size that a window comes up with
 constexpr QSize kSmallestOfUser{240, 160};
-constexpr int kTitleBar = 30;          // about, before the desktop has made it
+constexpr int kTitleBar = 30;          // an estimate until the desktop has made it
 constexpr int kWaitForFrontMs = 1000;  // a desktop that has not brought a window to the front by then never will
 
 QSize Pixels(QSize twips, double factor) {
     return Scaled({0, 0, twips.width(), twips.height()}, factor).size();
 }
 }  // namespace
+
+// Lies over a window that takes no input: its words stay readable, it is plainly not the one to work in, and no mouse gets through. A
+// press brings up the window that waits for an answer.
+class Veil : public QWidget {
+public:
+    Veil(QWidget* parent, Window& window, UserEvents& events) : QWidget(parent), window_(window), events_(events) { hide(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QColor mist = ToQt(kFormColour);
+        mist.setAlpha(120);
+        QPainter(this).fillRect(rect(), mist);
+    }
+    void showEvent(QShowEvent*) override { raise(); }
+    void mousePressEvent(QMouseEvent*) override { events_.UserActivates(window_); }
+
+private:
+    Window& window_;
+    UserEvents& events_;
+};
 
 WindowWidget::WindowWidget(Window& window, UserEvents& events)
     : window_(window), events_(events), frame_(0, kTitleBar, 0, 0), ground_(new QWidget(this)), veil_(new Veil(this, window, events)) {
@@ -35,7 +53,7 @@ WindowWidget::WindowWidget(Window& window, UserEvents& events)
     ground_->setMouseTracking(true);
     ground_->installEventFilter(this);
     resize_soon_.setSingleShot(true);
-    connect(&resize_soon_, &QTimer::timeout, this, &WindowWidget::TakeUserSize);
+    connect(&resize_soon_, &QTimer::timeout, this, &WindowWidget::TellUserSize);
     waits_.setSingleShot(true);
     connect(&waits_, &QTimer::timeout, this, &WindowWidget::GiveUpWaiting);
     for (Control* control : window_.Controls()) Build(*control);
@@ -173,7 +191,7 @@ void WindowWidget::NoteUserSize() {
     if (window_.resizable && isVisible() && Client().size() != ClientSize(factor_)) resize_soon_.start(0);
 }
 
-void WindowWidget::TakeUserSize() {
+void WindowWidget::TellUserSize() {
     resize_soon_.stop();
     const QSize client = Client().size();
     const auto twips = [this](int pixels) { return static_cast<int>(std::lround(pixels / factor_)); };

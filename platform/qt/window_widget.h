@@ -40,7 +40,7 @@ public:
     bool StopsWaiting();                                      // true: it did wait
     void OpenPopup(MenuItem& menu);
     bool HasNewSize() const { return resize_soon_.isActive(); }  // the program has not been told of it
-    void TakeUserSize();                                         // the user has made the window as large as it is now
+    void TellUserSize();                                         // to the program: the window is as large as its user has made it
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,7 +61,7 @@ private:
     void ChooseSize();
     void NoteUserSize();
     void Fit();      // the factor and all places, after a change of size
-    void Enlarge();  // what lies in it, to what fills it
+    void Enlarge();  // what lies in it, as far as there is room
     double FactorThatFills(QSize client) const;
     void LayOut();
     void PlaceAbove(const WindowWidget* below);
@@ -76,7 +76,7 @@ private:
     bool sized_ = false;      // it has a size of its own
     bool shown_ = false;      // it has been on the screen
     bool maximized_ = false;  // when it was put away
-    QMargins frame_;          // what the desktop puts around it; before it has done so, about that
+    QMargins frame_;          // what the desktop puts around it; an estimate until it has done so
     QWidget* ground_;
     Veil* veil_;  // over a window that takes no input
     std::unique_ptr<MenuView> menus_;

@@ -11,8 +11,7 @@
 #include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/program_test.h"
-#include "windows/initial_window.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 
 namespace {

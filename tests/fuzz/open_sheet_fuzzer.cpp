@@ -19,7 +19,7 @@
 #include "session/state/sheet_state.h"
 #include "unit/memory_files.h"
 #include "windows/main_window.h"
-#include "windows/site_name_window.h"
+#include "windows/name_windows.h"
 
 namespace {
 constexpr const char* kSheet = "/sheets/any.csv";

@@ -3,7 +3,7 @@
 #include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 

@@ -5,7 +5,7 @@
 
 #include "platform/user.h"
 #include "unit/sheet_test.h"
-#include "windows/about_windows.h"
+#include "windows/information_windows.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -5,8 +5,7 @@
 #include "platform/user.h"
 #include "session/leaving.h"
 #include "unit/sheet_test.h"
-#include "windows/initial_window.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 
 namespace {

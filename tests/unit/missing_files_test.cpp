@@ -2,7 +2,7 @@
 #include "platform/user.h"
 #include "session/start_up.h"
 #include "unit/sheet_test.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 

@@ -5,8 +5,8 @@
 #include "unit/open_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/site_name_window.h"
 
 namespace {
 class NewSheetTest : public OpenTest {

@@ -4,7 +4,7 @@
 #include "files/save_sheet.h"
 #include "unit/open_test.h"
 #include "windows/main_window.h"
-#include "windows/site_name_window.h"
+#include "windows/name_windows.h"
 
 namespace {
 class OpenFailureTest : public OpenTest {

@@ -5,8 +5,8 @@
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/para_name_window.h"
 
 namespace {
 class ParamNamesTest : public SheetTest {

@@ -10,7 +10,7 @@
 #include "platform/user.h"
 #include "unit/open_test.h"
 #include "windows/main_window.h"
-#include "windows/site_name_window.h"
+#include "windows/name_windows.h"
 
 namespace {
 constexpr unsigned kSeeds = 60;

@@ -4,7 +4,7 @@
 
 #include "platform/user.h"
 #include "unit/sheet_test.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 

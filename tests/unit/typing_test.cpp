@@ -7,12 +7,10 @@
 #include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
-#include "windows/initial_window.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/para_name_window.h"
-#include "windows/site_name_window.h"
 #include "windows/subtotal_window.h"
 
 namespace {

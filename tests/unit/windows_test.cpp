@@ -7,6 +7,7 @@
 #include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
+#include "windows/diagram_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 #include "windows/picture_window.h"
@@ -139,6 +140,17 @@ protected:
                      [](const Window* window) { return window->name.starts_with("frm"); });
         return windows;
     }
+
+    // Of each control in each window: whether it can be seen and used, and its text.
+    static Texts Shown() {
+        Texts shown;
+        for (const Window* window : Windows())
+            for (const Control* control : window->Controls()) {
+                const Properties& now = control->State();
+                shown.push_back(NameOf(*control) + " " + std::to_string(now.visible) + std::to_string(now.enabled) + " " + now.text);
+            }
+        return shown;
+    }
 };
 
 TEST_F(WindowsTest, EveryControlLiesInsideItsContainer) {
@@ -197,6 +209,16 @@ TEST_F(WindowsTest, EveryMenuItemIsJoined) {
             EXPECT_TRUE(control->Click.IsJoined()) << NameOf(*control);
         }
     EXPECT_GT(items, 150);
+}
+
+TEST_F(WindowsTest, TheEmptyProceduresChangeNothing) {
+    Begin("10");
+    KeyNumber(1);
+    const Texts before = Shown();
+    frmMain.Amend();
+    frmDiagram.SaveEOF();
+    frmDiagram.SaveAllEOF();
+    EXPECT_EQ(Shown(), before);
 }
 
 TEST_F(WindowsTest, TabGoesThroughADialogAsItIsReadAndTheSameWayBack) {

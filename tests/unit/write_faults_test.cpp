@@ -22,8 +22,7 @@
 #include "session/start_up.h"
 #include "unit/sheet_test.h"
 #include "windows/diagram_window.h"
-#include "windows/initial_window.h"
-#include "windows/key_code_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 
 namespace {

@@ -14,10 +14,10 @@
 #include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/diagram_window.h"
-#include "windows/initial_window.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/para_name_window.h"
 
 namespace {
 constexpr quint32 kPlaceOfQ = 24;

@@ -9,7 +9,6 @@
 #include "session/state/sheet_state.h"
 #include "unit/sheet_file.h"
 #include "unit_qt/on_screen_test.h"
-#include "windows/busy.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"

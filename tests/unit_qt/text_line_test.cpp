@@ -4,13 +4,13 @@
 #include <QMouseEvent>
 
 #include "platform/qt/key_filter.h"
-#include "platform/qt/made_mouse.h"
+#include "platform/qt/mouse.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 #include "windows/next_window.h"
-#include "windows/para_name_window.h"
 #include "windows/subtotal_window.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/qt/text_places.h"
+#include "platform/qt/text_editors.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,8 @@
 #include <QScreen>
 
 #include "diagram/open_diagram.h"
+#include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
-#include "platform/qt/scaling.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"

@@ -1,4 +1,5 @@
-// frmAboutMB1 tells of the program, frmAboutDX1 of the keypad that it was made for.
+// Windows that only tell something: frmAboutMB1 of the program, frmAboutDX1 of the keypad that it was made for, frmNote what to know before
+// one chooses shift keys.
 #pragma once
 #include "platform/controls.h"
 #include "platform/picture_box.h"
@@ -30,3 +31,16 @@ struct AboutKeypadWindow : Window {
 
 extern AboutProgramWindow frmAboutMB1;
 extern AboutKeypadWindow frmAboutDX1;
+
+constexpr int kNotes = 4;
+
+struct NoteWindow : Window {
+    NoteWindow();
+
+    Label Label1;
+    TextBox Text1[kNotes];  // to be read only: disabled, in the colour of the window
+    Button Command1;
+    Button& OkButton = Command1;
+};
+
+extern NoteWindow frmNote;

@@ -1,8 +1,11 @@
-// Text boxes and the editor in a combo box, as a screen reader finds them. One that holds a number has it as its value: a reader that
-// listens hears each count. Offsets are in the units of the widget, as the toolkit has them.
+// Text boxes and combo boxes as a screen reader finds them: their editors, the list of a combo box and its lines.
 #pragma once
+#include <QHash>
+
 #include "platform/qt/accessible_control.h"
 
+// A text box, or the editor in a combo box. One that holds a number has it as its value: a reader that listens hears each count. Offsets
+// are in the units of the widget, as the toolkit has them.
 class AccessibleText : public AccessibleControl,
                        public QAccessibleTextInterface,
                        public QAccessibleEditableTextInterface,
@@ -46,4 +49,41 @@ protected:
 
 private:
     TextHolder& box_;
+};
+
+class ComboBoxView;
+class ComboList;
+
+// A combo box. Its list is there from its first opening on.
+class AccessibleComboBox : public AccessibleControl {
+public:
+    AccessibleComboBox(ComboBox& box, QWidget& field, WindowWidget& window) : AccessibleControl(box, field, window), box_(box) {}
+
+    QAccessible::State state() const override;
+    void doAction(const QString& action) override;
+
+protected:
+    QList<QAccessibleInterface*> Children() const override;  // the editor, the list
+    QString ValueText() const override;
+
+private:
+    ComboBoxView& View() const;
+
+    ComboBox& box_;
+};
+
+class AccessibleList : public QAccessibleWidget {
+public:
+    AccessibleList(ComboList& list, WindowWidget& window);
+    ~AccessibleList() override;
+
+    int childCount() const override;
+    QAccessibleInterface* child(int row) const override;  // made when it is first asked for: there may be ten thousand
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QString text(QAccessible::Text kind) const override;
+
+private:
+    ComboList& list_;
+    WindowWidget& window_;
+    mutable QHash<int, QAccessible::Id> lines_;  // [row]
 };

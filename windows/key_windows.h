@@ -1,3 +1,5 @@
+// The windows of the keys. frmInitial learns what the twelve named keys of this keyboard send.
+//
 // frmKeyCode: which key of the keyboard each counter key and each functional key is, and where the counter keys lie on the pad. Three
 // maps of the pad, one a tab: what each key shows, its code, and the number of the key that lies at each place.
 //
@@ -11,6 +13,30 @@
 #include "platform/controls.h"
 #include "platform/window.h"
 #include "sheet/sizes.h"
+
+constexpr int kNamedKeys = 12;
+constexpr int kWelcomeLabels = 7;
+
+struct InitialWindow : Window {
+    InitialWindow();
+
+    Label Label1[kWelcomeLabels];  // the words of welcome
+    Label Label2[2];               // heads of the two columns
+    Label Label4[kNamedKeys];
+    Label (&KeyNames)[kNamedKeys] = Label4;
+    TextBox Text1[kNamedKeys];
+    TextBox (&KeyCodes)[kNamedKeys] = Text1;
+    Button Command1;
+    Button& OkButton = Command1;
+
+    float AllKnown = 0;  // 1: the keyboard was known when the window came up
+
+private:
+    void LayKey(int key);
+    void ForgetMembers() override { AllKnown = 0; }
+};
+
+extern InitialWindow frmInitial;
 
 constexpr int kMapRows = 50;        // rows of the key settings that the maps show
 constexpr int kFunctionalKeys = 4;  // Shift-1, Shift-2, Undo, Save

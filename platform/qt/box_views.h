@@ -1,4 +1,4 @@
-// A combo box on the screen, and the list that drops down from it.
+// Text boxes and combo boxes on the screen, and the list that drops down from a combo box.
 #pragma once
 #include <QListView>
 #include <functional>
@@ -38,7 +38,7 @@ public:
 
     QWidget* FocusWidget() override { return line_; }
     QWidget* MouseWidget() override { return line_; }
-    bool TakeKey(QKeyEvent& key) override;  // the arrow keys up and down and F4 open the list, all else is typed
+    bool UseKey(QKeyEvent& key) override;  // the arrow keys up and down and F4 open the list, all else is typed
     ComboList& OpenList();
     ComboList* List() const { return list_; }  // nullptr: it has never been open
 
