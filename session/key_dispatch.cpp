@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "keys/settings/built_in_keys.h"
+#include "keys/settings/key_settings.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/alarm.h"
