@@ -8,7 +8,6 @@
 #include "keys/settings/key_settings.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/alarm.h"
 #include "session/changed_mark.h"
 #include "session/highlight.h"
 #include "session/history.h"

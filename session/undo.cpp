@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "platform/number.h"
-#include "session/alarm.h"
 #include "session/highlight.h"
 #include "session/history.h"
 #include "session/sample_on_show.h"
