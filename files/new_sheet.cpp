@@ -10,7 +10,6 @@
 #include "session/leaving.h"
 #include "session/modify_mode.h"
 #include "session/sound.h"
-#include "session/stamps.h"
 #include "session/start_up.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"

@@ -13,7 +13,6 @@
 #include "session/history.h"
 #include "session/sample_on_show.h"
 #include "session/snapshot.h"
-#include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/initial_window.h"

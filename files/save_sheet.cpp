@@ -17,7 +17,6 @@
 #include "session/history.h"
 #include "session/snapshot.h"
 #include "session/sound.h"
-#include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "windows/busy.h"
 #include "windows/main_window.h"

@@ -8,7 +8,6 @@
 #include "session/changed_mark.h"
 #include "session/history.h"
 #include "session/snapshot.h"
-#include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"
 #include "session/totals.h"
