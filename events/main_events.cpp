@@ -15,7 +15,7 @@
 #include "session/leaving.h"
 #include "session/modify_mode.h"
 #include "session/percent_display.h"
-#include "session/sample_navigation.h"
+#include "session/sample_on_show.h"
 #include "session/start_up.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
