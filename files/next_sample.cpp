@@ -12,7 +12,7 @@
 #include "session/dialog.h"
 #include "session/history.h"
 #include "session/sample_on_show.h"
-#include "session/snapshot.h"
+#include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/initial_window.h"

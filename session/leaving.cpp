@@ -1,18 +1,16 @@
 #include "session/leaving.h"
 
-#include <algorithm>
 #include <string>
 
 #include "files/format/sheet_base_name.h"
 #include "platform/failure.h"
 #include "platform/text.h"
-#include "session/changed_mark.h"
 #include "session/focus_rule.h"
 #include "session/history.h"
+#include "session/saved_state.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
-#include "session/totals.h"
 #include "windows/about_windows.h"
 #include "windows/diagram_window.h"
 #include "windows/initial_window.h"
@@ -30,24 +28,6 @@ constexpr int kForgottenUndos = 101;
 
 bool ConfirmLoss(const std::string& text) {
     return services.messages->Show({"Caution!", text, Icon::None, Buttons::YesNo, true}) == Answer::Yes;
-}
-
-void RestoreSlot(int slot) {
-    frmMain.TaxonCounts[slot].SetBold(false);
-    frmMain.TaxonNames[slot].SetBold(false);
-    const int samples = std::min<int>(SampleCount, static_cast<int>(CountsAtOpen.size()) - 1);
-    if (CurrentSample <= samples) ShowCountOf(slot, CountsAtOpen[CurrentSample][slot]);
-    frmMain.TaxonNames[slot].SetText(TaxonTableAtOpen[slot][4].Text());
-    for (int field = 1; field <= 4; ++field) TaxonTable[slot][field] = TaxonTableAtOpen[slot][field];
-    for (int sample = 1; sample <= samples; ++sample) Counts[slot][sample] = CountsAtOpen[sample][slot];
-}
-
-void RestoreParams() {
-    for (int p = 1; p <= kParams; ++p) {
-        const std::string value = ParamValuesAtOpen[p][CurrentSample].Text();
-        frmMain.ParamBoxes[p].SetText(value.empty() ? kEmpty : value);
-        frmMain.ParamNames[p].SetCaption(ParamValuesAtOpen[p][0].Text());
-    }
 }
 
 std::string ClosingQuestion() {
@@ -75,12 +55,6 @@ void AskAndEnd() {
     services.host->End();
 }
 }  // namespace
-
-void RestoreSheet() {
-    for (int slot = 1; slot <= kSlots; ++slot) RestoreSlot(slot);
-    RestoreParams();
-    RecountTotals(CurrentSample);
-}
 
 void AbortCount() {
     PlayIfOn(WaveError);

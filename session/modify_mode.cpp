@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "session/changed_mark.h"
 #include "session/history.h"
 #include "session/italics.h"
+#include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
