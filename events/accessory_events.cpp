@@ -1,6 +1,6 @@
 #include "accessories/rest_pictures.h"
 #include "events/join.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "windows/about_windows.h"
 #include "windows/note_window.h"
 #include "windows/picture_window.h"

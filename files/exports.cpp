@@ -5,7 +5,7 @@
 #include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "session/export.h"
-#include "session/focus_rule.h"
+#include "session/focus.h"
 #include "session/history.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"

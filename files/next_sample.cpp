@@ -9,7 +9,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "session/history.h"
 #include "session/sample_on_show.h"
 #include "session/saved_state.h"

@@ -14,7 +14,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "session/history.h"
 #include "session/italics.h"
 #include "session/leaving.h"

@@ -12,7 +12,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/focus_rule.h"
+#include "session/focus.h"
 #include "session/history.h"
 #include "session/saved_state.h"
 #include "session/sound.h"

@@ -6,7 +6,7 @@
 #include "platform/key_codes.h"
 #include "platform/services.h"
 #include "platform/text.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
 #include "taxa/edit_boxes.h"

@@ -5,7 +5,7 @@
 #include "files/format/sheet_base_name.h"
 #include "platform/failure.h"
 #include "platform/text.h"
-#include "session/focus_rule.h"
+#include "session/focus.h"
 #include "session/history.h"
 #include "session/saved_state.h"
 #include "session/sound.h"

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "keys/settings/key_settings.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"

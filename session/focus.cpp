@@ -1,4 +1,4 @@
-#include "session/focus_rule.h"
+#include "session/focus.h"
 
 #include "platform/services.h"
 #include "session/state/sheet_state.h"
@@ -6,7 +6,7 @@
 
 namespace {
 int held_tab = 0;
-}
+}  // namespace
 
 void ReturnFocus() {
     if (!AmendMode) frmMain.FocusRest.SetFocus();
@@ -36,4 +36,19 @@ void HoldTab() {
 void ReturnTab() {
     if (!AmendMode) frmMain.BankTabs.SetTab(held_tab);
     frmMain.FocusRest.SetFocus();
+}
+
+void OpenDialog(Window& dialog) {
+    frmMain.SetEnabled(false);
+    dialog.Show();
+}
+
+void CloseDialog(Window& dialog) {
+    dialog.Unload();
+    GiveMainWindowBack();
+}
+
+void GiveMainWindowBack() {
+    frmMain.SetEnabled(true);
+    frmMain.Show();
 }
