@@ -7,7 +7,6 @@
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "platform/user.h"
-#include "session/count_channel.h"
 #include "session/focus.h"
 #include "session/italics.h"
 #include "session/key_dispatch.h"

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "session/sample_on_show.h"
-#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 

@@ -8,7 +8,6 @@
 #include "session/history.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
-#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"

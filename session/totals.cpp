@@ -1,5 +1,6 @@
 #include "session/totals.h"
 
+#include <cmath>
 #include <string>
 
 #include "platform/number.h"
@@ -38,6 +39,17 @@ void RecountTotals(std::int16_t sample) {
     frmMain.AllTotal.SetText(NumberText(AllTotal));  // its change enables Next sample and draws the curve
     frmMain.Subtotal1.SetText(TaxonTable[0][2].Text());
     frmMain.Subtotal2.SetText(TaxonTable[0][3].Text());
+}
+
+void CountSlotInChannel() {
+    if (Length(frmMain.CountChannel.Text()) == 1) return;  // a slot is never written with one digit
+    AllTotal = 0;
+    const int step = ReverseCount ? -1 : 1;
+    const int slot = static_cast<int>(std::abs(frmMain.CountChannel.Number()));
+    if (slot >= 1 && slot <= kSlots) ShowCountOf(slot, frmMain.TaxonCounts[slot].Number() + step);
+    RecountTotals(CurrentSample);
+    frmMain.CountChannel.SetText("");  // comes back here once more with no slot, and only recounts
+    CopyCellsToCounts();
 }
 
 void TakeChangedTotal() {
@@ -87,4 +99,12 @@ void ShowZeroTotals() {
     AllTotal = 0;
     TaxonTable[0][2] = TaxonTable[0][3] = 0;
     for (TextBox& total : frmMain.Totals) total.SetText("0");
+}
+
+void ShowSubtotalNames() {
+    frmMain.Subtotal1Caption.SetCaption(SheetHeader[12].Text() + ":");
+    frmMain.Subtotal2Caption.SetCaption(SheetHeader[13].Text() + ":");
+    frmMain.mnuPercentSub1.SetCaption("% by " + SheetHeader[12].Text());
+    frmMain.mnuPercentSub2.SetCaption("% by " + SheetHeader[13].Text());
+    frmMain.mnuPercentAll.SetCaption("% by " + WithoutTrailingColon(frmMain.AllTotalCaption.Caption()));
 }

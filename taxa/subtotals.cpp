@@ -6,7 +6,6 @@
 #include "session/focus.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
-#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "taxa/quotation_guard.h"
 #include "windows/subtotal_window.h"
