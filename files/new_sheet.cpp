@@ -9,6 +9,7 @@
 #include "session/history.h"
 #include "session/leaving.h"
 #include "session/modify_mode.h"
+#include "session/pad_cells.h"
 #include "session/sound.h"
 #include "session/start_up.h"
 #include "session/state/sheet_state.h"

@@ -11,6 +11,7 @@
 #include "platform/text.h"
 #include "session/focus.h"
 #include "session/history.h"
+#include "session/pad_cells.h"
 #include "session/sample_on_show.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"

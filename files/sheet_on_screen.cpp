@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "session/pad_cells.h"
 #include "session/sample_on_show.h"
 #include "session/totals.h"
 #include "windows/main_window.h"

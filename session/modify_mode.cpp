@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "session/history.h"
-#include "session/italics.h"
+#include "session/pad_cells.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"

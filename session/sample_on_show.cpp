@@ -4,6 +4,7 @@
 #include <string>
 
 #include "session/history.h"
+#include "session/pad_cells.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"

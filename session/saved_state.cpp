@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "session/pad_cells.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"

@@ -5,6 +5,7 @@
 
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/pad_cells.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
 #include "windows/main_window.h"
@@ -14,11 +15,6 @@ void AddToTotals(int slot, double count) {
     for (const int flag : kSubtotalFlags)
         if (TaxonTable[slot][flag] == 1) TaxonTable[0][flag] = TaxonTable[0][flag].Number() + count;
     AllTotal = ToLong(AllTotal + count);  // a whole number: rounded at each addition, not once at the end
-}
-
-void ShowBold(int slot, bool bold) {
-    frmMain.TaxonCounts[slot].SetBold(bold);
-    frmMain.TaxonNames[slot].SetBold(bold);
 }
 
 // A name that was wiped out is an empty slot.
@@ -66,14 +62,6 @@ void ChooseBasis(int option) {
     BasisChosen.Raise();
 }
 
-void ShowCountOf(int slot, double count) {
-    frmMain.TaxonCounts[slot].SetText(NumberText(count));
-}
-
-void ShowCountsOfSample() {
-    for (int slot = 1; slot <= kSlots; ++slot) ShowCountOf(slot, Counts[slot][CurrentSample]);
-}
-
 void EnableDiagramItems(bool enabled) {
     for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
         style->SetEnabled(enabled);
@@ -81,18 +69,6 @@ void EnableDiagramItems(bool enabled) {
 
 void OfferDiagram() {
     if (SampleCount >= 2) EnableDiagramItems(true);
-}
-
-void EmptyCountCells() {
-    for (int slot = 0; slot <= kSlots; ++slot) {
-        ShowBold(slot, false);
-        frmMain.TaxonCounts[slot].SetText("0");
-        Counts[slot][CurrentSample] = 0;  // a column of an earlier sheet may have left its counts
-    }
-}
-
-void CopyCellsToCounts() {
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
 }
 
 void ShowZeroTotals() {

@@ -4,8 +4,8 @@
 #include <cstring>
 
 #include "platform/number.h"
-#include "session/highlight.h"
 #include "session/history.h"
+#include "session/pad_cells.h"
 #include "session/sample_on_show.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"

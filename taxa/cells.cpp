@@ -6,6 +6,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/pad_cells.h"
 #include "session/sample_on_show.h"
 #include "session/saved_state.h"
 #include "session/sound.h"

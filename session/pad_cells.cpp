@@ -1,14 +1,21 @@
-#include "session/percent_display.h"
+#include "session/pad_cells.h"
+
+#include <algorithm>
+#include <array>
 
 #include "diagram/data/percentages.h"
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "session/state/sheet_state.h"
-#include "session/totals.h"
 #include "windows/main_window.h"
 
 namespace {
+bool IsGenus(const std::string& name) {
+    const std::string ending = Right(name, 2);
+    return name != kEmpty && ending != "ae" && ending != "AE";
+}
+
 std::int16_t WholeNumber(const TextBox& box) {
     return ToInteger(box.Number());
 }
@@ -33,6 +40,26 @@ void ShowTotalsInPercent() {
 }
 }  // namespace
 
+void ShowCountOf(int slot, double count) {
+    frmMain.TaxonCounts[slot].SetText(NumberText(count));
+}
+
+void ShowCountsOfSample() {
+    for (int slot = 1; slot <= kSlots; ++slot) ShowCountOf(slot, Counts[slot][CurrentSample]);
+}
+
+void EmptyCountCells() {
+    for (int slot = 0; slot <= kSlots; ++slot) {
+        ShowBold(slot, false);
+        frmMain.TaxonCounts[slot].SetText("0");
+        Counts[slot][CurrentSample] = 0;  // a column of an earlier sheet may have left its counts
+    }
+}
+
+void CopyCellsToCounts() {
+    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
+}
+
 void ShowPercentages() {
     if (!frmMain.KeysEnabled) return;  // by a second mouse button: what is parked are the counts
     ParkCells();
@@ -50,4 +77,32 @@ void HidePercentages() {
     for (int i = 0; i < 3; ++i) frmMain.Totals[i].SetText(NumberText(frmMain.HeldTotals[i]));
     frmMain.KeysEnabled = true;
     frmMain.FocusRest.SetFocus();
+}
+
+void PaintCell(int slot, Colour colour) {
+    frmMain.TaxonNames[slot].SetBackColor(colour);
+    frmMain.TaxonCounts[slot].SetBackColor(colour);
+}
+
+void MoveHighlight(int slot, Colour colour) {
+    PaintCell(LastSlot, kWhite);
+    PaintCell(slot, colour);
+    LastSlot = static_cast<std::int16_t>(slot);
+}
+
+void ShowBold(int slot, bool bold) {
+    frmMain.TaxonCounts[slot].SetBold(bold);
+    frmMain.TaxonNames[slot].SetBold(bold);
+}
+
+void ApplyItalics() {
+    std::array<bool, kSlots + 1> italic{};
+    for (int slot = 1; slot <= kSlots; ++slot) italic[slot] = frmMain.mnuItalic.Checked() && IsGenus(frmMain.TaxonNames[slot].Text());
+    if (std::count(italic.begin(), italic.end(), true) == kSlots) italic.fill(false);
+    for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetItalic(italic[slot]);
+}
+
+void ToggleItalics() {
+    frmMain.mnuItalic.SetChecked(!frmMain.mnuItalic.Checked());
+    ApplyItalics();
 }
