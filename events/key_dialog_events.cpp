@@ -1,8 +1,10 @@
 #include "events/join.h"
+#include "keys/first_run.h"
 #include "keys/key_dialog.h"
 #include "keys/key_dialog_capture.h"
 #include "keys/key_dialog_ok.h"
 #include "session/state/sheet_state.h"
+#include "windows/initial_window.h"
 #include "windows/key_code_window.h"
 #include "windows/note_window.h"
 
@@ -33,6 +35,16 @@ void LeaveBoxInHand(Mouse) {
     frmKeyCode.OkButton.SetFocus();
 }
 }  // namespace
+
+void JoinInitialEvents() {
+    frmInitial.Loaded.Calls(LoadInitialWindow);
+    frmInitial.FrameClosed.Calls(CloseInitialByFrame);
+    frmInitial.OkButton.Click.Calls(AcceptNamedKeys);
+    for (int key = 0; key < kNamedKeys; ++key) {
+        frmInitial.KeyCodes[key].GotFocus.Calls([key] { EmptyNamedKey(key); });
+        frmInitial.KeyCodes[key].KeyDown.Calls([key](int code) { TakeNamedKey(key, code); });
+    }
+}
 
 void JoinKeyCodeEvents() {
     frmKeyCode.Loaded.Calls(FillKeyDialog);
