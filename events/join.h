@@ -1,5 +1,6 @@
 // Joins the events of each window to their procedures: here a reader finds every way in.
 #pragma once
+#include "platform/controls.h"
 
 void JoinMainEvents();
 void JoinNextEvents();
@@ -10,3 +11,5 @@ void JoinSubtotalEvents();
 void JoinParaNameEvents();
 void JoinAccessoryEvents();
 void JoinDiagramEvents();
+
+void JoinGuardedKeys(TextBox& box);  // its keys are noted for the guard against quotation marks

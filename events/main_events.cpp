@@ -1,5 +1,4 @@
 #include "accessories/rest_pictures.h"
-#include "events/boxes.h"
 #include "events/join.h"
 #include "files/exports.h"
 #include "files/new_sheet.h"
