@@ -10,25 +10,17 @@
 #include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
 #include "taxa/subtotals.h"
-#include "windows/about_windows.h"
-#include "windows/next_window.h"
-#include "windows/note_window.h"
-#include "windows/para_name_window.h"
-#include "windows/picture_window.h"
-#include "windows/site_name_window.h"
-#include "windows/subtotal_window.h"
 
 namespace {
 constexpr int kEscape = 27;
 
-void JoinNote() {
-    TextBox& note = frmNext.SampleNote;
-    note.GotFocus.Calls([] {
-        PutCaretBehind(frmNext.SampleNote);
+void JoinNote(TextBox& note) {
+    note.GotFocus.Calls([&note] {
+        PutCaretBehind(note);
         EnterGuardedBox();
     });
     JoinGuardedKeys(note);
-    note.Change.Calls([] { RefuseQuotationMark(frmNext.SampleNote); });
+    note.Change.Calls([&note] { RefuseQuotationMark(note); });
     note.DoubleClick.Calls(AddSample);  // a short cut for OK
 }
 
@@ -41,75 +33,87 @@ void JoinParam(TextBox& value) {
     JoinGuardedKeys(value);
     value.Change.Calls([&value] { RefuseQuotationMark(value); });
 }
+
+template <class AboutWindow>
+void JoinAbout(AboutWindow& window) {
+    const auto close = [&window] { CloseDialog(window); };
+    window.FrameClosed.Calls(close);
+    window.OkButton.Click.Calls(close);
+}
 }  // namespace
 
-void JoinNextEvents() {
-    frmNext.Loaded.Calls([] {
+void JoinNextEvents(NextWindow& window) {
+    window.Loaded.Calls([] {
         LoadNextWindow();
         SayIfSilent();
     });
-    frmNext.Activated.Calls(BringNextToFront);
-    frmNext.FrameClosed.Calls(CloseNextByFrame);
-    frmNext.CreateButton.Click.Calls(ShowSampleFields);
-    frmNext.OpenButton.Click.Calls(OpenSheet);
-    frmNext.OkButton.Click.Calls(AcceptSample);
-    frmNext.CancelButton.Click.Calls(CancelSample);
-    JoinNote();
+    window.Activated.Calls(BringNextToFront);
+    window.FrameClosed.Calls(CloseNextByFrame);
+    window.CreateButton.Click.Calls(ShowSampleFields);
+    window.OpenButton.Click.Calls(OpenSheet);
+    window.OkButton.Click.Calls(AcceptSample);
+    window.CancelButton.Click.Calls(CancelSample);
+    JoinNote(window.SampleNote);
     for (int p = 1; p <= kParams; ++p) {
-        JoinParam(frmNext.ParamBoxes[p]);
-        frmNext.RenameButtons[p].Click.Calls([p] { RenameParamOfNextSample(p); });
+        JoinParam(window.ParamBoxes[p]);
+        window.RenameButtons[p].Click.Calls([p] { RenameParamOfNextSample(p); });
     }
 }
 
-void JoinSiteNameEvents() {
-    frmSiteName.Loaded.Calls(LoadSiteNameWindow);
-    frmSiteName.FrameClosed.Calls([] {});  // it is left by OK alone
-    frmSiteName.SampleName.Change.Calls(TakeFirstSampleName);
-    frmSiteName.SampleNote.GotFocus.Calls([] { PutCaretBehind(frmSiteName.SampleNote); });
+void JoinSiteNameEvents(SiteNameWindow& window) {
+    window.Loaded.Calls(LoadSiteNameWindow);
+    window.FrameClosed.Calls([] {});  // it is left by OK alone
+    window.SampleName.Change.Calls(TakeFirstSampleName);
+    window.SampleNote.GotFocus.Calls([&window] { PutCaretBehind(window.SampleNote); });
     for (int p = 1; p <= kParams; ++p) {
-        TextBox& value = frmSiteName.ParamBoxes[p];
+        TextBox& value = window.ParamBoxes[p];
         value.GotFocus.Calls([&value] { ClearDashes(value); });
         value.LostFocus.Calls([&value] { RestoreDashes(value); });
     }
-    frmSiteName.OkButton.Click.Calls(AcceptFirstSample);
+    window.OkButton.Click.Calls(AcceptFirstSample);
 }
 
-void JoinParaNameEvents() {
-    TextBox& name = frmParaName.NewName;
+void JoinParaNameEvents(ParaNameWindow& window) {
+    TextBox& name = window.NewName;
     name.GotFocus.Calls(EnterGuardedBox);
     JoinGuardedKeys(name);
-    name.Change.Calls([] { RefuseQuotationMark(frmParaName.NewName); });
-    frmParaName.FrameClosed.Calls(CancelParamName);
-    frmParaName.OkButton.Click.Calls(AcceptParamName);
-    frmParaName.CancelButton.Click.Calls(CancelParamName);
+    name.Change.Calls([&name] { RefuseQuotationMark(name); });
+    window.FrameClosed.Calls(CancelParamName);
+    window.OkButton.Click.Calls(AcceptParamName);
+    window.CancelButton.Click.Calls(CancelParamName);
 }
 
-void JoinSubtotalEvents() {
-    frmSubtotal.Loaded.Calls(FillSubtotalWindow);
-    frmSubtotal.FrameClosed.Calls(CancelSubtotals);
+void JoinSubtotalEvents(SubtotalWindow& window) {
+    window.Loaded.Calls(FillSubtotalWindow);
+    window.FrameClosed.Calls(CancelSubtotals);
     for (int subtotal = 1; subtotal <= kSubtotals; ++subtotal) {
-        TextBox& name = frmSubtotal.SubtotalNames[subtotal];
+        TextBox& name = window.SubtotalNames[subtotal];
         name.GotFocus.Calls(EnterGuardedBox);
         JoinGuardedKeys(name);
         name.Change.Calls([subtotal] { TakeSubtotalName(subtotal); });
-        frmSubtotal.SubtotalOptions[subtotal].Click.Calls(ShowChosenSubtotal);
+        window.SubtotalOptions[subtotal].Click.Calls(ShowChosenSubtotal);
     }
-    for (int slot = 1; slot <= kSlots; ++slot) frmSubtotal.Members[slot].Click.Calls([slot] { TakeSubtotalFlag(slot); });
-    for (const int flag : {0, 1}) frmSubtotal.FlagButtons[flag].Click.Calls([flag] { SetAllFlags(flag); });
-    frmSubtotal.OkButton.Click.Calls(AcceptSubtotals);
-    frmSubtotal.CancelButton.Click.Calls(CancelSubtotals);
+    for (int slot = 1; slot <= kSlots; ++slot) window.Members[slot].Click.Calls([slot] { TakeSubtotalFlag(slot); });
+    for (const int flag : {0, 1}) window.FlagButtons[flag].Click.Calls([flag] { SetAllFlags(flag); });
+    window.OkButton.Click.Calls(AcceptSubtotals);
+    window.CancelButton.Click.Calls(CancelSubtotals);
 }
 
-void JoinAccessoryEvents() {
-    frmAboutMB1.FrameClosed.Calls([] { CloseDialog(frmAboutMB1); });
-    frmAboutMB1.OkButton.Click.Calls([] { CloseDialog(frmAboutMB1); });
-    frmAboutDX1.FrameClosed.Calls([] { CloseDialog(frmAboutDX1); });
-    frmAboutDX1.OkButton.Click.Calls([] { CloseDialog(frmAboutDX1); });
-    frmNote.OkButton.Click.Calls([] { frmNote.Unload(); });
-    frmPicture.Loaded.Calls(CoverScreen);
-    frmPicture.FrameClosed.Calls([] { frmPicture.Hide(); });
-    frmPicture.KeyDown.Calls([](int code) {
-        if (code == kEscape) frmPicture.Hide();
+void JoinAboutEvents(AboutProgramWindow& program, AboutKeypadWindow& keypad) {
+    JoinAbout(program);
+    JoinAbout(keypad);
+}
+
+void JoinNoteEvents(NoteWindow& window) {
+    window.OkButton.Click.Calls([&window] { window.Unload(); });
+}
+
+void JoinPictureEvents(PictureWindow& window) {
+    const auto hide = [&window] { window.Hide(); };
+    window.Loaded.Calls(CoverScreen);
+    window.FrameClosed.Calls(hide);
+    window.KeyDown.Calls([&window](int code) {
+        if (code == kEscape) window.Hide();
     });
-    for (PictureBox* picture : frmPicture.pictures) picture->Click.Calls([] { frmPicture.Hide(); });
+    for (PictureBox* picture : window.pictures) picture->Click.Calls(hide);
 }

@@ -4,13 +4,10 @@
 #include "keys/key_dialog_capture.h"
 #include "keys/key_dialog_ok.h"
 #include "session/state/sheet_state.h"
-#include "windows/initial_window.h"
-#include "windows/key_code_window.h"
-#include "windows/note_window.h"
 
 namespace {
-void JoinDefinition(int key) {
-    TextBox& box = frmKeyCode.Definitions[key];
+void JoinDefinition(KeyCodeWindow& window, int key) {
+    TextBox& box = window.Definitions[key];
     box.GotFocus.Calls([key] { EnterDefinition(key); });
     box.KeyDown.Calls([key](int code) { TakeDefinitionKey(key, code); });
     box.Change.Calls([key] { TakeDefinition(key); });
@@ -18,51 +15,48 @@ void JoinDefinition(int key) {
     box.LostFocus.Calls([key] { LeaveDefinition(key); });
 }
 
-void JoinFunctional(int key) {
-    TextBox& box = frmKeyCode.FunctionalBoxes[key];
+void JoinFunctional(KeyCodeWindow& window, int key) {
+    TextBox& box = window.FunctionalBoxes[key];
     box.GotFocus.Calls([key] { EnterFunctional(key); });
     box.KeyDown.Calls([key](int code) { TakeFunctionalKey(key, code); });
     box.KeyUp.Calls([key](int code) { NameFunctional(key, code); });
     box.LostFocus.Calls([key] { LeaveFunctional(key); });
 }
 
-void JoinKeyNumber(int place) {
-    frmKeyCode.KeyNumbers[place].GotFocus.Calls([place] { EnterKeyNumber(place); });
-    frmKeyCode.KeyNumbers[place].LostFocus.Calls([place] { LeaveKeyNumber(place); });
-}
-
-void LeaveBoxInHand(Mouse) {
-    frmKeyCode.OkButton.SetFocus();
+void JoinKeyNumber(KeyCodeWindow& window, int place) {
+    window.KeyNumbers[place].GotFocus.Calls([place] { EnterKeyNumber(place); });
+    window.KeyNumbers[place].LostFocus.Calls([place] { LeaveKeyNumber(place); });
 }
 }  // namespace
 
-void JoinInitialEvents() {
-    frmInitial.Loaded.Calls(LoadInitialWindow);
-    frmInitial.FrameClosed.Calls(CloseInitialByFrame);
-    frmInitial.OkButton.Click.Calls(AcceptNamedKeys);
+void JoinInitialEvents(InitialWindow& window) {
+    window.Loaded.Calls(LoadInitialWindow);
+    window.FrameClosed.Calls(CloseInitialByFrame);
+    window.OkButton.Click.Calls(AcceptNamedKeys);
     for (int key = 0; key < kNamedKeys; ++key) {
-        frmInitial.KeyCodes[key].GotFocus.Calls([key] { EmptyNamedKey(key); });
-        frmInitial.KeyCodes[key].KeyDown.Calls([key](int code) { TakeNamedKey(key, code); });
+        window.KeyCodes[key].GotFocus.Calls([key] { EmptyNamedKey(key); });
+        window.KeyCodes[key].KeyDown.Calls([key](int code) { TakeNamedKey(key, code); });
     }
 }
 
-void JoinKeyCodeEvents() {
-    frmKeyCode.Loaded.Calls(FillKeyDialog);
-    frmKeyCode.FrameClosed.Calls(CancelKeySettings);
-    frmKeyCode.MouseDown.Calls(LeaveBoxInHand);
-    frmKeyCode.NumberMap.MouseDown.Calls(LeaveBoxInHand);
+void JoinKeyCodeEvents(KeyCodeWindow& window) {
+    window.Loaded.Calls(FillKeyDialog);
+    window.FrameClosed.Calls(CancelKeySettings);
+    const auto leave_box_in_hand = [&window](Mouse) { window.OkButton.SetFocus(); };
+    window.MouseDown.Calls(leave_box_in_hand);
+    window.NumberMap.MouseDown.Calls(leave_box_in_hand);
     for (int key = 1; key <= kKeys; ++key) {
-        JoinDefinition(key);
-        JoinKeyNumber(key);
+        JoinDefinition(window, key);
+        JoinKeyNumber(window, key);
     }
-    for (int key = 0; key <= kF1Box; ++key) JoinFunctional(key);
-    for (int row = 1; row <= kMapRows; ++row) frmKeyCode.Codes[row].Change.Calls([row] { ShowCharacter(row); });
-    frmKeyCode.MapTabs.Change.Calls(OfferDefault);
-    frmKeyCode.LeftHanded.Click.Calls([] { MirrorMaps(1); });
-    frmKeyCode.RightHanded.Click.Calls([] { MirrorMaps(-1); });
-    frmKeyCode.CancelButton.Click.Calls(CancelKeySettings);
-    frmKeyCode.ClearButton.Click.Calls(ClearOpenMap);
-    frmKeyCode.NoticeButton.Click.Calls([] { frmNote.Show(); });
-    frmKeyCode.OkButton.Click.Calls(AcceptKeySettings);
-    frmKeyCode.DefaultButton.Click.Calls(NumberPlacesInOrder);
+    for (int key = 0; key <= kF1Box; ++key) JoinFunctional(window, key);
+    for (int row = 1; row <= kMapRows; ++row) window.Codes[row].Change.Calls([row] { ShowCharacter(row); });
+    window.MapTabs.Change.Calls(OfferDefault);
+    window.LeftHanded.Click.Calls([] { MirrorMaps(1); });
+    window.RightHanded.Click.Calls([] { MirrorMaps(-1); });
+    window.CancelButton.Click.Calls(CancelKeySettings);
+    window.ClearButton.Click.Calls(ClearOpenMap);
+    window.NoticeButton.Click.Calls([] { frmNote.Show(); });
+    window.OkButton.Click.Calls(AcceptKeySettings);
+    window.DefaultButton.Click.Calls(NumberPlacesInOrder);
 }
