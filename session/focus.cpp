@@ -8,8 +8,12 @@ namespace {
 int held_tab = 0;
 }  // namespace
 
+void RestFocus() {
+    frmMain.FocusRest.SetFocus();
+}
+
 void ReturnFocus() {
-    if (!AmendMode) frmMain.FocusRest.SetFocus();
+    if (!AmendMode) RestFocus();
 }
 
 void ReturnFocusOnMove() {
@@ -19,7 +23,7 @@ void ReturnFocusOnMove() {
 void EnterBox(Mouse) {
     const bool counting = !AmendMode && !DiagramOpen;
     MousePointer = counting ? kPointerArrow : kPointerIBeam;
-    if (counting) frmMain.FocusRest.SetFocus();
+    if (counting) RestFocus();
 }
 
 void EnterCountCell(Mouse mouse) {
@@ -35,7 +39,7 @@ void HoldTab() {
 
 void ReturnTab() {
     if (!AmendMode) frmMain.BankTabs.SetTab(held_tab);
-    frmMain.FocusRest.SetFocus();
+    RestFocus();
 }
 
 void OpenDialog(Window& dialog) {

@@ -5,6 +5,7 @@
 #include "platform/control.h"
 #include "platform/window.h"
 
+void RestFocus();                  // to Text99, in Modify mode too
 void ReturnFocus();                // unless in Modify mode
 void ReturnFocusOnMove();          // the same, and not while a diagram is open beside the window
 void EnterBox(Mouse mouse);        // the mouse moves over a box: the pointer says whether it can be typed in
