@@ -229,6 +229,46 @@ void MainWindow::LayLetters() {
     }
 }
 
+void MainWindow::EnableCounting(bool counting) {
+    ResumeButton.SetEnabled(!counting);
+    mnuFinishAmend.SetEnabled(!counting);
+    for (Control* command : std::initializer_list<Control*>{&ResetButton, &OpenButton, &mnuSave, &NextSampleButton, &ModifyButton,
+                                                            &mnuStartAmend, &AllTotal, &Subtotal1, &Subtotal2, &mnuUndo, &mnuReset, &mnuNew,
+                                                            &mnuOpen, &mnuSaveAs, &mnuPercent, &mnuSaveCopy})
+        command->SetEnabled(counting);
+}
+
+void MainWindow::ShowCounting(bool counting) {
+    SampleNameCaption.SetVisible(counting);
+    for (Label& label : TotalCaptions) label.SetVisible(counting);
+    for (Frame& block : PadBlocks) block.SetVisible(counting);
+}
+
+void MainWindow::PaintGround(Colour colour) {
+    PadGround.SetBackColor(colour);
+    BankTabs.SetBackColor(colour);
+}
+
+void MainWindow::ShowSlotNumbers(bool visible) {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        if (!visible) SlotNumbers[slot].SetBold(false);
+        SlotNumbers[slot].SetVisible(visible);
+    }
+    for (int p = 1; p <= kParams; ++p) RenameButtons[p].SetVisible(visible);
+}
+
+void MainWindow::OpenNotes(bool open) {
+    SampleNote.SetEnabled(open);
+    for (int p = 1; p <= kParams; ++p) {
+        ParamNames[p].SetVisible(open);
+        ParamBoxes[p].SetEnabled(open);
+    }
+}
+
+void MainWindow::EnableParamNames(bool enabled) {
+    for (int p = 1; p <= kParams; ++p) ParamNames[p].SetEnabled(enabled);
+}
+
 std::vector<Control*> MainWindow::RoundOf(const Control& control) {
     std::vector<Control*> cells;
     if (control.container != &SSTab1) return cells;

@@ -4,6 +4,7 @@
 // word stands once the window is built: a table that another file fills before main takes the fixed name.
 #pragma once
 #include <cstdint>
+#include <vector>
 
 #include "platform/controls.h"
 #include "platform/picture_box.h"
@@ -117,6 +118,14 @@ struct MainWindow : Window {
     MenuItem mnuMoveTo1[kKeys], mnuMoveTo2[kKeys], mnuMoveTo3[kKeys];  // [i]: moves to the (i+1)th slot of its bank
     MenuItem mnuDiversityRB, mnuCopyDiversity;
     MenuItem mnuByPass, mnuLetters[26];  // take Ctrl and a letter, so that the chord does nothing else
+
+    // What is done to several of them at once.
+    void EnableCounting(bool counting);  // the commands that count, save or leave the sheet; those of Modify mode are the opposite
+    void ShowCounting(bool counting);    // what only counting shows
+    void PaintGround(Colour colour);     // of the pad
+    void ShowSlotNumbers(bool visible);  // and the buttons that rename the Additional info
+    void OpenNotes(bool open);           // note and Additional info, whose names are seen while they are open
+    void EnableParamNames(bool enabled);
 
     bool FormLoaded = false;                   // False while the window loads
     bool ChangingSample = false;               // another sample's counts are being put into the cells
