@@ -23,7 +23,7 @@
 
 namespace {
 void JoinWindow(MainWindow& window) {
-    window.Loaded.Calls(LoadMainWindow);
+    window.Loaded.Calls([&window] { LoadMainWindow(window); });
     window.FrameClosed.Calls(CloseMainWindow);
     window.KeyDown.Calls(TakeKeyDown);
     window.KeyUp.Calls(TakeKeyUp);

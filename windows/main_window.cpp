@@ -229,6 +229,34 @@ void MainWindow::LayLetters() {
     }
 }
 
+void MainWindow::PlaceSlot(int slot, int left, int top) {
+    TaxonNames[slot].SetPlace(left, top);
+    TaxonCounts[slot].SetPlace(left, top + kCountBelowName);
+    SlotNumbers[slot].SetPlace(left, top + kNumberBelowName);
+}
+
+void MainWindow::KeepTabOffPad() {
+    for (int slot = 0; slot <= kSlots; ++slot)
+        for (TextBox* box : Cell(slot)) box->tab_stop = false;
+    FocusRest.tab_stop = false;
+}
+
+void MainWindow::EmptyPad() {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        SlotNumbers[slot].SetVisible(false);
+        TaxonNames[slot].SetText(kEmpty);
+        TaxonCounts[slot].SetText("0");
+    }
+    CountChannel.SetText("");
+    for (TextBox& total : Totals) total.SetText("0");
+}
+
+void MainWindow::SwitchOffCommands() {
+    for (Control* command : std::initializer_list<Control*>{&ResetButton, &ResumeButton, &mnuFinishAmend, &mnuSave, &mnuSaveHistory,
+                                                            &NextSampleButton, &mnuNext, &mnuUndo, &mnuReset, &mnuNew})
+        command->SetEnabled(false);
+}
+
 void MainWindow::EnableCounting(bool counting) {
     ResumeButton.SetEnabled(!counting);
     mnuFinishAmend.SetEnabled(!counting);

@@ -3,6 +3,7 @@
 // Here and in every window, a control bears its fixed name, which scripts use, and below it the word by which procedures call it. The
 // word stands once the window is built: a table that another file fills before main takes the fixed name.
 #pragma once
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -120,6 +121,11 @@ struct MainWindow : Window {
     MenuItem mnuByPass, mnuLetters[26];  // take Ctrl and a letter, so that the chord does nothing else
 
     // What is done to several of them at once.
+    std::array<TextBox*, 2> Cell(int slot) { return {&TaxonNames[slot], &TaxonCounts[slot]}; }
+    void PlaceSlot(int slot, int left, int top);  // the corner of its name, in twips; count and number follow
+    void KeepTabOffPad();
+    void EmptyPad();                     // cells and totals as in a sheet with nothing in it
+    void SwitchOffCommands();            // those that a fresh sheet has no use for; the Save button is told apart
     void EnableCounting(bool counting);  // the commands that count, save or leave the sheet; those of Modify mode are the opposite
     void ShowCounting(bool counting);    // what only counting shows
     void PaintGround(Colour colour);     // of the pad

@@ -10,7 +10,6 @@
 #include "platform/number.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
-#include "windows/pad_places.h"
 
 namespace {
 constexpr const char* kFile = "References/KeySetting.csv";
@@ -54,9 +53,7 @@ void PlaceKeyCells() {
         const std::int16_t key = ToInteger(KeySettings[place][2].Number());
         if (key < 1 || key > kSlots) throw Failure(kSubscriptOutOfRange);
         if (key > kKeys) continue;
-        frmMain.TaxonNames[key].SetPlace(KeyLeft[place], KeyTop[place]);
-        frmMain.TaxonCounts[key].SetPlace(KeyLeft[place], KeyTop[place] + kCountBelowName);
-        frmMain.SlotNumbers[key].SetPlace(KeyLeft[place], KeyTop[place] + kNumberBelowName);
+        frmMain.PlaceSlot(key, KeyLeft[place], KeyTop[place]);
     }
 }
 
