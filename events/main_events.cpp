@@ -174,7 +174,7 @@ void JoinCommands(MainWindow& window) {
     window.mnuQuit.Click.Calls(QuitProgram);
     window.mnuUndo.Click.Calls(Undo);
     window.mnuReset.Click.Calls(AbortCount);
-    window.mnuItalic.Click.Calls(ToggleItalics);
+    window.mnuItalic.Click.Calls([&window] { ToggleItalics(window.mnuItalic); });
 }
 
 // What is pressed next is a counter key: neither a button nor a total keeps the keyboard.

@@ -7,6 +7,7 @@
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/focus.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
@@ -16,18 +17,9 @@ bool IsGenus(const std::string& name) {
     return name != kEmpty && ending != "ae" && ending != "AE";
 }
 
-std::int16_t WholeNumber(const TextBox& box) {
-    return ToInteger(box.Number());
-}
-
 // A product of two Singles, rounded as one, ties to even.
 double ToOneDecimal(float value) {
     return RoundHalfEven(value, 1);
-}
-
-void ParkCells() {
-    for (int slot = 0; slot <= kSlots; ++slot) frmMain.HeldCounts[slot] = WholeNumber(frmMain.TaxonCounts[slot]);
-    for (int i = 0; i < 3; ++i) frmMain.HeldTotals[i] = WholeNumber(frmMain.Totals[i]);
 }
 
 // The totals turn into percentages only where the sum kept for sample 136 is not 0, whatever sample is on show. On smaller sheets
@@ -40,6 +32,10 @@ void ShowTotalsInPercent() {
 }
 }  // namespace
 
+double ShownCount(int slot) {
+    return frmMain.TaxonCounts[slot].Number();
+}
+
 void ShowCountOf(int slot, double count) {
     frmMain.TaxonCounts[slot].SetText(NumberText(count));
 }
@@ -51,18 +47,18 @@ void ShowCountsOfSample() {
 void EmptyCountCells() {
     for (int slot = 0; slot <= kSlots; ++slot) {
         ShowBold(slot, false);
-        frmMain.TaxonCounts[slot].SetText("0");
+        ShowCountOf(slot, 0);
         Counts[slot][CurrentSample] = 0;  // a column of an earlier sheet may have left its counts
     }
 }
 
 void CopyCellsToCounts() {
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
+    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(ShownCount(slot));
 }
 
 void ShowPercentages() {
     if (!frmMain.KeysEnabled) return;  // by a second mouse button: what is parked are the counts
-    ParkCells();
+    frmMain.HoldNumbers();
     SamplePercentages(CurrentSample);
     frmMain.KeysEnabled = false;
     for (int slot = 1; slot <= kSlots; ++slot) {
@@ -73,15 +69,13 @@ void ShowPercentages() {
 }
 
 void HidePercentages() {
-    for (int slot = 0; slot <= kSlots; ++slot) ShowCountOf(slot, frmMain.HeldCounts[slot]);
-    for (int i = 0; i < 3; ++i) frmMain.Totals[i].SetText(NumberText(frmMain.HeldTotals[i]));
+    frmMain.ShowHeldNumbers();
     frmMain.KeysEnabled = true;
-    frmMain.FocusRest.SetFocus();
+    RestFocus();
 }
 
 void PaintCell(int slot, Colour colour) {
-    frmMain.TaxonNames[slot].SetBackColor(colour);
-    frmMain.TaxonCounts[slot].SetBackColor(colour);
+    for (TextBox* box : frmMain.Cell(slot)) box->SetBackColor(colour);
 }
 
 void MoveHighlight(int slot, Colour colour) {
@@ -91,8 +85,7 @@ void MoveHighlight(int slot, Colour colour) {
 }
 
 void ShowBold(int slot, bool bold) {
-    frmMain.TaxonCounts[slot].SetBold(bold);
-    frmMain.TaxonNames[slot].SetBold(bold);
+    for (TextBox* box : frmMain.Cell(slot)) box->SetBold(bold);
 }
 
 void ApplyItalics() {
@@ -102,7 +95,7 @@ void ApplyItalics() {
     for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetItalic(italic[slot]);
 }
 
-void ToggleItalics() {
-    frmMain.mnuItalic.SetChecked(!frmMain.mnuItalic.Checked());
+void ToggleItalics(MenuItem& item) {
+    item.SetChecked(!item.Checked());
     ApplyItalics();
 }

@@ -1,7 +1,9 @@
 // The cells of the pad, a name and a count a slot: what the counts read, and how both look.
 #pragma once
 #include "platform/colour.h"
+#include "platform/controls.h"
 
+double ShownCount(int slot);               // what its cell reads
 void ShowCountOf(int slot, double count);  // puts the count into its cell
 void ShowCountsOfSample();                 // all cells take the counts of CurrentSample
 void EmptyCountCells();                    // all cells read 0 and lose their bold; the column of CurrentSample follows
@@ -21,4 +23,4 @@ void ShowBold(int slot, bool bold);  // name and count of a slot
 
 // Genera in italics, families ("...ae", "...AE") and empty slots upright, where mnuItalic is checked; a list of 135 genera is upright.
 void ApplyItalics();
-void ToggleItalics();  // mnuItalic was clicked
+void ToggleItalics(MenuItem& item);  // mnuItalic was clicked

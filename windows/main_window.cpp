@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/number.h"
+#include "platform/text.h"
 #include "platform/window_table.h"
 #include "windows/pad_places.h"
 
@@ -295,6 +297,16 @@ void MainWindow::OpenNotes(bool open) {
 
 void MainWindow::EnableParamNames(bool enabled) {
     for (int p = 1; p <= kParams; ++p) ParamNames[p].SetEnabled(enabled);
+}
+
+void MainWindow::HoldNumbers() {
+    for (int slot = 0; slot <= kSlots; ++slot) HeldCounts[slot] = ToInteger(TaxonCounts[slot].Number());
+    for (int i = 0; i < 3; ++i) HeldTotals[i] = ToInteger(Totals[i].Number());
+}
+
+void MainWindow::ShowHeldNumbers() {
+    for (int slot = 0; slot <= kSlots; ++slot) TaxonCounts[slot].SetText(NumberText(HeldCounts[slot]));
+    for (int i = 0; i < 3; ++i) Totals[i].SetText(NumberText(HeldTotals[i]));
 }
 
 std::vector<Control*> MainWindow::RoundOf(const Control& control) {

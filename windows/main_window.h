@@ -132,6 +132,8 @@ struct MainWindow : Window {
     void ShowSlotNumbers(bool visible);  // and the buttons that rename the Additional info
     void OpenNotes(bool open);           // note and Additional info, whose names are seen while they are open
     void EnableParamNames(bool enabled);
+    void HoldNumbers();      // of the cells and totals, in HeldCounts and HeldTotals. Raises "Overflow" past 16 bits
+    void ShowHeldNumbers();  // the other way round
 
     bool FormLoaded = false;                   // False while the window loads
     bool ChangingSample = false;               // another sample's counts are being put into the cells
