@@ -90,7 +90,7 @@ void JoinCountBox(MainWindow& window, int slot) {
 }
 
 void JoinCells(MainWindow& window) {
-    window.CountChannel.Change.Calls(CountSlotInChannel);
+    window.CountChannel.Change.Calls([&window] { CountSlotInChannel(window.CountChannel); });
     for (int slot = 0; slot <= kSlots; ++slot) {
         JoinNameBox(window, slot);
         window.SlotNumbers[slot].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
@@ -140,7 +140,7 @@ void JoinSample(MainWindow& window) {
 }
 
 void JoinTotals(MainWindow& window) {
-    window.AllTotal.Change.Calls(TakeChangedTotal);
+    window.AllTotal.Change.Calls([&window] { FollowChangedTotal(window.AllTotal); });
     for (int i = 0; i < 3; ++i) window.BasisOptions[i].Click.Calls([i] { ChooseBasis(i); });
     window.PercentButton.MouseDown.Calls([](Mouse) { ShowPercentages(); });
     window.PercentButton.MouseUp.Calls([](Mouse) { HidePercentages(); });

@@ -18,9 +18,9 @@ void AddToTotals(int slot, double count) {
 }
 
 // A name that was wiped out is an empty slot.
-void RestoreBlankName(int slot) {
-    const std::string& name = frmMain.TaxonNames[slot].Text();
-    if (name == "-" || name == "--" || name.empty() || name == " " || name == "  ") frmMain.TaxonNames[slot].SetText(kEmpty);
+void RestoreBlankName(TextBox& box) {
+    const std::string& name = box.Text();
+    if (name == "-" || name == "--" || name.empty() || name == " " || name == "  ") box.SetText(kEmpty);
 }
 }  // namespace
 
@@ -28,28 +28,28 @@ void RecountTotals(std::int16_t sample) {
     TaxonTable[0][2] = TaxonTable[0][3] = 0;
     AllTotal = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        AddToTotals(slot, frmMain.TaxonCounts[slot].Number());
+        AddToTotals(slot, ShownCount(slot));
         ShowBold(slot, Counts[slot][sample] != 0);
-        RestoreBlankName(slot);
+        RestoreBlankName(frmMain.TaxonNames[slot]);
     }
     frmMain.AllTotal.SetText(NumberText(AllTotal));  // its change enables Next sample and draws the curve
     frmMain.Subtotal1.SetText(TaxonTable[0][2].Text());
     frmMain.Subtotal2.SetText(TaxonTable[0][3].Text());
 }
 
-void CountSlotInChannel() {
-    if (Length(frmMain.CountChannel.Text()) == 1) return;  // a slot is never written with one digit
+void CountSlotInChannel(TextBox& channel) {
+    if (Length(channel.Text()) == 1) return;  // a slot is never written with one digit
     AllTotal = 0;
     const int step = ReverseCount ? -1 : 1;
-    const int slot = static_cast<int>(std::abs(frmMain.CountChannel.Number()));
-    if (slot >= 1 && slot <= kSlots) ShowCountOf(slot, frmMain.TaxonCounts[slot].Number() + step);
+    const int slot = static_cast<int>(std::abs(channel.Number()));
+    if (slot >= 1 && slot <= kSlots) ShowCountOf(slot, ShownCount(slot) + step);
     RecountTotals(CurrentSample);
-    frmMain.CountChannel.SetText("");  // comes back here once more with no slot, and only recounts
+    channel.SetText("");  // comes back here once more with no slot, and only recounts
     CopyCellsToCounts();
 }
 
-void TakeChangedTotal() {
-    if (frmMain.AllTotal.Number() != 0) {
+void FollowChangedTotal(const TextBox& total) {
+    if (total.Number() != 0) {
         frmMain.NextSampleButton.SetEnabled(true);
         frmMain.mnuNext.SetEnabled(true);
     }
@@ -63,8 +63,7 @@ void ChooseBasis(int option) {
 }
 
 void EnableDiagramItems(bool enabled) {
-    for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
-        style->SetEnabled(enabled);
+    for (MenuItem* style : frmMain.DiagramItems()) style->SetEnabled(enabled);
 }
 
 void OfferDiagram() {
@@ -78,9 +77,5 @@ void ShowZeroTotals() {
 }
 
 void ShowSubtotalNames() {
-    frmMain.Subtotal1Caption.SetCaption(SheetHeader[12].Text() + ":");
-    frmMain.Subtotal2Caption.SetCaption(SheetHeader[13].Text() + ":");
-    frmMain.mnuPercentSub1.SetCaption("% by " + SheetHeader[12].Text());
-    frmMain.mnuPercentSub2.SetCaption("% by " + SheetHeader[13].Text());
-    frmMain.mnuPercentAll.SetCaption("% by " + WithoutTrailingColon(frmMain.AllTotalCaption.Caption()));
+    frmMain.NameSubtotals(SheetHeader[12].Text(), SheetHeader[13].Text());
 }

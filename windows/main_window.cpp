@@ -253,6 +253,14 @@ void MainWindow::EmptyPad() {
     for (TextBox& total : Totals) total.SetText("0");
 }
 
+void MainWindow::NameSubtotals(const std::string& first, const std::string& second) {
+    Subtotal1Caption.SetCaption(first + ":");
+    Subtotal2Caption.SetCaption(second + ":");
+    mnuPercentSub1.SetCaption("% by " + first);
+    mnuPercentSub2.SetCaption("% by " + second);
+    mnuPercentAll.SetCaption("% by " + WithoutTrailingColon(AllTotalCaption.Caption()));
+}
+
 void MainWindow::SwitchOffCommands() {
     for (Control* command : std::initializer_list<Control*>{&ResetButton, &ResumeButton, &mnuFinishAmend, &mnuSave, &mnuSaveHistory,
                                                             &NextSampleButton, &mnuNext, &mnuUndo, &mnuReset, &mnuNew})

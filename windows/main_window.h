@@ -5,6 +5,7 @@
 #pragma once
 #include <array>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "platform/controls.h"
@@ -124,7 +125,9 @@ struct MainWindow : Window {
     std::array<TextBox*, 2> Cell(int slot) { return {&TaxonNames[slot], &TaxonCounts[slot]}; }
     void PlaceSlot(int slot, int left, int top);  // the corner of its name, in twips; count and number follow
     void KeepTabOffPad();
-    void EmptyPad();                     // cells and totals as in a sheet with nothing in it
+    void EmptyPad();                                                          // cells and totals as in a sheet with nothing in it
+    void NameSubtotals(const std::string& first, const std::string& second);  // wherever the window speaks of them
+    std::array<MenuItem*, 5> DiagramItems() { return {&mnuBar, &mnuArea, &mnuCurve, &mnuDot, &mnuDotCurve}; }
     void SwitchOffCommands();            // those that a fresh sheet has no use for; the Save button is told apart
     void EnableCounting(bool counting);  // the commands that count, save or leave the sheet; those of Modify mode are the opposite
     void ShowCounting(bool counting);    // what only counting shows
