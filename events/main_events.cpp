@@ -134,7 +134,7 @@ void JoinSample(MainWindow& window) {
     window.SampleNote.Change.Calls(TakeNote);
     for (int p = 1; p <= kParams; ++p) JoinParam(window, p);
     window.History.Change.Calls([&window] { window.mnuSaveHistory.SetEnabled(true); });
-    window.SampleList.Click.Calls(BringUpChosenSample);
+    window.SampleList.Click.Calls([&window] { BringUpChosenSample(window.SampleList); });
     window.SampleList.Edited.Calls(RenameSampleOnShow);
     window.SerialNumber.Change.Calls(OfferDiagram);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "session/focus.h"
 #include "session/history.h"
 #include "session/pad_cells.h"
 #include "session/state/sheet_state.h"
@@ -14,8 +15,7 @@ void ForgetCurve() {
     for (std::size_t n = 1; n < DiversityCurve.size(); ++n) DiversityCurve[n] = 0;
 }
 
-void FindChosenSample() {
-    const std::string chosen = frmMain.SampleList.Text();
+void FindChosenSample(const std::string& chosen) {
     for (std::int16_t sample = 1; sample <= SampleCount; ++sample)
         if (SampleTable[2][sample] == std::string_view(chosen)) CurrentSample = sample;
 }
@@ -36,17 +36,24 @@ void ShowNoteAndParams() {
     for (int p = 1; p <= kParams; ++p) frmMain.ParamBoxes[p].SetText(ParamValues[p][CurrentSample].Text());
 }
 
-void BringUpChosenSample() {
+void TellChangeOfSample() {
+    RecountTotals(CurrentSample);
+    AddHistoryLine("(Change sample: " + frmMain.SampleList.Text() + ")");
+    ShowSerial();
+    ShowNoteAndParams();  // a save stamps the note that is on show
+}
+
+void BringUpChosenSample(const ComboBox& list) {
     ForgetCurve();
-    FindChosenSample();
+    FindChosenSample(list.Text());
     frmMain.ChangingSample = true;
     WarnOldSample = true;
     ShowCountsOfSample();
     frmMain.ChangingSample = false;
     ShowSampleName();
-    RecountTotals(CurrentSample);
-    AddHistoryLine("(Change sample: " + frmMain.SampleList.Text() + ")");
-    ShowSerial();
-    ShowNoteAndParams();
-    (AmendMode ? frmMain.SampleNote : frmMain.FocusRest).SetFocus();
+    TellChangeOfSample();
+    if (AmendMode)
+        frmMain.SampleNote.SetFocus();
+    else
+        RestFocus();
 }

@@ -18,15 +18,12 @@ void GoToSampleOf(std::int16_t sample) {
     CurrentSample = sample;
     ShowSampleName();
     ShowCountsOfSample();
-    RecountTotals(CurrentSample);
-    AddHistoryLine("(Change sample: " + frmMain.SampleList.Text() + ")");
-    ShowSerial();
-    ShowNoteAndParams();  // a save stamps the note that is on show
+    TellChangeOfSample();
 }
 
 void TakeBack(int slot, int direction) {
-    ShowCountOf(slot, frmMain.TaxonCounts[slot].Number() - direction);
-    Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
+    ShowCountOf(slot, ShownCount(slot) - direction);
+    Counts[slot][CurrentSample] = ToLong(ShownCount(slot));
 }
 
 void PopUndoList() {
