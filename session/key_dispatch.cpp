@@ -57,6 +57,15 @@ void TrackShiftPress(int code) {
     if (code == Shift2Code) Shift2Down = true;
 }
 
+void ShowBank() {
+    frmMain.BankTabs.SetTab(ShiftLevel);
+}
+
+// What the key has typed: the field that has the focus while counting stays empty.
+void DropTypedText() {
+    frmMain.FocusRest.SetText("");
+}
+
 void EnableCommandsOfACount() {
     frmMain.ResetButton.SetEnabled(true);
     frmMain.mnuReset.SetEnabled(true);
@@ -108,7 +117,7 @@ void ShowPadPanels(bool visible) {
 // The question box has eaten the releases of the shift keys.
 void ForgetShifts() {
     ShiftLevel = 0;
-    frmMain.BankTabs.SetTab(0);
+    ShowBank();
     Shift1Down = Shift2Down = false;
 }
 
@@ -162,11 +171,11 @@ void TakeKeyDown(int code) {
     TrackShiftPress(code);
     SampleUntouched = false;
     frmMain.mnuNext.SetEnabled(false);
-    if (!AmendMode && ShiftLevel > 0) frmMain.BankTabs.SetTab(ShiftLevel);
+    if (!AmendMode && ShiftLevel > 0) ShowBank();
     if (!AmendMode && !IsShiftOrUndoKey(code)) EnableCommandsOfACount();
     DetectReverse(code);
     if (code == UndoKeyCode || AmendMode)
-        frmMain.FocusRest.SetText("");
+        DropTypedText();
     else if (!CountOrAsk(code))
         return;
     if (code == UndoKeyCode && UndoKeyState == 0) {
@@ -179,15 +188,14 @@ void TakeKeyDown(int code) {
 void CountKeyPress(int code) {
     const std::string slot_text = SlotText(code);
     frmMain.CountChannel.SetText(slot_text);  // its change applies the count
-    frmMain.FocusRest.SetText("");
+    DropTypedText();
     const int new_slot = static_cast<int>(Val(slot_text));
     if (UndoList[0][1] != 0) PaintCell(new_slot, kWhite);
     if (!IsShiftKey(code)) PushOnUndoList(new_slot);
     const int slot = std::abs(UndoList[0][1]);
     if (slot == 0 || SampleUntouched || IsShiftOrUndoKey(code)) return;
     AddHistoryLine((ReverseCount ? "(Amend) " : "") + SlotAndName(slot));
-    frmMain.TaxonCounts[slot].SetBold(true);
-    frmMain.TaxonNames[slot].SetBold(true);
+    ShowBold(slot, true);
     MoveHighlight(slot, kCounted);
 }
 
@@ -197,7 +205,7 @@ void TakeKeyUp(int code) {
         if (code == Shift1Code) Shift1Down = false;
         if (code == Shift2Code) Shift2Down = false;
     }
-    if (!AmendMode && ShiftLevel < 2) frmMain.BankTabs.SetTab(ShiftLevel);
+    if (!AmendMode && ShiftLevel < 2) ShowBank();
     if (UndoKeyState == 1 && !AmendMode) Undo();
     if (code == UndoKeyCode) {
         UndoKeyState = 0;

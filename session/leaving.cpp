@@ -59,14 +59,13 @@ void AskAndEnd() {
 void AbortCount() {
     PlayIfOn(WaveError);
     if (AllTotal != 0) {
-        if (ConfirmLoss("This action will abort all inputs after last saving. Do you proceed?")) {
+        const bool confirmed = ConfirmLoss("This action will abort all inputs after last saving. Do you proceed?");
+        if (confirmed) {
             RestoreSheet();
             AddHistoryLine("(Reset)");
             for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][1] = 0;
-            frmMain.ResetButton.SetEnabled(false);
-        } else {
-            frmMain.ResetButton.SetEnabled(true);
         }
+        frmMain.ResetButton.SetEnabled(!confirmed);
     }
     CountsChanged.Raise();
     ReturnFocus();

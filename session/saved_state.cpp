@@ -10,8 +10,7 @@
 
 namespace {
 void RestoreSlot(int slot) {
-    frmMain.TaxonCounts[slot].SetBold(false);
-    frmMain.TaxonNames[slot].SetBold(false);
+    ShowBold(slot, false);
     const int samples = std::min<int>(SampleCount, static_cast<int>(CountsAtOpen.size()) - 1);
     if (CurrentSample <= samples) ShowCountOf(slot, CountsAtOpen[CurrentSample][slot]);
     frmMain.TaxonNames[slot].SetText(TaxonTableAtOpen[slot][4].Text());

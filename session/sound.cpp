@@ -1,6 +1,8 @@
 #include "session/sound.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
@@ -13,6 +15,14 @@ void SaySilent() {
     if (!frmNext.IsLoaded()) return;
     frmNext.StartLine.SetCaption("No sound device: keys count without a sound");
     frmNext.StartLine.SetForeColor(kWarning);
+}
+
+// Those whose "Set alarm" is chosen.
+std::vector<double> AlarmTotals() {
+    std::vector<double> totals;
+    for (int i = 0; i < 3; ++i)
+        if (frmMain.BasisOptions[i].Value()) totals.push_back(frmMain.Totals[i].Number());
+    return totals;
 }
 
 bool IsFullHundred(double total) {
@@ -30,9 +40,8 @@ void SayIfSilent() {
 
 bool AlarmDueAfterCount() {
     bool due = false;
-    for (int i = 0; i < 3; ++i) {
-        const double total = frmMain.Totals[i].Number();
-        if (!frmMain.BasisOptions[i].Value() || total == 0) continue;
+    for (const double total : AlarmTotals()) {
+        if (total == 0) continue;
         if (IsFullHundred(total))
             due = true;
         else if (IsFullHundred(total + 1))
@@ -42,8 +51,5 @@ bool AlarmDueAfterCount() {
 }
 
 bool AlarmDueAfterUndo() {
-    bool due = false;
-    for (int i = 0; i < 3; ++i)
-        if (IsFullHundred(frmMain.Totals[i].Number() - 1) && frmMain.BasisOptions[i].Value()) due = true;
-    return due;
+    return std::ranges::any_of(AlarmTotals(), [](double total) { return IsFullHundred(total - 1); });
 }
