@@ -42,7 +42,7 @@ void JoinMenus(DiagramWindow& window) {
 }
 
 // 0 is no scale: the slider goes on to 1, and the change to that draws.
-void TakeHorizontalScale(DiagramWindow& window) {
+void ApplyHorizontalScale(DiagramWindow& window) {
     if (window.HorizontalScale.Value() < 1) {
         window.HorizontalScale.SetValue(1);
         return;
@@ -51,15 +51,15 @@ void TakeHorizontalScale(DiagramWindow& window) {
     window.SampleSlider.SetFocus();
 }
 
-void TakeScroll(DiagramWindow& window) {
+void ScrollColumns(DiagramWindow& window) {
     DrawTaxonNames();
     DrawDiagram();
     window.SampleSlider.SetFocus();
 }
 
 void JoinSliders(DiagramWindow& window) {
-    window.HorizontalScale.Change.Calls([&window] { TakeHorizontalScale(window); });
-    window.ColumnScroll.Change.Calls([&window] { TakeScroll(window); });
+    window.HorizontalScale.Change.Calls([&window] { ApplyHorizontalScale(window); });
+    window.ColumnScroll.Change.Calls([&window] { ScrollColumns(window); });
     window.SampleSlider.Change.Calls(TakeSelectedSample);
     window.SampleSlider.KeyUp.Calls([](int) { TakeSelectedSample(); });
 }

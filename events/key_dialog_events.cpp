@@ -9,8 +9,8 @@ namespace {
 void JoinDefinition(KeyCodeWindow& window, int key) {
     TextBox& box = window.Definitions[key];
     box.GotFocus.Calls([key] { EnterDefinition(key); });
-    box.KeyDown.Calls([key](int code) { TakeDefinitionKey(key, code); });
-    box.Change.Calls([key] { TakeDefinition(key); });
+    box.KeyDown.Calls([key](int code) { CaptureDefinitionKey(key, code); });
+    box.Change.Calls([key] { CheckDefinition(key); });
     box.KeyUp.Calls([key](int code) { NameDefinition(key, code); });
     box.LostFocus.Calls([key] { LeaveDefinition(key); });
 }
@@ -18,7 +18,7 @@ void JoinDefinition(KeyCodeWindow& window, int key) {
 void JoinFunctional(KeyCodeWindow& window, int key) {
     TextBox& box = window.FunctionalBoxes[key];
     box.GotFocus.Calls([key] { EnterFunctional(key); });
-    box.KeyDown.Calls([key](int code) { TakeFunctionalKey(key, code); });
+    box.KeyDown.Calls([key](int code) { CaptureFunctionalKey(key, code); });
     box.KeyUp.Calls([key](int code) { NameFunctional(key, code); });
     box.LostFocus.Calls([key] { LeaveFunctional(key); });
 }
@@ -35,7 +35,7 @@ void JoinInitialEvents(InitialWindow& window) {
     window.OkButton.Click.Calls(AcceptNamedKeys);
     for (int key = 0; key < kNamedKeys; ++key) {
         window.KeyCodes[key].GotFocus.Calls([key] { EmptyNamedKey(key); });
-        window.KeyCodes[key].KeyDown.Calls([key](int code) { TakeNamedKey(key, code); });
+        window.KeyCodes[key].KeyDown.Calls([key](int code) { CaptureNamedKey(key, code); });
     }
 }
 

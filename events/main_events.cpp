@@ -25,8 +25,8 @@ namespace {
 void JoinWindow(MainWindow& window) {
     window.Loaded.Calls([&window] { LoadMainWindow(window); });
     window.FrameClosed.Calls(CloseMainWindow);
-    window.KeyDown.Calls(TakeKeyDown);
-    window.KeyUp.Calls(TakeKeyUp);
+    window.KeyDown.Calls(DispatchKeyDown);
+    window.KeyUp.Calls(DispatchKeyUp);
     window.FocusGiven.Calls(ReturnFocus);
     window.MouseMove.Calls([](Mouse) { ReturnFocusOnMove(); });
 }

@@ -82,7 +82,7 @@ void EmptyNamedKey(int key) {
     frmInitial.KeyCodes[key].SetText("");
 }
 
-void TakeNamedKey(int key, int code) {
+void CaptureNamedKey(int key, int code) {
     TextBox& box = frmInitial.KeyCodes[key];
     box.SetText(std::to_string(code));
     if (code == kDeleteKey) PutCaretBehind(box);  // it would take the first digit of its own code away

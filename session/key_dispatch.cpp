@@ -160,7 +160,7 @@ void PushOnUndoList(int slot) {
 }
 }  // namespace
 
-void TakeKeyDown(int code) {
+void DispatchKeyDown(int code) {
     frmMain.SetEnabled(true);
     if (!KeySettingsLoaded) UseBuiltInShifts();
     if (IsSaveKey(code)) {
@@ -199,7 +199,7 @@ void CountKeyPress(int code) {
     MoveHighlight(slot, kCounted);
 }
 
-void TakeKeyUp(int code) {
+void DispatchKeyUp(int code) {
     if (IsShiftKey(code)) {
         ShiftLevel = std::max<std::int16_t>(ShiftLevel - 1, 0);
         if (code == Shift1Code) Shift1Down = false;

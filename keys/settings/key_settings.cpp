@@ -15,7 +15,7 @@ namespace {
 constexpr const char* kFile = "References/KeySetting.csv";
 constexpr double kUnknownCode = 999;
 
-constexpr int kCodes[] = {
+constexpr int kBuiltInCodes[] = {
     'Q', 'W', 'E', 'A', 'S', 'D', 'Z', 'X', 'C',  // 1..9
     'R', 'T', 'Y', 'F', 'G', 'H', 'V', 'B', 'N',  // 10..18
     'U', 'I', 'O', 'J', 'K', 'L', 'M', 188, 190,  // 19..27: the last two are comma and full stop
@@ -77,6 +77,6 @@ int KeyNumber(const Any& field) {
 }
 
 int BuiltInKeyNumber(int code) {
-    const auto key = std::find(std::begin(kCodes), std::end(kCodes), code);
-    return key == std::end(kCodes) ? 0 : static_cast<int>(key - std::begin(kCodes)) + 1;
+    const auto key = std::find(std::begin(kBuiltInCodes), std::end(kBuiltInCodes), code);
+    return key == std::end(kBuiltInCodes) ? 0 : static_cast<int>(key - std::begin(kBuiltInCodes)) + 1;
 }
