@@ -3,6 +3,7 @@
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
+#include "platform/key_codes.h"
 #include "session/focus.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
@@ -12,8 +13,6 @@
 #include "taxa/subtotals.h"
 
 namespace {
-constexpr int kEscape = 27;
-
 void JoinNote(TextBox& note) {
     note.GotFocus.Calls([&note] {
         PutCaretBehind(note);
@@ -113,7 +112,7 @@ void JoinPictureEvents(PictureWindow& window) {
     window.Loaded.Calls(CoverScreen);
     window.FrameClosed.Calls(hide);
     window.KeyDown.Calls([&window](int code) {
-        if (code == kEscape) window.Hide();
+        if (code == kEscapeKey) window.Hide();
     });
     for (PictureBox* picture : window.pictures) picture->Click.Calls(hide);
 }

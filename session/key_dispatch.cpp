@@ -114,14 +114,14 @@ void ShowPadPanels(bool visible) {
     for (Frame& panel : frmMain.PadBlocks) panel.SetVisible(visible);
 }
 
-// The question box has eaten the releases of the shift keys.
+// While the question is up, the releases of the shift keys go to it.
 void ForgetShifts() {
     ShiftLevel = 0;
     ShowBank();
     Shift1Down = Shift2Down = false;
 }
 
-// A key of a known number, in counting mode and not the undo key. False: the analyst declined, the key is lost.
+// A key of a known number, in counting mode and not the undo key. Returns false if the analyst declined: the key is lost.
 bool CountOrAsk(int code) {
     SheetClean = false;
     frmMain.mnuNew.SetEnabled(true);

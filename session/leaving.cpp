@@ -39,11 +39,11 @@ void CloseForGood(Window& window) {
     try {
         window.Unload();
     } catch (const Failure&) {
-        // No reason for the others to stay.
+        // The others are to close all the same.
     }
 }
 
-// An answer of Cancel, like a failed save, has never kept the program open: all that it does is not to save.
+// Cancel ends the program too, without a save (docs/quirks.md), and so does a save that failed.
 void AskAndEnd() {
     SaveOutcome = 1;
     if (IsSheetChanged()) {

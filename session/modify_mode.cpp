@@ -64,7 +64,7 @@ void EnterModifyMode() {
 }
 
 void LeaveModifyMode() {
-    RestFocus();  // the box in hand is left while its edit still counts as one
+    RestFocus();  // first, so that the box being edited is left, and its edit told, while the mode still lasts
     CloseBoxes(frmMain);
 }
 

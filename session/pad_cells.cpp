@@ -17,13 +17,13 @@ bool IsGenus(const std::string& name) {
     return name != kEmpty && ending != "ae" && ending != "AE";
 }
 
-// A product of two Singles, rounded as one, ties to even.
+// Of a product of two floats, itself a float; ties to even.
 double ToOneDecimal(float value) {
     return RoundHalfEven(value, 1);
 }
 
-// The totals turn into percentages only where the sum kept for sample 136 is not 0, whatever sample is on show. On smaller sheets
-// they stay as they are, and analysts are used to it.
+// The totals turn into percentages only where the sum kept for sample 136 is not 0, whatever sample is on show: see
+// docs/quirks.md.
 void ShowTotalsInPercent() {
     constexpr int kTestedSample = kSlots + 1;
     if (Counts[0][kTestedSample] == 0) return;
@@ -57,7 +57,7 @@ void CopyCellsToCounts() {
 }
 
 void ShowPercentages() {
-    if (!frmMain.KeysEnabled) return;  // by a second mouse button: what is parked are the counts
+    if (!frmMain.KeysEnabled) return;  // by a second mouse button: the counts are held already
     frmMain.HoldNumbers();
     SamplePercentages(CurrentSample);
     frmMain.KeysEnabled = false;

@@ -2,7 +2,7 @@
 #pragma once
 #include "platform/services.h"
 
-void PlayIfOn(const Wave& wave);  // silent while SoundOn is False
+void PlayIfOn(const Wave& wave);  // silent while SoundOn is false
 void SayIfSilent();               // on the start face, once it is known that there is no sound device
 
 // The alarm marks each full hundred on the chosen total.

@@ -98,7 +98,7 @@ void AskForKeyboardIfUnknown() {
     frmInitial.Show();
 }
 
-// False: the built-in keys serve from now on.
+// Returns false if they cannot be read: the built-in keys serve from now on.
 bool LoadKeySettings() {
     try {
         ReadKeySettings();
@@ -121,7 +121,7 @@ const WaveFile kWaveFiles[] = {
     {"Undo.wav", &WaveUndo},  {"Save.wav", &WaveSave},  {"Alarm.wav", &WaveAlarm}, {"Error.wav", &WaveError},
 };
 
-// False: a wave is missing, and there is no sound at all.
+// Returns false if a wave is missing: there is no sound at all then.
 bool LoadWaves() {
     try {
         for (const WaveFile& file : kWaveFiles) file.wave->bytes = services.files->ReadAll(ProgramFile("Sound files/") + file.name);
