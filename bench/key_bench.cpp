@@ -27,8 +27,8 @@ void PressKeys(benchmark::State& state) {
         key = key % kKeys + 1;
         const int code = static_cast<int>(KeySettings[key][1].Number());
         const auto begin = Clock::now();
-        TakeKeyDown(code);
-        TakeKeyUp(code);
+        DispatchKeyDown(code);
+        DispatchKeyUp(code);
         times.push_back(std::chrono::duration<double, std::micro>(Clock::now() - begin).count());
     }
     state.counters["median_us"] = Quantile(times, 0.5);

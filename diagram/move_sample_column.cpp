@@ -7,7 +7,7 @@
 #include "diagram/sample_selector.h"
 #include "diagram/tree_panel.h"
 #include "platform/number.h"
-#include "session/changed_mark.h"
+#include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 

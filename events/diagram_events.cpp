@@ -13,66 +13,63 @@
 #include "events/join.h"
 #include "platform/services.h"
 #include "platform/user.h"
-#include "windows/diagram_window.h"
 
 namespace {
-void JoinWindow() {
-    frmDiagram.Loaded.Calls(LoadDiagramWindow);
-    frmDiagram.Unloading.Calls(EndDiagram);
-    frmDiagram.Resized.Calls(ResizeDiagram);
+void JoinWindow(DiagramWindow& window) {
+    window.Loaded.Calls(LoadDiagramWindow);
+    window.Unloading.Calls(EndDiagram);
+    window.Resized.Calls(ResizeDiagram);
 }
 
-void JoinMenus() {
-    frmDiagram.mnuAll.Click.Calls([] { ChooseBasisItem(0); });
-    frmDiagram.mnuSub1.Click.Calls([] { ChooseBasisItem(1); });
-    frmDiagram.mnuSub2.Click.Calls([] { ChooseBasisItem(2); });
+void JoinMenus(DiagramWindow& window) {
+    window.mnuAll.Click.Calls([] { ChooseBasisItem(0); });
+    window.mnuSub1.Click.Calls([] { ChooseBasisItem(1); });
+    window.mnuSub2.Click.Calls([] { ChooseBasisItem(2); });
     for (const DiagramStyle& style : kDiagramStyles) {
         style.item->Click.Calls([&style] { TakeStyle(style); });
         style.main_item->Click.Calls([&style] { LaunchInStyle(style); });
     }
-    for (MenuItem* item : {&frmDiagram.mnuVertical, &frmDiagram.mnuVertical1, &frmDiagram.mnuVertical2})
-        item->Click.Calls(ToggleVerticalLine);
-    for (MenuItem* item : {&frmDiagram.mnuHorizontal, &frmDiagram.mnuHorizontal1, &frmDiagram.mnuHorizontal2})
-        item->Click.Calls(ToggleHorizontalLine);
-    frmDiagram.mnuTaxaName.Click.Calls([] { frmDiagram.mnuTaxaName.SetChecked(!frmDiagram.mnuTaxaName.Checked()); });
-    frmDiagram.nmuConiss.Click.Calls(ToggleTree);
-    frmDiagram.mnuCopyDiagram.Click.Calls([] { services.clipboard->PutImage(frmDiagram.Diagram); });
-    frmDiagram.mnuCopyConiss.Click.Calls([] { services.clipboard->PutImage(frmDiagram.ClusterTree); });
-    frmDiagram.mnuCopyTaxaName.Click.Calls(CopyTaxonNames);
-    frmDiagram.mnuSaveConiss.Click.Calls(SaveMergeList);
-    frmDiagram.mnuSaveEOF.Click.Calls([] { frmDiagram.SaveEOF(); });
-    frmDiagram.mnuSaveAllEOF.Click.Calls([] { frmDiagram.SaveAllEOF(); });
+    for (MenuItem* item : {&window.mnuVertical, &window.mnuVertical1, &window.mnuVertical2}) item->Click.Calls(ToggleVerticalLine);
+    for (MenuItem* item : {&window.mnuHorizontal, &window.mnuHorizontal1, &window.mnuHorizontal2}) item->Click.Calls(ToggleHorizontalLine);
+    window.mnuTaxaName.Click.Calls([&window] { window.mnuTaxaName.SetChecked(!window.mnuTaxaName.Checked()); });
+    window.nmuConiss.Click.Calls(ToggleTree);
+    window.mnuCopyDiagram.Click.Calls([&window] { services.clipboard->PutImage(window.Diagram); });
+    window.mnuCopyConiss.Click.Calls([&window] { services.clipboard->PutImage(window.ClusterTree); });
+    window.mnuCopyTaxaName.Click.Calls(CopyTaxonNames);
+    window.mnuSaveConiss.Click.Calls(SaveMergeList);
+    window.mnuSaveEOF.Click.Calls([&window] { window.SaveEOF(); });
+    window.mnuSaveAllEOF.Click.Calls([&window] { window.SaveAllEOF(); });
 }
 
 // 0 is no scale: the slider goes on to 1, and the change to that draws.
-void TakeHorizontalScale() {
-    if (frmDiagram.HorizontalScale.Value() < 1) {
-        frmDiagram.HorizontalScale.SetValue(1);
+void ApplyHorizontalScale(DiagramWindow& window) {
+    if (window.HorizontalScale.Value() < 1) {
+        window.HorizontalScale.SetValue(1);
         return;
     }
     RedrawDiagram();
-    frmDiagram.SampleSlider.SetFocus();
+    window.SampleSlider.SetFocus();
 }
 
-void TakeScroll() {
+void ScrollColumns(DiagramWindow& window) {
     DrawTaxonNames();
     DrawDiagram();
-    frmDiagram.SampleSlider.SetFocus();
+    window.SampleSlider.SetFocus();
 }
 
-void JoinSliders() {
-    frmDiagram.HorizontalScale.Change.Calls(TakeHorizontalScale);
-    frmDiagram.ColumnScroll.Change.Calls(TakeScroll);
-    frmDiagram.SampleSlider.Change.Calls(TakeSelectedSample);
-    frmDiagram.SampleSlider.KeyUp.Calls([](int) { TakeSelectedSample(); });
+void JoinSliders(DiagramWindow& window) {
+    window.HorizontalScale.Change.Calls([&window] { ApplyHorizontalScale(window); });
+    window.ColumnScroll.Change.Calls([&window] { ScrollColumns(window); });
+    window.SampleSlider.Change.Calls(TakeSelectedSample);
+    window.SampleSlider.KeyUp.Calls([](int) { TakeSelectedSample(); });
 }
 
-void JoinSelector() {
-    frmDiagram.SampleList.Click.Calls(SelectChosenSample);
-    frmDiagram.SampleArrows.UpClick.Calls(SelectNextSample);
-    frmDiagram.SampleArrows.DownClick.Calls(SelectPreviousSample);
-    frmDiagram.SampleLine.Click.Calls(DrawSampleMarker);
-    frmDiagram.LastMoveButton.Click.Calls(ShowMoveReadOuts);
+void JoinSelector(DiagramWindow& window) {
+    window.SampleList.Click.Calls(SelectChosenSample);
+    window.SampleArrows.UpClick.Calls(SelectNextSample);
+    window.SampleArrows.DownClick.Calls(SelectPreviousSample);
+    window.SampleLine.Click.Calls(DrawSampleMarker);
+    window.LastMoveButton.Click.Calls(ShowMoveReadOuts);
 }
 
 void JoinPicture(PictureBox& picture, int source) {
@@ -81,27 +78,27 @@ void JoinPicture(PictureBox& picture, int source) {
     picture.MouseUp.Calls([](Mouse) { ReleaseOnPicture(); });
 }
 
-void JoinSurroundings() {
+void JoinSurroundings(DiagramWindow& window) {
     const auto leave_and_mark = [](Mouse) {
         DrawSampleMarker();
         LeavePictures();
     };
-    frmDiagram.MouseMove.Calls(leave_and_mark);
-    frmDiagram.NameStrip.MouseMove.Calls(leave_and_mark);
-    frmDiagram.Selector.MouseMove.Calls([](Mouse) { LeavePictures(); });
-    frmDiagram.SampleArrows.MouseMove.Calls([](Mouse) { LeavePictures(); });
-    frmDiagram.NameStrip.MouseDown.Calls([](Mouse mouse) {
-        if (mouse.button == MouseButton::Right) OpenPopup(frmDiagram.RB3);
+    window.MouseMove.Calls(leave_and_mark);
+    window.NameStrip.MouseMove.Calls(leave_and_mark);
+    window.Selector.MouseMove.Calls([](Mouse) { LeavePictures(); });
+    window.SampleArrows.MouseMove.Calls([](Mouse) { LeavePictures(); });
+    window.NameStrip.MouseDown.Calls([&window](Mouse mouse) {
+        if (mouse.button == MouseButton::Right) OpenPopup(window.RB3);
     });
 }
 }  // namespace
 
-void JoinDiagramEvents() {
-    JoinWindow();
-    JoinMenus();
-    JoinSliders();
-    JoinSelector();
-    JoinPicture(frmDiagram.Diagram, kOverDiagram);
-    JoinPicture(frmDiagram.ClusterTree, kOverTree);
-    JoinSurroundings();
+void JoinDiagramEvents(DiagramWindow& window) {
+    JoinWindow(window);
+    JoinMenus(window);
+    JoinSliders(window);
+    JoinSelector(window);
+    JoinPicture(window.Diagram, kOverDiagram);
+    JoinPicture(window.ClusterTree, kOverTree);
+    JoinSurroundings(window);
 }

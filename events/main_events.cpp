@@ -1,4 +1,3 @@
-#include "events/boxes.h"
 #include "events/join.h"
 #include "files/exports.h"
 #include "files/new_sheet.h"
@@ -6,15 +5,12 @@
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "platform/user.h"
-#include "session/count_channel.h"
-#include "session/dialog.h"
-#include "session/focus_rule.h"
-#include "session/italics.h"
+#include "session/focus.h"
 #include "session/key_dispatch.h"
 #include "session/leaving.h"
 #include "session/modify_mode.h"
-#include "session/percent_display.h"
-#include "session/sample_navigation.h"
+#include "session/pad_cells.h"
+#include "session/sample_on_show.h"
 #include "session/start_up.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
@@ -30,31 +26,31 @@
 #include "windows/subtotal_window.h"
 
 namespace {
-void JoinWindow() {
-    frmMain.Loaded.Calls(LoadMainWindow);
-    frmMain.FrameClosed.Calls(CloseMainWindow);
-    frmMain.KeyDown.Calls(TakeKeyDown);
-    frmMain.KeyUp.Calls(TakeKeyUp);
-    frmMain.FocusGiven.Calls(ReturnFocus);
-    frmMain.MouseMove.Calls([](Mouse) { ReturnFocusOnMove(); });
+void JoinWindow(MainWindow& window) {
+    window.Loaded.Calls([&window] { LoadMainWindow(window); });
+    window.FrameClosed.Calls(CloseMainWindow);
+    window.KeyDown.Calls(DispatchKeyDown);
+    window.KeyUp.Calls(DispatchKeyUp);
+    window.FocusGiven.Calls(ReturnFocus);
+    window.MouseMove.Calls([](Mouse) { ReturnFocusOnMove(); });
 }
 
-void JoinGrounds() {
+void JoinGrounds(MainWindow& window) {
     for (Control* ground :
-         std::initializer_list<Control*>{&frmMain.SampleFrame, &frmMain.TotalsFrame, &frmMain.ParamsFrame, &frmMain.CurveFrame,
-                                         &frmMain.PadGround, &frmMain.History, &frmMain.SampleList, &frmMain.BankTabs})
-        ground->MouseMove.Calls([ground](Mouse) {
-            if (ground == &frmMain.SampleFrame || ground == &frmMain.BankTabs) MousePointer = kPointerArrow;
+         std::initializer_list<Control*>{&window.SampleFrame, &window.TotalsFrame, &window.ParamsFrame, &window.CurveFrame,
+                                         &window.PadGround, &window.History, &window.SampleList, &window.BankTabs})
+        ground->MouseMove.Calls([&window, ground](Mouse) {
+            if (ground == &window.SampleFrame || ground == &window.BankTabs) MousePointer = kPointerArrow;
             ReturnFocusOnMove();
         });
-    for (ComboBox* list : {&frmMain.History, &frmMain.SampleList}) {
+    for (ComboBox* list : {&window.History, &window.SampleList}) {
         list->MouseUp.Calls([](Mouse) { ReturnFocus(); });
         list->KeyDown.Calls([](int) { ReturnFocus(); });  // before the character: a counted key is no name
         list->KeyUp.Calls([](int) { ReturnFocus(); });
     }
-    frmMain.BankTabs.MouseDown.Calls([](Mouse) { HoldTab(); });
-    frmMain.BankTabs.MouseUp.Calls([](Mouse) { ReturnTab(); });
-    frmMain.ClearGroundButton.Click.Calls([] { frmMain.PadGround.Clear(); });
+    window.BankTabs.MouseDown.Calls([](Mouse) { HoldTab(); });
+    window.BankTabs.MouseUp.Calls([](Mouse) { ReturnTab(); });
+    window.ClearGroundButton.Click.Calls([&window] { window.PadGround.Clear(); });
 }
 
 // A press of the right button in Modify mode offers the move; otherwise the keyboard stays with the counter. The name of the sample is
@@ -71,8 +67,8 @@ void JoinBox(TextBox& box) {
     box.MouseUp.Calls([](Mouse) { ReturnFocus(); });
 }
 
-void JoinNameBox(int slot) {
-    TextBox& box = frmMain.TaxonNames[slot];
+void JoinNameBox(MainWindow& window, int slot) {
+    TextBox& box = window.TaxonNames[slot];
     JoinBox(box);
     box.GotFocus.Calls([slot] { EnterNameBox(slot); });
     box.LostFocus.Calls([slot] { LeaveNameBox(slot); });
@@ -82,8 +78,8 @@ void JoinNameBox(int slot) {
     box.Change.Calls([slot] { slot == 0 ? TakeSampleName() : TakeTaxonName(slot); });
 }
 
-void JoinCountBox(int slot) {
-    TextBox& box = frmMain.TaxonCounts[slot];
+void JoinCountBox(MainWindow& window, int slot) {
+    TextBox& box = window.TaxonCounts[slot];
     JoinBox(box);
     box.MouseMove.Calls(EnterCountCell);
     box.GotFocus.Calls([slot] { EnterCountBox(slot); });
@@ -97,19 +93,19 @@ void JoinCountBox(int slot) {
     box.Change.Calls([slot] { TakeCount(slot); });
 }
 
-void JoinCells() {
-    frmMain.CountChannel.Change.Calls(CountSlotInChannel);
+void JoinCells(MainWindow& window) {
+    window.CountChannel.Change.Calls([&window] { CountSlotInChannel(window.CountChannel); });
     for (int slot = 0; slot <= kSlots; ++slot) {
-        JoinNameBox(slot);
-        frmMain.SlotNumbers[slot].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
-        frmMain.SlotNumbers[slot].Click.Calls([slot] { SelectSlot(slot); });
+        JoinNameBox(window, slot);
+        window.SlotNumbers[slot].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
+        window.SlotNumbers[slot].Click.Calls([slot] { SelectSlot(slot); });
     }
-    for (int slot = 1; slot <= kSlots; ++slot) JoinCountBox(slot);
+    for (int slot = 1; slot <= kSlots; ++slot) JoinCountBox(window, slot);
 }
 
-void JoinMoves() {
-    MenuItem* const banks[3] = {&frmMain.mnu1to45, &frmMain.mnu46to90, &frmMain.mnu91to135};
-    MenuItem* const items[3] = {frmMain.mnuMoveTo1, frmMain.mnuMoveTo2, frmMain.mnuMoveTo3};
+void JoinMoves(MainWindow& window) {
+    MenuItem* const banks[3] = {&window.mnu1to45, &window.mnu46to90, &window.mnu91to135};
+    MenuItem* const items[3] = {window.mnuMoveTo1, window.mnuMoveTo2, window.mnuMoveTo3};
     for (int bank = 0; bank < 3; ++bank) {
         banks[bank]->Click.Calls([bank] { OpenBankMenu(bank); });
         for (int i = 0; i < kKeys; ++i) {
@@ -119,100 +115,100 @@ void JoinMoves() {
     }
 }
 
-void JoinParam(int p) {
-    TextBox& box = frmMain.ParamBoxes[p];
+void JoinParam(MainWindow& window, int p) {
+    TextBox& box = window.ParamBoxes[p];
     JoinBox(box);
     box.GotFocus.Calls([p] { EnterParam(p); });
     box.LostFocus.Calls([&box] { RestoreDashes(box); });
     JoinGuardedKeys(box);
     box.Change.Calls([p] { TakeParam(p); });
-    frmMain.ParamNames[p].Change.Calls([p] {
+    window.ParamNames[p].Change.Calls([p] {
         EndWithColon(p);
         NameParamBox(p);
     });
-    frmMain.RenameButtons[p].Click.Calls([p] { RenameParamOfSheet(p); });
-    frmMain.RenameButtons[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
+    window.RenameButtons[p].Click.Calls([p] { RenameParamOfSheet(p); });
+    window.RenameButtons[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
 }
 
-void JoinSample() {
-    JoinBox(frmMain.SampleNote);
-    frmMain.SampleNote.GotFocus.Calls(EnterNote);
-    JoinGuardedKeys(frmMain.SampleNote);
-    frmMain.SampleNote.DoubleClick.Calls(DoubleClickNote);
-    frmMain.SampleNote.Change.Calls(TakeNote);
-    for (int p = 1; p <= kParams; ++p) JoinParam(p);
-    frmMain.History.Change.Calls([] { frmMain.mnuSaveHistory.SetEnabled(true); });
-    frmMain.SampleList.Click.Calls(BringUpChosenSample);
-    frmMain.SampleList.Edited.Calls(RenameSampleOnShow);
-    frmMain.SerialNumber.Change.Calls(OfferDiagram);
+void JoinSample(MainWindow& window) {
+    JoinBox(window.SampleNote);
+    window.SampleNote.GotFocus.Calls(EnterNote);
+    JoinGuardedKeys(window.SampleNote);
+    window.SampleNote.DoubleClick.Calls(DoubleClickNote);
+    window.SampleNote.Change.Calls(TakeNote);
+    for (int p = 1; p <= kParams; ++p) JoinParam(window, p);
+    window.History.Change.Calls([&window] { window.mnuSaveHistory.SetEnabled(true); });
+    window.SampleList.Click.Calls([&window] { BringUpChosenSample(window.SampleList); });
+    window.SampleList.Edited.Calls(RenameSampleOnShow);
+    window.SerialNumber.Change.Calls(OfferDiagram);
 }
 
-void JoinTotals() {
-    frmMain.AllTotal.Change.Calls(TakeChangedTotal);
-    for (int i = 0; i < 3; ++i) frmMain.BasisOptions[i].Click.Calls([i] { ChooseBasis(i); });
-    frmMain.PercentButton.MouseDown.Calls([](Mouse) { ShowPercentages(); });
-    frmMain.PercentButton.MouseUp.Calls([](Mouse) { HidePercentages(); });
-    frmMain.DiversityPicture.MouseMove.Calls([](Mouse) { frmMain.DiversityPicture.SetToolTip("Taxa diversity vs. total count"); });
-    frmMain.DiversityPicture.MouseDown.Calls([](Mouse mouse) {
-        if (mouse.button == MouseButton::Right) OpenPopup(frmMain.mnuDiversityRB);
+void JoinTotals(MainWindow& window) {
+    window.AllTotal.Change.Calls([&window] { FollowChangedTotal(window.AllTotal); });
+    for (int i = 0; i < 3; ++i) window.BasisOptions[i].Click.Calls([i] { ChooseBasis(i); });
+    window.PercentButton.MouseDown.Calls([](Mouse) { ShowPercentages(); });
+    window.PercentButton.MouseUp.Calls([](Mouse) { HidePercentages(); });
+    window.DiversityPicture.MouseMove.Calls([&window](Mouse) { window.DiversityPicture.SetToolTip("Taxa diversity vs. total count"); });
+    window.DiversityPicture.MouseDown.Calls([&window](Mouse mouse) {
+        if (mouse.button == MouseButton::Right) OpenPopup(window.mnuDiversityRB);
     });
-    frmMain.mnuCopyDiversity.Click.Calls([] { services.clipboard->PutImage(frmMain.DiversityPicture); });
+    window.mnuCopyDiversity.Click.Calls([&window] { services.clipboard->PutImage(window.DiversityPicture); });
 }
 
-void JoinCommands() {
-    frmMain.SaveButton.Click.Calls(SaveFromButton);
-    frmMain.NextSampleButton.Click.Calls(NextFromButton);
-    frmMain.OpenButton.Click.Calls(OpenSheetFromButton);
-    frmMain.ModifyButton.Click.Calls(EnterModifyMode);
-    frmMain.ResumeButton.Click.Calls(LeaveModifyMode);
-    frmMain.mnuStartAmend.Click.Calls(EnterModifyMode);
-    frmMain.mnuFinishAmend.Click.Calls(LeaveModifyMode);
-    frmMain.mnuNew.Click.Calls(NewSheet);
-    frmMain.mnuOpen.Click.Calls(OpenSheet);
-    frmMain.mnuTemplate.Click.Calls(CreateTemplate);
-    frmMain.mnuSaveHistory.Click.Calls(SaveHistory);
-    frmMain.ResetButton.Click.Calls(AbortCount);
-    frmMain.mnuNext.Click.Calls(NextFromMenu);
-    frmMain.mnuSave.Click.Calls(SaveFromMenu);
-    frmMain.mnuSaveAs.Click.Calls([] { SaveSheet(kSaveAs); });
-    frmMain.mnuSaveCopy.Click.Calls([] { SaveSheet(kSaveCopy); });
-    frmMain.mnuPercentAll.Click.Calls([] { SavePercentTable(0); });
-    frmMain.mnuPercentSub1.Click.Calls([] { SavePercentTable(1); });
-    frmMain.mnuPercentSub2.Click.Calls([] { SavePercentTable(2); });
-    frmMain.mnuQuit.Click.Calls(QuitProgram);
-    frmMain.mnuUndo.Click.Calls(Undo);
-    frmMain.mnuReset.Click.Calls(AbortCount);
-    frmMain.mnuItalic.Click.Calls(ToggleItalics);
+void JoinCommands(MainWindow& window) {
+    window.SaveButton.Click.Calls(SaveFromButton);
+    window.NextSampleButton.Click.Calls(NextFromButton);
+    window.OpenButton.Click.Calls(OpenSheetFromButton);
+    window.ModifyButton.Click.Calls(EnterModifyMode);
+    window.ResumeButton.Click.Calls(LeaveModifyMode);
+    window.mnuStartAmend.Click.Calls(EnterModifyMode);
+    window.mnuFinishAmend.Click.Calls(LeaveModifyMode);
+    window.mnuNew.Click.Calls(NewSheet);
+    window.mnuOpen.Click.Calls(OpenSheet);
+    window.mnuTemplate.Click.Calls(CreateTemplate);
+    window.mnuSaveHistory.Click.Calls(SaveHistory);
+    window.ResetButton.Click.Calls(AbortCount);
+    window.mnuNext.Click.Calls(NextFromMenu);
+    window.mnuSave.Click.Calls(SaveFromMenu);
+    window.mnuSaveAs.Click.Calls([] { SaveSheet(kSaveAs); });
+    window.mnuSaveCopy.Click.Calls([] { SaveSheet(kSaveCopy); });
+    window.mnuPercentAll.Click.Calls([] { SavePercentTable(0); });
+    window.mnuPercentSub1.Click.Calls([] { SavePercentTable(1); });
+    window.mnuPercentSub2.Click.Calls([] { SavePercentTable(2); });
+    window.mnuQuit.Click.Calls(QuitProgram);
+    window.mnuUndo.Click.Calls(Undo);
+    window.mnuReset.Click.Calls(AbortCount);
+    window.mnuItalic.Click.Calls([&window] { ToggleItalics(window.mnuItalic); });
 }
 
 // What is pressed next is a counter key: neither a button nor a total keeps the keyboard.
-void JoinFocusOfButtons() {
-    for (Control* control : frmMain.Controls()) {
+void JoinFocusOfButtons(MainWindow& window) {
+    for (Control* control : window.Controls()) {
         const bool presses = control->kind() == Kind::Button || control->kind() == Kind::OptionButton || control->name == "Text3";
         if (presses && !control->MouseUp.IsJoined()) control->MouseUp.Calls([](Mouse) { ReturnFocus(); });
     }
 }
 
-void JoinDialogs() {
-    frmMain.mnuKeyCodeReader.Click.Calls([] { OpenDialog(frmKeyCode); });
-    frmMain.mnuSubtotal.Click.Calls([] { OpenDialog(frmSubtotal); });
-    frmMain.mnuInitial.Click.Calls([] { OpenDialog(frmInitial); });
-    frmMain.mnuAboutMB1.Click.Calls([] { OpenDialog(frmAboutMB1); });
-    frmMain.mnuAboutDX1.Click.Calls([] { OpenDialog(frmAboutDX1); });
-    frmMain.mnuCoffee.Click.Calls([] { ShowRestPicture(frmPicture.imgCoffee); });
-    frmMain.mnuBeach.Click.Calls([] { ShowRestPicture(frmPicture.imgBeach); });
-    frmMain.mnuFavorite.Click.Calls([] { ShowRestPicture(frmPicture.imgFavorite); });
+void JoinDialogs(MainWindow& window) {
+    window.mnuKeyCodeReader.Click.Calls([] { OpenDialog(frmKeyCode); });
+    window.mnuSubtotal.Click.Calls([] { OpenDialog(frmSubtotal); });
+    window.mnuInitial.Click.Calls([] { OpenDialog(frmInitial); });
+    window.mnuAboutMB1.Click.Calls([] { OpenDialog(frmAboutMB1); });
+    window.mnuAboutDX1.Click.Calls([] { OpenDialog(frmAboutDX1); });
+    window.mnuCoffee.Click.Calls([] { ShowRestPicture(frmPicture.imgCoffee); });
+    window.mnuBeach.Click.Calls([] { ShowRestPicture(frmPicture.imgBeach); });
+    window.mnuFavorite.Click.Calls([] { ShowRestPicture(frmPicture.imgFavorite); });
 }
 }  // namespace
 
-void JoinMainEvents() {
-    JoinWindow();
-    JoinGrounds();
-    JoinCells();
-    JoinMoves();
-    JoinSample();
-    JoinTotals();
-    JoinCommands();
-    JoinFocusOfButtons();
-    JoinDialogs();
+void JoinMainEvents(MainWindow& window) {
+    JoinWindow(window);
+    JoinGrounds(window);
+    JoinCells(window);
+    JoinMoves(window);
+    JoinSample(window);
+    JoinTotals(window);
+    JoinCommands(window);
+    JoinFocusOfButtons(window);
+    JoinDialogs(window);
 }

@@ -7,7 +7,6 @@
 #include "files/back_up.h"
 #include "files/save_sheet.h"
 #include "session/told.h"
-#include "windows/next_window.h"
 
 namespace {
 void JoinCounting() {
@@ -21,14 +20,16 @@ void JoinCounting() {
 
 void StartProgram() {
     JoinCounting();
-    JoinMainEvents();
-    JoinNextEvents();
-    JoinInitialEvents();
-    JoinSiteNameEvents();
-    JoinKeyCodeEvents();
-    JoinSubtotalEvents();
-    JoinParaNameEvents();
-    JoinAccessoryEvents();
-    JoinDiagramEvents();
+    JoinMainEvents(frmMain);
+    JoinNextEvents(frmNext);
+    JoinInitialEvents(frmInitial);
+    JoinSiteNameEvents(frmSiteName);
+    JoinKeyCodeEvents(frmKeyCode);
+    JoinSubtotalEvents(frmSubtotal);
+    JoinParaNameEvents(frmParaName);
+    JoinAboutEvents(frmAboutMB1, frmAboutDX1);
+    JoinNoteEvents(frmNote);
+    JoinPictureEvents(frmPicture);
+    JoinDiagramEvents(frmDiagram);
     frmNext.Show();
 }

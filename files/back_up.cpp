@@ -5,7 +5,7 @@
 #include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "platform/failure.h"
-#include "session/stamps.h"
+#include "session/history.h"
 #include "session/state/sheet_state.h"
 
 namespace {

@@ -5,9 +5,9 @@
 #include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "session/export.h"
-#include "session/focus_rule.h"
+#include "session/focus.h"
+#include "session/history.h"
 #include "session/sound.h"
-#include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "session/pad_cells.h"
 #include "session/sample_on_show.h"
-#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 

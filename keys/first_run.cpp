@@ -6,7 +6,7 @@
 #include "platform/key_codes.h"
 #include "platform/services.h"
 #include "platform/text.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
 #include "taxa/edit_boxes.h"
@@ -82,7 +82,7 @@ void EmptyNamedKey(int key) {
     frmInitial.KeyCodes[key].SetText("");
 }
 
-void TakeNamedKey(int key, int code) {
+void CaptureNamedKey(int key, int code) {
     TextBox& box = frmInitial.KeyCodes[key];
     box.SetText(std::to_string(code));
     if (code == kDeleteKey) PutCaretBehind(box);  // it would take the first digit of its own code away

@@ -2,7 +2,7 @@
 #pragma once
 
 void LoadInitialWindow();
-void EmptyNamedKey(int key);           // its box gets the focus
-void TakeNamedKey(int key, int code);  // a key goes down in it
-void AcceptNamedKeys();                // OK; raises "File error" if the settings cannot be written
+void EmptyNamedKey(int key);              // its box gets the focus
+void CaptureNamedKey(int key, int code);  // a key goes down in it
+void AcceptNamedKeys();                   // OK; raises "File error" if the settings cannot be written
 void CloseInitialByFrame();

@@ -5,7 +5,7 @@
 
 #include "keys/settings/key_settings.h"
 #include "platform/services.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "session/state/sheet_state.h"
 #include "windows/key_windows.h"
 

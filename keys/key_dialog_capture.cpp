@@ -69,14 +69,14 @@ void EnterDefinition(int key) {
     Blacken(frmKeyCode.Definitions);
 }
 
-void TakeDefinitionKey(int key, int code) {
+void CaptureDefinitionKey(int key, int code) {
     frmKeyCode.OldCode = frmKeyCode.Codes[key].Text();
     GiveCode(key, code);
     NoteEditKey(code);
     if (TypesControlCharacter(code)) frmKeyCode.CharacterCode.SetCaption(std::to_string(code));
 }
 
-void TakeDefinition(int key) {
+void CheckDefinition(int key) {
     const TextBox& box = frmKeyCode.Definitions[key];
     if (!IsTyped(box) || LastEditKey == kBackspaceKey || LastEditKey == kDeleteKey) return;
     ShowCharacterCode(Mid(box.Text(), static_cast<std::size_t>(box.SelStart()), 1));
@@ -101,7 +101,7 @@ void EnterFunctional(int box) {
     Blacken(frmKeyCode.FunctionalBoxes);
 }
 
-void TakeFunctionalKey(int box, int code) {
+void CaptureFunctionalKey(int box, int code) {
     if (box == kF1Box)
         GiveTopRow(code);
     else

@@ -4,14 +4,14 @@
 
 // Text1[key]. What the key types stays as its definition; a key that has a name shows "[Esc]" once it is up.
 void EnterDefinition(int key);
-void TakeDefinitionKey(int key, int code);
-void TakeDefinition(int key);  // the text has changed: a quotation mark that key 51 gave is refused with a message
+void CaptureDefinitionKey(int key, int code);
+void CheckDefinition(int key);  // the text has changed: a quotation mark that key 51 gave is refused with a message
 void NameDefinition(int key, int code);
 void LeaveDefinition(int key);
 
 // Text4[box]: Shift-1, Shift-2, Undo, Save. That of F1 gives its code and the eight that follow to the top rows of the three blocks.
 void EnterFunctional(int box);
-void TakeFunctionalKey(int box, int code);
+void CaptureFunctionalKey(int box, int code);
 void NameFunctional(int box, int code);
 void LeaveFunctional(int box);
 

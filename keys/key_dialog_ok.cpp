@@ -5,7 +5,7 @@
 #include "keys/settings/key_settings.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/dialog.h"
+#include "session/focus.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
 #include "windows/key_windows.h"
@@ -20,7 +20,7 @@ struct Fault {
     TextBox* boxes[2];
 };
 
-bool Agree(const TextBox* boxes, int i, int j) {
+bool HaveSameText(const TextBox* boxes, int i, int j) {
     return boxes[i].Text() == boxes[j].Text();
 }
 
@@ -28,9 +28,9 @@ std::optional<Fault> FindDoubleKey() {
     KeyCodeWindow& dialog = frmKeyCode;
     for (int i = 1; i <= kKeys; ++i)
         for (int j = 1; j < i; ++j) {
-            if (Agree(dialog.Definitions, i, j) || Agree(dialog.Codes, i, j))
+            if (HaveSameText(dialog.Definitions, i, j) || HaveSameText(dialog.Codes, i, j))
                 return Fault{"Same key code is being used for more than one taxon.", 0, {&dialog.Definitions[i], &dialog.Definitions[j]}};
-            if (Agree(dialog.KeyNumbers, i, j))
+            if (HaveSameText(dialog.KeyNumbers, i, j))
                 return Fault{"Same Ergodex key is being used for more than one place.", 2, {&dialog.KeyNumbers[i], &dialog.KeyNumbers[j]}};
         }
     return std::nullopt;
@@ -39,7 +39,7 @@ std::optional<Fault> FindDoubleKey() {
 std::optional<Fault> FindDoubleFunctionalKey() {
     for (int i = 0; i < kFunctionalKeys; ++i)
         for (int j = 0; j < i; ++j)
-            if (Agree(frmKeyCode.FunctionalBoxes, i, j))
+            if (HaveSameText(frmKeyCode.FunctionalBoxes, i, j))
                 return Fault{"Same functional key is being used for more than one place.",
                              1,
                              {&frmKeyCode.FunctionalBoxes[i], &frmKeyCode.FunctionalBoxes[j]}};

@@ -5,9 +5,10 @@
 #include "windows/main_window.h"
 
 bool Export(const std::function<void(CellWriter&)>& write) {
-    if (!frmMain.FileDialog.AskForSaving()) return false;
+    CommonDialog& dialog = frmMain.FileDialog;
+    if (!dialog.AskForSaving()) return false;
     try {
-        const auto file = services.files->OpenForWriting(frmMain.FileDialog.FileName);
+        const auto file = services.files->OpenForWriting(dialog.FileName);
         CellWriter cells(*file);
         write(cells);
         cells.Close();

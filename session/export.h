@@ -3,6 +3,6 @@
 
 #include "files/format/cell_writer.h"
 
-// A file for use outside the session. Asks where to, then writes what `write` has to say. False: cancelled, or the disk would not take
-// it; both are silent.
+// A file for use outside the session. Asks where to, then writes what `write` has to say. Returns false if the user cancelled or the
+// disk would not take it; both are silent.
 bool Export(const std::function<void(CellWriter&)>& write);

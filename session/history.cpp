@@ -1,8 +1,16 @@
 #include "session/history.h"
 
 #include "platform/number.h"
+#include "platform/services.h"
+#include "platform/text.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
+
+namespace {
+std::string TimeInBrackets() {
+    return "(" + Right(services.clock->TimeText(), 8) + ")";
+}
+}  // namespace
 
 void AddHistoryLine(const std::string& line) {
     frmMain.History.AddItem(line);
@@ -17,4 +25,16 @@ void LogShownLineAgain() {
 
 std::string SlotAndName(int slot) {
     return frmMain.SlotNumbers[slot].Caption() + ": " + frmMain.TaxonNames[slot].Text();
+}
+
+std::string NoteStamp() {
+    return services.clock->DateText() + " " + TimeInBrackets();
+}
+
+std::string FileStamp() {
+    return services.clock->DateText() + "_" + TimeInBrackets();
+}
+
+std::string FreshNote() {
+    return "Created: " + NoteStamp() + "\r\nNote: ";
 }

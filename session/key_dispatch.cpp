@@ -5,13 +5,12 @@
 #include <cstring>
 #include <string>
 
-#include "keys/settings/built_in_keys.h"
+#include "keys/settings/key_settings.h"
 #include "platform/number.h"
 #include "platform/text.h"
-#include "session/alarm.h"
-#include "session/changed_mark.h"
-#include "session/highlight.h"
 #include "session/history.h"
+#include "session/pad_cells.h"
+#include "session/saved_state.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
@@ -56,6 +55,15 @@ void TrackShiftPress(int code) {
     ShiftLevel = std::min<std::int16_t>(ShiftLevel, 2);
     if (code == Shift1Code) Shift1Down = true;
     if (code == Shift2Code) Shift2Down = true;
+}
+
+void ShowBank() {
+    frmMain.BankTabs.SetTab(ShiftLevel);
+}
+
+// What the key has typed: the field that has the focus while counting stays empty.
+void DropTypedText() {
+    frmMain.FocusRest.SetText("");
 }
 
 void EnableCommandsOfACount() {
@@ -106,14 +114,14 @@ void ShowPadPanels(bool visible) {
     for (Frame& panel : frmMain.PadBlocks) panel.SetVisible(visible);
 }
 
-// The question box has eaten the releases of the shift keys.
+// While the question is up, the releases of the shift keys go to it.
 void ForgetShifts() {
     ShiftLevel = 0;
-    frmMain.BankTabs.SetTab(0);
+    ShowBank();
     Shift1Down = Shift2Down = false;
 }
 
-// A key of a known number, in counting mode and not the undo key. False: the analyst declined, the key is lost.
+// A key of a known number, in counting mode and not the undo key. Returns false if the analyst declined: the key is lost.
 bool CountOrAsk(int code) {
     SheetClean = false;
     frmMain.mnuNew.SetEnabled(true);
@@ -152,7 +160,7 @@ void PushOnUndoList(int slot) {
 }
 }  // namespace
 
-void TakeKeyDown(int code) {
+void DispatchKeyDown(int code) {
     frmMain.SetEnabled(true);
     if (!KeySettingsLoaded) UseBuiltInShifts();
     if (IsSaveKey(code)) {
@@ -163,11 +171,11 @@ void TakeKeyDown(int code) {
     TrackShiftPress(code);
     SampleUntouched = false;
     frmMain.mnuNext.SetEnabled(false);
-    if (!AmendMode && ShiftLevel > 0) frmMain.BankTabs.SetTab(ShiftLevel);
+    if (!AmendMode && ShiftLevel > 0) ShowBank();
     if (!AmendMode && !IsShiftOrUndoKey(code)) EnableCommandsOfACount();
     DetectReverse(code);
     if (code == UndoKeyCode || AmendMode)
-        frmMain.FocusRest.SetText("");
+        DropTypedText();
     else if (!CountOrAsk(code))
         return;
     if (code == UndoKeyCode && UndoKeyState == 0) {
@@ -180,25 +188,24 @@ void TakeKeyDown(int code) {
 void CountKeyPress(int code) {
     const std::string slot_text = SlotText(code);
     frmMain.CountChannel.SetText(slot_text);  // its change applies the count
-    frmMain.FocusRest.SetText("");
+    DropTypedText();
     const int new_slot = static_cast<int>(Val(slot_text));
     if (UndoList[0][1] != 0) PaintCell(new_slot, kWhite);
     if (!IsShiftKey(code)) PushOnUndoList(new_slot);
     const int slot = std::abs(UndoList[0][1]);
     if (slot == 0 || SampleUntouched || IsShiftOrUndoKey(code)) return;
     AddHistoryLine((ReverseCount ? "(Amend) " : "") + SlotAndName(slot));
-    frmMain.TaxonCounts[slot].SetBold(true);
-    frmMain.TaxonNames[slot].SetBold(true);
+    ShowBold(slot, true);
     MoveHighlight(slot, kCounted);
 }
 
-void TakeKeyUp(int code) {
+void DispatchKeyUp(int code) {
     if (IsShiftKey(code)) {
         ShiftLevel = std::max<std::int16_t>(ShiftLevel - 1, 0);
         if (code == Shift1Code) Shift1Down = false;
         if (code == Shift2Code) Shift2Down = false;
     }
-    if (!AmendMode && ShiftLevel < 2) frmMain.BankTabs.SetTab(ShiftLevel);
+    if (!AmendMode && ShiftLevel < 2) ShowBank();
     if (UndoKeyState == 1 && !AmendMode) Undo();
     if (code == UndoKeyCode) {
         UndoKeyState = 0;

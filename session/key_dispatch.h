@@ -3,6 +3,6 @@
 // must not look away from the eyepiece. Auto-repeat counts: a key that is held sends further presses.
 #pragma once
 
-void TakeKeyDown(int code);  // virtual-key number
-void TakeKeyUp(int code);
+void DispatchKeyDown(int code);  // virtual-key number
+void DispatchKeyUp(int code);
 void CountKeyPress(int code);

@@ -1,14 +1,13 @@
 #include "session/leaving.h"
 
-#include <algorithm>
 #include <string>
 
 #include "files/format/sheet_base_name.h"
 #include "platform/failure.h"
 #include "platform/text.h"
-#include "session/changed_mark.h"
-#include "session/focus_rule.h"
+#include "session/focus.h"
 #include "session/history.h"
+#include "session/saved_state.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
@@ -29,24 +28,6 @@ bool ConfirmLoss(const std::string& text) {
     return services.messages->Show({"Caution!", text, Icon::None, Buttons::YesNo, true}) == Answer::Yes;
 }
 
-void RestoreSlot(int slot) {
-    frmMain.TaxonCounts[slot].SetBold(false);
-    frmMain.TaxonNames[slot].SetBold(false);
-    const int samples = std::min<int>(SampleCount, static_cast<int>(CountsAtOpen.size()) - 1);
-    if (CurrentSample <= samples) ShowCountOf(slot, CountsAtOpen[CurrentSample][slot]);
-    frmMain.TaxonNames[slot].SetText(TaxonTableAtOpen[slot][4].Text());
-    for (int field = 1; field <= 4; ++field) TaxonTable[slot][field] = TaxonTableAtOpen[slot][field];
-    for (int sample = 1; sample <= samples; ++sample) Counts[slot][sample] = CountsAtOpen[sample][slot];
-}
-
-void RestoreParams() {
-    for (int p = 1; p <= kParams; ++p) {
-        const std::string value = ParamValuesAtOpen[p][CurrentSample].Text();
-        frmMain.ParamBoxes[p].SetText(value.empty() ? kEmpty : value);
-        frmMain.ParamNames[p].SetCaption(ParamValuesAtOpen[p][0].Text());
-    }
-}
-
 std::string ClosingQuestion() {
     const std::string name = Length(SheetPath) < 4 ? "Untitled" : SheetBaseName(SheetPath);
     return "Do you want to save the changes you made to '" + name + ".csv'?";
@@ -56,11 +37,11 @@ void CloseForGood(Window& window) {
     try {
         window.Unload();
     } catch (const Failure&) {
-        // No reason for the others to stay.
+        // The others are to close all the same.
     }
 }
 
-// An answer of Cancel, like a failed save, has never kept the program open: all that it does is not to save.
+// Cancel ends the program too, without a save (docs/quirks.md), and so does a save that failed.
 void AskAndEnd() {
     SaveOutcome = 1;
     if (IsSheetChanged()) {
@@ -73,23 +54,16 @@ void AskAndEnd() {
 }
 }  // namespace
 
-void RestoreSheet() {
-    for (int slot = 1; slot <= kSlots; ++slot) RestoreSlot(slot);
-    RestoreParams();
-    RecountTotals(CurrentSample);
-}
-
 void AbortCount() {
     PlayIfOn(WaveError);
     if (AllTotal != 0) {
-        if (ConfirmLoss("This action will abort all inputs after last saving. Do you proceed?")) {
+        const bool confirmed = ConfirmLoss("This action will abort all inputs after last saving. Do you proceed?");
+        if (confirmed) {
             RestoreSheet();
             AddHistoryLine("(Reset)");
             for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][1] = 0;
-            frmMain.ResetButton.SetEnabled(false);
-        } else {
-            frmMain.ResetButton.SetEnabled(true);
         }
+        frmMain.ResetButton.SetEnabled(!confirmed);
     }
     CountsChanged.Raise();
     ReturnFocus();

@@ -2,7 +2,6 @@
 // leaves after asking.
 #pragma once
 
-void RestoreSheet();  // counts, names, flags and Additional info of the snapshot; samples that it does not hold keep their counts
 bool MayAbortData();  // asks whether the data on the screen may go
 void AbortCount();    // Reset
 void QuitProgram();

@@ -7,4 +7,5 @@ void EnterModifyMode();               // Command3[0], mnuStartAmend
 void LeaveModifyMode();               // Command3[1], mnuFinishAmend
 void LeaveModifyModeByDoubleClick();  // the same, and the names of the Additional info are off until the mode is entered again
 
-void AmendingOnOff(std::int16_t mode);  // 0 enters, anything else leaves; the boxes of note and Additional info are the caller's
+// 0 enters, anything else leaves (docs/quirks.md). The boxes of note and Additional info are the caller's.
+void AmendingOnOff(std::int16_t mode);

@@ -4,12 +4,9 @@
 
 #include "keys/settings/key_settings.h"
 #include "platform/failure.h"
-#include "session/changed_mark.h"
 #include "session/history.h"
-#include "session/snapshot.h"
-#include "session/stamps.h"
+#include "session/saved_state.h"
 #include "session/state/sheet_state.h"
-#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "windows/key_windows.h"
 #include "windows/main_window.h"
@@ -24,11 +21,7 @@ void LayOutCells() {
         const Box name = PadPlace(place);
         KeyLeft[place] = static_cast<std::int16_t>(name.left);
         KeyTop[place] = static_cast<std::int16_t>(name.top);
-        for (const int slot : {place + kKeys, place + 2 * kKeys}) {
-            frmMain.TaxonNames[slot].SetPlace(name.left, name.top);
-            frmMain.TaxonCounts[slot].SetPlace(name.left, name.top + kCountBelowName);
-            frmMain.SlotNumbers[slot].SetPlace(name.left, name.top + kNumberBelowName);
-        }
+        for (const int slot : {place + kKeys, place + 2 * kKeys}) frmMain.PlaceSlot(slot, name.left, name.top);
     }
 }
 
@@ -42,29 +35,18 @@ void ClearSession() {
     HistoryLog.assign(1, NoteStamp());
 }
 
-void EmptyCells() {
-    for (int slot = 1; slot <= kSlots; ++slot) {
-        frmMain.SlotNumbers[slot].SetVisible(false);
-        frmMain.TaxonNames[slot].SetText(kEmpty);
-        frmMain.TaxonCounts[slot].SetText("0");
-    }
-    frmMain.CountChannel.SetText("");
-    for (TextBox& total : frmMain.Totals) total.SetText("0");
-    frmMain.SampleNote.SetEnabled(false);
-}
-
-void BeginFirstSample() {
+void BeginFirstSample(MainWindow& window) {
     SheetClean = true;
     SampleUntouched = true;
     SampleCount = 1;
     CurrentSample = 1;
     MaxSerial = 1;
-    frmMain.SerialNumber.SetCaption("1/1");
+    window.SerialNumber.SetCaption("1/1");
     EnableDiagramItems(false);
-    frmMain.mnuItalic.SetChecked(true);
+    window.mnuItalic.SetChecked(true);
 }
 
-void FreshHeader() {
+void FreshHeader(MainWindow& window) {
     SheetHeader[6] = "Untitled";
     SheetHeader[7] = "";
     SheetHeader[8] = "";
@@ -76,10 +58,10 @@ void FreshHeader() {
     SampleTable[1][0] = 0;
     SampleTable[1][1] = 1;
     SampleTable[2][0] = SampleTable[2][1] = kUnnamed;
-    frmMain.SampleName.SetText(kUnnamed);
-    frmMain.SampleList.Clear();
-    frmMain.SampleList.SetText(kUnnamed);
-    if (frmMain.FormLoaded) ShowSubtotalNames();  // at the start the menu has words of its own
+    window.SampleName.SetText(kUnnamed);
+    window.SampleList.Clear();
+    window.SampleList.SetText(kUnnamed);
+    if (window.FormLoaded) ShowSubtotalNames();  // at the start the menu has words of its own
 }
 
 void FreshTaxa() {
@@ -94,24 +76,16 @@ void FreshTaxa() {
     }
 }
 
-void FreshNotes() {
+void FreshNotes(MainWindow& window) {
     for (int i = 1; i <= 3; ++i) SheetFooter[i] = kEmpty;
     SheetFooter[4] = "Note: ";
     SampleNotes[1] = kEmpty;
-    frmMain.SampleNote.SetText(kEmpty);
+    window.SampleNote.SetText(kEmpty);
     for (int p = 1; p <= kParams; ++p) {
         ParamValues[p][1] = kEmpty;
-        frmMain.ParamBoxes[p].SetText(kEmpty);
+        window.ParamBoxes[p].SetText(kEmpty);
     }
     SheetClean = true;  // emptying the fields of an earlier sheet is no edit of this one
-}
-
-void SwitchOffCommands() {
-    for (Control* command : std::initializer_list<Control*>{&frmMain.ResetButton, &frmMain.ResumeButton, &frmMain.mnuFinishAmend,
-                                                            &frmMain.mnuSave, &frmMain.mnuSaveHistory, &frmMain.NextSampleButton,
-                                                            &frmMain.mnuNext, &frmMain.mnuUndo, &frmMain.mnuReset, &frmMain.mnuNew})
-        command->SetEnabled(false);
-    MarkSheetChanged(false);
 }
 
 void ShowExclamation(const std::string& text) {
@@ -124,7 +98,7 @@ void AskForKeyboardIfUnknown() {
     frmInitial.Show();
 }
 
-// False: the built-in keys serve from now on.
+// Returns false if they cannot be read: the built-in keys serve from now on.
 bool LoadKeySettings() {
     try {
         ReadKeySettings();
@@ -147,7 +121,7 @@ const WaveFile kWaveFiles[] = {
     {"Undo.wav", &WaveUndo},  {"Save.wav", &WaveSave},  {"Alarm.wav", &WaveAlarm}, {"Error.wav", &WaveError},
 };
 
-// False: a wave is missing, and there is no sound at all.
+// Returns false if a wave is missing: there is no sound at all then.
 bool LoadWaves() {
     try {
         for (const WaveFile& file : kWaveFiles) file.wave->bytes = services.files->ReadAll(ProgramFile("Sound files/") + file.name);
@@ -160,43 +134,44 @@ bool LoadWaves() {
     }
 }
 
-void OfferFavoritePicture() {
+bool TryLoadFavoritePicture() {
     try {
         LoadFavoritePicture();
-        frmMain.mnuFavorite.SetEnabled(true);
+        return true;
     } catch (const Failure&) {
-        frmMain.mnuFavorite.SetEnabled(false);
+        return false;
     }
 }
 }  // namespace
 
-void LoadMainWindow() {
+void LoadMainWindow(MainWindow& window) {
     BackupSlot = 99;
     DiagramOpen = false;
-    frmMain.FormLoaded = false;
-    for (int p = 1; p <= kParams; ++p) frmMain.ParamBoxes[p].SetText(kEmpty);
-    for (int slot = 0; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].tab_stop = frmMain.TaxonCounts[slot].tab_stop = false;
-    frmMain.FocusRest.tab_stop = false;
-    for (int p = 1; p <= kParams; ++p) frmMain.RenameButtons[p].SetVisible(false);
-    frmMain.KeysEnabled = true;
+    window.FormLoaded = false;
+    for (int p = 1; p <= kParams; ++p) window.ParamBoxes[p].SetText(kEmpty);
+    window.KeepTabOffPad();
+    for (int p = 1; p <= kParams; ++p) window.RenameButtons[p].SetVisible(false);
+    window.KeysEnabled = true;
     SaveOutcome = 0;
     AlarmArmed = true;
     WarnOldSample = true;
     InitialiseSheet();
-    frmMain.FormLoaded = true;
+    window.FormLoaded = true;
 }
 
 void InitialiseSheet() {
     LayOutCells();
     ClearSession();
-    EmptyCells();
-    BeginFirstSample();
-    FreshHeader();
+    frmMain.EmptyPad();
+    frmMain.SampleNote.SetEnabled(false);
+    BeginFirstSample(frmMain);
+    FreshHeader(frmMain);
     AddHistoryLine("(Start)");
     FreshTaxa();
-    FreshNotes();
+    FreshNotes(frmMain);
     SnapshotSheet();  // so that a reset before the first save comes back to the fresh sheet
-    SwitchOffCommands();
+    frmMain.SwitchOffCommands();
+    MarkSheetChanged(false);
     SampleNamesAreText = false;
     UndoKeyState = 0;
     ReverseCount = false;
@@ -207,5 +182,5 @@ void InitialiseSheet() {
     SoundOn = true;
     KeySettingsLoaded = true;
     AskForKeyboardIfUnknown();
-    OfferFavoritePicture();
+    frmMain.mnuFavorite.SetEnabled(TryLoadFavoritePicture());
 }

@@ -1,7 +1,8 @@
 // The load of the main window and the fresh sheet.
 #pragma once
+#include "windows/main_window.h"
 
-void LoadMainWindow();
+void LoadMainWindow(MainWindow& window);
 
 // The fresh sheet with one sample, named "-9999". Reads the key settings and the eight waves anew and plays the opening chime. Serves
 // at the start, at "New data sheet" and when an open fails on a doubled key index. A missing key settings file or wave gives one

@@ -1,9 +1,11 @@
 #include "session/totals.h"
 
+#include <cmath>
 #include <string>
 
 #include "platform/number.h"
 #include "platform/text.h"
+#include "session/pad_cells.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
 #include "windows/main_window.h"
@@ -15,15 +17,10 @@ void AddToTotals(int slot, double count) {
     AllTotal = ToLong(AllTotal + count);  // a whole number: rounded at each addition, not once at the end
 }
 
-void ShowBold(int slot, bool bold) {
-    frmMain.TaxonCounts[slot].SetBold(bold);
-    frmMain.TaxonNames[slot].SetBold(bold);
-}
-
 // A name that was wiped out is an empty slot.
-void RestoreBlankName(int slot) {
-    const std::string& name = frmMain.TaxonNames[slot].Text();
-    if (name == "-" || name == "--" || name.empty() || name == " " || name == "  ") frmMain.TaxonNames[slot].SetText(kEmpty);
+void RestoreBlankName(TextBox& box) {
+    const std::string& name = box.Text();
+    if (name == "-" || name == "--" || name.empty() || name == " " || name == "  ") box.SetText(kEmpty);
 }
 }  // namespace
 
@@ -31,17 +28,28 @@ void RecountTotals(std::int16_t sample) {
     TaxonTable[0][2] = TaxonTable[0][3] = 0;
     AllTotal = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        AddToTotals(slot, frmMain.TaxonCounts[slot].Number());
+        AddToTotals(slot, ShownCount(slot));
         ShowBold(slot, Counts[slot][sample] != 0);
-        RestoreBlankName(slot);
+        RestoreBlankName(frmMain.TaxonNames[slot]);
     }
     frmMain.AllTotal.SetText(NumberText(AllTotal));  // its change enables Next sample and draws the curve
     frmMain.Subtotal1.SetText(TaxonTable[0][2].Text());
     frmMain.Subtotal2.SetText(TaxonTable[0][3].Text());
 }
 
-void TakeChangedTotal() {
-    if (frmMain.AllTotal.Number() != 0) {
+void CountSlotInChannel(TextBox& channel) {
+    if (Length(channel.Text()) == 1) return;  // a slot is never written with one digit
+    AllTotal = 0;
+    const int step = ReverseCount ? -1 : 1;
+    const int slot = static_cast<int>(std::abs(channel.Number()));
+    if (slot >= 1 && slot <= kSlots) ShowCountOf(slot, ShownCount(slot) + step);
+    RecountTotals(CurrentSample);
+    channel.SetText("");  // comes back here once more with no slot, and only recounts
+    CopyCellsToCounts();
+}
+
+void FollowChangedTotal(const TextBox& total) {
+    if (total.Number() != 0) {
         frmMain.NextSampleButton.SetEnabled(true);
         frmMain.mnuNext.SetEnabled(true);
     }
@@ -54,37 +62,20 @@ void ChooseBasis(int option) {
     BasisChosen.Raise();
 }
 
-void ShowCountOf(int slot, double count) {
-    frmMain.TaxonCounts[slot].SetText(NumberText(count));
-}
-
-void ShowCountsOfSample() {
-    for (int slot = 1; slot <= kSlots; ++slot) ShowCountOf(slot, Counts[slot][CurrentSample]);
-}
-
 void EnableDiagramItems(bool enabled) {
-    for (MenuItem* style : {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
-        style->SetEnabled(enabled);
+    for (MenuItem* style : frmMain.DiagramItems()) style->SetEnabled(enabled);
 }
 
 void OfferDiagram() {
     if (SampleCount >= 2) EnableDiagramItems(true);
 }
 
-void EmptyCountCells() {
-    for (int slot = 0; slot <= kSlots; ++slot) {
-        ShowBold(slot, false);
-        frmMain.TaxonCounts[slot].SetText("0");
-        Counts[slot][CurrentSample] = 0;  // a column of an earlier sheet may have left its counts
-    }
-}
-
-void CopyCellsToCounts() {
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
-}
-
 void ShowZeroTotals() {
     AllTotal = 0;
     TaxonTable[0][2] = TaxonTable[0][3] = 0;
     for (TextBox& total : frmMain.Totals) total.SetText("0");
+}
+
+void ShowSubtotalNames() {
+    frmMain.NameSubtotals(SheetHeader[12].Text(), SheetHeader[13].Text());
 }

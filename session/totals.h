@@ -2,17 +2,20 @@
 #pragma once
 #include <cstdint>
 
-// Sums the cells of slots 1..135 into AllTotal and TaxonTable[0][2..3], shows the sums in frmMain.Totals[0..2], sets a cell bold where
+#include "platform/controls.h"
+
+// Sums the cells of slots 1..135 into AllTotal and TaxonTable[0][2..3], shows the sums in Text3[0..2], sets a cell bold where
 // Counts (one count behind its cell) is not 0. `sample`: 1..SampleCount. Raises "Overflow" past 32 bits; Text3 then keeps the old sums.
 void RecountTotals(std::int16_t sample);
 
-void TakeChangedTotal();                   // Text3[0] has changed: a sample with a count can be followed by the next
-void ChooseBasis(int option);              // Option1[option] was selected: underlines the members of its subtotal, arms the alarm;
-                                           // an open diagram follows
-void ShowCountOf(int slot, double count);  // puts the count into its cell
-void ShowCountsOfSample();                 // all cells take the counts of CurrentSample
-void EnableDiagramItems(bool enabled);     // of the main window: the five styles
-void OfferDiagram();                       // Label4 has changed: two samples make a diagram
-void EmptyCountCells();                    // all cells read 0 and lose their bold; the column of CurrentSample follows
-void CopyCellsToCounts();                  // the other way round. Raises "Overflow" past 32 bits
-void ShowZeroTotals();                     // of a sample in which nothing is counted yet
+// The change of `channel`, Text0. A slot number written to it as a text of two or three digits adds one to the slot's cell, or takes one
+// off while ReverseCount; the totals are summed anew, and Counts follows the cells. The field is empty again afterwards.
+void CountSlotInChannel(TextBox& channel);
+
+void FollowChangedTotal(const TextBox& total);  // Text3[0] has changed: a sample with a count can be followed by the next
+void ChooseBasis(int option);                   // Option1[option] was selected: underlines the members of its subtotal, arms the alarm;
+                                                // an open diagram follows
+void EnableDiagramItems(bool enabled);          // of the main window: the five styles
+void OfferDiagram();                            // Label4 has changed: two samples make a diagram
+void ShowZeroTotals();                          // of a sample in which nothing is counted yet
+void ShowSubtotalNames();                       // SheetHeader[12..13], in the labels of the totals and the entries of the percentage menu

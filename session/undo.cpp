@@ -4,9 +4,8 @@
 #include <cstring>
 
 #include "platform/number.h"
-#include "session/alarm.h"
-#include "session/highlight.h"
 #include "session/history.h"
+#include "session/pad_cells.h"
 #include "session/sample_on_show.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
@@ -19,15 +18,12 @@ void GoToSampleOf(std::int16_t sample) {
     CurrentSample = sample;
     ShowSampleName();
     ShowCountsOfSample();
-    RecountTotals(CurrentSample);
-    AddHistoryLine("(Change sample: " + frmMain.SampleList.Text() + ")");
-    ShowSerial();
-    ShowNoteAndParams();  // a save stamps the note that is on show
+    TellChangeOfSample();
 }
 
 void TakeBack(int slot, int direction) {
-    ShowCountOf(slot, frmMain.TaxonCounts[slot].Number() - direction);
-    Counts[slot][CurrentSample] = ToLong(frmMain.TaxonCounts[slot].Number());
+    ShowCountOf(slot, ShownCount(slot) - direction);
+    Counts[slot][CurrentSample] = ToLong(ShownCount(slot));
 }
 
 void PopUndoList() {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "platform/user.h"
-#include "session/highlight.h"
 #include "session/history.h"
+#include "session/pad_cells.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "windows/main_window.h"

@@ -3,10 +3,9 @@
 #include <string>
 
 #include "keys/settings/key_settings.h"
-#include "session/changed_mark.h"
-#include "session/dialog.h"
+#include "session/focus.h"
+#include "session/saved_state.h"
 #include "session/state/sheet_state.h"
-#include "session/subtotal_names.h"
 #include "session/totals.h"
 #include "taxa/quotation_guard.h"
 #include "windows/subtotal_window.h"

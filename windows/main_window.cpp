@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/number.h"
+#include "platform/text.h"
 #include "platform/window_table.h"
 #include "windows/pad_places.h"
 
@@ -227,6 +229,92 @@ void MainWindow::LayLetters() {
         LayMenus({{mnuLetters[i], ("mnu" + caption).c_str(), &mnuByPass, caption}});
         mnuLetters[i].control_letter = letter;
     }
+}
+
+void MainWindow::PlaceSlot(int slot, int left, int top) {
+    TaxonNames[slot].SetPlace(left, top);
+    TaxonCounts[slot].SetPlace(left, top + kCountBelowName);
+    SlotNumbers[slot].SetPlace(left, top + kNumberBelowName);
+}
+
+void MainWindow::KeepTabOffPad() {
+    for (int slot = 0; slot <= kSlots; ++slot)
+        for (TextBox* box : Cell(slot)) box->tab_stop = false;
+    FocusRest.tab_stop = false;
+}
+
+void MainWindow::EmptyPad() {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        SlotNumbers[slot].SetVisible(false);
+        TaxonNames[slot].SetText(kEmpty);
+        TaxonCounts[slot].SetText("0");
+    }
+    CountChannel.SetText("");
+    for (TextBox& total : Totals) total.SetText("0");
+}
+
+void MainWindow::NameSubtotals(const std::string& first, const std::string& second) {
+    Subtotal1Caption.SetCaption(first + ":");
+    Subtotal2Caption.SetCaption(second + ":");
+    mnuPercentSub1.SetCaption("% by " + first);
+    mnuPercentSub2.SetCaption("% by " + second);
+    mnuPercentAll.SetCaption("% by " + WithoutTrailingColon(AllTotalCaption.Caption()));
+}
+
+void MainWindow::SwitchOffCommands() {
+    for (Control* command : std::initializer_list<Control*>{&ResetButton, &ResumeButton, &mnuFinishAmend, &mnuSave, &mnuSaveHistory,
+                                                            &NextSampleButton, &mnuNext, &mnuUndo, &mnuReset, &mnuNew})
+        command->SetEnabled(false);
+}
+
+void MainWindow::EnableCounting(bool counting) {
+    ResumeButton.SetEnabled(!counting);
+    mnuFinishAmend.SetEnabled(!counting);
+    for (Control* command : std::initializer_list<Control*>{&ResetButton, &OpenButton, &mnuSave, &NextSampleButton, &ModifyButton,
+                                                            &mnuStartAmend, &AllTotal, &Subtotal1, &Subtotal2, &mnuUndo, &mnuReset, &mnuNew,
+                                                            &mnuOpen, &mnuSaveAs, &mnuPercent, &mnuSaveCopy})
+        command->SetEnabled(counting);
+}
+
+void MainWindow::ShowCounting(bool counting) {
+    SampleNameCaption.SetVisible(counting);
+    for (Label& label : TotalCaptions) label.SetVisible(counting);
+    for (Frame& block : PadBlocks) block.SetVisible(counting);
+}
+
+void MainWindow::PaintGround(Colour colour) {
+    PadGround.SetBackColor(colour);
+    BankTabs.SetBackColor(colour);
+}
+
+void MainWindow::ShowSlotNumbers(bool visible) {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        if (!visible) SlotNumbers[slot].SetBold(false);
+        SlotNumbers[slot].SetVisible(visible);
+    }
+    for (int p = 1; p <= kParams; ++p) RenameButtons[p].SetVisible(visible);
+}
+
+void MainWindow::OpenNotes(bool open) {
+    SampleNote.SetEnabled(open);
+    for (int p = 1; p <= kParams; ++p) {
+        ParamNames[p].SetVisible(open);
+        ParamBoxes[p].SetEnabled(open);
+    }
+}
+
+void MainWindow::EnableParamNames(bool enabled) {
+    for (int p = 1; p <= kParams; ++p) ParamNames[p].SetEnabled(enabled);
+}
+
+void MainWindow::HoldNumbers() {
+    for (int slot = 0; slot <= kSlots; ++slot) HeldCounts[slot] = ToInteger(TaxonCounts[slot].Number());
+    for (int i = 0; i < 3; ++i) HeldTotals[i] = ToInteger(Totals[i].Number());
+}
+
+void MainWindow::ShowHeldNumbers() {
+    for (int slot = 0; slot <= kSlots; ++slot) TaxonCounts[slot].SetText(NumberText(HeldCounts[slot]));
+    for (int i = 0; i < 3; ++i) Totals[i].SetText(NumberText(HeldTotals[i]));
 }
 
 std::vector<Control*> MainWindow::RoundOf(const Control& control) {

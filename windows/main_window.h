@@ -3,7 +3,10 @@
 // Here and in every window, a control bears its fixed name, which scripts use, and below it the word by which procedures call it. The
 // word stands once the window is built: a table that another file fills before main takes the fixed name.
 #pragma once
+#include <array>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "platform/controls.h"
 #include "platform/picture_box.h"
@@ -117,6 +120,23 @@ struct MainWindow : Window {
     MenuItem mnuMoveTo1[kKeys], mnuMoveTo2[kKeys], mnuMoveTo3[kKeys];  // [i]: moves to the (i+1)th slot of its bank
     MenuItem mnuDiversityRB, mnuCopyDiversity;
     MenuItem mnuByPass, mnuLetters[26];  // take Ctrl and a letter, so that the chord does nothing else
+
+    // What is done to several of them at once.
+    std::array<TextBox*, 2> Cell(int slot) { return {&TaxonNames[slot], &TaxonCounts[slot]}; }
+    void PlaceSlot(int slot, int left, int top);  // the corner of its name, in twips; count and number follow
+    void KeepTabOffPad();
+    void EmptyPad();                                                          // cells and totals as in a sheet with nothing in it
+    void NameSubtotals(const std::string& first, const std::string& second);  // wherever the window speaks of them
+    std::array<MenuItem*, 5> DiagramItems() { return {&mnuBar, &mnuArea, &mnuCurve, &mnuDot, &mnuDotCurve}; }
+    void SwitchOffCommands();            // those that a fresh sheet has no use for; the Save button is told apart
+    void EnableCounting(bool counting);  // the commands that count, save or leave the sheet; those of Modify mode are the opposite
+    void ShowCounting(bool counting);    // what only counting shows
+    void PaintGround(Colour colour);     // of the pad
+    void ShowSlotNumbers(bool visible);  // and the buttons that rename the Additional info
+    void OpenNotes(bool open);           // note and Additional info, whose names are seen while they are open
+    void EnableParamNames(bool enabled);
+    void HoldNumbers();      // of the cells and totals, in HeldCounts and HeldTotals. Raises "Overflow" past 16 bits
+    void ShowHeldNumbers();  // the other way round
 
     bool FormLoaded = false;                   // false while the window loads
     bool ChangingSample = false;               // another sample's counts are being put into the cells

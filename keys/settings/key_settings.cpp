@@ -1,5 +1,8 @@
 #include "keys/settings/key_settings.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "files/format/cell_reader.h"
 #include "files/format/cell_writer.h"
 #include "platform/encoding.h"
@@ -7,12 +10,18 @@
 #include "platform/number.h"
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
-#include "windows/pad_places.h"
 
 namespace {
 constexpr const char* kFile = "References/KeySetting.csv";
 constexpr double kUnknownCode = 999;
 
+constexpr int kBuiltInCodes[] = {
+    'Q', 'W', 'E', 'A', 'S', 'D', 'Z', 'X', 'C',  // 1..9
+    'R', 'T', 'Y', 'F', 'G', 'H', 'V', 'B', 'N',  // 10..18
+    'U', 'I', 'O', 'J', 'K', 'L', 'M', 188, 190,  // 19..27: the last two are comma and full stop
+    112, 113, 114, '1', '2', '3', 115, 116, 117,  // 28..36: F1..F3, digits, F4..F6
+    '4', '5', '6', 118, 119, 120, '7', '8', '9',  // 37..45: digits, F7..F9, digits
+};
 }  // namespace
 
 void ReadKeySettings() {
@@ -44,9 +53,7 @@ void PlaceKeyCells() {
         const std::int16_t key = ToInteger(KeySettings[place][2].Number());
         if (key < 1 || key > kSlots) throw Failure(kSubscriptOutOfRange);
         if (key > kKeys) continue;
-        frmMain.TaxonNames[key].SetPlace(KeyLeft[place], KeyTop[place]);
-        frmMain.TaxonCounts[key].SetPlace(KeyLeft[place], KeyTop[place] + kCountBelowName);
-        frmMain.SlotNumbers[key].SetPlace(KeyLeft[place], KeyTop[place] + kNumberBelowName);
+        frmMain.PlaceSlot(key, KeyLeft[place], KeyTop[place]);
     }
 }
 
@@ -67,4 +74,9 @@ bool AreNamedKeysKnown() {
 int KeyNumber(const Any& field) {
     const double number = RoundHalfEven(field.Number(), 0);
     return number >= 1 && number <= kKeys ? static_cast<int>(number) : 0;
+}
+
+int BuiltInKeyNumber(int code) {
+    const auto key = std::find(std::begin(kBuiltInCodes), std::end(kBuiltInCodes), code);
+    return key == std::end(kBuiltInCodes) ? 0 : static_cast<int>(key - std::begin(kBuiltInCodes)) + 1;
 }

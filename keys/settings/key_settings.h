@@ -26,3 +26,10 @@ void PlaceKeyCellsIfKnown();  // the same; a number that is none leaves the cell
 bool AreNamedKeysKnown();  // no code of the last twelve rows is 0 or 999
 
 int KeyNumber(const Any& field);  // the counter key that a key number means, rounded; 0 for one outside 1..45
+
+// The keys that serve while the key settings could not be read: patches of a standard keyboard, as they lie on the pad.
+constexpr int kBuiltInShift1 = 16;  // Shift
+constexpr int kBuiltInShift2 = 17;  // Ctrl
+constexpr int kBuiltInUndo = 8;     // Backspace
+
+int BuiltInKeyNumber(int code);  // 1..45, or 0 for a key that is no counter key

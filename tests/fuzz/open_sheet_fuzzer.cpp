@@ -94,8 +94,8 @@ bool Succeeds(Procedure procedure) {
 
 void CountOne() {
     const int code = static_cast<int>(KeySettings[1][1].Number());
-    TakeKeyDown(code);
-    TakeKeyUp(code);
+    DispatchKeyDown(code);
+    DispatchKeyUp(code);
 }
 
 bool Save() {

@@ -1,4 +1,4 @@
-#include "session/alarm.h"
+#include "session/sound.h"
 
 #include "platform/user.h"
 #include "session/key_dispatch.h"

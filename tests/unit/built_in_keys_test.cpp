@@ -1,4 +1,4 @@
-#include "keys/settings/built_in_keys.h"
+#include "keys/settings/key_settings.h"
 
 #include <iterator>
 #include <set>

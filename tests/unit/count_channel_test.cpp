@@ -1,5 +1,5 @@
 // A slot number written to the hidden field counts one in the slot's cell.
-#include "session/count_channel.h"
+#include "session/totals.h"
 
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"

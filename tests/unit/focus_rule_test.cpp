@@ -1,5 +1,5 @@
 // While counting, the mouse cannot take the keyboard away from the counter.
-#include "session/focus_rule.h"
+#include "session/focus.h"
 
 #include "platform/user.h"
 #include "unit/sheet_test.h"

@@ -1,4 +1,4 @@
-#include "session/italics.h"
+#include "session/pad_cells.h"
 
 #include "platform/user.h"
 #include "unit/sheet_test.h"

@@ -54,7 +54,7 @@ TEST_F(KeyDispatchTest, AKeyThatTheSettingsDoNotKnowDoesNothing) {
 
 TEST_F(KeyDispatchTest, AnyKeyGivesTheMainWindowBack) {
     frmMain.SetEnabled(false);
-    TakeKeyDown(kEscape);
+    DispatchKeyDown(kEscape);
     EXPECT_TRUE(frmMain.Enabled());
 }
 

@@ -45,7 +45,7 @@ TEST_F(MissingFilesTest, AnyMissingWaveMeansOneMessageAndNoSoundAtAll) {
         files_.bytes.erase(path);
         services_.messages.shown.clear();
         SoundOn = KeySettingsLoaded = false;
-        LoadMainWindow();
+        LoadMainWindow(frmMain);
         ExpectOneError(kNoSounds);
         EXPECT_EQ(Played(), Texts{}) << wave << ": neither a chime nor a beep";
         EXPECT_FALSE(SoundOn) << wave;

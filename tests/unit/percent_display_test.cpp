@@ -1,4 +1,4 @@
-#include "session/percent_display.h"
+#include "session/pad_cells.h"
 
 #include "diagram/data/percentages.h"
 #include "platform/run_event.h"

@@ -1,7 +1,7 @@
 // The state that Reset and Quit go back to.
 #include "platform/user.h"
 #include "session/leaving.h"
-#include "session/snapshot.h"
+#include "session/saved_state.h"
 #include "session/undo.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"

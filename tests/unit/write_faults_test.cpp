@@ -309,7 +309,7 @@ TEST_F(SettingsFaultsTest, SettingsCutAnywhereStillLeaveAProgramThatCounts) {
         files_.bytes[kSettings] = whole.substr(0, length);
         services_.messages.shown.clear();
         KeySettingsLoaded = false;
-        LoadMainWindow();
+        LoadMainWindow(frmMain);
         if (KeySettingsLoaded) {
             ASSERT_EQ(MessageCount(), 0u) << length;
             ASSERT_GE(length, whole.size() - 5) << "the last cell and its line end";

@@ -1,4 +1,4 @@
-#include "events/boxes.h"
+#include "events/join.h"
 
 #include "taxa/quotation_guard.h"
 

@@ -1,4 +1,4 @@
-#include "session/focus_rule.h"
+#include "session/focus.h"
 
 #include "platform/services.h"
 #include "session/state/sheet_state.h"
@@ -6,10 +6,14 @@
 
 namespace {
 int held_tab = 0;
+}  // namespace
+
+void RestFocus() {
+    frmMain.FocusRest.SetFocus();
 }
 
 void ReturnFocus() {
-    if (!AmendMode) frmMain.FocusRest.SetFocus();
+    if (!AmendMode) RestFocus();
 }
 
 void ReturnFocusOnMove() {
@@ -19,7 +23,7 @@ void ReturnFocusOnMove() {
 void EnterBox(Mouse) {
     const bool counting = !AmendMode && !DiagramOpen;
     MousePointer = counting ? kPointerArrow : kPointerIBeam;
-    if (counting) frmMain.FocusRest.SetFocus();
+    if (counting) RestFocus();
 }
 
 void EnterCountCell(Mouse mouse) {
@@ -35,5 +39,20 @@ void HoldTab() {
 
 void ReturnTab() {
     if (!AmendMode) frmMain.BankTabs.SetTab(held_tab);
-    frmMain.FocusRest.SetFocus();
+    RestFocus();
+}
+
+void OpenDialog(Window& dialog) {
+    frmMain.SetEnabled(false);
+    dialog.Show();
+}
+
+void CloseDialog(Window& dialog) {
+    dialog.Unload();
+    GiveMainWindowBack();
+}
+
+void GiveMainWindowBack() {
+    frmMain.SetEnabled(true);
+    frmMain.Show();
 }
