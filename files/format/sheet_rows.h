@@ -10,7 +10,7 @@
 #pragma once
 #include <string>
 
-#include "files/format/cell_writer.h"
+#include "files/format/cells.h"
 #include "platform/any.h"
 
 // SheetHeader[6..8]: the path, "Last saved (dd/mm/yyyy):" or the like, date and time.

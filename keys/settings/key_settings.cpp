@@ -1,7 +1,6 @@
 #include "keys/settings/key_settings.h"
 
-#include "files/format/cell_reader.h"
-#include "files/format/cell_writer.h"
+#include "files/format/cells.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/number.h"

@@ -1,12 +1,14 @@
-#include "files/format/cell_reader.h"
+#include "files/format/cells.h"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 
+#include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 
 namespace {
-
 bool IsBlank(char c) {
     return c == ' ' || c == '\t';
 }
@@ -22,7 +24,6 @@ std::size_t LengthOfBareCell(std::string_view rest) {
     while (length < rest.size() && !IsSeparator(rest[length])) ++length;
     return length;
 }
-
 }  // namespace
 
 bool CellReader::AtEnd() {
@@ -61,4 +62,36 @@ void CellReader::PassSeparator() {
     while (at_ < text_.size() && IsBlank(text_[at_])) ++at_;
     after_comma_ = at_ < text_.size() && text_[at_] == ',';
     if (at_ < text_.size() && IsSeparator(text_[at_])) ++at_;
+}
+
+void CellWriter::BeginCell() {
+    if (row_begun_) text_ += ',';
+    row_begun_ = true;
+}
+
+void CellWriter::Write(const Any& cell) {
+    BeginCell();
+    if (cell.IsNumber())
+        text_ += cell.Text();
+    else
+        text_.append("\"").append(cell.Text()).append("\"");
+}
+
+void CellWriter::WriteCount(std::int32_t count) {
+    BeginCell();
+    char digits[12];
+    text_.append(digits, std::to_chars(digits, std::end(digits), count).ptr);
+}
+
+void CellWriter::EndRow() {
+    text_ += "\r\n";
+    row_begun_ = false;
+}
+
+std::size_t CellWriter::Size() const {
+    return EncodeFile(text_).size();
+}
+
+void CellWriter::Close() {
+    file_.Replace(EncodeFile(text_));
 }
