@@ -3,7 +3,7 @@
 #include <string>
 
 #include "diagram/open_diagram.h"
-#include "files/format/sheet_base_name.h"
+#include "files/format/sheet_rows.h"
 #include "files/sample_fields.h"
 #include "platform/text.h"
 #include "session/history.h"

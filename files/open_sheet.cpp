@@ -7,7 +7,7 @@
 #include "diagram/open_diagram.h"
 #include "files/back_up.h"
 #include "files/format/read_sheet.h"
-#include "files/format/sheet_base_name.h"
+#include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "keys/settings/key_settings.h"
 #include "platform/encoding.h"

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "diagram/data/percentages.h"
-#include "files/format/sheet_base_name.h"
 #include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "platform/failure.h"

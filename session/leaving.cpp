@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "files/format/sheet_base_name.h"
+#include "files/format/sheet_rows.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 #include "session/changed_mark.h"
