@@ -4,7 +4,7 @@
 
 #include "diagram/open_diagram.h"
 #include "files/format/sheet_rows.h"
-#include "files/sample_fields.h"
+#include "files/sheet_on_screen.h"
 #include "platform/text.h"
 #include "session/history.h"
 #include "session/leaving.h"

@@ -5,7 +5,7 @@
 #include "diagram/move_sample_column.h"
 #include "diagram/open_diagram.h"
 #include "files/format/read_sheet.h"
-#include "files/sample_fields.h"
+#include "files/sheet_on_screen.h"
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
