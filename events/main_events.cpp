@@ -20,7 +20,6 @@
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "session/undo.h"
-#include "taxa/cells.h"
 #include "taxa/edit_boxes.h"
 #include "taxa/move_taxon.h"
 #include "taxa/param_names.h"

@@ -7,7 +7,7 @@
 #include "platform/failure.h"
 #include "platform/user.h"
 #include "session/modify_mode.h"
-#include "taxa/cells.h"
+#include "taxa/edit_boxes.h"
 #include "unit/open_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
