@@ -4,8 +4,8 @@
 #include "files/open_sheet.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
+#include "taxa/dialogs.h"
 #include "taxa/edit_boxes.h"
-#include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
 #include "windows/next_window.h"
 

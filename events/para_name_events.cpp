@@ -1,6 +1,6 @@
 #include "events/boxes.h"
 #include "events/join.h"
-#include "taxa/param_names.h"
+#include "taxa/dialogs.h"
 #include "taxa/quotation_guard.h"
 #include "windows/para_name_window.h"
 

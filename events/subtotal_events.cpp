@@ -1,7 +1,7 @@
 #include "events/boxes.h"
 #include "events/join.h"
+#include "taxa/dialogs.h"
 #include "taxa/quotation_guard.h"
-#include "taxa/subtotals.h"
 #include "windows/subtotal_window.h"
 
 void JoinSubtotalEvents() {
