@@ -3,7 +3,12 @@
 #include "diagram/data/coniss.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/sample_marker.h"
+#include "platform/text.h"
+#include "session/export.h"
+#include "session/sound.h"
+#include "windows/busy.h"
 #include "windows/diagram_window.h"
+#include "windows/main_window.h"
 
 namespace {
 constexpr double kRoomForStem = 1.1;  // of the height of the root
@@ -46,6 +51,21 @@ void DrawTicks() {
         ++x;
     } while (1.2 * RootHeight() > x && x <= kMostTicks);
 }
+
+// As the shortest text of the Single, which is shorter than that of the double it would become.
+Any SingleCell(float number) {
+    return Val(SingleText(number));
+}
+
+void WriteMerges(CellWriter& cells) {
+    for (const char* heading : {"Depth from", "Depth to", "Sum square"}) cells.Write(heading);
+    cells.EndRow();
+    for (int step = SampleCount - 1; step >= 1; --step) {
+        frmMain.Progress.SetValue(SampleCount - step);
+        for (const float number : {MergeUpper[step], MergeLower[step], MergeHeight[step]}) cells.Write(SingleCell(number));
+        cells.EndRow();
+    }
+}
 }  // namespace
 
 void DrawClusterTree() {
@@ -56,4 +76,9 @@ void DrawClusterTree() {
     DrawTicks();
     frmDiagram.ClusterTree.Persist();
     DrawSampleMarker();
+}
+
+void SaveMergeList() {
+    const Busy busy(kSlots);
+    if (Export(WriteMerges)) PlayIfOn(WaveSave);
 }
