@@ -3,7 +3,6 @@
 #include "diagram/cluster_tree.h"
 #include "diagram/data/basis.h"
 #include "diagram/redraw.h"
-#include "diagram/tree_panel.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"

@@ -78,6 +78,12 @@ void DrawClusterTree() {
     DrawSampleMarker();
 }
 
+void ClusterAgain() {
+    if (!frmDiagram.ClusterTree.Visible()) return;
+    ComputeConiss();
+    DrawClusterTree();
+}
+
 void SaveMergeList() {
     const Busy busy(kSlots);
     if (Export(WriteMerges)) PlayIfOn(WaveSave);

@@ -5,6 +5,8 @@
 // the left; then the line of the selected sample.
 void DrawClusterTree();
 
+void ClusterAgain();  // computes and draws an open tree anew; nothing if it is closed
+
 // Writes the merges as a small table, the root first:
 //
 //     "Depth from","Depth to","Sum square"

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "diagram/cluster_tree.h"
 #include "diagram/data/percentages.h"
 #include "diagram/redraw.h"
 #include "diagram/sample_selector.h"
-#include "diagram/tree_panel.h"
 #include "platform/number.h"
 #include "session/changed_mark.h"
 #include "session/state/sheet_state.h"

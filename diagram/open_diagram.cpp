@@ -1,12 +1,12 @@
 #include "diagram/open_diagram.h"
 
+#include "diagram/cluster_tree.h"
 #include "diagram/data/basis.h"
 #include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/layout.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
-#include "diagram/tree_panel.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "session/state/sample_names.h"

@@ -9,7 +9,6 @@
 #include "diagram/sample_marker.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
-#include "diagram/tree_panel.h"
 #include "events/join.h"
 #include "platform/services.h"
 #include "platform/user.h"
