@@ -8,7 +8,7 @@
 #include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/redraw.h"
-#include "diagram/sample_marker.h"
+#include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"

@@ -2,7 +2,7 @@
 
 #include "diagram/data/coniss.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/sample_marker.h"
+#include "diagram/sample_selector.h"
 #include "platform/text.h"
 #include "session/export.h"
 #include "session/sound.h"

@@ -4,7 +4,7 @@
 
 #include "diagram/data/percentages.h"
 #include "diagram/data/sample_position.h"
-#include "diagram/sample_marker.h"
+#include "diagram/sample_selector.h"
 #include "diagram/style.h"
 #include "windows/busy.h"
 #include "windows/diagram_window.h"

@@ -1,6 +1,6 @@
 #include "diagram/guide_lines.h"
 
-#include "diagram/sample_marker.h"
+#include "diagram/sample_selector.h"
 #include "platform/services.h"
 #include "windows/diagram_window.h"
 

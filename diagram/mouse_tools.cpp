@@ -8,7 +8,6 @@
 #include "diagram/draw_diagram.h"
 #include "diagram/guide_lines.h"
 #include "diagram/move_sample_column.h"
-#include "diagram/sample_marker.h"
 #include "diagram/sample_selector.h"
 #include "platform/number.h"
 #include "platform/services.h"

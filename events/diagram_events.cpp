@@ -6,7 +6,6 @@
 #include "diagram/mouse_tools.h"
 #include "diagram/open_diagram.h"
 #include "diagram/redraw.h"
-#include "diagram/sample_marker.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
 #include "events/join.h"
