@@ -1,7 +1,6 @@
 #include "diagram/basis_choice.h"
 #include "diagram/cluster_tree.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/guide_lines.h"
 #include "diagram/layout.h"
 #include "diagram/mouse_tools.h"
 #include "diagram/open_diagram.h"
