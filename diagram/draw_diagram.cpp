@@ -1,11 +1,12 @@
 #include "diagram/draw_diagram.h"
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "diagram/data/percentages.h"
 #include "diagram/data/sample_position.h"
 #include "diagram/sample_selector.h"
-#include "diagram/style.h"
 #include "windows/busy.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
@@ -101,6 +102,23 @@ bool IsInView(int row, int scroll) {
     return right >= 0 && left < frmDiagram.Diagram.ScaleWidth();
 }
 }  // namespace
+
+const DiagramStyle kDiagramStyles[5] = {
+    {&frmDiagram.mnuBar, &frmMain.mnuBar, true, false, false, false},
+    {&frmDiagram.mnuArea, &frmMain.mnuArea, false, true, true, false},
+    {&frmDiagram.mnuDot, &frmMain.mnuDot, false, false, false, true},
+    {&frmDiagram.mnuCurve, &frmMain.mnuCurve, true, false, true, false},
+    {&frmDiagram.mnuDotCurve, &frmMain.mnuDotCurve, false, false, true, true},
+};
+
+void CheckStyle(const DiagramStyle& style) {
+    for (const DiagramStyle& each : kDiagramStyles) each.item->SetChecked(&each == &style);
+}
+
+const DiagramStyle& StyleOnShow() {
+    return *std::find_if(std::begin(kDiagramStyles), std::end(kDiagramStyles),
+                         [](const DiagramStyle& style) { return style.item->Checked(); });
+}
 
 float HorizontalScale() {
     return static_cast<float>(frmDiagram.HorizontalScale.Value() / 5.0);

@@ -1,6 +1,6 @@
 // The diagram's window from its opening to its end. It exists only beside a sheet of more than one sample.
 #pragma once
-#include "diagram/style.h"
+#include "diagram/draw_diagram.h"
 
 // Opens the diagram of the sheet as it is, in the size that the user gave it last; an open one comes to the front, goes back to its
 // first column and is drawn anew. With one sample nothing happens. Raises "Division by zero" if both end samples have the same depth.
