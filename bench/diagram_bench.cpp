@@ -7,7 +7,7 @@
 #include "diagram/data/coniss.h"
 #include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/redraw.h"
+#include "diagram/open_diagram.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
 #include "platform/user.h"

@@ -2,7 +2,7 @@
 
 #include "diagram/cluster_tree.h"
 #include "diagram/data/basis.h"
-#include "diagram/redraw.h"
+#include "diagram/open_diagram.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"

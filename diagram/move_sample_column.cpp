@@ -4,7 +4,7 @@
 
 #include "diagram/cluster_tree.h"
 #include "diagram/data/percentages.h"
-#include "diagram/redraw.h"
+#include "diagram/open_diagram.h"
 #include "diagram/sample_selector.h"
 #include "platform/number.h"
 #include "session/changed_mark.h"

@@ -90,3 +90,10 @@ void RebuildDiagram() {
     PlaceSampleSelector();
     ClusterAgain();
 }
+
+void RedrawDiagram() {
+    if (!DiagramOpen) return;
+    ComputeDiagramData();
+    DrawDiagram();
+    DrawTaxonNames();
+}

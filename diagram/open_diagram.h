@@ -13,3 +13,7 @@ void LoadDiagramWindow();
 void EndDiagram();      // the window is being unloaded: its size is kept
 void CloseDiagram();    // nothing if none is open
 void RebuildDiagram();  // the sheet has got a sample: scale, list, selection, drawing and open tree follow; nothing if none is open
+
+// Brings an open diagram up to date after any change of data, basis, style or scale; the tree beside it stays as it is. Nothing if no
+// diagram is open.
+void RedrawDiagram();

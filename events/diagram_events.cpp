@@ -4,7 +4,6 @@
 #include "diagram/layout.h"
 #include "diagram/mouse_tools.h"
 #include "diagram/open_diagram.h"
-#include "diagram/redraw.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
 #include "events/join.h"
