@@ -97,3 +97,21 @@ void RedrawDiagram() {
     DrawDiagram();
     DrawTaxonNames();
 }
+
+void FollowBasis() {
+    if (!DiagramOpen) return;
+    ShowBasisInMenu();
+    RedrawDiagram();
+    ClusterAgain();
+}
+
+void ChooseBasisItem(int option) {
+    OptionButton& basis = frmMain.BasisOptions[option];
+    if (!basis.Value()) {
+        basis.SetValue(true);  // its click draws everything
+        return;
+    }
+    RedrawDiagram();
+    if (frmDiagram.ClusterTree.Visible()) DrawClusterTree();
+    AlarmArmed = true;
+}

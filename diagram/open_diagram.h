@@ -17,3 +17,7 @@ void RebuildDiagram();  // the sheet has got a sample: scale, list, selection, d
 // Brings an open diagram up to date after any change of data, basis, style or scale; the tree beside it stays as it is. Nothing if no
 // diagram is open.
 void RedrawDiagram();
+
+// The choice of the percent basis while a diagram is open.
+void FollowBasis();                // frmMain.BasisOptions has changed: check marks, drawing and open tree; nothing if no diagram is open
+void ChooseBasisItem(int option);  // an item of the diagram's menu, by the index of its option; chosen once more, it draws anew

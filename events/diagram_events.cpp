@@ -1,4 +1,3 @@
-#include "diagram/basis_choice.h"
 #include "diagram/cluster_tree.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/layout.h"

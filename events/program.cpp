@@ -1,6 +1,5 @@
 #include "events/program.h"
 
-#include "diagram/basis_choice.h"
 #include "diagram/diversity_curve.h"
 #include "diagram/open_diagram.h"
 #include "events/join.h"
