@@ -75,27 +75,27 @@ void JoinBox(TextBox& box) {
 void JoinNameBox(int slot) {
     TextBox& box = frmMain.TaxonNames[slot];
     JoinBox(box);
-    box.GotFocus.Calls([slot] { EnterNameBox(slot); });
-    box.LostFocus.Calls([slot] { LeaveNameBox(slot); });
+    box.GotFocus.Calls([&box] { EnterNameBox(box); });
+    box.LostFocus.Calls([slot, &box] { LeaveNameBox(slot, box); });
     JoinGuardedKeys(box);
     box.MouseDown.Calls([slot](Mouse mouse) { PressInCell(slot, mouse); });
-    box.DoubleClick.Calls([slot] { DoubleClickCell(slot, false); });
-    box.Change.Calls([slot] { slot == 0 ? TakeSampleName() : TakeTaxonName(slot); });
+    box.DoubleClick.Calls([slot, &box] { DoubleClickCell(slot, box); });
+    box.Change.Calls([slot, &box] { slot == 0 ? TakeSampleName(box) : TakeTaxonName(slot, box); });
 }
 
 void JoinCountBox(int slot) {
     TextBox& box = frmMain.TaxonCounts[slot];
     JoinBox(box);
     box.MouseMove.Calls(EnterCountCell);
-    box.GotFocus.Calls([slot] { EnterCountBox(slot); });
-    box.WalkedTo.Calls([slot] { NoteCountBeforeEdit(slot); });
-    box.LostFocus.Calls([slot] { LeaveCountBox(slot); });
-    box.MouseDown.Calls([slot](Mouse mouse) {
-        NoteCountBeforeEdit(slot);
+    box.GotFocus.Calls([&box] { EnterCountBox(box); });
+    box.WalkedTo.Calls([&box] { NoteCountBeforeEdit(box); });
+    box.LostFocus.Calls([slot, &box] { LeaveCountBox(slot, box); });
+    box.MouseDown.Calls([slot, &box](Mouse mouse) {
+        NoteCountBeforeEdit(box);
         PressInCell(slot, mouse);
     });
-    box.DoubleClick.Calls([slot] { DoubleClickCell(slot, true); });
-    box.Change.Calls([slot] { TakeCount(slot); });
+    box.DoubleClick.Calls([slot, &box] { DoubleClickCell(slot, box); });
+    box.Change.Calls([slot, &box] { TakeCount(slot, box); });
 }
 
 void JoinCells() {
@@ -123,28 +123,30 @@ void JoinMoves() {
 void JoinParam(int p) {
     TextBox& box = frmMain.ParamBoxes[p];
     JoinBox(box);
-    box.GotFocus.Calls([p] { EnterParam(p); });
+    box.GotFocus.Calls([&box] { EnterParam(box); });
     box.LostFocus.Calls([&box] { RestoreDashes(box); });
     JoinGuardedKeys(box);
-    box.Change.Calls([p] { TakeParam(p); });
-    frmMain.ParamNames[p].Change.Calls([p] {
-        EndWithColon(p);
-        NameParamBox(p);
+    box.Change.Calls([p, &box] { TakeParam(p, box); });
+    Label& label = frmMain.ParamNames[p];
+    label.Change.Calls([&box, &label] {
+        EndWithColon(label);
+        NameParamBox(box, label);
     });
     frmMain.RenameButtons[p].Click.Calls([p] { RenameParamOfSheet(p); });
     frmMain.RenameButtons[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
 }
 
 void JoinSample() {
-    JoinBox(frmMain.SampleNote);
-    frmMain.SampleNote.GotFocus.Calls(EnterNote);
-    JoinGuardedKeys(frmMain.SampleNote);
-    frmMain.SampleNote.DoubleClick.Calls(DoubleClickNote);
-    frmMain.SampleNote.Change.Calls(TakeNote);
+    TextBox& note = frmMain.SampleNote;
+    JoinBox(note);
+    note.GotFocus.Calls([&note] { EnterNote(note); });
+    JoinGuardedKeys(note);
+    note.DoubleClick.Calls(DoubleClickNote);
+    note.Change.Calls([&note] { TakeNote(note); });
     for (int p = 1; p <= kParams; ++p) JoinParam(p);
     frmMain.History.Change.Calls([] { frmMain.mnuSaveHistory.SetEnabled(true); });
     frmMain.SampleList.Click.Calls(BringUpChosenSample);
-    frmMain.SampleList.Edited.Calls(RenameSampleOnShow);
+    frmMain.SampleList.Edited.Calls([] { RenameSampleOnShow(frmMain.SampleList.Text()); });
     frmMain.SerialNumber.Change.Calls(OfferDiagram);
 }
 

@@ -33,8 +33,7 @@ void RefuseCount(TextBox& box) {
     box.SetText(SingleText(CountAtMouseDown));
 }
 
-void StoreCount(int slot) {
-    TextBox& box = frmMain.TaxonCounts[slot];
+void StoreCount(int slot, TextBox& box) {
     if (AmendMode) {
         if (!IsWholeNumber(box.Text())) {
             RefuseCount(box);
@@ -42,8 +41,7 @@ void StoreCount(int slot) {
         }
         Counts[slot][CurrentSample] = ToLong(box.Number());
         SampleUntouched = false;
-        SheetClean = false;
-        frmMain.mnuNew.SetEnabled(true);
+        MarkSheetEdited();
         RecountTotals(CurrentSample);
     }
     Counts[slot][CurrentSample] = ToLong(box.Number());
@@ -53,29 +51,39 @@ void StoreCount(int slot) {
 void LogChangedName(int slot, const std::string& text) {
     if (AmendMode && text != EditedValue) AddHistoryLine(frmMain.SlotNumbers[slot].Caption() + ": Taxa name [" + text + "]");
 }
+
+// The text of a box that has changed, once the guard has seen it.
+const std::string& GuardedText(TextBox& box) {
+    RefuseQuotationMark(box);
+    return box.Text();
+}
 }  // namespace
 
-void NoteCountBeforeEdit(int slot) {
-    CountAtMouseDown = static_cast<float>(frmMain.TaxonCounts[slot].Number());
+void MarkSheetEdited() {
+    SheetClean = false;
+    frmMain.mnuNew.SetEnabled(true);
 }
 
-void TakeSampleName() {
-    RefuseQuotationMark(frmMain.SampleName);
-    frmMain.SampleList.SetText(frmMain.SampleName.Text());
+void NoteCountBeforeEdit(const TextBox& box) {
+    CountAtMouseDown = static_cast<float>(box.Number());
+}
+
+void TakeSampleName(TextBox& box) {
+    const std::string& name = GuardedText(box);
+    frmMain.SampleList.SetText(name);
     ShowSerial();
-    if (AmendMode) NameSampleOnShow(frmMain.SampleName.Text());
+    if (AmendMode) NameSampleOnShow(name);
 }
 
-void TakeTaxonName(int slot) {
-    RefuseQuotationMark(frmMain.TaxonNames[slot]);
-    TaxonTable[slot][4] = frmMain.TaxonNames[slot].Text();
+void TakeTaxonName(int slot, TextBox& box) {
+    TaxonTable[slot][4] = GuardedText(box);
 }
 
-void TakeCount(int slot) {
+void TakeCount(int slot, TextBox& box) {
     if (frmMain.ChangingSample || !frmMain.KeysEnabled) return;
     const std::int32_t last = Counts[slot][CurrentSample];
     try {
-        StoreCount(slot);
+        StoreCount(slot, box);
     } catch (const Failure&) {
         // A count or a total beyond 32 bits: cell and array go back, in silence, to the last that could be held.
         Counts[slot][CurrentSample] = last;
@@ -83,83 +91,77 @@ void TakeCount(int slot) {
     }
 }
 
-void TakeNote() {
-    RefuseQuotationMark(frmMain.SampleNote);
-    SampleNotes[CurrentSample] = frmMain.SampleNote.Text();
+void TakeNote(TextBox& box) {
+    SampleNotes[CurrentSample] = GuardedText(box);
     SheetClean = false;
 }
 
-void TakeParam(int p) {
-    RefuseQuotationMark(frmMain.ParamBoxes[p]);
-    ParamValues[p][CurrentSample] = frmMain.ParamBoxes[p].Text();
-    SheetClean = false;
-    frmMain.mnuNew.SetEnabled(true);
-    frmMain.LastEdited.SetCaption(frmMain.ParamBoxes[p].Text());
+void TakeParam(int p, TextBox& box) {
+    ParamValues[p][CurrentSample] = GuardedText(box);
+    MarkSheetEdited();
+    frmMain.LastEdited.SetCaption(box.Text());
 }
 
-void EndWithColon(int p) {
-    Label& label = frmMain.ParamNames[p];
+void EndWithColon(Label& label) {
     if (Right(label.Caption(), 1) != ":") label.SetCaption(label.Caption() + ":");
 }
 
-void NameParamBox(int p) {
-    const Label& label = frmMain.ParamNames[p];
+void NameParamBox(TextBox& box, const Label& label) {
     const std::string name = WithoutTrailingColon(label.Caption());
-    frmMain.ParamBoxes[p].SetToolTip(name.empty() ? WithoutTrailingColon(label.DesignText()) : name);
+    box.SetToolTip(name.empty() ? WithoutTrailingColon(label.DesignText()) : name);
 }
 
-void RenameSampleOnShow() {
-    NameSampleOnShow(frmMain.SampleList.Text());
-    frmMain.SampleName.SetText(frmMain.SampleList.Text());
+void RenameSampleOnShow(const std::string& name) {
+    NameSampleOnShow(name);
+    frmMain.SampleName.SetText(name);
     frmMain.SampleNote.SetText(SampleNotes[CurrentSample]);
     WarnOldSample = true;
     frmMain.FocusRest.SetEnabled(true);
     OfferSaving();
 }
 
-void EnterNameBox(int slot) {
+void EnterNameBox(const TextBox& box) {
     EnterGuardedBox();
-    EditedValue = frmMain.TaxonNames[slot].Text();
+    EditedValue = box.Text();
 }
 
-void LeaveNameBox(int slot) {
-    LogChangedName(slot, frmMain.TaxonNames[slot].Text());
+void LeaveNameBox(int slot, const TextBox& box) {
+    LogChangedName(slot, box.Text());
     RecountTotals(CurrentSample);
 }
 
-void EnterCountBox(int slot) {
-    EditedValue = frmMain.TaxonCounts[slot].Text();
+void EnterCountBox(const TextBox& box) {
+    EditedValue = box.Text();
 }
 
-void LeaveCountBox(int slot) {
-    const std::string count = frmMain.TaxonCounts[slot].Text();
+void LeaveCountBox(int slot, const TextBox& box) {
+    const std::string count = box.Text();
     if (!AmendMode || count == EditedValue) return;
-    SheetClean = false;
-    frmMain.mnuNew.SetEnabled(true);
+    MarkSheetEdited();
     RecountTotals(CurrentSample);
     AddHistoryLine(frmMain.SlotNumbers[slot].Caption() + " (" + frmMain.TaxonNames[slot].Text() + "): Replace " + EditedValue + " by " +
                    count);
 }
 
-void DoubleClickCell(int slot, bool in_count_box) {
+void DoubleClickCell(int slot, const TextBox& box) {
     if (!AmendMode) return;
-    LogChangedName(slot, (in_count_box ? frmMain.TaxonCounts[slot] : frmMain.TaxonNames[slot]).Text());
+    LogChangedName(slot, box.Text());
     RecountTotals(CurrentSample);
     LeaveModifyModeByDoubleClick();
 }
 
-void EnterNote() {
+void EnterNote(TextBox& box) {
     EnterGuardedBox();
-    PutCaretBehind(frmMain.SampleNote);
+    PutCaretBehind(box);
 }
 
 void DoubleClickNote() {
     if (AmendMode) LeaveModifyModeByDoubleClick();
 }
 
-void EnterParam(int p) {
+void EnterParam(TextBox& box) {
     EnterGuardedBox();
-    ClearDashes(frmMain.ParamBoxes[p]);
+    ClearDashes(box);
 }
 
 void PutCaretBehind(TextBox& box) {
