@@ -112,7 +112,7 @@ void JoinMoves() {
     MenuItem* const banks[3] = {&frmMain.mnu1to45, &frmMain.mnu46to90, &frmMain.mnu91to135};
     MenuItem* const items[3] = {frmMain.mnuMoveTo1, frmMain.mnuMoveTo2, frmMain.mnuMoveTo3};
     for (int bank = 0; bank < 3; ++bank) {
-        banks[bank]->Click.Calls([bank] { OpenBankMenu(bank); });
+        banks[bank]->Click.Calls([bank, menu = items[bank]] { OpenBankMenu(bank, menu); });
         for (int i = 0; i < kKeys; ++i) {
             const auto slot = static_cast<std::int16_t>(bank * kKeys + i + 1);
             items[bank][i].Click.Calls([slot] { TransferTaxa(slot); });
