@@ -1,4 +1,4 @@
-// The small curve of taxa seen against grains counted, in frmMain.DiversityPicture.
+// The small curve of taxa seen against grains counted, in the main window.
 #pragma once
 #include <cstdint>
 #include <vector>
