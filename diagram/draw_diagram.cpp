@@ -8,8 +8,6 @@
 #include "diagram/data/sample_position.h"
 #include "diagram/sample_selector.h"
 #include "windows/busy.h"
-#include "windows/diagram_window.h"
-#include "windows/main_window.h"
 
 namespace {
 constexpr Colour kGreen{0, 128, 0};
@@ -103,21 +101,13 @@ bool IsInView(int row, int scroll) {
 }
 }  // namespace
 
-const DiagramStyle kDiagramStyles[5] = {
-    {&frmDiagram.mnuBar, &frmMain.mnuBar, true, false, false, false},
-    {&frmDiagram.mnuArea, &frmMain.mnuArea, false, true, true, false},
-    {&frmDiagram.mnuDot, &frmMain.mnuDot, false, false, false, true},
-    {&frmDiagram.mnuCurve, &frmMain.mnuCurve, true, false, true, false},
-    {&frmDiagram.mnuDotCurve, &frmMain.mnuDotCurve, false, false, true, true},
-};
-
 void CheckStyle(const DiagramStyle& style) {
-    for (const DiagramStyle& each : kDiagramStyles) each.item->SetChecked(&each == &style);
+    for (const DiagramStyle& each : kDiagramStyles) (frmDiagram.*each.item).SetChecked(&each == &style);
 }
 
 const DiagramStyle& StyleOnShow() {
     return *std::find_if(std::begin(kDiagramStyles), std::end(kDiagramStyles),
-                         [](const DiagramStyle& style) { return style.item->Checked(); });
+                         [](const DiagramStyle& style) { return (frmDiagram.*style.item).Checked(); });
 }
 
 float HorizontalScale() {

@@ -1,20 +1,26 @@
 // The stratigraphic diagram in frmDiagram.Diagram: a column for each sheet row, from left to right; the samples from top to bottom.
 #pragma once
 #include "platform/controls.h"
-
-class PictureBox;
+#include "windows/diagram_window.h"
+#include "windows/main_window.h"
 
 // The five styles of the diagram. The check marks in its menu are the state: exactly one item is checked.
 struct DiagramStyle {
-    MenuItem* item;       // in the menu of the diagram
-    MenuItem* main_item;  // its twin in the main window, which opens the diagram
-    bool bars;            // at all samples
-    bool outline;         // bars at the samples that close a stretch of the curve
-    bool curve;           // through the values, broken at a sample without data
-    bool dots;            // at values above half a percent
+    MenuItem DiagramWindow::*item;
+    MenuItem MainWindow::*main_item;  // its twin, which opens the diagram
+    bool bars;                        // at all samples
+    bool outline;                     // bars at the samples that close a stretch of the curve
+    bool curve;                       // through the values, broken at a sample without data
+    bool dots;                        // at values above half a percent
 };
 
-extern const DiagramStyle kDiagramStyles[5];
+inline constexpr DiagramStyle kDiagramStyles[5] = {
+    {&DiagramWindow::mnuBar, &MainWindow::mnuBar, true, false, false, false},
+    {&DiagramWindow::mnuArea, &MainWindow::mnuArea, false, true, true, false},
+    {&DiagramWindow::mnuDot, &MainWindow::mnuDot, false, false, false, true},
+    {&DiagramWindow::mnuCurve, &MainWindow::mnuCurve, true, false, true, false},
+    {&DiagramWindow::mnuDotCurve, &MainWindow::mnuDotCurve, false, false, true, true},
+};
 
 void CheckStyle(const DiagramStyle& style);  // and no other
 const DiagramStyle& StyleOnShow();

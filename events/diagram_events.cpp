@@ -22,8 +22,8 @@ void JoinMenus() {
     frmDiagram.mnuSub1.Click.Calls([] { ChooseBasisItem(1); });
     frmDiagram.mnuSub2.Click.Calls([] { ChooseBasisItem(2); });
     for (const DiagramStyle& style : kDiagramStyles) {
-        style.item->Click.Calls([&style] { TakeStyle(style); });
-        style.main_item->Click.Calls([&style] { LaunchInStyle(style); });
+        (frmDiagram.*style.item).Click.Calls([&style] { TakeStyle(style); });
+        (frmMain.*style.main_item).Click.Calls([&style] { LaunchInStyle(style); });
     }
     for (MenuItem* item : {&frmDiagram.mnuVertical, &frmDiagram.mnuVertical1, &frmDiagram.mnuVertical2})
         item->Click.Calls(ToggleVerticalLine);
