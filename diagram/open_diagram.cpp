@@ -21,9 +21,8 @@ void KeepSize() {
 }
 
 void NameBasisItems() {
-    frmDiagram.mnuAll.SetCaption(WithoutTrailingColon(frmMain.AllTotalCaption.Caption()));
-    frmDiagram.mnuSub1.SetCaption(WithoutTrailingColon(frmMain.Subtotal1Caption.Caption()));
-    frmDiagram.mnuSub2.SetCaption(WithoutTrailingColon(frmMain.Subtotal2Caption.Caption()));
+    MenuItem* const items[] = {&frmDiagram.mnuAll, &frmDiagram.mnuSub1, &frmDiagram.mnuSub2};
+    for (int i = 0; i <= kSubtotals; ++i) items[i]->SetCaption(WithoutTrailingColon(frmMain.TotalCaptions[i].Caption()));
     ShowBasisInMenu();
 }
 
