@@ -69,6 +69,15 @@ void FollowTotal() {
         DrawDiversityCurve();
 }
 
+void BeginDiversityCurve() {
+    frmMain.DiversityPicture.Clear();
+    DiversityCurve.clear();
+    const double total = frmMain.AllTotal.Number();
+    if (total < 0 || total > kLongestCurve) return;
+    DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
+    DiversityCurve[0] = ToInteger(total);
+}
+
 void DrawDiversityCurve() {
     PictureBox& picture = frmMain.DiversityPicture;
     const TextBox& total = frmMain.AllTotal;

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "diagram/diversity_curve.h"
 #include "diagram/open_diagram.h"
 #include "files/back_up.h"
 #include "files/format/read_sheet.h"
@@ -12,7 +13,6 @@
 #include "keys/settings/key_settings.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
-#include "platform/number.h"
 #include "platform/text.h"
 #include "session/changed_mark.h"
 #include "session/dialog.h"
@@ -80,17 +80,6 @@ void StartAfresh(int key_index) {
         {"Error", "Same key index (" + std::to_string(key_index) + ") is being used more than once.", Icon::Exclamation, Buttons::Ok});
     InitialiseSheet();
     RecountTotals(CurrentSample);
-}
-
-// The curve knows nothing of how the counts of the file were made: it only has room for them.
-void BeginCurve() {
-    constexpr double kLongestCurve = 32767;
-    frmMain.DiversityPicture.Clear();
-    DiversityCurve.clear();
-    const double total = frmMain.AllTotal.Number();
-    if (total < 0 || total > kLongestCurve) return;
-    DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
-    DiversityCurve[0] = ToInteger(total);
 }
 
 void ForgetUndos() {
@@ -181,7 +170,7 @@ void FinishOpening() {
     PlaceKeyCellsIfKnown();
     ShowParams();
     SnapshotSheet();  // the names of the parameters come from the screen
-    BeginCurve();
+    BeginDiversityCurve();
     ForgetUndos();
     AddHistoryLine("(Open) " + SheetPath);
     ShowOpenedSheet();
