@@ -19,13 +19,12 @@
 
 namespace {
 // The bar runs once from end to end, so that the user sees that the sheet has gone.
-void ShowEmptying() {
-    frmMain.BankTabs.SetVisible(false);
-    frmMain.Progress.SetRange(0, 100);
-    frmMain.Progress.SetVisible(true);
-    for (int percent = 1; percent <= 100; ++percent) frmMain.Progress.SetValue(percent);
-    frmMain.Progress.SetValue(0);
-    frmMain.Progress.SetVisible(false);
+void ShowEmptying(ProgressBar& bar) {
+    bar.SetRange(0, 100);
+    bar.SetVisible(true);
+    for (int percent = 1; percent <= 100; ++percent) bar.SetValue(percent);
+    bar.SetValue(0);
+    bar.SetVisible(false);
 }
 
 void NameFirstSample() {
@@ -58,14 +57,16 @@ void ShowFirstSample() {
 }  // namespace
 
 void NewSheet() {
+    TabControl& pad = frmMain.BankTabs;
     if (frmMain.AllTotal.Text() != "0") PlayIfOn(WaveError);
     if (MayAbortData()) {
         if (AmendMode) LeaveModifyMode();
-        ShowEmptying();
+        pad.SetVisible(false);
+        ShowEmptying(frmMain.Progress);
         InitialiseSheet();
         CloseDiagram();
     }
-    frmMain.BankTabs.SetVisible(true);
+    pad.SetVisible(true);
 }
 
 void LoadSiteNameWindow() {

@@ -59,12 +59,16 @@ void MakeColumnOfTemplate() {
     SampleTable[2][1] = frmMain.SampleName.Text();
 }
 
-void CancelOpen() {
+void EmptyAndHide(ProgressBar& bar) {
+    bar.SetValue(0);
+    bar.SetVisible(false);
+}
+
+void CancelOpen(ProgressBar& bar) {
     SheetClean = true;
     SampleUntouched = false;
     MakeColumnOfTemplate();
-    frmMain.Progress.SetValue(0);
-    frmMain.Progress.SetVisible(false);
+    EmptyAndHide(bar);
 }
 
 // The key index that two rows have in common, the first met going down.
@@ -97,15 +101,14 @@ void ShowParams() {
     }
 }
 
-void ShowOpenedSheet() {
+void ShowOpenedSheet(ProgressBar& bar) {
     RecountTotals(CurrentSample);
     frmMain.SampleNote.SetText(SampleNotes[SampleCount]);
     frmMain.NextSampleButton.SetEnabled(true);
     frmMain.mnuNext.SetEnabled(true);
     MarkSheetChanged(false);
     frmMain.mnuSave.SetEnabled(false);
-    frmMain.Progress.SetValue(0);
-    frmMain.Progress.SetVisible(false);
+    EmptyAndHide(bar);
     frmMain.AllTotalBasis.SetValue(true);
     for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetUnderline(false);
 }
@@ -124,10 +127,10 @@ void HandOver() {
 }
 
 // What was read before a fault is on the screen too.
-void ReadAndShowGrid(CellReader& cells) {
+void ReadAndShowGrid(CellReader& cells, ProgressBar& bar) {
     GridRead read;
     try {
-        ReadGrid(cells, read, [](int row) { frmMain.Progress.SetValue(row); });
+        ReadGrid(cells, read, [&bar](int row) { bar.SetValue(row); });
     } catch (const Failure&) {
         ShowSheet(read);
         throw;
@@ -147,15 +150,15 @@ void ReadRest(CellReader& cells) {
 }
 
 // False: a key index repeats, and the session has started afresh.
-bool ReadFile(const std::string& path) {
+bool ReadFile(const std::string& path, ProgressBar& bar) {
     CellReader cells(DecodeFile(services.files->ReadAll(path)));
     CloseDiagram();
     SheetPath = path;
-    frmMain.Progress.SetVisible(true);
+    bar.SetVisible(true);
     ClearCounts();
     SheetHeader[6] = cells.Next();
     frmMain.SetTitle(Left(frmMain.Title(), kLongTitleLength) + " - [" + SheetBaseName(path) + "]");
-    ReadAndShowGrid(cells);
+    ReadAndShowGrid(cells, bar);
     if (const std::optional<int> repeated = RepeatedKeyIndex()) {
         StartAfresh(*repeated);
         return false;
@@ -166,22 +169,22 @@ bool ReadFile(const std::string& path) {
     return true;
 }
 
-void FinishOpening() {
+void FinishOpening(ProgressBar& bar) {
     PlaceKeyCellsIfKnown();
     ShowParams();
     SnapshotSheet();  // the names of the parameters come from the screen
     BeginDiversityCurve();
     ForgetUndos();
     AddHistoryLine("(Open) " + SheetPath);
-    ShowOpenedSheet();
+    ShowOpenedSheet(bar);
     HandOver();
 }
 
 // False: cancelled, or the file could not be read to its end.
-bool ReadChosenFile() {
+bool ReadChosenFile(CommonDialog& dialog, ProgressBar& bar) {
     try {
-        if (!frmMain.FileDialog.AskForOpening() || !ReadFile(frmMain.FileDialog.FileName)) return false;
-        FinishOpening();
+        if (!dialog.AskForOpening() || !ReadFile(dialog.FileName, bar)) return false;
+        FinishOpening(bar);
         return true;
     } catch (const Failure&) {
         return false;
@@ -190,13 +193,14 @@ bool ReadChosenFile() {
 }  // namespace
 
 void OpenSheet() {
+    ProgressBar& bar = frmMain.Progress;
     if (!MayReplaceSheet()) {
-        CancelOpen();
+        CancelOpen(bar);
         return;
     }
     SampleUntouched = true;
-    frmMain.Progress.SetRange(0, kSlots);
-    if (!ReadChosenFile()) CancelOpen();
+    bar.SetRange(0, kSlots);
+    if (!ReadChosenFile(frmMain.FileDialog, bar)) CancelOpen(bar);
 }
 
 void OpenSheetFromButton() {
