@@ -6,6 +6,7 @@
 #include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "platform/text.h"
+#include "session/dialog.h"
 #include "session/history.h"
 #include "session/leaving.h"
 #include "session/modify_mode.h"
@@ -84,10 +85,10 @@ void AcceptFirstSample() {
     EmptyFirstSample();
     TakeSampleFields(1, frmSiteName.SampleNote, frmSiteName.ParamNames, frmSiteName.ParamBoxes);
     frmSiteName.Unload();
-    frmMain.SetEnabled(true);
-    frmMain.Show();
-    frmMain.FocusRest.SetFocus();
-    frmMain.FocusRest.SetText("");
+    GiveMainWindowBack();
+    TextBox& rest = frmMain.FocusRest;
+    rest.SetFocus();
+    rest.SetText("");
     ShowFirstSample();
     LogShownLineAgain();
 }

@@ -108,6 +108,17 @@ void ShowSampleFace() {
     frmNext.SampleName.SetFocus();  // the start face lies below, and no key should reach its button
 }
 
+// The main window waits. Where the start has asked for the keyboard, both windows wait for that answer.
+void BringUpBehind(Window& main_window) {
+    main_window.SetEnabled(false);
+    if (frmInitial.Visible()) {
+        main_window.Hide();
+        frmNext.Hide();
+    } else {
+        main_window.Show();
+    }
+}
+
 void ShowRenameButtons(bool visible) {
     for (int p = 1; p <= kParams; ++p) frmNext.RenameButtons[p].SetVisible(visible);
 }
@@ -123,13 +134,7 @@ void LoadNextWindow() {
     frmMain.Load();
     for (int p = 1; p <= kParams; ++p) frmNext.ParamBoxes[p].SetText(kEmpty);
     OfferParamNames();
-    frmMain.SetEnabled(false);
-    if (frmInitial.Visible()) {  // the start has asked for the keyboard: both wait for the answer
-        frmMain.Hide();
-        frmNext.Hide();
-    } else {
-        frmMain.Show();
-    }
+    BringUpBehind(frmMain);
     KeyboardKnown = 1;
 }
 

@@ -82,14 +82,14 @@ void WriteTaxonRows(CellWriter& cells, std::int16_t mode) {
 }
 
 // One line at the end of the note tells the last save: a later one takes its place, unless something was written after it.
-void StampNote() {
+void StampNote(TextBox& box) {
     constexpr std::size_t kStampLength = 33;
-    const std::string note = frmMain.SampleNote.Text();
+    const std::string note = box.Text();
     const std::string stamp = "Last saved: " + NoteStamp();
     if (Length(note) >= kStampLength && Left(Right(note, kStampLength), 10) == "Last saved")
-        frmMain.SampleNote.SetText(Left(note, Length(note) - kStampLength) + stamp);
+        box.SetText(Left(note, Length(note) - kStampLength) + stamp);
     else
-        frmMain.SampleNote.SetText(note + "\r\n" + stamp);
+        box.SetText(note + "\r\n" + stamp);
 }
 
 // A sum of a percentage table: the basis itself, or its share of the basis.
@@ -118,7 +118,7 @@ void ComputeShares() {
 void GatherTexts() {
     TakeParamNames();
     FillEmptyParams();
-    StampNote();
+    StampNote(frmMain.SampleNote);
     FillEmptyNotes();
 }
 
