@@ -8,30 +8,31 @@
 #include "windows/main_window.h"
 
 namespace {
-void ListSampleNames(int samples) {
-    frmMain.SampleList.Clear();
-    for (int sample = 1; sample <= samples; ++sample) frmMain.SampleList.AddItem(SampleNamesRead[sample]);
-}
-
-void ShowLastName() {
+// `read`: how many of the names were read. The list shows them, and the last one once it has all.
+void ShowSampleNames(ComboBox& list, int read) {
+    list.Clear();
+    for (int sample = 1; sample <= read; ++sample) list.AddItem(SampleNamesRead[sample]);
+    if (read < SampleCount) return;
     const std::string last = SampleCount > 0 ? SampleNamesRead[SampleCount] : "";
-    frmMain.SampleList.SetText(last);
+    list.SetText(last);
     frmMain.SampleName.SetText(last);
 }
 
+void ShowBold(int slot, bool bold) {
+    frmMain.TaxonCounts[slot].SetBold(bold);
+    frmMain.TaxonNames[slot].SetBold(bold);
+}
+
 void ShowNoCounts(int slot) {
-    frmMain.TaxonCounts[slot].SetBold(false);
-    frmMain.TaxonNames[slot].SetBold(false);
-    frmMain.TaxonCounts[slot].SetText("0");
+    ShowBold(slot, false);
+    ShowCountOf(slot, 0);
 }
 
 // `counts`: how many of the row were read.
 void ShowCounts(int row, int counts, bool bold) {
     const int slot = KeyIndex[row];
     if (counts > 0) ShowCountOf(slot, Counts[slot][counts]);
-    if (!bold) return;
-    frmMain.TaxonCounts[row].SetBold(true);
-    frmMain.TaxonNames[row].SetBold(true);
+    if (bold) ShowBold(row, true);
 }
 
 // A cell that shows what its array holds is no edit, but in Modify mode every change of a cell is one. In a row that breaks off the
@@ -56,9 +57,8 @@ void ShowSheet(const GridRead& read) {
     ShowSerial();
     if (!read.subtotal_names) return;
     ShowSubtotalNames();
-    ListSampleNames(read.sample_names);
+    ShowSampleNames(frmMain.SampleList, read.sample_names);
     if (read.sample_names < SampleCount) return;
-    ShowLastName();
     for (TextBox& total : frmMain.Totals) total.SetText("0");
     for (int row = 1; row <= read.rows; ++row) ShowRow(row, read);
 }
