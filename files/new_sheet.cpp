@@ -3,13 +3,13 @@
 #include <string>
 
 #include "diagram/open_diagram.h"
-#include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "platform/text.h"
 #include "session/dialog.h"
 #include "session/history.h"
 #include "session/leaving.h"
 #include "session/modify_mode.h"
+#include "session/snapshot.h"
 #include "session/sound.h"
 #include "session/stamps.h"
 #include "session/start_up.h"
@@ -33,20 +33,15 @@ void NameFirstSample() {
     SampleNamesAreText = !IsPlainNumber(box.Text());
     if (box.Text().empty()) box.SetText(std::string("1: ") + kEmpty);
     const std::string name = box.Text();
-    frmMain.SampleName.SetText(name);
-    AddHistoryLine("(New sample: " + name + ")");
-    frmMain.SampleList.AddItem(name);
-    frmMain.SampleList.SetText(name);
+    ShowNewSampleName(name);
     SampleTable[1][1] = 1;
     SampleTable[2][1] = name;
 }
 
 void EmptyFirstSample() {
     CountsAtOpen.assign(2, {});
-    for (int p = 1; p <= kParams; ++p) {
-        ParamValuesAtOpen[p][0] = frmMain.ParamNames[p].Caption();
-        ParamValuesAtOpen[p][1] = ParamValues[p][1];
-    }
+    SnapshotParamNames();
+    for (int p = 1; p <= kParams; ++p) ParamValuesAtOpen[p][1] = ParamValues[p][1];
     EmptyCountCells();
 }
 
@@ -80,7 +75,7 @@ void TakeFirstSampleName() {
 
 void AcceptFirstSample() {
     SheetHeader[6] = frmSiteName.SampleName.Text();
-    frmMain.SetTitle("Marlbrook 2.7 - [" + SheetBaseName(SheetPath) + "]");
+    NameSheetInTitle("Marlbrook 2.7");
     NameFirstSample();
     EmptyFirstSample();
     TakeSampleFields(1, frmSiteName.SampleNote, frmSiteName.ParamNames, frmSiteName.ParamBoxes);

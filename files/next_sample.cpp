@@ -43,10 +43,7 @@ std::string NameNewSample() {
     frmMain.SampleName.SetText("");
     if (frmNext.SampleName.Text().empty()) frmNext.SampleName.SetText(std::to_string(SampleCount) + ": " + kEmpty);
     std::string name = frmNext.SampleName.Text();
-    frmMain.SampleName.SetText(name);
-    AddHistoryLine("(New sample: " + name + ")");
-    frmMain.SampleList.AddItem(name);
-    frmMain.SampleList.SetText(name);
+    ShowNewSampleName(name);
     SampleTable[1][SampleCount] = MaxSerial;
     SampleTable[2][SampleCount] = name;
     return name;

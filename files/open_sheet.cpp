@@ -8,7 +8,6 @@
 #include "diagram/open_diagram.h"
 #include "files/back_up.h"
 #include "files/format/read_sheet.h"
-#include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "keys/settings/key_settings.h"
 #include "platform/encoding.h"
@@ -19,6 +18,7 @@
 #include "session/history.h"
 #include "session/italics.h"
 #include "session/leaving.h"
+#include "session/sample_on_show.h"
 #include "session/snapshot.h"
 #include "session/sound.h"
 #include "session/start_up.h"
@@ -54,8 +54,8 @@ void MakeColumnOfTemplate() {
     TemplateOpened = SampleCount == 0;
     if (!TemplateOpened) return;
     SampleCount = CurrentSample = MaxSerial = 1;
-    frmMain.SerialNumber.SetCaption("1/1");
     SampleTable[1][1] = 1;
+    ShowSerial();
     SampleTable[2][1] = frmMain.SampleName.Text();
 }
 
@@ -95,15 +95,12 @@ void ForgetUndos() {
 
 void ShowParams() {
     if (FileVersion != 2) return;
-    for (int p = 1; p <= kParams; ++p) {
-        frmMain.ParamNames[p].SetCaption(ParamHeader[p][4]);  // ends in one colon, the label sees to it
-        frmMain.ParamBoxes[p].SetText(ParamValues[p][SampleCount].Text());
-    }
+    for (int p = 1; p <= kParams; ++p) ShowParam(p, ParamHeader[p][4], ParamValues[p][SampleCount].Text());
 }
 
 void ShowOpenedSheet(ProgressBar& bar) {
     RecountTotals(CurrentSample);
-    frmMain.SampleNote.SetText(SampleNotes[SampleCount]);
+    ShowNote(SampleCount);
     frmMain.NextSampleButton.SetEnabled(true);
     frmMain.mnuNext.SetEnabled(true);
     MarkSheetChanged(false);
@@ -157,7 +154,7 @@ bool ReadFile(const std::string& path, ProgressBar& bar) {
     bar.SetVisible(true);
     ClearCounts();
     SheetHeader[6] = cells.Next();
-    frmMain.SetTitle(Left(frmMain.Title(), kLongTitleLength) + " - [" + SheetBaseName(path) + "]");
+    NameSheetInTitle(Left(frmMain.Title(), kLongTitleLength));
     ReadAndShowGrid(cells, bar);
     if (const std::optional<int> repeated = RepeatedKeyIndex()) {
         StartAfresh(*repeated);

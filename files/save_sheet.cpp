@@ -61,7 +61,7 @@ std::string ChooseTarget(std::int16_t mode) {
 // Only the first Save as of a session moves the sheet; later ones write their file and leave the sheet where it is.
 void AdoptPath(const std::string& path) {
     SheetPath = path;
-    frmMain.SetTitle("Marlbrook 2.7 - [" + SheetBaseName(SheetPath) + "]");
+    NameSheetInTitle("Marlbrook 2.7");
     SaveAsPending = false;
 }
 

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "files/format/sheet_rows.h"
+#include "session/history.h"
 #include "session/sample_on_show.h"
 #include "session/subtotal_names.h"
 #include "session/totals.h"
@@ -72,13 +74,33 @@ void TakeParamNames() {
     for (int p = 1; p <= kParams; ++p) ParamHeader[p][4] = frmMain.ParamNames[p].Caption();
 }
 
+void NameSheetInTitle(const std::string& program) {
+    frmMain.SetTitle(program + " - [" + SheetBaseName(SheetPath) + "]");
+}
+
+void ShowNewSampleName(const std::string& name) {
+    ComboBox& list = frmMain.SampleList;
+    frmMain.SampleName.SetText(name);
+    AddHistoryLine("(New sample: " + name + ")");
+    list.AddItem(name);
+    list.SetText(name);
+}
+
+void ShowNote(int sample) {
+    frmMain.SampleNote.SetText(SampleNotes[sample]);
+}
+
+void ShowParam(int p, const std::string& name, const std::string& value) {
+    frmMain.ParamNames[p].SetCaption(name);
+    frmMain.ParamBoxes[p].SetText(value);
+}
+
 void TakeSampleFields(std::int16_t sample, const TextBox& note, const Label (&names)[kParams + 1], const TextBox (&values)[kParams + 1]) {
     SampleNotes[sample] = note.Text();
-    frmMain.SampleNote.SetText(SampleNotes[sample]);
+    ShowNote(sample);
     for (int p = 1; p <= kParams; ++p) {
-        frmMain.ParamNames[p].SetCaption(names[p].Caption());
         const std::string& value = values[p].Text();
-        frmMain.ParamBoxes[p].SetText(value.empty() ? kEmpty : value);
+        ShowParam(p, names[p].Caption(), value.empty() ? kEmpty : value);
         ParamValues[p][sample] = frmMain.ParamBoxes[p].Text();
     }
 }

@@ -2,6 +2,7 @@
 // sample begins.
 #pragma once
 #include <cstdint>
+#include <string>
 
 #include "files/format/read_sheet.h"
 #include "platform/controls.h"
@@ -10,6 +11,11 @@
 // Rows that were read show their names and the counts of the last sample, a row that breaks off the last count that it has. Bold goes
 // by the row of the file, not by the slot, and marks a count in any sample. What was not read stays as it is on the screen.
 void ShowSheet(const GridRead& read);
+
+void NameSheetInTitle(const std::string& program);  // "program - [name]", after SheetPath. Raises as SheetBaseName does
+void ShowNewSampleName(const std::string& name);    // box and list take it up, and so does the history
+void ShowNote(int sample);
+void ShowParam(int p, const std::string& name, const std::string& value);  // the label sees to it that the name ends in one colon
 
 void TakeShownSample();  // the name and the counts on the screen go into the arrays, as the column of CurrentSample
 void TakeParamNames();   // ParamHeader takes the captions on the screen
