@@ -101,8 +101,7 @@ void ShowParams() {
 void ShowOpenedSheet(ProgressBar& bar) {
     RecountTotals(CurrentSample);
     ShowNote(SampleCount);
-    frmMain.NextSampleButton.SetEnabled(true);
-    frmMain.mnuNext.SetEnabled(true);
+    frmMain.OfferNextSample();
     MarkSheetChanged(false);
     frmMain.mnuSave.SetEnabled(false);
     EmptyAndHide(bar);

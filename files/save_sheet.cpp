@@ -153,8 +153,7 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
 void TellSaved() {
     TemplateOpened = false;
     PlayIfOn(WaveSave);
-    frmMain.NextSampleButton.SetEnabled(true);
-    frmMain.mnuNext.SetEnabled(true);
+    frmMain.OfferNextSample();
     AddHistoryLine("(Save)");
     frmMain.mnuSaveCopy.SetEnabled(true);
 }

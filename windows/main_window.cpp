@@ -240,6 +240,11 @@ std::vector<Control*> MainWindow::RoundOf(const Control& control) {
     return cells;
 }
 
+void MainWindow::OfferNextSample() {
+    NextSampleButton.SetEnabled(true);
+    mnuNext.SetEnabled(true);
+}
+
 void MainWindow::ForgetMembers() {
     FormLoaded = ChangingSample = KeysEnabled = false;
 }

@@ -118,6 +118,8 @@ struct MainWindow : Window {
     MenuItem mnuDiversityRB, mnuCopyDiversity;
     MenuItem mnuByPass, mnuLetters[26];  // take Ctrl and a letter, so that the chord does nothing else
 
+    void OfferNextSample();  // the button and its menu item come on
+
     bool FormLoaded = false;                   // False while the window loads
     bool ChangingSample = false;               // another sample's counts are being put into the cells
     bool KeysEnabled = false;                  // False while the % button is held
