@@ -8,7 +8,6 @@
 #include "session/sound.h"
 #include "windows/busy.h"
 #include "windows/diagram_window.h"
-#include "windows/main_window.h"
 
 namespace {
 constexpr double kRoomForStem = 1.1;  // of the height of the root
@@ -57,11 +56,11 @@ Any SingleCell(float number) {
     return Val(SingleText(number));
 }
 
-void WriteMerges(CellWriter& cells) {
+void WriteMerges(CellWriter& cells, const Busy& busy) {
     for (const char* heading : {"Depth from", "Depth to", "Sum square"}) cells.Write(heading);
     cells.EndRow();
     for (int step = SampleCount - 1; step >= 1; --step) {
-        frmMain.Progress.SetValue(SampleCount - step);
+        busy.Reach(SampleCount - step);
         for (const float number : {MergeUpper[step], MergeLower[step], MergeHeight[step]}) cells.Write(SingleCell(number));
         cells.EndRow();
     }
@@ -86,5 +85,5 @@ void ClusterAgain() {
 
 void SaveMergeList() {
     const Busy busy(kSlots);
-    if (Export(WriteMerges)) PlayIfOn(WaveSave);
+    if (Export([&busy](CellWriter& cells) { WriteMerges(cells, busy); })) PlayIfOn(WaveSave);
 }

@@ -129,7 +129,7 @@ void DrawDiagram() {
     const int scroll = frmDiagram.ColumnScroll.Value();
     Whiten(frmDiagram.Diagram);
     for (int row = 1; row <= kSlots; ++row) {
-        frmMain.Progress.SetValue(row);
+        busy.Reach(row);
         if (IsInView(row, scroll)) ColumnPainter(row, scroll, y).Paint(style);
     }
     frmDiagram.Diagram.Persist();

@@ -74,10 +74,10 @@ void WritePercentRow(CellWriter& cells, int row) {
     cells.EndRow();
 }
 
-void WriteTaxonRows(CellWriter& cells, std::int16_t mode) {
+void WriteTaxonRows(CellWriter& cells, std::int16_t mode, const Busy& busy) {
     for (int row = 1; row <= kSlots; ++row) {
         IsPercentTable(mode) ? WritePercentRow(cells, row) : WriteCountRow(cells, row);
-        frmMain.Progress.SetValue(row);
+        busy.Reach(row);
     }
 }
 
@@ -122,15 +122,15 @@ void GatherTexts() {
     FillEmptyNotes();
 }
 
-void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
-    WriteTaxonRows(cells, mode);
+void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums, const Busy& busy) {
+    WriteTaxonRows(cells, mode, busy);
     WriteParamRows(cells, SampleCount);
     if (!IsPercentTable(mode)) WriteNoteRow(cells, SampleCount);
     WriteSumRows(cells, mode, sums);
 }
 
 // A file that cannot be opened changes nothing; a disk that takes no more finds all of the sheet gathered.
-void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& sums) {
+void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& sums, const Busy& busy) {
     const auto file = services.files->OpenForWriting(path);
     if (mode == kSaveAs && SaveAsPending) AdoptPath(path);
     LabelHeader("Last saved (dd/mm/yyyy):", FileStamp());
@@ -141,7 +141,7 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
     CellWriter cells(*file);
     WriteHeaderRows(cells, SampleCount);
     const std::size_t header_size = cells.Size();
-    WriteRows(cells, mode, sums);
+    WriteRows(cells, mode, sums, busy);
     try {
         cells.Close();
     } catch (const WriteFailure& failure) {  // a disk that was full from the start has taken nothing worth the name
@@ -177,7 +177,7 @@ void SaveSheet(std::int16_t mode) {
         return;
     }
     try {
-        WriteFile(path, mode, sums);
+        WriteFile(path, mode, sums, busy);
         TellSaved();
         if (mode == kSave) ReturnFocus();
     } catch (const Failure&) {

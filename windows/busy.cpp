@@ -15,3 +15,7 @@ Busy::~Busy() {
     frmMain.ProgressBar1.SetVisible(false);
     frmMain.ProgressBar1.SetValue(0);
 }
+
+void Busy::Reach(int value) const {
+    frmMain.ProgressBar1.SetValue(value);
+}

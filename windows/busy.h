@@ -5,6 +5,7 @@ class Busy {
 public:
     explicit Busy(int maximum);  // of the progress bar
     ~Busy();
+    void Reach(int value) const;  // the bar shows how far it has come
     Busy(const Busy&) = delete;
     Busy& operator=(const Busy&) = delete;
 };
