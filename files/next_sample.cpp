@@ -120,6 +120,14 @@ void ShowRenameButtons(bool visible) {
     for (int p = 1; p <= kParams; ++p) frmNext.RenameButtons[p].SetVisible(visible);
 }
 
+// Unless a sample was added, and the window is gone, it is whole again for the next opening. The main window can be used.
+void EndAsking() {
+    if (frmNext.IsLoaded()) {
+        ShowRenameButtons(true);
+        frmNext.StartFace.SetVisible(true);
+    }
+    frmMain.SetEnabled(true);
+}
 }  // namespace
 
 void LoadNextWindow() {
@@ -199,18 +207,12 @@ void AddSample() {
 
 void AcceptSample() {
     AddSample();
-    if (frmNext.IsLoaded()) {  // the name was refused
-        ShowRenameButtons(true);
-        frmNext.StartFace.SetVisible(true);
-    }
-    frmMain.SetEnabled(true);
+    EndAsking();
     if (SampleUntouched) CloseDiagram();
 }
 
 void CancelSample() {
-    ShowRenameButtons(true);
-    frmNext.StartFace.SetVisible(true);
-    frmMain.SetEnabled(true);
+    EndAsking();
     frmNext.Hide();  // what was typed waits for the next opening
 }
 
