@@ -51,8 +51,8 @@ void DrawTicks() {
     } while (1.2 * RootHeight() > x && x <= kMostTicks);
 }
 
-// As the shortest text of the Single, which is shorter than that of the double it would become.
-Any SingleCell(float number) {
+// As the shortest text of the float, which is shorter than that of the double it would become.
+Any FloatCell(float number) {
     return Val(SingleText(number));
 }
 
@@ -61,7 +61,7 @@ void WriteMerges(CellWriter& cells, const Busy& busy) {
     cells.EndRow();
     for (int step = SampleCount - 1; step >= 1; --step) {
         busy.Reach(SampleCount - step);
-        for (const float number : {MergeUpper[step], MergeLower[step], MergeHeight[step]}) cells.Write(SingleCell(number));
+        for (const float number : {MergeUpper[step], MergeLower[step], MergeHeight[step]}) cells.Write(FloatCell(number));
         cells.EndRow();
     }
 }

@@ -21,7 +21,7 @@ void RecordPoint(double total) {
     if (DiversityLength < 0) return;  // reverse counts alone: there is nothing to hold
     DiversityCurve.resize(static_cast<std::size_t>(DiversityLength) + 1);
     DiversityCurve[0] = 0;
-    // The first count after a start or a change of sample has not passed the old-sample test yet: it leaves a gap.
+    // The first count after a start or a change of sample has not passed the old-sample test yet: it leaves a gap (docs/quirks.md).
     if (!WarnOldSample) DiversityCurve[DiversityLength] = ToInteger(TaxaSeen * 10);
 }
 

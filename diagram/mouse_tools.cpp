@@ -44,7 +44,7 @@ void FillReadOuts() {
 }
 
 // The scroll value in `x` has not been scaled, and the last name is that of slot 135 whatever its row: on a scrolled or scaled diagram
-// the tip is off, as analysts know it.
+// the tip is off (docs/quirks.md).
 void NameTaxonAt(float x) {
     if (!frmDiagram.mnuTaxaName.Checked()) {
         frmDiagram.Diagram.SetToolTip("");

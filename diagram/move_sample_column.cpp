@@ -21,7 +21,7 @@ void MoveInRow(T* row) {
         std::rotate(row + MoveTo, row + MoveFrom, row + MoveFrom + 1);
 }
 
-// The moved count passes through a Single, as it always has: past 16,777,216 grains it loses digits.
+// The moved count passes through a float: past 16,777,216 grains it loses digits (docs/quirks.md).
 void MoveCounts(int slot) {
     Counts[slot][MoveFrom] = ToLong(static_cast<float>(Counts[slot][MoveFrom]));
     MoveInRow(Counts[slot]);

@@ -72,7 +72,7 @@ void LoadDiagramWindow() {
 void EndDiagram() {
     KeepSize();
     DiagramOpen = false;
-    if (MousePointer == kPointerSize) MousePointer = kPointerDefault;  // nobody is left to take it back from the sample line
+    if (MousePointer == kPointerSize) MousePointer = kPointerDefault;  // it was on the sample line, and only a picture takes it back
 }
 
 void CloseDiagram() {

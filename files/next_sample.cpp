@@ -200,7 +200,7 @@ void AddSample() {
     CurrentSample = SampleCount;
     ShowSerial();
     ShowZeroTotals();
-    LogShownLineAgain();  // the new sample stands twice in the log and once in the list
+    LogShownLineAgain();  // twice in the log and once in the list: docs/quirks.md
     MoveIntoOrder(name);
     RebuildDiagram();
 }

@@ -32,7 +32,7 @@
 namespace {
 constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter title gives its first 15 characters all the same
 
-// False: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
+// false: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
 bool MayReplaceSheet() {
     if (SheetClean) return true;
     if (frmMain.AllTotal.Number() > 0) PlayIfOn(WaveError);
@@ -145,7 +145,7 @@ void ReadRest(CellReader& cells) {
     ReadNotes(cells);
 }
 
-// False: a key index repeats, and the session has started afresh.
+// false: a key index repeats, and the session has started afresh.
 bool ReadFile(const std::string& path, ProgressBar& bar) {
     CellReader cells(DecodeFile(services.files->ReadAll(path)));
     CloseDiagram();
@@ -176,7 +176,7 @@ void FinishOpening(ProgressBar& bar) {
     HandOver();
 }
 
-// False: cancelled, or the file could not be read to its end.
+// false: cancelled, or the file could not be read to its end.
 bool ReadChosenFile(CommonDialog& dialog, ProgressBar& bar) {
     try {
         if (!dialog.AskForOpening() || !ReadFile(dialog.FileName, bar)) return false;

@@ -144,7 +144,7 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
     WriteRows(cells, mode, sums, busy);
     try {
         cells.Close();
-    } catch (const WriteFailure& failure) {  // a disk that was full from the start has taken nothing worth the name
+    } catch (const WriteFailure& failure) {  // a full disk that has not even the first rows has no sheet
         if (failure.taken < header_size) MarkSheetChanged(was_changed);
         throw;
     }
