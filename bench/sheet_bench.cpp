@@ -5,7 +5,7 @@
 #include "bench/headless_program.h"
 #include "diagram/data/percentages.h"
 #include "files/back_up.h"
-#include "files/format/cell_reader.h"
+#include "files/format/cells.h"
 #include "files/format/read_sheet.h"
 #include "files/save_sheet.h"
 #include "files/sheet_on_screen.h"

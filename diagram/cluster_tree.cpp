@@ -2,8 +2,12 @@
 
 #include "diagram/data/coniss.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/sample_marker.h"
+#include "diagram/sample_selector.h"
+#include "platform/text.h"
+#include "session/export.h"
+#include "session/sound.h"
 #include "windows/diagram_window.h"
+#include "windows/main_window.h"
 
 namespace {
 constexpr double kRoomForStem = 1.1;  // of the height of the root
@@ -46,6 +50,21 @@ void DrawTicks() {
         ++x;
     } while (1.2 * RootHeight() > x && x <= kMostTicks);
 }
+
+// As the shortest text of the float, which is shorter than that of the double it would become.
+Any FloatCell(float number) {
+    return Val(SingleText(number));
+}
+
+void WriteMerges(CellWriter& cells, const Busy& busy) {
+    for (const char* heading : {"Depth from", "Depth to", "Sum square"}) cells.Write(heading);
+    cells.EndRow();
+    for (int step = SampleCount - 1; step >= 1; --step) {
+        busy.Reach(SampleCount - step);
+        for (const float number : {MergeUpper[step], MergeLower[step], MergeHeight[step]}) cells.Write(FloatCell(number));
+        cells.EndRow();
+    }
+}
 }  // namespace
 
 void DrawClusterTree() {
@@ -56,4 +75,15 @@ void DrawClusterTree() {
     DrawTicks();
     frmDiagram.ClusterTree.Persist();
     DrawSampleMarker();
+}
+
+void ClusterAgain() {
+    if (!frmDiagram.ClusterTree.Visible()) return;
+    ComputeConiss();
+    DrawClusterTree();
+}
+
+void SaveMergeList() {
+    const Busy busy(kSlots);
+    if (Export([&busy](CellWriter& cells) { WriteMerges(cells, busy); })) PlayIfOn(WaveSave);
 }

@@ -13,22 +13,20 @@ constexpr Colour kCurve{255, 0, 0};
 constexpr Colour kAxis{100, 100, 100};
 constexpr double kLongestCurve = 32767;  // past it the curve stands still, and counting goes on
 
-void RecordPoint() {
+void RecordPoint(double total) {
     TaxaSeen = 0;
     for (int slot = 1; slot <= kSlots; ++slot)
         if (frmMain.TaxonCounts[slot].Number() != 0) ++TaxaSeen;
-    const double total = frmMain.AllTotal.Number();
     if (std::abs(total) <= kLongestCurve) DiversityLength = ToInteger(total);
     if (DiversityLength < 0) return;  // reverse counts alone: there is nothing to hold
     DiversityCurve.resize(static_cast<std::size_t>(DiversityLength) + 1);
     DiversityCurve[0] = 0;
-    // The first count after a start or a change of sample has not passed the old-sample test yet: it leaves a gap.
+    // The first count after a start or a change of sample has not passed the old-sample test yet: it leaves a gap (docs/quirks.md).
     if (!WarnOldSample) DiversityCurve[DiversityLength] = ToInteger(TaxaSeen * 10);
 }
 
 // The data fill the right and upper part, both axes from 0 to ten times their largest value; the rest is room for the labels.
-void SetScale() {
-    PictureBox& picture = frmMain.DiversityPicture;
+void SetScale(PictureBox& picture) {
     if (TaxaSeen > 0) {
         picture.SetScaleTop(TaxaSeen * 11.7);
         picture.SetScaleHeight(TaxaSeen * -14.0);
@@ -39,13 +37,13 @@ void SetScale() {
     }
 }
 
-void DrawLabels() {
+void DrawLabels(PictureBox& picture) {
     const double taxa = TaxaSeen;
     const double total = DiversityLength;
     const std::string taxa_text = NumberText(taxa);
     const std::string total_text = NumberText(total);
     const auto digits = [](const std::string& text) { return static_cast<double>(Length(text)); };
-    const auto print = [](double x, double y, const std::string& text) { frmMain.DiversityPicture.Print(x, y, 7, text, kAxis); };
+    const auto print = [&picture](double x, double y, const std::string& text) { picture.Print(x, y, 7, text, kAxis); };
     print(0, taxa * -0.2, "0");
     print((9.9 - 0.2 * digits(total_text)) * total, taxa * -0.2, total_text);
     print(total * -0.43, taxa * 0.9, "0");
@@ -66,16 +64,15 @@ int FirstPoint() {
     return first;
 }
 
-void DrawCurve() {
-    PictureBox& picture = frmMain.DiversityPicture;
+void DrawCurve(PictureBox& picture, const std::string& total) {
     picture.Clear();
-    if (frmMain.AllTotal.Text() == "1") DiversityCurve[1] = 10;
+    if (total == "1") DiversityCurve[1] = 10;
     for (int n = FirstPoint() + 1; n <= DiversityLength; ++n)
         if (DiversityCurve[n] != 0 && DiversityCurve[n - 1] != 0)
             picture.Line(10.0 * (n - 1), DiversityCurve[n - 1], 10.0 * n, DiversityCurve[n], kCurve);
     picture.Line(0, 0, 10.0 * DiversityLength, 0, kAxis);
     picture.Line(0, 0, 0, 10.0 * TaxaSeen, kAxis);
-    DrawLabels();
+    DrawLabels(picture);
 }
 }  // namespace
 
@@ -86,8 +83,19 @@ void FollowTotal() {
         DrawDiversityCurve();
 }
 
+void BeginDiversityCurve() {
+    frmMain.DiversityPicture.Clear();
+    DiversityCurve.clear();
+    const double total = frmMain.AllTotal.Number();
+    if (total < 0 || total > kLongestCurve) return;
+    DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
+    DiversityCurve[0] = ToInteger(total);
+}
+
 void DrawDiversityCurve() {
-    RecordPoint();
-    SetScale();
-    DrawCurve();
+    PictureBox& picture = frmMain.DiversityPicture;
+    const TextBox& total = frmMain.AllTotal;
+    RecordPoint(total.Number());
+    SetScale(picture);
+    DrawCurve(picture, total.Text());
 }

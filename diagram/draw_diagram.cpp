@@ -1,11 +1,12 @@
 #include "diagram/draw_diagram.h"
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "diagram/data/percentages.h"
 #include "diagram/data/sample_position.h"
-#include "diagram/sample_marker.h"
-#include "diagram/style.h"
+#include "diagram/sample_selector.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
 
@@ -101,6 +102,15 @@ bool IsInView(int row, int scroll) {
 }
 }  // namespace
 
+void CheckStyle(const DiagramStyle& style) {
+    for (const DiagramStyle& each : kDiagramStyles) (frmDiagram.*each.item).SetChecked(&each == &style);
+}
+
+const DiagramStyle& StyleOnShow() {
+    return *std::find_if(std::begin(kDiagramStyles), std::end(kDiagramStyles),
+                         [](const DiagramStyle& style) { return (frmDiagram.*style.item).Checked(); });
+}
+
 float HorizontalScale() {
     return static_cast<float>(frmDiagram.HorizontalScale.Value() / 5.0);
 }
@@ -120,7 +130,7 @@ void DrawDiagram() {
     const int scroll = frmDiagram.ColumnScroll.Value();
     Whiten(frmDiagram.Diagram);
     for (int row = 1; row <= kSlots; ++row) {
-        frmMain.Progress.SetValue(row);
+        busy.Reach(row);
         if (IsInView(row, scroll)) ColumnPainter(row, scroll, y).Paint(style);
     }
     frmDiagram.Diagram.Persist();

@@ -103,3 +103,13 @@ void ResizeDiagram() {
     PlaceSampleSelector();
     if (frmDiagram.ConissDrawn) DrawClusterTree();
 }
+
+void ToggleTree() {
+    const bool open = !frmDiagram.nmuConiss.Checked();
+    frmDiagram.nmuConiss.SetChecked(open);
+    frmDiagram.ClusterTree.SetVisible(open);
+    LayOutDiagram();
+    ClusterAgain();
+    frmDiagram.ConissDrawn = open;
+    MousePointer = kPointerDefault;
+}

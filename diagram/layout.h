@@ -8,3 +8,5 @@ void LayOutDiagram();    // every control to its place in the window as it is, a
 // The window has another size: layout, scroll range and drawing follow. A picture that was already too small gives a message, and the
 // window is made larger first.
 void ResizeDiagram();
+
+void ToggleTree();  // nmuConiss: opens the panel of the tree at the right and clusters the samples, or closes it

@@ -6,9 +6,7 @@
 #include "diagram/data/percentages.h"
 #include "diagram/data/sample_position.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/guide_lines.h"
 #include "diagram/move_sample_column.h"
-#include "diagram/sample_marker.h"
 #include "diagram/sample_selector.h"
 #include "platform/number.h"
 #include "platform/services.h"
@@ -18,13 +16,35 @@
 #include "windows/main_window.h"
 
 namespace {
+constexpr Colour kGuide{255, 50, 0};
+
+void DrawVertical(float x, int source) {
+    const double top = frmDiagram.Diagram.ScaleTop(), bottom = top + frmDiagram.Diagram.ScaleHeight();
+    if (source == kOverDiagram) {
+        const double place = static_cast<double>(x) - frmDiagram.ColumnScroll.Value();
+        frmDiagram.Diagram.Line(place, top, place, bottom, kGuide);
+    } else {
+        frmDiagram.ClusterTree.Line(x, top, x, bottom, kGuide);
+    }
+}
+
+void DrawHorizontal(float y) {
+    for (PictureBox* picture : {&frmDiagram.Diagram, &frmDiagram.ClusterTree})
+        picture->Line(picture->ScaleLeft(), y, picture->ScaleLeft() + picture->ScaleWidth(), y, kGuide);
+}
+
+void SetAll(bool checked, MenuItem& first, MenuItem& second, MenuItem& third) {
+    for (MenuItem* item : {&first, &second, &third}) item->SetChecked(checked);
+    DrawSampleMarker();
+}
+
 void FillReadOuts() {
     frmDiagram.MovedFrom.SetText(std::to_string(MoveFrom));
     frmDiagram.MovedTo.SetText(std::to_string(MoveTo));
 }
 
 // The scroll value in `x` has not been scaled, and the last name is that of slot 135 whatever its row: on a scrolled or scaled diagram
-// the tip is off, as analysts know it.
+// the tip is off (docs/quirks.md).
 void NameTaxonAt(float x) {
     if (!frmDiagram.mnuTaxaName.Checked()) {
         frmDiagram.Diagram.SetToolTip("");
@@ -86,6 +106,20 @@ void EndDrag() {
     MousePointer = kPointerDefault;
 }
 }  // namespace
+
+void TargetLine(float x, float y, int source) {
+    if (MousePointer != kPointerDefault) return;
+    if (frmDiagram.mnuVertical.Checked()) DrawVertical(x, source);
+    if (frmDiagram.mnuHorizontal.Checked()) DrawHorizontal(y);
+}
+
+void ToggleVerticalLine() {
+    SetAll(!frmDiagram.mnuVertical.Checked(), frmDiagram.mnuVertical, frmDiagram.mnuVertical1, frmDiagram.mnuVertical2);
+}
+
+void ToggleHorizontalLine() {
+    SetAll(!frmDiagram.mnuHorizontal.Checked(), frmDiagram.mnuHorizontal, frmDiagram.mnuHorizontal1, frmDiagram.mnuHorizontal2);
+}
 
 void MoveOverPicture(Mouse mouse, int source) {
     const auto x = static_cast<float>(mouse.x + frmDiagram.ColumnScroll.Value());

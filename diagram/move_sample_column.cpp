@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "diagram/cluster_tree.h"
 #include "diagram/data/percentages.h"
-#include "diagram/redraw.h"
+#include "diagram/open_diagram.h"
 #include "diagram/sample_selector.h"
-#include "diagram/tree_panel.h"
 #include "platform/number.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
@@ -21,7 +21,7 @@ void MoveInRow(T* row) {
         std::rotate(row + MoveTo, row + MoveFrom, row + MoveFrom + 1);
 }
 
-// The moved count passes through a Single, as it always has: past 16,777,216 grains it loses digits.
+// The moved count passes through a float: past 16,777,216 grains it loses digits (docs/quirks.md).
 void MoveCounts(int slot) {
     Counts[slot][MoveFrom] = ToLong(static_cast<float>(Counts[slot][MoveFrom]));
     MoveInRow(Counts[slot]);

@@ -1,12 +1,12 @@
 #include "diagram/open_diagram.h"
 
+#include "diagram/cluster_tree.h"
 #include "diagram/data/basis.h"
 #include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/layout.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
-#include "diagram/tree_panel.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "session/state/sample_names.h"
@@ -21,9 +21,8 @@ void KeepSize() {
 }
 
 void NameBasisItems() {
-    frmDiagram.mnuAll.SetCaption(WithoutTrailingColon(frmMain.AllTotalCaption.Caption()));
-    frmDiagram.mnuSub1.SetCaption(WithoutTrailingColon(frmMain.Subtotal1Caption.Caption()));
-    frmDiagram.mnuSub2.SetCaption(WithoutTrailingColon(frmMain.Subtotal2Caption.Caption()));
+    MenuItem* const items[] = {&frmDiagram.mnuAll, &frmDiagram.mnuSub1, &frmDiagram.mnuSub2};
+    for (int i = 0; i <= kSubtotals; ++i) items[i]->SetCaption(WithoutTrailingColon(frmMain.TotalCaptions[i].Caption()));
     ShowBasisInMenu();
 }
 
@@ -73,7 +72,7 @@ void LoadDiagramWindow() {
 void EndDiagram() {
     KeepSize();
     DiagramOpen = false;
-    if (MousePointer == kPointerSize) MousePointer = kPointerDefault;  // nobody is left to take it back from the sample line
+    if (MousePointer == kPointerSize) MousePointer = kPointerDefault;  // it was on the sample line, and only a picture takes it back
 }
 
 void CloseDiagram() {
@@ -89,4 +88,29 @@ void RebuildDiagram() {
     DrawTaxonNames();
     PlaceSampleSelector();
     ClusterAgain();
+}
+
+void RedrawDiagram() {
+    if (!DiagramOpen) return;
+    ComputeDiagramData();
+    DrawDiagram();
+    DrawTaxonNames();
+}
+
+void FollowBasis() {
+    if (!DiagramOpen) return;
+    ShowBasisInMenu();
+    RedrawDiagram();
+    ClusterAgain();
+}
+
+void ChooseBasisItem(int option) {
+    OptionButton& basis = frmMain.BasisOptions[option];
+    if (!basis.Value()) {
+        basis.SetValue(true);  // its click draws everything
+        return;
+    }
+    RedrawDiagram();
+    if (frmDiagram.ClusterTree.Visible()) DrawClusterTree();
+    AlarmArmed = true;
 }

@@ -5,11 +5,14 @@
 #include <string>
 
 #include "diagram/data/sample_position.h"
-#include "diagram/sample_marker.h"
+#include "platform/services.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 
 namespace {
+constexpr Colour kBlue{0, 0, 255};
+constexpr Colour kRed{255, 0, 0};
+
 // In twips from the top of the diagram. A sample far off the scale takes the group out of sight, and no farther.
 int SelectorHeight(int sample) {
     constexpr double kFarOff = 1'000'000;
@@ -18,6 +21,17 @@ int SelectorHeight(int sample) {
     return static_cast<int>(std::lround(std::clamp(down, -kFarOff, kFarOff)));
 }
 }  // namespace
+
+void DrawSampleMarker() {
+    frmDiagram.Diagram.ClearOverlay();
+    frmDiagram.ClusterTree.ClearOverlay();
+    if (MousePointer != kPointerSize && frmDiagram.SampleLine.Value() == 0) return;
+    const Colour colour = frmDiagram.MovingSample ? kRed : kBlue;
+    const double y = SamplePositions().Y(frmDiagram.SampleSlider.Value());
+    const double end = frmDiagram.Diagram.ScaleWidth();  // in both pictures: it reaches past the edge of the tree
+    frmDiagram.Diagram.Line(0, y, end, y, colour);
+    if (frmDiagram.ClusterTree.Visible()) frmDiagram.ClusterTree.Line(0, y, end, y, colour);
+}
 
 void PlaceSampleSelector() {
     const int sample = frmDiagram.SampleSlider.Value();

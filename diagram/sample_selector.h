@@ -1,6 +1,10 @@
 // The selected sample: frmDiagram.SampleSlider holds it, the group of Frame3 names it and stands beside its line.
 #pragma once
 
+// Lays the line of the selected sample over the diagram and an open tree, if the pointer is on it or its box is ticked, and takes all
+// other overlays away. Red while a sample is being moved, else blue.
+void DrawSampleMarker();
+
 void PlaceSampleSelector();  // Frame3 and UpDown1 go to the height of the sample, Check1 and Combo2 take its name
 
 void TakeSelectedSample();  // Slider1 has moved: SelectedSample, the line and the group follow

@@ -1,15 +1,10 @@
-#include "diagram/basis_choice.h"
+#include "diagram/cluster_tree.h"
 #include "diagram/draw_diagram.h"
-#include "diagram/guide_lines.h"
 #include "diagram/layout.h"
-#include "diagram/merge_list.h"
 #include "diagram/mouse_tools.h"
 #include "diagram/open_diagram.h"
-#include "diagram/redraw.h"
-#include "diagram/sample_marker.h"
 #include "diagram/sample_selector.h"
 #include "diagram/taxon_names.h"
-#include "diagram/tree_panel.h"
 #include "events/join.h"
 #include "platform/services.h"
 #include "platform/user.h"
@@ -26,8 +21,8 @@ void JoinMenus(DiagramWindow& window) {
     window.mnuSub1.Click.Calls([] { ChooseBasisItem(1); });
     window.mnuSub2.Click.Calls([] { ChooseBasisItem(2); });
     for (const DiagramStyle& style : kDiagramStyles) {
-        style.item->Click.Calls([&style] { TakeStyle(style); });
-        style.main_item->Click.Calls([&style] { LaunchInStyle(style); });
+        (frmDiagram.*style.item).Click.Calls([&style] { TakeStyle(style); });
+        (frmMain.*style.main_item).Click.Calls([&style] { LaunchInStyle(style); });
     }
     for (MenuItem* item : {&window.mnuVertical, &window.mnuVertical1, &window.mnuVertical2}) item->Click.Calls(ToggleVerticalLine);
     for (MenuItem* item : {&window.mnuHorizontal, &window.mnuHorizontal1, &window.mnuHorizontal2}) item->Click.Calls(ToggleHorizontalLine);

@@ -6,10 +6,9 @@
 #include "session/focus.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
+#include "taxa/dialogs.h"
 #include "taxa/edit_boxes.h"
-#include "taxa/param_names.h"
 #include "taxa/quotation_guard.h"
-#include "taxa/subtotals.h"
 #include "windows/picture_window.h"
 
 namespace {

@@ -15,10 +15,9 @@
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "session/undo.h"
-#include "taxa/cells.h"
+#include "taxa/dialogs.h"
 #include "taxa/edit_boxes.h"
 #include "taxa/move_taxon.h"
-#include "taxa/param_names.h"
 #include "windows/information_windows.h"
 #include "windows/key_windows.h"
 #include "windows/main_window.h"
@@ -70,27 +69,27 @@ void JoinBox(TextBox& box) {
 void JoinNameBox(MainWindow& window, int slot) {
     TextBox& box = window.TaxonNames[slot];
     JoinBox(box);
-    box.GotFocus.Calls([slot] { EnterNameBox(slot); });
-    box.LostFocus.Calls([slot] { LeaveNameBox(slot); });
+    box.GotFocus.Calls([&box] { EnterNameBox(box); });
+    box.LostFocus.Calls([slot, &box] { LeaveNameBox(slot, box); });
     JoinGuardedKeys(box);
     box.MouseDown.Calls([slot](Mouse mouse) { PressInCell(slot, mouse); });
-    box.DoubleClick.Calls([slot] { DoubleClickCell(slot, false); });
-    box.Change.Calls([slot] { slot == 0 ? TakeSampleName() : TakeTaxonName(slot); });
+    box.DoubleClick.Calls([slot, &box] { DoubleClickCell(slot, box); });
+    box.Change.Calls([slot, &box] { slot == 0 ? TakeSampleName(box) : TakeTaxonName(slot, box); });
 }
 
 void JoinCountBox(MainWindow& window, int slot) {
     TextBox& box = window.TaxonCounts[slot];
     JoinBox(box);
     box.MouseMove.Calls(EnterCountCell);
-    box.GotFocus.Calls([slot] { EnterCountBox(slot); });
-    box.WalkedTo.Calls([slot] { NoteCountBeforeEdit(slot); });
-    box.LostFocus.Calls([slot] { LeaveCountBox(slot); });
-    box.MouseDown.Calls([slot](Mouse mouse) {
-        NoteCountBeforeEdit(slot);
+    box.GotFocus.Calls([&box] { EnterCountBox(box); });
+    box.WalkedTo.Calls([&box] { NoteCountBeforeEdit(box); });
+    box.LostFocus.Calls([slot, &box] { LeaveCountBox(slot, box); });
+    box.MouseDown.Calls([slot, &box](Mouse mouse) {
+        NoteCountBeforeEdit(box);
         PressInCell(slot, mouse);
     });
-    box.DoubleClick.Calls([slot] { DoubleClickCell(slot, true); });
-    box.Change.Calls([slot] { TakeCount(slot); });
+    box.DoubleClick.Calls([slot, &box] { DoubleClickCell(slot, box); });
+    box.Change.Calls([slot, &box] { TakeCount(slot, box); });
 }
 
 void JoinCells(MainWindow& window) {
@@ -107,7 +106,7 @@ void JoinMoves(MainWindow& window) {
     MenuItem* const banks[3] = {&window.mnu1to45, &window.mnu46to90, &window.mnu91to135};
     MenuItem* const items[3] = {window.mnuMoveTo1, window.mnuMoveTo2, window.mnuMoveTo3};
     for (int bank = 0; bank < 3; ++bank) {
-        banks[bank]->Click.Calls([bank] { OpenBankMenu(bank); });
+        banks[bank]->Click.Calls([bank, menu = items[bank]] { OpenBankMenu(bank, menu); });
         for (int i = 0; i < kKeys; ++i) {
             const auto slot = static_cast<std::int16_t>(bank * kKeys + i + 1);
             items[bank][i].Click.Calls([slot] { TransferTaxa(slot); });
@@ -118,28 +117,30 @@ void JoinMoves(MainWindow& window) {
 void JoinParam(MainWindow& window, int p) {
     TextBox& box = window.ParamBoxes[p];
     JoinBox(box);
-    box.GotFocus.Calls([p] { EnterParam(p); });
+    box.GotFocus.Calls([&box] { EnterParam(box); });
     box.LostFocus.Calls([&box] { RestoreDashes(box); });
     JoinGuardedKeys(box);
-    box.Change.Calls([p] { TakeParam(p); });
-    window.ParamNames[p].Change.Calls([p] {
-        EndWithColon(p);
-        NameParamBox(p);
+    box.Change.Calls([p, &box] { TakeParam(p, box); });
+    Label& label = window.ParamNames[p];
+    label.Change.Calls([&box, &label] {
+        EndWithColon(label);
+        NameParamBox(box, label);
     });
     window.RenameButtons[p].Click.Calls([p] { RenameParamOfSheet(p); });
     window.RenameButtons[p].MouseMove.Calls([](Mouse) { MousePointer = kPointerDefault; });
 }
 
 void JoinSample(MainWindow& window) {
-    JoinBox(window.SampleNote);
-    window.SampleNote.GotFocus.Calls(EnterNote);
-    JoinGuardedKeys(window.SampleNote);
-    window.SampleNote.DoubleClick.Calls(DoubleClickNote);
-    window.SampleNote.Change.Calls(TakeNote);
+    TextBox& note = window.SampleNote;
+    JoinBox(note);
+    note.GotFocus.Calls([&note] { EnterNote(note); });
+    JoinGuardedKeys(note);
+    note.DoubleClick.Calls(DoubleClickNote);
+    note.Change.Calls([&note] { TakeNote(note); });
     for (int p = 1; p <= kParams; ++p) JoinParam(window, p);
     window.History.Change.Calls([&window] { window.mnuSaveHistory.SetEnabled(true); });
     window.SampleList.Click.Calls([&window] { BringUpChosenSample(window.SampleList); });
-    window.SampleList.Edited.Calls(RenameSampleOnShow);
+    window.SampleList.Edited.Calls([&window] { RenameSampleOnShow(window.SampleList.Text()); });
     window.SerialNumber.Change.Calls(OfferDiagram);
 }
 

@@ -1,8 +1,7 @@
 #include "events/program.h"
 
-#include "diagram/basis_choice.h"
 #include "diagram/diversity_curve.h"
-#include "diagram/redraw.h"
+#include "diagram/open_diagram.h"
 #include "events/join.h"
 #include "files/back_up.h"
 #include "files/save_sheet.h"

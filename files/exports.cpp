@@ -12,7 +12,7 @@
 #include "windows/main_window.h"
 
 namespace {
-void WriteTemplate(CellWriter& cells) {
+void WriteTemplate(CellWriter& cells, const Busy& busy) {
     constexpr int kNoSamples = 0;
     LabelHeader("Last saved (dd/mm/yyyy):", FileStamp());
     TakeParamNames();
@@ -21,7 +21,7 @@ void WriteTemplate(CellWriter& cells) {
     for (int row = 1; row <= kSlots; ++row) {
         WriteTaxonLabels(cells, row);
         cells.EndRow();
-        frmMain.Progress.SetValue(row);
+        busy.Reach(row);
     }
     WriteParamRows(cells, kNoSamples);
     WriteNoteRow(cells, kNoSamples);
@@ -31,9 +31,9 @@ void WriteTemplate(CellWriter& cells) {
     }
 }
 
-void WriteHistory(CellWriter& cells) {
+void WriteHistory(CellWriter& cells, const Busy& busy) {
     for (int i = 0; i <= HistoryCount; ++i) {
-        frmMain.Progress.SetValue(i);
+        busy.Reach(i);
         cells.Write(HistoryLog[i]);
         cells.EndRow();
     }
@@ -44,7 +44,7 @@ void WriteHistory(CellWriter& cells) {
 
 void CreateTemplate() {
     const Busy busy(kSlots);
-    if (!Export(WriteTemplate)) return;
+    if (!Export([&busy](CellWriter& cells) { WriteTemplate(cells, busy); })) return;
     ReturnFocus();
     PlayIfOn(WaveSave);
 }
@@ -52,5 +52,5 @@ void CreateTemplate() {
 void SaveHistory() {
     const Busy busy(HistoryCount);
     frmMain.FileDialog.FileName = ProgramFile("References/History.csv");
-    if (Export(WriteHistory)) ReturnFocus();
+    if (Export([&busy](CellWriter& cells) { WriteHistory(cells, busy); })) ReturnFocus();
 }

@@ -3,13 +3,14 @@
 #include <string>
 
 #include "diagram/open_diagram.h"
-#include "files/format/sheet_base_name.h"
-#include "files/sample_fields.h"
+#include "files/sheet_on_screen.h"
 #include "platform/text.h"
+#include "session/focus.h"
 #include "session/history.h"
 #include "session/leaving.h"
 #include "session/modify_mode.h"
 #include "session/pad_cells.h"
+#include "session/saved_state.h"
 #include "session/sound.h"
 #include "session/start_up.h"
 #include "session/state/sheet_state.h"
@@ -19,13 +20,12 @@
 
 namespace {
 // The bar runs once from end to end, so that the user sees that the sheet has gone.
-void ShowEmptying() {
-    frmMain.BankTabs.SetVisible(false);
-    frmMain.Progress.SetRange(0, 100);
-    frmMain.Progress.SetVisible(true);
-    for (int percent = 1; percent <= 100; ++percent) frmMain.Progress.SetValue(percent);
-    frmMain.Progress.SetValue(0);
-    frmMain.Progress.SetVisible(false);
+void ShowEmptying(ProgressBar& bar) {
+    bar.SetRange(0, 100);
+    bar.SetVisible(true);
+    for (int percent = 1; percent <= 100; ++percent) bar.SetValue(percent);
+    bar.SetValue(0);
+    bar.SetVisible(false);
 }
 
 void NameFirstSample() {
@@ -33,20 +33,15 @@ void NameFirstSample() {
     SampleNamesAreText = !IsPlainNumber(box.Text());
     if (box.Text().empty()) box.SetText(std::string("1: ") + kEmpty);
     const std::string name = box.Text();
-    frmMain.SampleName.SetText(name);
-    AddHistoryLine("(New sample: " + name + ")");
-    frmMain.SampleList.AddItem(name);
-    frmMain.SampleList.SetText(name);
+    ShowNewSampleName(name);
     SampleTable[1][1] = 1;
     SampleTable[2][1] = name;
 }
 
 void EmptyFirstSample() {
     CountsAtOpen.assign(2, {});
-    for (int p = 1; p <= kParams; ++p) {
-        ParamValuesAtOpen[p][0] = frmMain.ParamNames[p].Caption();
-        ParamValuesAtOpen[p][1] = ParamValues[p][1];
-    }
+    SnapshotParamNames();
+    for (int p = 1; p <= kParams; ++p) ParamValuesAtOpen[p][1] = ParamValues[p][1];
     EmptyCountCells();
 }
 
@@ -58,14 +53,16 @@ void ShowFirstSample() {
 }  // namespace
 
 void NewSheet() {
+    TabControl& pad = frmMain.BankTabs;
     if (frmMain.AllTotal.Text() != "0") PlayIfOn(WaveError);
     if (MayAbortData()) {
         if (AmendMode) LeaveModifyMode();
-        ShowEmptying();
+        pad.SetVisible(false);
+        ShowEmptying(frmMain.Progress);
         InitialiseSheet();
         CloseDiagram();
     }
-    frmMain.BankTabs.SetVisible(true);
+    pad.SetVisible(true);
 }
 
 void LoadSiteNameWindow() {
@@ -78,15 +75,15 @@ void TakeFirstSampleName() {
 
 void AcceptFirstSample() {
     SheetHeader[6] = frmSiteName.SampleName.Text();
-    frmMain.SetTitle("Marlbrook 2.7 - [" + SheetBaseName(SheetPath) + "]");
+    NameSheetInTitle("Marlbrook 2.7");
     NameFirstSample();
     EmptyFirstSample();
     TakeSampleFields(1, frmSiteName.SampleNote, frmSiteName.ParamNames, frmSiteName.ParamBoxes);
     frmSiteName.Unload();
-    frmMain.SetEnabled(true);
-    frmMain.Show();
-    frmMain.FocusRest.SetFocus();
-    frmMain.FocusRest.SetText("");
+    GiveMainWindowBack();
+    TextBox& rest = frmMain.FocusRest;
+    rest.SetFocus();
+    rest.SetText("");
     ShowFirstSample();
     LogShownLineAgain();
 }

@@ -5,7 +5,7 @@
 #include "diagram/move_sample_column.h"
 #include "diagram/open_diagram.h"
 #include "files/format/read_sheet.h"
-#include "files/sample_fields.h"
+#include "files/sheet_on_screen.h"
 #include "platform/failure.h"
 #include "platform/number.h"
 #include "platform/text.h"
@@ -43,10 +43,7 @@ std::string NameNewSample() {
     frmMain.SampleName.SetText("");
     if (frmNext.SampleName.Text().empty()) frmNext.SampleName.SetText(std::to_string(SampleCount) + ": " + kEmpty);
     std::string name = frmNext.SampleName.Text();
-    frmMain.SampleName.SetText(name);
-    AddHistoryLine("(New sample: " + name + ")");
-    frmMain.SampleList.AddItem(name);
-    frmMain.SampleList.SetText(name);
+    ShowNewSampleName(name);
     SampleTable[1][SampleCount] = MaxSerial;
     SampleTable[2][SampleCount] = name;
     return name;
@@ -108,10 +105,29 @@ void ShowSampleFace() {
     frmNext.SampleName.SetFocus();  // the start face lies below, and no key should reach its button
 }
 
+// The main window waits. Where the start has asked for the keyboard, both windows wait for that answer.
+void BringUpBehind(Window& main_window) {
+    main_window.SetEnabled(false);
+    if (frmInitial.Visible()) {
+        main_window.Hide();
+        frmNext.Hide();
+    } else {
+        main_window.Show();
+    }
+}
+
 void ShowRenameButtons(bool visible) {
     for (int p = 1; p <= kParams; ++p) frmNext.RenameButtons[p].SetVisible(visible);
 }
 
+// Unless a sample was added, and the window is gone, it is whole again for the next opening. The main window can be used.
+void EndAsking() {
+    if (frmNext.IsLoaded()) {
+        ShowRenameButtons(true);
+        frmNext.StartFace.SetVisible(true);
+    }
+    frmMain.SetEnabled(true);
+}
 }  // namespace
 
 void LoadNextWindow() {
@@ -123,13 +139,7 @@ void LoadNextWindow() {
     frmMain.Load();
     for (int p = 1; p <= kParams; ++p) frmNext.ParamBoxes[p].SetText(kEmpty);
     OfferParamNames();
-    frmMain.SetEnabled(false);
-    if (frmInitial.Visible()) {  // the start has asked for the keyboard: both wait for the answer
-        frmMain.Hide();
-        frmNext.Hide();
-    } else {
-        frmMain.Show();
-    }
+    BringUpBehind(frmMain);
     KeyboardKnown = 1;
 }
 
@@ -190,25 +200,19 @@ void AddSample() {
     CurrentSample = SampleCount;
     ShowSerial();
     ShowZeroTotals();
-    LogShownLineAgain();  // the new sample stands twice in the log and once in the list
+    LogShownLineAgain();  // twice in the log and once in the list: docs/quirks.md
     MoveIntoOrder(name);
     RebuildDiagram();
 }
 
 void AcceptSample() {
     AddSample();
-    if (frmNext.IsLoaded()) {  // the name was refused
-        ShowRenameButtons(true);
-        frmNext.StartFace.SetVisible(true);
-    }
-    frmMain.SetEnabled(true);
+    EndAsking();
     if (SampleUntouched) CloseDiagram();
 }
 
 void CancelSample() {
-    ShowRenameButtons(true);
-    frmNext.StartFace.SetVisible(true);
-    frmMain.SetEnabled(true);
+    EndAsking();
     frmNext.Hide();  // what was typed waits for the next opening
 }
 

@@ -4,20 +4,20 @@
 #include <optional>
 #include <string>
 
+#include "diagram/diversity_curve.h"
 #include "diagram/open_diagram.h"
 #include "files/back_up.h"
 #include "files/format/read_sheet.h"
-#include "files/format/sheet_base_name.h"
 #include "files/sheet_on_screen.h"
 #include "keys/settings/key_settings.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
-#include "platform/number.h"
 #include "platform/text.h"
 #include "session/focus.h"
 #include "session/history.h"
 #include "session/leaving.h"
 #include "session/pad_cells.h"
+#include "session/sample_on_show.h"
 #include "session/saved_state.h"
 #include "session/sound.h"
 #include "session/start_up.h"
@@ -31,7 +31,7 @@
 namespace {
 constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter title gives its first 15 characters all the same
 
-// False: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
+// false: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
 bool MayReplaceSheet() {
     if (SheetClean) return true;
     if (frmMain.AllTotal.Number() > 0) PlayIfOn(WaveError);
@@ -53,17 +53,21 @@ void MakeColumnOfTemplate() {
     TemplateOpened = SampleCount == 0;
     if (!TemplateOpened) return;
     SampleCount = CurrentSample = MaxSerial = 1;
-    frmMain.SerialNumber.SetCaption("1/1");
     SampleTable[1][1] = 1;
+    ShowSerial();
     SampleTable[2][1] = frmMain.SampleName.Text();
 }
 
-void CancelOpen() {
+void EmptyAndHide(ProgressBar& bar) {
+    bar.SetValue(0);
+    bar.SetVisible(false);
+}
+
+void CancelOpen(ProgressBar& bar) {
     SheetClean = true;
     SampleUntouched = false;
     MakeColumnOfTemplate();
-    frmMain.Progress.SetValue(0);
-    frmMain.Progress.SetVisible(false);
+    EmptyAndHide(bar);
 }
 
 // The key index that two rows have in common, the first met going down.
@@ -81,17 +85,6 @@ void StartAfresh(int key_index) {
     RecountTotals(CurrentSample);
 }
 
-// The curve knows nothing of how the counts of the file were made: it only has room for them.
-void BeginCurve() {
-    constexpr double kLongestCurve = 32767;
-    frmMain.DiversityPicture.Clear();
-    DiversityCurve.clear();
-    const double total = frmMain.AllTotal.Number();
-    if (total < 0 || total > kLongestCurve) return;
-    DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
-    DiversityCurve[0] = ToInteger(total);
-}
-
 void ForgetUndos() {
     for (auto& entry : UndoList) {
         entry[0] = 1;
@@ -101,21 +94,16 @@ void ForgetUndos() {
 
 void ShowParams() {
     if (FileVersion != 2) return;
-    for (int p = 1; p <= kParams; ++p) {
-        frmMain.ParamNames[p].SetCaption(ParamHeader[p][4]);  // ends in one colon, the label sees to it
-        frmMain.ParamBoxes[p].SetText(ParamValues[p][SampleCount].Text());
-    }
+    for (int p = 1; p <= kParams; ++p) ShowParam(p, ParamHeader[p][4], ParamValues[p][SampleCount].Text());
 }
 
-void ShowOpenedSheet() {
+void ShowOpenedSheet(ProgressBar& bar) {
     RecountTotals(CurrentSample);
-    frmMain.SampleNote.SetText(SampleNotes[SampleCount]);
-    frmMain.NextSampleButton.SetEnabled(true);
-    frmMain.mnuNext.SetEnabled(true);
+    ShowNote(SampleCount);
+    frmMain.OfferNextSample();
     MarkSheetChanged(false);
     frmMain.mnuSave.SetEnabled(false);
-    frmMain.Progress.SetValue(0);
-    frmMain.Progress.SetVisible(false);
+    EmptyAndHide(bar);
     frmMain.AllTotalBasis.SetValue(true);
     for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetUnderline(false);
 }
@@ -134,10 +122,10 @@ void HandOver() {
 }
 
 // What was read before a fault is on the screen too.
-void ReadAndShowGrid(CellReader& cells) {
+void ReadAndShowGrid(CellReader& cells, ProgressBar& bar) {
     GridRead read;
     try {
-        ReadGrid(cells, read, [](int row) { frmMain.Progress.SetValue(row); });
+        ReadGrid(cells, read, [&bar](int row) { bar.SetValue(row); });
     } catch (const Failure&) {
         ShowSheet(read);
         throw;
@@ -156,16 +144,16 @@ void ReadRest(CellReader& cells) {
     ReadNotes(cells);
 }
 
-// False: a key index repeats, and the session has started afresh.
-bool ReadFile(const std::string& path) {
+// false: a key index repeats, and the session has started afresh.
+bool ReadFile(const std::string& path, ProgressBar& bar) {
     CellReader cells(DecodeFile(services.files->ReadAll(path)));
     CloseDiagram();
     SheetPath = path;
-    frmMain.Progress.SetVisible(true);
+    bar.SetVisible(true);
     ClearCounts();
     SheetHeader[6] = cells.Next();
-    frmMain.SetTitle(Left(frmMain.Title(), kLongTitleLength) + " - [" + SheetBaseName(path) + "]");
-    ReadAndShowGrid(cells);
+    NameSheetInTitle(Left(frmMain.Title(), kLongTitleLength));
+    ReadAndShowGrid(cells, bar);
     if (const std::optional<int> repeated = RepeatedKeyIndex()) {
         StartAfresh(*repeated);
         return false;
@@ -176,22 +164,22 @@ bool ReadFile(const std::string& path) {
     return true;
 }
 
-void FinishOpening() {
+void FinishOpening(ProgressBar& bar) {
     PlaceKeyCellsIfKnown();
     ShowParams();
     SnapshotSheet();  // the names of the parameters come from the screen
-    BeginCurve();
+    BeginDiversityCurve();
     ForgetUndos();
     AddHistoryLine("(Open) " + SheetPath);
-    ShowOpenedSheet();
+    ShowOpenedSheet(bar);
     HandOver();
 }
 
-// False: cancelled, or the file could not be read to its end.
-bool ReadChosenFile() {
+// false: cancelled, or the file could not be read to its end.
+bool ReadChosenFile(CommonDialog& dialog, ProgressBar& bar) {
     try {
-        if (!frmMain.FileDialog.AskForOpening() || !ReadFile(frmMain.FileDialog.FileName)) return false;
-        FinishOpening();
+        if (!dialog.AskForOpening() || !ReadFile(dialog.FileName, bar)) return false;
+        FinishOpening(bar);
         return true;
     } catch (const Failure&) {
         return false;
@@ -200,13 +188,14 @@ bool ReadChosenFile() {
 }  // namespace
 
 void OpenSheet() {
+    ProgressBar& bar = frmMain.Progress;
     if (!MayReplaceSheet()) {
-        CancelOpen();
+        CancelOpen(bar);
         return;
     }
     SampleUntouched = true;
-    frmMain.Progress.SetRange(0, kSlots);
-    if (!ReadChosenFile()) CancelOpen();
+    bar.SetRange(0, kSlots);
+    if (!ReadChosenFile(frmMain.FileDialog, bar)) CancelOpen(bar);
 }
 
 void OpenSheetFromButton() {

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "diagram/data/percentages.h"
-#include "files/format/sheet_base_name.h"
 #include "files/format/sheet_rows.h"
 #include "files/sheet_on_screen.h"
 #include "platform/failure.h"
@@ -61,7 +60,7 @@ std::string ChooseTarget(std::int16_t mode) {
 // Only the first Save as of a session moves the sheet; later ones write their file and leave the sheet where it is.
 void AdoptPath(const std::string& path) {
     SheetPath = path;
-    frmMain.SetTitle("Marlbrook 2.7 - [" + SheetBaseName(SheetPath) + "]");
+    NameSheetInTitle("Marlbrook 2.7");
     SaveAsPending = false;
 }
 
@@ -74,22 +73,22 @@ void WritePercentRow(CellWriter& cells, int row) {
     cells.EndRow();
 }
 
-void WriteTaxonRows(CellWriter& cells, std::int16_t mode) {
+void WriteTaxonRows(CellWriter& cells, std::int16_t mode, const Busy& busy) {
     for (int row = 1; row <= kSlots; ++row) {
         IsPercentTable(mode) ? WritePercentRow(cells, row) : WriteCountRow(cells, row);
-        frmMain.Progress.SetValue(row);
+        busy.Reach(row);
     }
 }
 
 // One line at the end of the note tells the last save: a later one takes its place, unless something was written after it.
-void StampNote() {
+void StampNote(TextBox& box) {
     constexpr std::size_t kStampLength = 33;
-    const std::string note = frmMain.SampleNote.Text();
+    const std::string note = box.Text();
     const std::string stamp = "Last saved: " + NoteStamp();
     if (Length(note) >= kStampLength && Left(Right(note, kStampLength), 10) == "Last saved")
-        frmMain.SampleNote.SetText(Left(note, Length(note) - kStampLength) + stamp);
+        box.SetText(Left(note, Length(note) - kStampLength) + stamp);
     else
-        frmMain.SampleNote.SetText(note + "\r\n" + stamp);
+        box.SetText(note + "\r\n" + stamp);
 }
 
 // A sum of a percentage table: the basis itself, or its share of the basis.
@@ -118,19 +117,19 @@ void ComputeShares() {
 void GatherTexts() {
     TakeParamNames();
     FillEmptyParams();
-    StampNote();
+    StampNote(frmMain.SampleNote);
     FillEmptyNotes();
 }
 
-void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
-    WriteTaxonRows(cells, mode);
+void WriteRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums, const Busy& busy) {
+    WriteTaxonRows(cells, mode, busy);
     WriteParamRows(cells, SampleCount);
     if (!IsPercentTable(mode)) WriteNoteRow(cells, SampleCount);
     WriteSumRows(cells, mode, sums);
 }
 
 // A file that cannot be opened changes nothing; a disk that takes no more finds all of the sheet gathered.
-void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& sums) {
+void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& sums, const Busy& busy) {
     const auto file = services.files->OpenForWriting(path);
     if (mode == kSaveAs && SaveAsPending) AdoptPath(path);
     LabelHeader("Last saved (dd/mm/yyyy):", FileStamp());
@@ -141,10 +140,10 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
     CellWriter cells(*file);
     WriteHeaderRows(cells, SampleCount);
     const std::size_t header_size = cells.Size();
-    WriteRows(cells, mode, sums);
+    WriteRows(cells, mode, sums, busy);
     try {
         cells.Close();
-    } catch (const WriteFailure& failure) {  // a disk that was full from the start has taken nothing worth the name
+    } catch (const WriteFailure& failure) {  // a full disk that has not even the first rows has no sheet
         if (failure.taken < header_size) MarkSheetChanged(was_changed);
         throw;
     }
@@ -153,8 +152,7 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
 void TellSaved() {
     TemplateOpened = false;
     PlayIfOn(WaveSave);
-    frmMain.NextSampleButton.SetEnabled(true);
-    frmMain.mnuNext.SetEnabled(true);
+    frmMain.OfferNextSample();
     AddHistoryLine("(Save)");
     frmMain.mnuSaveCopy.SetEnabled(true);
 }
@@ -178,7 +176,7 @@ void SaveSheet(std::int16_t mode) {
         return;
     }
     try {
-        WriteFile(path, mode, sums);
+        WriteFile(path, mode, sums, busy);
         TellSaved();
         if (mode == kSave) ReturnFocus();
     } catch (const Failure&) {

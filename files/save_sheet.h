@@ -19,5 +19,5 @@ void SaveSheet(std::int16_t mode);
 void SaveAsCounted();              // kSave, or kSaveClean if nothing was counted
 void SaveFromMenu();               // mnuSave: the same, after a snapshot
 void SaveFromButton();             // Command5[0]
-void CheckIfReallyEnd();           // does as the button does
+void CheckIfReallyEnd();           // saves, as the button does: docs/quirks.md
 void SavePercentTable(int basis);  // 0 all, 1 and 2 the subtotals; the basis stays chosen

@@ -2,36 +2,34 @@
 
 #include <string>
 
+#include "files/format/sheet_rows.h"
+#include "session/history.h"
 #include "session/pad_cells.h"
 #include "session/sample_on_show.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 
 namespace {
-void ListSampleNames(int samples) {
-    frmMain.SampleList.Clear();
-    for (int sample = 1; sample <= samples; ++sample) frmMain.SampleList.AddItem(SampleNamesRead[sample]);
-}
-
-void ShowLastName() {
+// `read`: how many of the names were read. The list shows them, and the last one once it has all.
+void ShowSampleNames(ComboBox& list, int read) {
+    list.Clear();
+    for (int sample = 1; sample <= read; ++sample) list.AddItem(SampleNamesRead[sample]);
+    if (read < SampleCount) return;
     const std::string last = SampleCount > 0 ? SampleNamesRead[SampleCount] : "";
-    frmMain.SampleList.SetText(last);
+    list.SetText(last);
     frmMain.SampleName.SetText(last);
 }
 
 void ShowNoCounts(int slot) {
-    frmMain.TaxonCounts[slot].SetBold(false);
-    frmMain.TaxonNames[slot].SetBold(false);
-    frmMain.TaxonCounts[slot].SetText("0");
+    ShowBold(slot, false);
+    ShowCountOf(slot, 0);
 }
 
 // `counts`: how many of the row were read.
 void ShowCounts(int row, int counts, bool bold) {
     const int slot = KeyIndex[row];
     if (counts > 0) ShowCountOf(slot, Counts[slot][counts]);
-    if (!bold) return;
-    frmMain.TaxonCounts[row].SetBold(true);
-    frmMain.TaxonNames[row].SetBold(true);
+    if (bold) ShowBold(row, true);
 }
 
 // A cell that shows what its array holds is no edit, but in Modify mode every change of a cell is one. In a row that breaks off the
@@ -56,9 +54,8 @@ void ShowSheet(const GridRead& read) {
     ShowSerial();
     if (!read.subtotal_names) return;
     ShowSubtotalNames();
-    ListSampleNames(read.sample_names);
+    ShowSampleNames(frmMain.SampleList, read.sample_names);
     if (read.sample_names < SampleCount) return;
-    ShowLastName();
     for (TextBox& total : frmMain.Totals) total.SetText("0");
     for (int row = 1; row <= read.rows; ++row) ShowRow(row, read);
 }
@@ -70,4 +67,35 @@ void TakeShownSample() {
 
 void TakeParamNames() {
     for (int p = 1; p <= kParams; ++p) ParamHeader[p][4] = frmMain.ParamNames[p].Caption();
+}
+
+void NameSheetInTitle(const std::string& program) {
+    frmMain.SetTitle(program + " - [" + SheetBaseName(SheetPath) + "]");
+}
+
+void ShowNewSampleName(const std::string& name) {
+    ComboBox& list = frmMain.SampleList;
+    frmMain.SampleName.SetText(name);
+    AddHistoryLine("(New sample: " + name + ")");
+    list.AddItem(name);
+    list.SetText(name);
+}
+
+void ShowNote(int sample) {
+    frmMain.SampleNote.SetText(SampleNotes[sample]);
+}
+
+void ShowParam(int p, const std::string& name, const std::string& value) {
+    frmMain.ParamNames[p].SetCaption(name);
+    frmMain.ParamBoxes[p].SetText(value);
+}
+
+void TakeSampleFields(std::int16_t sample, const TextBox& note, const Label (&names)[kParams + 1], const TextBox (&values)[kParams + 1]) {
+    SampleNotes[sample] = note.Text();
+    ShowNote(sample);
+    for (int p = 1; p <= kParams; ++p) {
+        const std::string& value = values[p].Text();
+        ShowParam(p, names[p].Caption(), value.empty() ? kEmpty : value);
+        ParamValues[p][sample] = frmMain.ParamBoxes[p].Text();
+    }
 }

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "files/format/sheet_base_name.h"
+#include "files/format/sheet_rows.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 #include "session/focus.h"

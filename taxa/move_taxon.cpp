@@ -8,6 +8,7 @@
 #include "session/pad_cells.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
+#include "taxa/edit_boxes.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -34,14 +35,14 @@ void MoveCells(int from, int to) {
     frmMain.TaxonNames[to].SetText(frmMain.TaxonNames[from].Text());
     frmMain.TaxonCounts[to].SetText(frmMain.TaxonCounts[from].Text());
     frmMain.TaxonNames[from].SetText(kEmpty);
-    frmMain.TaxonCounts[from].SetText("0");
+    ShowCountOf(from, 0);
 }
 }  // namespace
 
 void SelectSlot(int slot) {
     for (int other = 1; other <= kSlots; ++other) frmMain.SlotNumbers[other].SetBold(other == slot);
     SelectedSlot = static_cast<std::int16_t>(slot);
-    if (AmendMode) OpenPopup(frmMain.mnuRightButton);
+    if (AmendMode) OfferMove(slot);
 }
 
 void OfferMove(int slot) {
@@ -49,9 +50,8 @@ void OfferMove(int slot) {
     OpenPopup(frmMain.mnuRightButton);
 }
 
-void OpenBankMenu(int bank) {
+void OpenBankMenu(int bank, MenuItem* items) {
     frmMain.BankTabs.SetTab(bank);
-    MenuItem* const items = bank == 0 ? frmMain.mnuMoveTo1 : bank == 1 ? frmMain.mnuMoveTo2 : frmMain.mnuMoveTo3;
     for (int i = 0; i < kKeys; ++i) items[i].SetEnabled(!HasCounts(bank * kKeys + i + 1));
 }
 
@@ -64,6 +64,5 @@ void TransferTaxa(std::int16_t target) {
     if (target != 0) MoveHighlight(target, kPaleHighlight);
     AddHistoryLine("(Move) " + TaxonTable[target][4].Text() + ": " + std::to_string(from) + " to " + std::to_string(target));
     RecountTotals(CurrentSample);
-    SheetClean = false;
-    frmMain.mnuNew.SetEnabled(true);
+    MarkSheetEdited();
 }

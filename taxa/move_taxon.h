@@ -2,7 +2,12 @@
 #pragma once
 #include <cstdint>
 
-void SelectSlot(int slot);               // its number was clicked: it is the one to be moved
-void OfferMove(int slot);                // the right button went down in one of its boxes
-void OpenBankMenu(int bank);             // one of the three submenus opens, on the tab of its bank
-void TransferTaxa(std::int16_t target);  // from SelectedSlot; onto itself its name is lost
+#include "platform/controls.h"
+
+void SelectSlot(int slot);  // its number was clicked: it is the one to be moved
+void OfferMove(int slot);   // the right button went down in one of its boxes
+
+// One of the three submenus opens, on the tab of its bank; items[i], of kKeys, moves to the (i+1)th slot of the bank.
+void OpenBankMenu(int bank, MenuItem* items);
+
+void TransferTaxa(std::int16_t target);  // from SelectedSlot; onto itself its name is lost: docs/quirks.md

@@ -12,7 +12,7 @@ namespace {
 constexpr std::int16_t kNoKey = 9999;
 
 // The keys that give the mark on some keyboard, and the one character that each of them may type. The test is by the key and not by
-// the character: it refuses every other symbol of these keys as well.
+// the character: it refuses every other symbol of these keys as well (docs/quirks.md).
 struct GuardedKey {
     std::int16_t code;
     const char* allowed;

@@ -328,6 +328,11 @@ std::vector<Control*> MainWindow::RoundOf(const Control& control) {
     return cells;
 }
 
+void MainWindow::OfferNextSample() {
+    NextSampleButton.SetEnabled(true);
+    mnuNext.SetEnabled(true);
+}
+
 void MainWindow::ForgetMembers() {
     FormLoaded = ChangingSample = KeysEnabled = false;
 }
@@ -345,4 +350,8 @@ Busy::~Busy() {
     MousePointer = kPointerDefault;
     bar_.SetVisible(false);
     bar_.SetValue(0);
+}
+
+void Busy::Reach(int value) const {
+    bar_.SetValue(value);
 }

@@ -134,6 +134,7 @@ struct MainWindow : Window {
     void PaintGround(Colour colour);     // of the pad
     void ShowSlotNumbers(bool visible);  // and the buttons that rename the Additional info
     void OpenNotes(bool open);           // note and Additional info, whose names are seen while they are open
+    void OfferNextSample();              // the button and its menu item come on
     void EnableParamNames(bool enabled);
     void HoldNumbers();      // of the cells and totals, in HeldCounts and HeldTotals. Raises "Overflow" past 16 bits
     void ShowHeldNumbers();  // the other way round
@@ -166,6 +167,7 @@ public:
     ~Busy();
     Busy(const Busy&) = delete;
     Busy& operator=(const Busy&) = delete;
+    void Reach(int value) const;  // the bar shows how far it has come
 
 private:
     ProgressBar& bar_;

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "files/format/cell_reader.h"
+#include "files/format/cells.h"
 #include "session/state/sheet_state.h"
 
 // How much of a grid the arrays hold, for whoever shows them after a fault.

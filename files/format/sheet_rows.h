@@ -10,7 +10,7 @@
 #pragma once
 #include <string>
 
-#include "files/format/cell_writer.h"
+#include "files/format/cells.h"
 #include "platform/any.h"
 
 // SheetHeader[6..8]: the path, "Last saved (dd/mm/yyyy):" or the like, date and time.
@@ -27,3 +27,7 @@ void WriteSumLabels(CellWriter& cells, const Any& label);  // the four label cel
 void NameUntitledParams();  // in ParamHeader: no cell of the labels stays empty
 void FillEmptyParams();     // the same, and no value stays empty: "---"
 void FillEmptyNotes();
+
+// The name of a file without its folder and its ending: "core 12" of "/home/ann/core 12.csv". Raises "Invalid procedure call" for a
+// path without a period or without a folder.
+std::string SheetBaseName(const std::string& path);

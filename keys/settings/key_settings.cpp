@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
-
-#include "files/format/cell_reader.h"
-#include "files/format/cell_writer.h"
+#include "files/format/cells.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/number.h"

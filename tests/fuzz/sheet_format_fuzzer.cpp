@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "files/format/cell_writer.h"
+#include "files/format/cells.h"
 #include "files/format/read_sheet.h"
 #include "files/format/sheet_rows.h"
 #include "platform/encoding.h"

@@ -1,4 +1,4 @@
-#include "files/format/cell_reader.h"
+#include "files/format/cells.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "files/format/cell_writer.h"
+#include "files/format/cells.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,6 @@
 #include <random>
 #include <vector>
 
-#include "files/format/cell_reader.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
 

@@ -1,4 +1,4 @@
-#include "diagram/merge_list.h"
+#include "diagram/cluster_tree.h"
 
 #include <filesystem>
 #include <random>

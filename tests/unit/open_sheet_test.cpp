@@ -7,7 +7,7 @@
 #include "platform/failure.h"
 #include "platform/user.h"
 #include "session/modify_mode.h"
-#include "taxa/cells.h"
+#include "taxa/edit_boxes.h"
 #include "unit/open_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
@@ -91,7 +91,7 @@ TEST_F(OpenSheetTest, ACountThatIsReadIsNoEditOfItsCell) {
     EXPECT_TRUE(Open(rows));
     EXPECT_EQ(frmMain.Text2[7].Text(), "77");
     EXPECT_EQ(edits, 0);
-    frmMain.Text2[7].Change.Calls([] { TakeCount(7); });
+    frmMain.Text2[7].Change.Calls([] { TakeCount(7, frmMain.Text2[7]); });
 }
 
 TEST_F(OpenSheetTest, InModifyModeACountThatIsReadIsAnEdit) {

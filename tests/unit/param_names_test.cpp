@@ -1,4 +1,4 @@
-#include "taxa/param_names.h"
+#include "taxa/dialogs.h"
 
 #include "platform/spoken_name.h"
 #include "platform/text.h"

@@ -1,4 +1,4 @@
-#include "taxa/subtotals.h"
+#include "taxa/dialogs.h"
 
 #include "platform/spoken_name.h"
 #include "platform/user.h"

@@ -7,7 +7,7 @@
 #include <random>
 #include <sstream>
 
-#include "diagram/merge_list.h"
+#include "diagram/cluster_tree.h"
 #include "drive/dumps.h"
 #include "drive/names.h"
 #include "drive/words.h"

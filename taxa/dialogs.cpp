@@ -1,13 +1,17 @@
-#include "taxa/subtotals.h"
+#include "taxa/dialogs.h"
 
 #include <string>
 
 #include "keys/settings/key_settings.h"
+#include "platform/text.h"
 #include "session/focus.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "session/totals.h"
 #include "taxa/quotation_guard.h"
+#include "windows/main_window.h"
+#include "windows/name_windows.h"
+#include "windows/next_window.h"
 #include "windows/subtotal_window.h"
 
 namespace {
@@ -50,6 +54,31 @@ void PlaceBoxes() {
             frmSubtotal.Members[key + bank].SetPlace(there.Left(), there.Top());
         }
     }
+}
+
+Window& Caller() {
+    if (frmParaName.Caller.Caption() == frmNext.name) return frmNext;
+    return frmMain;
+}
+
+// The window that asks waits, and so does the main window, whoever asks.
+void Ask(Window& caller, int p, const std::string& caption) {
+    frmMain.SetEnabled(false);
+    caller.SetEnabled(false);
+    frmParaName.Show();
+    frmParaName.Param.SetValue(p);
+    const std::string name = WithoutTrailingColon(caption);
+    frmParaName.OldName.SetCaption(name);
+    frmParaName.NewName.SetText(name);
+    frmParaName.Caller.SetCaption(caller.name);
+    frmParaName.NewName.SetFocus();
+    frmParaName.NewName.SelectAll();
+}
+
+void GiveBack(Window& caller) {
+    frmParaName.Hide();
+    caller.SetEnabled(true);
+    caller.Show();
 }
 }  // namespace
 
@@ -103,4 +132,28 @@ void CancelSubtotals() {
     RestoreFlags();
     RecountTotals(CurrentSample);
     CloseDialog(frmSubtotal);
+}
+
+void RenameParamOfSheet(int p) {
+    Ask(frmMain, p, frmMain.ParamNames[p].Caption());
+}
+
+void RenameParamOfNextSample(int p) {
+    Ask(frmNext, p, frmNext.ParamNames[p].Caption());
+}
+
+void AcceptParamName() {
+    const int p = frmParaName.Param.Value();
+    const std::string& name = frmParaName.NewName.Text();
+    if (&Caller() == &frmNext) {
+        frmNext.ParamNames[p].SetCaption(name);
+    } else {
+        ParamHeader[p][4] = name;
+        frmMain.ParamNames[p].SetCaption(name + ":");
+    }
+    GiveBack(Caller());
+}
+
+void CancelParamName() {
+    GiveBack(Caller());
 }

@@ -1,4 +1,4 @@
-#include "taxa/cells.h"
+#include "taxa/edit_boxes.h"
 
 #include "platform/user.h"
 #include "unit/sheet_test.h"

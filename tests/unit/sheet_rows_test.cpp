@@ -1,4 +1,4 @@
-#include "files/format/sheet_base_name.h"
+#include "files/format/sheet_rows.h"
 
 #include <gtest/gtest.h>
 
