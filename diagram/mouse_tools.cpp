@@ -147,7 +147,7 @@ void ReleaseOnPicture() {
     if (frmDiagram.MovingSample) MoveSampleColumn();
     EndDrag();
     frmMain.Progress.SetVisible(false);
-    TakeSelectedSample();
+    FollowSampleSlider();
     FillReadOuts();
 }
 

@@ -58,7 +58,7 @@ void LaunchInStyle(const DiagramStyle& style) {
     LaunchDiagram();
 }
 
-void TakeStyle(const DiagramStyle& style) {
+void DrawInStyle(const DiagramStyle& style) {
     CheckStyle(style);
     DrawDiagram();
 }

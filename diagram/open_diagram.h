@@ -7,7 +7,7 @@
 void LaunchDiagram();
 
 void LaunchInStyle(const DiagramStyle& style);  // an item of the main window
-void TakeStyle(const DiagramStyle& style);      // an item of the diagram
+void DrawInStyle(const DiagramStyle& style);    // an item of the diagram
 
 void LoadDiagramWindow();
 void EndDiagram();      // the window is being unloaded: its size is kept

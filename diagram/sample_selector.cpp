@@ -42,7 +42,7 @@ void PlaceSampleSelector() {
     frmDiagram.SampleArrows.SetTop(frmDiagram.Selector.Top() + 240);
 }
 
-void TakeSelectedSample() {
+void FollowSampleSlider() {
     frmDiagram.SelectedSample = static_cast<std::int16_t>(frmDiagram.SampleSlider.Value());
     DrawSampleMarker();
     PlaceSampleSelector();

@@ -7,7 +7,7 @@ void DrawSampleMarker();
 
 void PlaceSampleSelector();  // Frame3 and UpDown1 go to the height of the sample, Check1 and Combo2 take its name
 
-void TakeSelectedSample();  // Slider1 has moved: SelectedSample, the line and the group follow
+void FollowSampleSlider();  // Slider1 has moved: SelectedSample, the line and the group follow
 void SelectNextSample();    // after the last comes the first
 void SelectPreviousSample();
 void SelectChosenSample();  // picked from Combo2; of two with the same name it is the right-hand one

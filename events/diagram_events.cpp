@@ -21,7 +21,7 @@ void JoinMenus(DiagramWindow& window) {
     window.mnuSub1.Click.Calls([] { ChooseBasisItem(1); });
     window.mnuSub2.Click.Calls([] { ChooseBasisItem(2); });
     for (const DiagramStyle& style : kDiagramStyles) {
-        (frmDiagram.*style.item).Click.Calls([&style] { TakeStyle(style); });
+        (frmDiagram.*style.item).Click.Calls([&style] { DrawInStyle(style); });
         (frmMain.*style.main_item).Click.Calls([&style] { LaunchInStyle(style); });
     }
     for (MenuItem* item : {&window.mnuVertical, &window.mnuVertical1, &window.mnuVertical2}) item->Click.Calls(ToggleVerticalLine);
@@ -55,8 +55,8 @@ void ScrollColumns(DiagramWindow& window) {
 void JoinSliders(DiagramWindow& window) {
     window.HorizontalScale.Change.Calls([&window] { ApplyHorizontalScale(window); });
     window.ColumnScroll.Change.Calls([&window] { ScrollColumns(window); });
-    window.SampleSlider.Change.Calls(TakeSelectedSample);
-    window.SampleSlider.KeyUp.Calls([](int) { TakeSelectedSample(); });
+    window.SampleSlider.Change.Calls(FollowSampleSlider);
+    window.SampleSlider.KeyUp.Calls([](int) { FollowSampleSlider(); });
 }
 
 void JoinSelector(DiagramWindow& window) {

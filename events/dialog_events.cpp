@@ -61,7 +61,7 @@ void JoinNextEvents(NextWindow& window) {
 void JoinSiteNameEvents(SiteNameWindow& window) {
     window.Loaded.Calls(LoadSiteNameWindow);
     window.FrameClosed.Calls([] {});  // it is left by OK alone
-    window.SampleName.Change.Calls(TakeFirstSampleName);
+    window.SampleName.Change.Calls(StoreFirstSampleName);
     window.SampleNote.GotFocus.Calls([&window] { PutCaretBehind(window.SampleNote); });
     for (int p = 1; p <= kParams; ++p) {
         TextBox& value = window.ParamBoxes[p];
@@ -88,10 +88,10 @@ void JoinSubtotalEvents(SubtotalWindow& window) {
         TextBox& name = window.SubtotalNames[subtotal];
         name.GotFocus.Calls(EnterGuardedBox);
         JoinGuardedKeys(name);
-        name.Change.Calls([subtotal] { TakeSubtotalName(subtotal); });
+        name.Change.Calls([subtotal] { StoreSubtotalName(subtotal); });
         window.SubtotalOptions[subtotal].Click.Calls(ShowChosenSubtotal);
     }
-    for (int slot = 1; slot <= kSlots; ++slot) window.Members[slot].Click.Calls([slot] { TakeSubtotalFlag(slot); });
+    for (int slot = 1; slot <= kSlots; ++slot) window.Members[slot].Click.Calls([slot] { StoreSubtotalFlag(slot); });
     for (const int flag : {0, 1}) window.FlagButtons[flag].Click.Calls([flag] { SetAllFlags(flag); });
     window.OkButton.Click.Calls(AcceptSubtotals);
     window.CancelButton.Click.Calls(CancelSubtotals);

@@ -74,7 +74,7 @@ void JoinNameBox(MainWindow& window, int slot) {
     JoinGuardedKeys(box);
     box.MouseDown.Calls([slot](Mouse mouse) { PressInCell(slot, mouse); });
     box.DoubleClick.Calls([slot, &box] { DoubleClickCell(slot, box); });
-    box.Change.Calls([slot, &box] { slot == 0 ? TakeSampleName(box) : TakeTaxonName(slot, box); });
+    box.Change.Calls([slot, &box] { slot == 0 ? StoreSampleName(box) : StoreTaxonName(slot, box); });
 }
 
 void JoinCountBox(MainWindow& window, int slot) {
@@ -89,7 +89,7 @@ void JoinCountBox(MainWindow& window, int slot) {
         PressInCell(slot, mouse);
     });
     box.DoubleClick.Calls([slot, &box] { DoubleClickCell(slot, box); });
-    box.Change.Calls([slot, &box] { TakeCount(slot, box); });
+    box.Change.Calls([slot, &box] { StoreCount(slot, box); });
 }
 
 void JoinCells(MainWindow& window) {
@@ -120,7 +120,7 @@ void JoinParam(MainWindow& window, int p) {
     box.GotFocus.Calls([&box] { EnterParam(box); });
     box.LostFocus.Calls([&box] { RestoreDashes(box); });
     JoinGuardedKeys(box);
-    box.Change.Calls([p, &box] { TakeParam(p, box); });
+    box.Change.Calls([p, &box] { StoreParam(p, box); });
     Label& label = window.ParamNames[p];
     label.Change.Calls([&box, &label] {
         EndWithColon(label);
@@ -136,7 +136,7 @@ void JoinSample(MainWindow& window) {
     note.GotFocus.Calls([&note] { EnterNote(note); });
     JoinGuardedKeys(note);
     note.DoubleClick.Calls(DoubleClickNote);
-    note.Change.Calls([&note] { TakeNote(note); });
+    note.Change.Calls([&note] { StoreNote(note); });
     for (int p = 1; p <= kParams; ++p) JoinParam(window, p);
     window.History.Change.Calls([&window] { window.mnuSaveHistory.SetEnabled(true); });
     window.SampleList.Click.Calls([&window] { BringUpChosenSample(window.SampleList); });

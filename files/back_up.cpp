@@ -22,7 +22,7 @@ void WriteBackUp() {
     const auto file = services.files->OpenForWriting(BackUpPath());
     CellWriter cells(*file);
     LabelHeader("Backed up (dd/mm/yyyy):", FileStamp());
-    TakeParamNames();
+    StoreParamNames();
     FillEmptyParams();
     FillEmptyNotes();
     WriteHeaderRows(cells, SampleCount);
@@ -36,7 +36,7 @@ void WriteBackUp() {
 void BackUpSheet() {
     if (BackupSlot != kMaster) BackupSlot = static_cast<std::int16_t>((BackupSlot + 1) % kRing);
     try {
-        TakeShownSample();
+        StoreShownSample();
         WriteBackUp();
     } catch (const Failure&) {
         return;

@@ -15,7 +15,7 @@ namespace {
 void WriteTemplate(CellWriter& cells, const Busy& busy) {
     constexpr int kNoSamples = 0;
     LabelHeader("Last saved (dd/mm/yyyy):", FileStamp());
-    TakeParamNames();
+    StoreParamNames();
     NameUntitledParams();
     WriteHeaderRows(cells, kNoSamples);
     for (int row = 1; row <= kSlots; ++row) {

@@ -69,7 +69,7 @@ void LoadSiteNameWindow() {
     frmSiteName.SampleNote.SetText(FreshNote());
 }
 
-void TakeFirstSampleName() {
+void StoreFirstSampleName() {
     SampleTable[2][CurrentSample] = frmSiteName.SampleName.Text();
 }
 
@@ -78,7 +78,7 @@ void AcceptFirstSample() {
     NameSheetInTitle("Marlbrook 2.7");
     NameFirstSample();
     EmptyFirstSample();
-    TakeSampleFields(1, frmSiteName.SampleNote, frmSiteName.ParamNames, frmSiteName.ParamBoxes);
+    StoreSampleFields(1, frmSiteName.SampleNote, frmSiteName.ParamNames, frmSiteName.ParamBoxes);
     frmSiteName.Unload();
     GiveMainWindowBack();
     TextBox& rest = frmMain.FocusRest;

@@ -3,5 +3,5 @@
 
 void NewSheet();  // mnuNew: asks every time
 void LoadSiteNameWindow();
-void TakeFirstSampleName();  // its Text1 has changed
-void AcceptFirstSample();    // its OK: the template becomes a sheet with one sample
+void StoreFirstSampleName();  // its Text1 has changed
+void AcceptFirstSample();     // its OK: the template becomes a sheet with one sample

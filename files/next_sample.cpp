@@ -193,7 +193,7 @@ void AddSample() {
     const std::string name = NameNewSample();
     SnapshotWithNewColumn();
     EmptyCountCells();
-    TakeSampleFields(SampleCount, frmNext.SampleNote, frmNext.ParamNames, frmNext.ParamBoxes);
+    StoreSampleFields(SampleCount, frmNext.SampleNote, frmNext.ParamNames, frmNext.ParamBoxes);
     SnapshotParamNames();  // the start face may have renamed them
     frmNext.Unload();
     GiveMainWindowBack();

@@ -115,7 +115,7 @@ void ComputeShares() {
 }
 
 void GatherTexts() {
-    TakeParamNames();
+    StoreParamNames();
     FillEmptyParams();
     StampNote(frmMain.SampleNote);
     FillEmptyNotes();
@@ -169,7 +169,7 @@ void SaveSheet(std::int16_t mode) {
     const Busy busy(kSlots);
     const SubtotalSums sums = SumSamples();
     if (SheetPath.empty() && !IsPercentTable(mode)) mode = kSaveAs;
-    TakeShownSample();
+    StoreShownSample();
     const std::string path = ChooseTarget(mode);
     if (path.empty()) {
         SaveOutcome = 2;

@@ -60,12 +60,12 @@ void ShowSheet(const GridRead& read) {
     for (int row = 1; row <= read.rows; ++row) ShowRow(row, read);
 }
 
-void TakeShownSample() {
+void StoreShownSample() {
     SampleTable[2][CurrentSample] = frmMain.SampleList.Text();
     if (frmMain.KeysEnabled) CopyCellsToCounts();  // else they show percentages, and no key has counted since they do
 }
 
-void TakeParamNames() {
+void StoreParamNames() {
     for (int p = 1; p <= kParams; ++p) ParamHeader[p][4] = frmMain.ParamNames[p].Caption();
 }
 
@@ -90,7 +90,7 @@ void ShowParam(int p, const std::string& name, const std::string& value) {
     frmMain.ParamBoxes[p].SetText(value);
 }
 
-void TakeSampleFields(std::int16_t sample, const TextBox& note, const Label (&names)[kParams + 1], const TextBox (&values)[kParams + 1]) {
+void StoreSampleFields(std::int16_t sample, const TextBox& note, const Label (&names)[kParams + 1], const TextBox (&values)[kParams + 1]) {
     SampleNotes[sample] = note.Text();
     ShowNote(sample);
     for (int p = 1; p <= kParams; ++p) {

@@ -17,9 +17,9 @@ void ShowNewSampleName(const std::string& name);    // box and list take it up, 
 void ShowNote(int sample);
 void ShowParam(int p, const std::string& name, const std::string& value);  // the label sees to it that the name ends in one colon
 
-void TakeShownSample();  // the name and the counts on the screen go into the arrays, as the column of CurrentSample
-void TakeParamNames();   // ParamHeader takes the captions on the screen
+void StoreShownSample();  // the name and the counts on the screen go into the arrays, as the column of CurrentSample
+void StoreParamNames();   // ParamHeader takes the captions on the screen
 
 // Takes note, names and values of the Additional info from a window's boxes into the sheet, as those of `sample`, and shows them in
 // the main window. An empty value becomes "---".
-void TakeSampleFields(std::int16_t sample, const TextBox& note, const Label (&names)[kParams + 1], const TextBox (&values)[kParams + 1]);
+void StoreSampleFields(std::int16_t sample, const TextBox& note, const Label (&names)[kParams + 1], const TextBox (&values)[kParams + 1]);

@@ -99,7 +99,7 @@ void ShowChosenSubtotal() {
     RecountTotals(CurrentSample);
 }
 
-void TakeSubtotalFlag(int slot) {
+void StoreSubtotalFlag(int slot) {
     if (frmSubtotal.Filling) return;
     ChosenFlag(slot) = frmSubtotal.Members[slot].Value();
     RecountTotals(CurrentSample);
@@ -115,7 +115,7 @@ void SetAllFlags(int flag) {
     OfferSaving();
 }
 
-void TakeSubtotalName(int subtotal) {
+void StoreSubtotalName(int subtotal) {
     TextBox& box = frmSubtotal.SubtotalNames[subtotal];
     RefuseQuotationMark(box);
     SheetHeader[kFirstName + subtotal - 1] = box.Text();

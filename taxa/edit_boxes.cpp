@@ -34,7 +34,7 @@ void RefuseCount(TextBox& box) {
     box.SetText(SingleText(CountAtMouseDown));
 }
 
-void StoreCount(int slot, TextBox& box) {
+void StoreIfWhole(int slot, TextBox& box) {
     if (AmendMode) {
         if (!IsWholeNumber(box.Text())) {
             RefuseCount(box);
@@ -69,22 +69,22 @@ void NoteCountBeforeEdit(const TextBox& box) {
     CountAtMouseDown = static_cast<float>(box.Number());
 }
 
-void TakeSampleName(TextBox& box) {
+void StoreSampleName(TextBox& box) {
     const std::string& name = GuardedText(box);
     frmMain.SampleList.SetText(name);
     ShowSerial();
     if (AmendMode) NameSampleOnShow(name);
 }
 
-void TakeTaxonName(int slot, TextBox& box) {
+void StoreTaxonName(int slot, TextBox& box) {
     TaxonTable[slot][4] = GuardedText(box);
 }
 
-void TakeCount(int slot, TextBox& box) {
+void StoreCount(int slot, TextBox& box) {
     if (frmMain.ChangingSample || !frmMain.KeysEnabled) return;
     const std::int32_t last = Counts[slot][CurrentSample];
     try {
-        StoreCount(slot, box);
+        StoreIfWhole(slot, box);
     } catch (const Failure&) {
         // A count or a total beyond 32 bits: cell and array go back, in silence, to the last that could be held.
         Counts[slot][CurrentSample] = last;
@@ -92,12 +92,12 @@ void TakeCount(int slot, TextBox& box) {
     }
 }
 
-void TakeNote(TextBox& box) {
+void StoreNote(TextBox& box) {
     SampleNotes[CurrentSample] = GuardedText(box);
     SheetClean = false;
 }
 
-void TakeParam(int p, TextBox& box) {
+void StoreParam(int p, TextBox& box) {
     ParamValues[p][CurrentSample] = GuardedText(box);
     MarkSheetEdited();
     frmMain.LastEdited.SetCaption(box.Text());

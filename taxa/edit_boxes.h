@@ -17,12 +17,12 @@ void DoubleClickNote();
 void EnterParam(TextBox& box);  // Text5
 
 // A text has changed.
-void TakeSampleName(TextBox& box);           // Text1[0]
-void TakeTaxonName(int slot, TextBox& box);  // Text1
-void TakeCount(int slot, TextBox& box);      // Text2: refuses what is no whole number, with a message
-void TakeNote(TextBox& box);                 // Text4
-void TakeParam(int p, TextBox& box);         // Text5
-void EndWithColon(Label& label);             // Label10: its caption ends in a colon, exactly one is added
+void StoreSampleName(TextBox& box);           // Text1[0]
+void StoreTaxonName(int slot, TextBox& box);  // Text1
+void StoreCount(int slot, TextBox& box);      // Text2: refuses what is no whole number, with a message
+void StoreNote(TextBox& box);                 // Text4
+void StoreParam(int p, TextBox& box);         // Text5
+void EndWithColon(Label& label);              // Label10: its caption ends in a colon, exactly one is added
 // Text5's tool tip is the name in Label10, which is hidden while counting; if that is empty, the design's.
 void NameParamBox(TextBox& box, const Label& label);
 void RenameSampleOnShow(const std::string& name);  // the user types into Combo2

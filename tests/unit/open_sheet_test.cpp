@@ -91,7 +91,7 @@ TEST_F(OpenSheetTest, ACountThatIsReadIsNoEditOfItsCell) {
     EXPECT_TRUE(Open(rows));
     EXPECT_EQ(frmMain.Text2[7].Text(), "77");
     EXPECT_EQ(edits, 0);
-    frmMain.Text2[7].Change.Calls([] { TakeCount(7, frmMain.Text2[7]); });
+    frmMain.Text2[7].Change.Calls([] { StoreCount(7, frmMain.Text2[7]); });
 }
 
 TEST_F(OpenSheetTest, InModifyModeACountThatIsReadIsAnEdit) {
