@@ -8,7 +8,7 @@ TESTS = TOP / "tests"
 CASE = re.compile(r"\w+Test\.[A-Z]\w+")             # Suite.Name
 PLACE = re.compile(r"([\w./]*?)(?::(test_\w+))?")  # a file or folder below tests/, and a test in it
 COLUMNS = ["No.", "Hazard", "Harm", "Likelihood", "What prevents or shows it", "Test"]
-ENOUGH = 20  # lines of the hazards with a test
+ENOUGH = 80  # lines of the hazards with a test
 
 
 def unit_tests():
