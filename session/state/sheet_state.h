@@ -37,8 +37,6 @@ inline std::int32_t RowSubtotal1[kSlots + 1];  // flags of sheet row r as read
 inline std::int32_t RowSubtotal2[kSlots + 1];
 inline std::string RowNames[kSlots + 1];  // taxon name of sheet row r as read
 inline std::string SampleNamesRead[kColumns + 1];
-inline std::int16_t SerialOfColumn[kColumns + 1];
-inline std::int16_t ColumnOfSerial[kColumns + 1];
 
 // ---- The snapshot that Reset and Quit go back to ----
 
@@ -80,9 +78,8 @@ inline bool AmendMode;           // Modify mode: keys do not count, the cells ar
 inline std::int16_t ShiftLevel;  // active bank, 0..2
 inline bool Shift1Down;
 inline bool Shift2Down;
-inline std::int16_t UndoKeyState;   // 0 up; 1 down, no counter key since; 2 and more: counter keys were pressed while it was held
-inline bool ReverseCount;           // the key that is being processed subtracts
-inline std::int16_t RepeatKeyCode;  // always 0
+inline std::int16_t UndoKeyState;  // 0 up; 1 down, no counter key since; 2 and more: counter keys were pressed while it was held
+inline bool ReverseCount;          // the key that is being processed subtracts
 inline std::int16_t UndoList[kUndoDepth + 1][2];  // newest at 0: [i][0] sample, [i][1] slot, negative for a reverse count, 0: empty
 inline std::int16_t LastSlot;                     // the slot that carries the highlight; 0: none
 inline std::vector<std::string> HistoryLog;       // [0] is a time stamp
@@ -102,3 +99,9 @@ inline bool TemplateOpened;       // the file that was opened has no samples
 inline std::int16_t BackupSlot;   // 99: the next back-up is the master; -1: it was just written; 0..9: the last ring file
 inline bool SampleNamesAreText;   // some sample name is not just a number
 inline std::int16_t FileVersion;  // layout of the file that was opened: 1 or 2
+
+// ---- For scripts alone: nothing in the program reads these, or they are always 0; SampleAtRank, ConissData, ConissSkip are others ----
+
+inline std::int16_t SerialOfColumn[kColumns + 1];  // as read from a file
+inline std::int16_t ColumnOfSerial[kColumns + 1];  // the inverse
+inline std::int16_t RepeatKeyCode;                 // always 0
