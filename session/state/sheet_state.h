@@ -105,3 +105,86 @@ inline std::int16_t FileVersion;  // layout of the file that was opened: 1 or 2
 inline std::int16_t SerialOfColumn[kColumns + 1];  // as read from a file
 inline std::int16_t ColumnOfSerial[kColumns + 1];  // the inverse
 inline std::int16_t RepeatKeyCode;                 // always 0
+
+// Every variable above, with its name: for scripts, which read them by name, and for tests, which put them back to what they are when the
+// program starts: 0, false, empty, a wave without its bytes.
+template <class Visit>
+void ForEachSheetVariable(Visit visit) {
+    visit("SheetHeader", SheetHeader);
+    visit("SampleTable", SampleTable);
+    visit("TaxonTable", TaxonTable);
+    visit("Counts", Counts);
+    visit("SampleNotes", SampleNotes);
+    visit("SheetFooter", SheetFooter);
+    visit("ParamHeader", ParamHeader);
+    visit("ParamValues", ParamValues);
+    visit("AllTotal", AllTotal);
+    visit("SampleCount", SampleCount);
+    visit("CurrentSample", CurrentSample);
+    visit("MaxSerial", MaxSerial);
+    visit("SheetPath", SheetPath);
+    visit("KeyIndex", KeyIndex);
+    visit("RowOfSlot", RowOfSlot);
+    visit("RowSubtotal1", RowSubtotal1);
+    visit("RowSubtotal2", RowSubtotal2);
+    visit("RowNames", RowNames);
+    visit("SampleNamesRead", SampleNamesRead);
+    visit("CountsAtOpen", CountsAtOpen);
+    visit("TaxonTableAtOpen", TaxonTableAtOpen);
+    visit("ParamValuesAtOpen", ParamValuesAtOpen);
+    visit("TaxaSeen", TaxaSeen);
+    visit("DiversityLength", DiversityLength);
+    visit("DiversityCurve", DiversityCurve);
+    visit("KeySettings", KeySettings);
+    visit("Shift1Code", Shift1Code);
+    visit("Shift2Code", Shift2Code);
+    visit("UndoKeyCode", UndoKeyCode);
+    visit("KeySettingsLoaded", KeySettingsLoaded);
+    visit("KeyboardKnown", KeyboardKnown);
+    visit("KeyTop", KeyTop);
+    visit("KeyLeft", KeyLeft);
+    visit("SoundOn", SoundOn);
+    visit("SheetClean", SheetClean);
+    visit("SampleUntouched", SampleUntouched);
+    visit("AmendMode", AmendMode);
+    visit("ShiftLevel", ShiftLevel);
+    visit("Shift1Down", Shift1Down);
+    visit("Shift2Down", Shift2Down);
+    visit("UndoKeyState", UndoKeyState);
+    visit("ReverseCount", ReverseCount);
+    visit("UndoList", UndoList);
+    visit("LastSlot", LastSlot);
+    visit("HistoryLog", HistoryLog);
+    visit("HistoryCount", HistoryCount);
+    visit("AlarmArmed", AlarmArmed);
+    visit("WarnOldSample", WarnOldSample);
+    visit("SelectedSlot", SelectedSlot);
+    visit("EditedValue", EditedValue);
+    visit("LastEditKey", LastEditKey);
+    visit("CountAtMouseDown", CountAtMouseDown);
+    visit("MoveFrom", MoveFrom);
+    visit("MoveTo", MoveTo);
+    visit("DiagramOpen", DiagramOpen);
+    visit("SaveOutcome", SaveOutcome);
+    visit("SaveAsPending", SaveAsPending);
+    visit("TemplateOpened", TemplateOpened);
+    visit("BackupSlot", BackupSlot);
+    visit("SampleNamesAreText", SampleNamesAreText);
+    visit("FileVersion", FileVersion);
+    visit("SerialOfColumn", SerialOfColumn);
+    visit("ColumnOfSerial", ColumnOfSerial);
+    visit("RepeatKeyCode", RepeatKeyCode);
+}
+
+// The same for those that no script reads.
+template <class Visit>
+void ForEachHiddenSheetVariable(Visit visit) {
+    visit("WaveKey1", WaveKey1);
+    visit("WaveKey2", WaveKey2);
+    visit("WaveKey3", WaveKey3);
+    visit("WaveOpening", WaveOpening);
+    visit("WaveUndo", WaveUndo);
+    visit("WaveSave", WaveSave);
+    visit("WaveAlarm", WaveAlarm);
+    visit("WaveError", WaveError);
+}

@@ -1,0 +1,55 @@
+// The lists of shared variables, which scripts and the tests themselves go by, are whole.
+#include <fstream>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "unit/program_test.h"
+
+namespace {
+using Names = std::multiset<std::string>;
+
+constexpr const char* kVisit = R"(^ *visit\(.(\w+)., )";
+constexpr const char* kVisitByOwnName = R"(^ *visit\(.(\w+)., \1\);)";
+
+std::string TextOf(const std::string& header) {
+    std::ostringstream text;
+    text << std::ifstream(SOURCE_FOLDER "/" + header).rdbuf();
+    return text.str();
+}
+
+// What the first group of the pattern finds in each line.
+Names Found(const std::string& text, const std::string& pattern) {
+    const std::regex line(pattern, std::regex::ECMAScript | std::regex::multiline);
+    Names names;
+    for (std::sregex_iterator found(text.begin(), text.end(), line), end; found != end; ++found) names.insert((*found)[1]);
+    return names;
+}
+
+// "inline Any SheetHeader[15];" declares SheetHeader.
+Names DeclaredIn(const std::string& header) {
+    return Found(TextOf(header), R"(^inline [^;={(]*?(\w+)(?:\[[^\]]*\])*(?:\{[^;]*\}| = [^;]*)?;)");
+}
+
+struct Lister {
+    Names& names;
+    template <class T>
+    void operator()(const char* name, T&) const {
+        names.insert(name);
+    }
+};
+
+TEST(SharedStateTest, EachVariableOfTheSheetIsListedOnce) {
+    Names listed;
+    ForEachSheetVariable(Lister{listed});
+    ForEachHiddenSheetVariable(Lister{listed});
+    ASSERT_TRUE(listed.count("Counts"));
+    EXPECT_EQ(listed, DeclaredIn("session/state/sheet_state.h"));
+}
+
+TEST(SharedStateTest, EachVariableIsListedByItsOwnName) {
+    const std::string text = TextOf("session/state/sheet_state.h");
+    const Names listed = Found(text, kVisit), by_own_name = Found(text, kVisitByOwnName);
+    EXPECT_EQ(listed.size(), by_own_name.size());
+}
+}  // namespace
