@@ -9,14 +9,6 @@
 #include "windows/busy.h"
 #include "windows/main_window.h"
 
-std::vector<ClusterVector> ConissData;
-std::vector<double> ConissDistance;
-std::vector<float> ConissPosition;
-std::vector<double> ConissHeight;
-std::vector<float> MergeUpper, MergeLower;
-std::vector<float> MergeHeight;
-std::int16_t ConissSkip;
-
 namespace {
 // The vectors of the samples and of all means, none of which is ever overwritten, and which of them a cluster has now. A merge then
 // moves a few numbers where it would have to move the vectors of all clusters below.

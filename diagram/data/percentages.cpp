@@ -8,14 +8,6 @@
 #include "session/state/sample_names.h"
 #include "windows/diagram_window.h"
 
-float SamplePercent[kSlots + 1][kColumns + 1];
-std::vector<std::int16_t> SampleRank;
-std::vector<std::int16_t> SampleAtRank;
-float ColumnOffset[kSlots + 2];
-std::int16_t ColumnGap;
-float LastColumnMax;
-std::string DiagramNames[kSlots + 1];
-
 namespace {
 bool shares_are_of_tables = false;  // SamplePercentages has run since ComputeDiagramData
 

@@ -4,6 +4,8 @@
 #include <set>
 #include <sstream>
 
+#include "diagram/data/coniss.h"
+#include "diagram/data/percentages.h"
 #include "unit/program_test.h"
 
 namespace {
@@ -47,9 +49,19 @@ TEST(SharedStateTest, EachVariableOfTheSheetIsListedOnce) {
     EXPECT_EQ(listed, DeclaredIn("session/state/sheet_state.h"));
 }
 
+TEST(SharedStateTest, EachVariableOfTheDiagramIsListedOnce) {
+    Names shares, clusters;
+    ForEachDiagramVariable(Lister{shares});
+    ForEachClusterVariable(Lister{clusters});
+    EXPECT_EQ(shares, DeclaredIn("diagram/data/percentages.h"));
+    EXPECT_EQ(clusters, DeclaredIn("diagram/data/coniss.h"));
+}
+
 TEST(SharedStateTest, EachVariableIsListedByItsOwnName) {
-    const std::string text = TextOf("session/state/sheet_state.h");
-    const Names listed = Found(text, kVisit), by_own_name = Found(text, kVisitByOwnName);
-    EXPECT_EQ(listed.size(), by_own_name.size());
+    for (const char* header : {"session/state/sheet_state.h", "diagram/data/percentages.h", "diagram/data/coniss.h"}) {
+        const std::string text = TextOf(header);
+        const Names listed = Found(text, kVisit), by_own_name = Found(text, kVisitByOwnName);
+        EXPECT_EQ(listed.size(), by_own_name.size()) << header;
+    }
 }
 }  // namespace
