@@ -1,11 +1,12 @@
 // The lists of shared variables, which scripts and the tests themselves go by, are whole.
 #include <fstream>
+#include <functional>
+#include <map>
 #include <regex>
 #include <set>
 #include <sstream>
 
-#include "diagram/data/coniss.h"
-#include "diagram/data/percentages.h"
+#include "session/variables.h"
 #include "unit/program_test.h"
 
 namespace {
@@ -57,8 +58,22 @@ TEST(SharedStateTest, EachVariableOfTheDiagramIsListedOnce) {
     EXPECT_EQ(clusters, DeclaredIn("diagram/data/coniss.h"));
 }
 
+// A member of a window that holds no control begins with a value: "bool FormLoaded = false;".
+TEST(SharedStateTest, EachMemberOfAWindowIsListedOnce) {
+    for (auto& [header, list] : std::map<std::string, std::function<void(Lister)>>{
+             {"windows/main_window.h", [](Lister lister) { frmMain.ForEachVariable(lister); }},
+             {"windows/diagram_window.h", [](Lister lister) { frmDiagram.ForEachVariable(lister); }},
+             {"windows/initial_window.h", [](Lister lister) { frmInitial.ForEachVariable(lister); }},
+         }) {
+        Names listed;
+        list(Lister{listed});
+        EXPECT_EQ(listed, Found(TextOf(header), R"(^    (?:bool|float|std::u?int\w+) (\w+)(?:\[[^\]]*\])* = )")) << header;
+    }
+}
+
 TEST(SharedStateTest, EachVariableIsListedByItsOwnName) {
-    for (const char* header : {"session/state/sheet_state.h", "diagram/data/percentages.h", "diagram/data/coniss.h"}) {
+    for (const char* header : {"windows/main_window.h", "windows/diagram_window.h", "windows/initial_window.h",
+                               "session/state/sheet_state.h", "diagram/data/percentages.h", "diagram/data/coniss.h"}) {
         const std::string text = TextOf(header);
         const Names listed = Found(text, kVisit), by_own_name = Found(text, kVisitByOwnName);
         EXPECT_EQ(listed.size(), by_own_name.size()) << header;
