@@ -1,13 +1,18 @@
 // The lists of shared variables, which scripts and the tests themselves go by, are whole.
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <map>
 #include <regex>
 #include <set>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "session/variables.h"
-#include "unit/program_test.h"
+#include "unit/shared_state.h"
 
 namespace {
 using Names = std::multiset<std::string>;
@@ -78,5 +83,57 @@ TEST(SharedStateTest, EachVariableIsListedByItsOwnName) {
         const Names listed = Found(text, kVisit), by_own_name = Found(text, kVisitByOwnName);
         EXPECT_EQ(listed.size(), by_own_name.size()) << header;
     }
+}
+
+// Puts something else than the start value into all that it visits.
+struct Spoiler {
+    template <class T>
+    void operator()(const char* /*name*/, T& variable) const {
+        Spoil(variable);
+    }
+
+private:
+    template <class T>
+    static void Spoil(T& scalar) {
+        scalar = 1;
+    }
+    template <class T, std::size_t n>
+    static void Spoil(T (&array)[n]) {
+        for (T& element : array) Spoil(element);
+    }
+    template <class T>
+    static void Spoil(std::vector<T>& array) {
+        array.resize(1);
+    }
+    static void Spoil(std::string& text) { text = "1"; }
+    static void Spoil(Wave& wave) { wave.bytes = "1"; }
+};
+
+struct WipeCheck {
+    template <class T>
+    void operator()(const char* name, T& variable) const {
+        EXPECT_TRUE(IsWiped(variable)) << name;
+    }
+
+private:
+    template <class T>
+    static bool IsWiped(const T& scalar) {
+        return scalar == T{};
+    }
+    template <class T, std::size_t n>
+    static bool IsWiped(const T (&array)[n]) {
+        return std::all_of(std::begin(array), std::end(array), [](const T& element) { return IsWiped(element); });
+    }
+    static bool IsWiped(const Any& value) { return !value.IsNumber() && value.Text().empty(); }
+    static bool IsWiped(const Wave& wave) { return wave.bytes.empty(); }
+};
+
+TEST(SharedStateTest, AWipeReachesEveryVariable) {
+    ForEachVariable(Spoiler{});
+    ForEachHiddenVariable(Spoiler{});
+    ASSERT_EQ(Counts[kSlots][kColumns], 1);
+    WipeSharedState();
+    ForEachVariable(WipeCheck{});
+    ForEachHiddenVariable(WipeCheck{});
 }
 }  // namespace
