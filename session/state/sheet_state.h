@@ -106,6 +106,11 @@ inline std::int16_t SerialOfColumn[kColumns + 1];  // as read from a file
 inline std::int16_t ColumnOfSerial[kColumns + 1];  // the inverse
 inline std::int16_t RepeatKeyCode;                 // always 0
 
+// ---- From one event to the next: no script reads these ----
+
+inline int HeldTab;             // the bank that was in front when the mouse went down on the tabs
+inline bool EditKeyAwaitsText;  // LastEditKey went down in its box and has not changed it yet: what is pasted comes from no key
+
 // Every variable above, with its name: for scripts, which read them by name, and for tests, which put them back to what they are when the
 // program starts: 0, false, empty, a wave without its bytes.
 template <class Visit>
@@ -187,4 +192,6 @@ void ForEachHiddenSheetVariable(Visit visit) {
     visit("WaveSave", WaveSave);
     visit("WaveAlarm", WaveAlarm);
     visit("WaveError", WaveError);
+    visit("HeldTab", HeldTab);
+    visit("EditKeyAwaitsText", EditKeyAwaitsText);
 }
