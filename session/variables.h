@@ -1,7 +1,8 @@
-// All variables that scripts and tests go through: of the sheet, the diagram, the windows and the pointer.
+// All variables that scripts and tests go through: of the sheet, the diagram, the windows and the mouse.
 #pragma once
 #include "diagram/data/coniss.h"
 #include "diagram/data/percentages.h"
+#include "platform/controls.h"
 #include "platform/services.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
@@ -24,4 +25,5 @@ void ForEachVariable(Visit visit) {
 template <class Visit>
 void ForEachHiddenVariable(Visit visit) {
     ForEachHiddenSheetVariable(visit);
+    visit("mouse_hold", mouse_hold);
 }

@@ -107,6 +107,7 @@ private:
     }
     static void Spoil(std::string& text) { text = "1"; }
     static void Spoil(Wave& wave) { wave.bytes = "1"; }
+    static void Spoil(MouseHold& hold) { hold = {&frmMain.mnuRightButton, &frmMain.SaveButton}; }
 };
 
 struct WipeCheck {
@@ -126,6 +127,7 @@ private:
     }
     static bool IsWiped(const Any& value) { return !value.IsNumber() && value.Text().empty(); }
     static bool IsWiped(const Wave& wave) { return wave.bytes.empty(); }
+    static bool IsWiped(const MouseHold& hold) { return !hold.popup && !hold.pressed; }
 };
 
 TEST(SharedStateTest, AWipeReachesEveryVariable) {
