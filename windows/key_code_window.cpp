@@ -1,5 +1,7 @@
 #include "windows/key_code_window.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "platform/window_table.h"
@@ -137,4 +139,5 @@ void KeyCodeWindow::ForgetMembers() {
     OldCode.clear();
     OldFunctional.clear();
     Characters.clear();
+    for (auto& row : SettingsAtOpening) std::fill(std::begin(row), std::end(row), Any());
 }

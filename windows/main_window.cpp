@@ -242,4 +242,5 @@ std::vector<Control*> MainWindow::RoundOf(const Control& control) {
 
 void MainWindow::ForgetMembers() {
     FormLoaded = ChangingSample = KeysEnabled = false;
+    FileDialog.FileName.clear();
 }
