@@ -36,10 +36,10 @@ void ShowTotalsInPercent() {
 void ShowPercentages() {
     if (!frmMain.KeysEnabled) return;  // by a second mouse button: what is parked are the counts
     ParkCells();
-    SamplePercentages(CurrentSample);
+    const Shares shares = SamplePercentages(CurrentSample);
     frmMain.KeysEnabled = false;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        const float share = SamplePercent[slot][CurrentSample];
+        const float share = shares.fractions[slot];
         ShowCountOf(slot, share == kNoBasis ? 0 : ToOneDecimal(share * 100));
     }
     ShowTotalsInPercent();

@@ -25,5 +25,6 @@ void ForEachVariable(Visit visit) {
 template <class Visit>
 void ForEachHiddenVariable(Visit visit) {
     ForEachHiddenSheetVariable(visit);
+    ForEachHiddenDiagramVariable(visit);
     visit("mouse_hold", mouse_hold);
 }

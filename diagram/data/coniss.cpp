@@ -19,12 +19,12 @@ struct Clusters {
 };
 
 Clusters SamplesAsClusters() {
-    RestoreDiagramShares();
+    ShowDiagramShares();
     const BasisWeights weights = WeightsOfBasis();
     Clusters clusters{std::vector<ClusterVector>(2 * static_cast<std::size_t>(SampleCount)), std::vector<int>(SampleCount + 1)};
     for (int slot = 1; slot <= kSlots; ++slot)
         for (int place = 1; place <= SampleCount; ++place)
-            clusters.vectors[place][slot] = static_cast<float>(weights[slot] * SamplePercent[RowOfSlot[slot]][place]);
+            clusters.vectors[place][slot] = static_cast<float>(weights[slot] * DiagramShares[RowOfSlot[slot]][place]);
     for (int cluster = 1; cluster <= SampleCount; ++cluster) clusters.vector_of[cluster] = cluster;
     return clusters;
 }

@@ -20,7 +20,7 @@ inline std::vector<float> MergeLower;
 inline std::vector<float> MergeHeight;  // [step]
 inline std::int16_t ConissSkip;         // last samples that are left out: always 0
 
-// Fills the arrays above from SamplePercent, which ComputeDiagramData must have filled. Shows the progress bar while it runs. Raises
+// Fills the arrays above from DiagramShares, which ComputeDiagramData must have filled. Shows the progress bar while it runs. Raises
 // "Division by zero" if the first and the last sample have the same depth.
 void ComputeConiss();
 

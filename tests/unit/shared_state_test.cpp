@@ -58,6 +58,7 @@ TEST(SharedStateTest, EachVariableOfTheSheetIsListedOnce) {
 TEST(SharedStateTest, EachVariableOfTheDiagramIsListedOnce) {
     Names shares, clusters;
     ForEachDiagramVariable(Lister{shares});
+    ForEachHiddenDiagramVariable(Lister{shares});
     ForEachClusterVariable(Lister{clusters});
     EXPECT_EQ(shares, DeclaredIn("diagram/data/percentages.h"));
     EXPECT_EQ(clusters, DeclaredIn("diagram/data/coniss.h"));
