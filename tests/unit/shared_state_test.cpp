@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <map>
@@ -15,6 +16,7 @@
 #include "unit/shared_state.h"
 
 namespace {
+namespace fs = std::filesystem;
 using Names = std::multiset<std::string>;
 
 constexpr const char* kVisit = R"(^ *visit\(.(\w+)., )";
@@ -84,6 +86,37 @@ TEST(SharedStateTest, EachVariableIsListedByItsOwnName) {
         const Names listed = Found(text, kVisit), by_own_name = Found(text, kVisitByOwnName);
         EXPECT_EQ(listed.size(), by_own_name.size()) << header;
     }
+}
+
+// "bool held = false;" in the first column, or a static in a function; constants, events and windows are none.
+Names VariablesHiddenIn(const std::string& text) {
+    const std::string type =
+        R"((?!const|Event<|\w+Window |using |return |class |struct |enum |extern |inline |namespace )[A-Za-z_][\w:<>,*& ]*[*& ])";
+    const std::string name = R"((\w+)(?:\[[^\]\n]*\])*(?:;| = |\{))";
+    Names names = Found(text, "^(?:static )?" + type + name);
+    names.merge(Found(text, "^ +static " + type + name));
+    return names;
+}
+
+TEST(SharedStateTest, AHiddenVariableIsFound) {
+    EXPECT_EQ(VariablesHiddenIn("namespace {\nint held = 0;\nstd::vector<Any> rows[3];\nconst int kRows = 3;\nint Rows();\n}\n"),
+              (Names{"held", "rows"}));
+    EXPECT_EQ(VariablesHiddenIn("void Count() {\n    static int counted;\n    static const int kFirst = 1;\n    int local = 0;\n}\n"),
+              (Names{"counted"}));
+}
+
+// Windows stand and have the focus only while they are loaded.
+TEST(SharedStateTest, NoVariableIsHiddenFromTheLists) {
+    const std::map<std::string, Names> known = {{"platform/window.cpp", {"windows", "shown", "active", "window_view"}},
+                                                {"platform/services.cpp", {"MousePointer", "services"}}};
+    for (const char* folder :
+         {"accessories", "diagram", "drive", "events", "files", "keys", "platform", "program", "session", "taxa", "windows"})
+        for (const auto& entry : fs::recursive_directory_iterator(fs::path(SOURCE_FOLDER) / folder)) {
+            const std::string file = fs::relative(entry.path(), SOURCE_FOLDER).generic_string();
+            if (entry.path().extension() != ".cpp" || file.starts_with("platform/qt/")) continue;
+            const auto found = known.find(file);
+            EXPECT_EQ(VariablesHiddenIn(TextOf(file)), found == known.end() ? Names{} : found->second) << file;
+        }
 }
 
 // Puts something else than the start value into all that it visits.
