@@ -6,8 +6,6 @@
 #include "platform/services.h"
 
 namespace {
-int shown = kPointerDefault;
-
 Qt::CursorShape Shape(int pointer) {
     switch (pointer) {
         case kPointerIBeam:
@@ -22,10 +20,10 @@ Qt::CursorShape Shape(int pointer) {
 }
 
 void Show(int pointer) {
-    if (pointer == shown) return;
-    if (shown != kPointerDefault) QGuiApplication::restoreOverrideCursor();
+    const QCursor* const shown = QGuiApplication::overrideCursor();
+    if (pointer == kPointerDefault ? !shown : shown && shown->shape() == Shape(pointer)) return;
+    if (shown) QGuiApplication::restoreOverrideCursor();
     if (pointer != kPointerDefault) QGuiApplication::setOverrideCursor(Shape(pointer));
-    shown = pointer;
 }
 }  // namespace
 
