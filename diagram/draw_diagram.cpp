@@ -34,8 +34,8 @@ public:
 
 private:
     double X(double percent) const { return (percent + left_) * scale_; }
-    double ValueX(int sample) const { return X(100.0 * SamplePercent[row_][sample]); }
-    bool HasData(int sample) const { return SamplePercent[0][sample] != 0; }
+    double ValueX(int sample) const { return X(100.0 * DiagramShares[row_][sample]); }
+    bool HasData(int sample) const { return DiagramShares[0][sample] != 0; }
 
     void DrawBar(int sample) const { picture_.Line(X(0), y_[sample], ValueX(sample), y_[sample], kGreen); }
 
@@ -65,7 +65,7 @@ private:
 
     void DrawDots() const {
         for (int sample = 1; sample <= SampleCount; ++sample)
-            if (SamplePercent[row_][sample] > kLeastDot) picture_.Circle(ValueX(sample), y_[sample], kDotRadius, kGreen, kWhite);
+            if (DiagramShares[row_][sample] > kLeastDot) picture_.Circle(ValueX(sample), y_[sample], kDotRadius, kGreen, kWhite);
     }
 
     // Along both edges; there are no numbers, the distance of the ticks is what the eye reads.
@@ -124,7 +124,7 @@ void Whiten(PictureBox& picture) {
 
 void DrawDiagram() {
     const Busy busy(kSlots);
-    RestoreDiagramShares();
+    ShowDiagramShares();
     const std::vector<float> y = SampleHeights();
     const DiagramStyle& style = StyleOnShow();
     const int scroll = frmDiagram.ColumnScroll.Value();

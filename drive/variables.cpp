@@ -1,18 +1,14 @@
 #include "drive/variables.h"
 
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <utility>
 
-#include "diagram/data/coniss.h"
-#include "diagram/data/percentages.h"
 #include "drive/fault.h"
 #include "drive/values.h"
-#include "platform/services.h"
-#include "session/state/sheet_state.h"
-#include "windows/diagram_window.h"
-#include "windows/key_windows.h"
-#include "windows/main_window.h"
+#include "session/variables.h"
 
 namespace drive {
 
@@ -59,7 +55,7 @@ Variable Of(const std::vector<T>& array) {
 
 // Stored sample by sample, named slot first as Counts is.
 template <class T, std::size_t kRows>
-Variable BySample(const std::vector<std::array<T, kRows>>& array) {
+Variable Of(const std::vector<std::array<T, kRows>>& array) {
     return {2, [&array](const std::vector<int>& at) -> std::optional<std::string> {
                 if (!IsIndex(at[0], kRows) || !IsIndex(at[1], array.size())) return std::nullopt;
                 return ValueText(array[at[1]][at[0]]);
@@ -67,116 +63,11 @@ Variable BySample(const std::vector<std::array<T, kRows>>& array) {
 }
 
 const std::map<std::string, Variable>& Variables() {
-    static const std::map<std::string, Variable> variables = {
-        // The sheet
-        {"SheetHeader", Of(SheetHeader)},
-        {"SampleTable", Of(SampleTable)},
-        {"TaxonTable", Of(TaxonTable)},
-        {"Counts", Of(Counts)},
-        {"SampleNotes", Of(SampleNotes)},
-        {"SheetFooter", Of(SheetFooter)},
-        {"ParamHeader", Of(ParamHeader)},
-        {"ParamValues", Of(ParamValues)},
-        {"AllTotal", Of(AllTotal)},
-        {"SampleCount", Of(SampleCount)},
-        {"CurrentSample", Of(CurrentSample)},
-        {"MaxSerial", Of(MaxSerial)},
-        {"SheetPath", Of(SheetPath)},
-        // As read from a file
-        {"KeyIndex", Of(KeyIndex)},
-        {"RowOfSlot", Of(RowOfSlot)},
-        {"RowSubtotal1", Of(RowSubtotal1)},
-        {"RowSubtotal2", Of(RowSubtotal2)},
-        {"RowNames", Of(RowNames)},
-        {"SampleNamesRead", Of(SampleNamesRead)},
-        {"SerialOfColumn", Of(SerialOfColumn)},
-        {"ColumnOfSerial", Of(ColumnOfSerial)},
-        // The snapshot
-        {"CountsAtOpen", BySample(CountsAtOpen)},
-        {"TaxonTableAtOpen", Of(TaxonTableAtOpen)},
-        {"ParamValuesAtOpen", Of(ParamValuesAtOpen)},
-        // Keys and sounds
-        {"KeySettings", Of(KeySettings)},
-        {"Shift1Code", Of(Shift1Code)},
-        {"Shift2Code", Of(Shift2Code)},
-        {"UndoKeyCode", Of(UndoKeyCode)},
-        {"KeySettingsLoaded", Of(KeySettingsLoaded)},
-        {"KeyboardKnown", Of(KeyboardKnown)},
-        {"KeyTop", Of(KeyTop)},
-        {"KeyLeft", Of(KeyLeft)},
-        // The session
-        {"SoundOn", Of(SoundOn)},
-        {"SheetClean", Of(SheetClean)},
-        {"SampleUntouched", Of(SampleUntouched)},
-        {"AmendMode", Of(AmendMode)},
-        {"ShiftLevel", Of(ShiftLevel)},
-        {"Shift1Down", Of(Shift1Down)},
-        {"Shift2Down", Of(Shift2Down)},
-        {"UndoKeyState", Of(UndoKeyState)},
-        {"ReverseCount", Of(ReverseCount)},
-        {"RepeatKeyCode", Of(RepeatKeyCode)},
-        {"UndoList", Of(UndoList)},
-        {"LastSlot", Of(LastSlot)},
-        {"HistoryLog", Of(HistoryLog)},
-        {"HistoryCount", Of(HistoryCount)},
-        {"AlarmArmed", Of(AlarmArmed)},
-        {"WarnOldSample", Of(WarnOldSample)},
-        {"SelectedSlot", Of(SelectedSlot)},
-        {"EditedValue", Of(EditedValue)},
-        {"LastEditKey", Of(LastEditKey)},
-        {"CountAtMouseDown", Of(CountAtMouseDown)},
-        {"MoveFrom", Of(MoveFrom)},
-        {"MoveTo", Of(MoveTo)},
-        {"DiagramOpen", Of(DiagramOpen)},
-        {"SaveOutcome", Of(SaveOutcome)},
-        {"SaveAsPending", Of(SaveAsPending)},
-        {"TemplateOpened", Of(TemplateOpened)},
-        {"BackupSlot", Of(BackupSlot)},
-        {"SampleNamesAreText", Of(SampleNamesAreText)},
-        {"FileVersion", Of(FileVersion)},
-        {"MousePointer", Of(MousePointer)},
-        // The diagram and the taxa curve
-        {"SamplePercent", Of(SamplePercent)},
-        {"SampleRank", Of(SampleRank)},
-        {"SampleAtRank", Of(SampleAtRank)},
-        {"ColumnOffset", Of(ColumnOffset)},
-        {"ColumnGap", Of(ColumnGap)},
-        {"LastColumnMax", Of(LastColumnMax)},
-        {"DiagramNames", Of(DiagramNames)},
-        {"TaxaSeen", Of(TaxaSeen)},
-        {"DiversityLength", Of(DiversityLength)},
-        {"DiversityCurve", Of(DiversityCurve)},
-        {"ConissData", BySample(ConissData)},
-        {"ConissDistance", Of(ConissDistance)},
-        {"ConissPosition", Of(ConissPosition)},
-        {"ConissHeight", Of(ConissHeight)},
-        {"ConissSkip", Of(ConissSkip)},
-        {"MergeUpper", Of(MergeUpper)},
-        {"MergeLower", Of(MergeLower)},
-        {"MergeHeight", Of(MergeHeight)},
-        // Members of windows
-        {"FormLoaded", Of(frmMain.FormLoaded)},
-        {"ChangingSample", Of(frmMain.ChangingSample)},
-        {"KeysEnabled", Of(frmMain.KeysEnabled)},
-        {"HeldCounts", Of(frmMain.HeldCounts)},
-        {"HeldTotals", Of(frmMain.HeldTotals)},
-        {"AllKnown", Of(frmInitial.AllKnown)},
-        {"SelectedSample", Of(frmDiagram.SelectedSample)},
-        {"DiagramTop", Of(frmDiagram.DiagramTop)},
-        {"DiagramHeight", Of(frmDiagram.DiagramHeight)},
-        {"DiagramFormHeight", Of(frmDiagram.DiagramFormHeight)},
-        {"DiagramFormWidth", Of(frmDiagram.DiagramFormWidth)},
-        {"WidthMargin", Of(frmDiagram.WidthMargin)},
-        {"HeightMargin", Of(frmDiagram.HeightMargin)},
-        {"ScrollMargin", Of(frmDiagram.ScrollMargin)},
-        {"SliderMargin", Of(frmDiagram.SliderMargin)},
-        {"FrameMargin", Of(frmDiagram.FrameMargin)},
-        {"BandMargin", Of(frmDiagram.BandMargin)},
-        {"DiagramResizeGuard", Of(frmDiagram.DiagramResizeGuard)},
-        {"SliderDragging", Of(frmDiagram.SliderDragging)},
-        {"MovingSample", Of(frmDiagram.MovingSample)},
-        {"ConissDrawn", Of(frmDiagram.ConissDrawn)},
-    };
+    static const std::map<std::string, Variable> variables = [] {
+        std::map<std::string, Variable> by_name;
+        ForEachVariable([&by_name](const char* name, const auto& variable) { by_name.emplace(name, Of(variable)); });
+        return by_name;
+    }();
     return variables;
 }
 

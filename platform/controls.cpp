@@ -5,8 +5,6 @@
 #include "platform/text.h"
 
 namespace {
-MenuItem* opened_popup = nullptr;
-
 int WithinText(const std::string& text, int characters) {
     return std::clamp(characters, 0, static_cast<int>(Length(text)));
 }
@@ -120,24 +118,16 @@ void RangeControl::SetSteps(int small_change, int large_change) {
     Assign(now_.large_change, large_change, Property::Range);
 }
 
-MenuItem* OpenedPopup() {
-    return opened_popup;
-}
-
-void SetOpenedPopup(MenuItem* menu) {
-    opened_popup = menu;
-}
-
 bool MenuItem::IsInOpenPopup() const {
     const MenuItem* menu = this;
-    while (menu && menu != opened_popup) menu = menu->Menu();
+    while (menu && menu != mouse_hold.popup) menu = menu->Menu();
     return menu != nullptr;
 }
 
 bool MenuItem::IsUsable() const {
     for (const MenuItem* menu = this; menu; menu = menu->Menu()) {
         if (!menu->Enabled()) return false;
-        if (menu == opened_popup && menu != this) return true;
+        if (menu == mouse_hold.popup && menu != this) return true;
         if (!menu->Visible()) return false;
     }
     return true;

@@ -208,9 +208,12 @@ public:
     bool IsUsable() const override;  // what stands in an open popup needs no place on the bar; all else needs every menu on its way
 };
 
-// The popup menu that is open. Its items can be reached until one is clicked, or another window comes up.
-MenuItem* OpenedPopup();  // nullptr: none
-void SetOpenedPopup(MenuItem* menu);
+// What the user has opened and holds down with the mouse, whatever the window; nullptr: nothing.
+struct MouseHold {
+    MenuItem* popup = nullptr;   // its items can be reached until one is clicked, or another window comes up
+    Control* pressed = nullptr;  // from the press on it to the release
+};
+inline MouseHold mouse_hold;
 
 // Of any control; false for one that holds no text.
 bool TakesText(const Control& control);

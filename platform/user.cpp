@@ -9,10 +9,8 @@
 namespace {
 constexpr const char* kLineBreak = "\r\n";
 
-Control* pressed = nullptr;  // the control that the mouse went down on
-
 void OpenMenusOnTheWay(const MenuItem* menu) {
-    if (!menu || menu == OpenedPopup()) return;
+    if (!menu || menu == mouse_hold.popup) return;
     OpenMenusOnTheWay(menu->Menu());
     menu->Click.Raise();
 }
@@ -24,7 +22,7 @@ bool HasItems(const MenuItem& menu) {
 
 void ClickMenuItem(MenuItem& item) {
     BringToFront(*item.window);
-    if (!item.IsInOpenPopup()) SetOpenedPopup(nullptr);
+    if (!item.IsInOpenPopup()) mouse_hold.popup = nullptr;
     OpenMenusOnTheWay(item.Menu());
     if (HasItems(item))
         OpenMenu(item);
@@ -73,7 +71,7 @@ void BringToFront(Window& window) {
 }
 
 void OpenPopup(MenuItem& menu) {
-    SetOpenedPopup(&menu);
+    mouse_hold.popup = &menu;
     services.popups->Open(menu);
 }
 
@@ -83,7 +81,7 @@ void OpenMenu(MenuItem& menu) {
 
 void ClickOpenMenuItem(MenuItem& item) {
     if (!CanReach(item)) return;  // opening its menu may have switched it off
-    SetOpenedPopup(nullptr);
+    mouse_hold.popup = nullptr;
     item.Click.Raise();
 }
 
@@ -117,18 +115,18 @@ bool PressAnswer(int code) {
 void PressMouse(Control& control, Mouse mouse) {
     if (!CanReach(control)) return;
     BringToFront(*control.window);
-    pressed = &control;
+    mouse_hold.pressed = &control;
     if (TakesFocus(control.kind())) control.SetFocus();
     control.MouseDown.Raise(mouse);
 }
 
 void MoveMouse(Control& control, Mouse mouse) {
-    if (CanReach(control) || &control == pressed) control.MouseMove.Raise(mouse);
+    if (CanReach(control) || &control == mouse_hold.pressed) control.MouseMove.Raise(mouse);
 }
 
 void ReleaseMouse(Control& control, Mouse mouse) {
-    if (&control != pressed) return;
-    pressed = nullptr;
+    if (&control != mouse_hold.pressed) return;
+    mouse_hold.pressed = nullptr;
     if (control.window->IsLoaded()) control.MouseUp.Raise(mouse);
 }
 

@@ -62,7 +62,7 @@ void BindWindowView(WindowView* view) {
 void ChangeActiveWindow() {
     Window* const next = Foremost();
     if (next == active) return;
-    SetOpenedPopup(nullptr);
+    mouse_hold.popup = nullptr;
     Window* const left = active;
     active = next;
     if (left) left->LeaveFocus();

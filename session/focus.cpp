@@ -4,10 +4,6 @@
 #include "session/state/sheet_state.h"
 #include "windows/main_window.h"
 
-namespace {
-int held_tab = 0;
-}  // namespace
-
 void RestFocus() {
     frmMain.FocusRest.SetFocus();
 }
@@ -34,11 +30,11 @@ void EnterCountCell(Mouse mouse) {
 }
 
 void HoldTab() {
-    held_tab = frmMain.BankTabs.Tab();
+    HeldTab = frmMain.BankTabs.Tab();
 }
 
 void ReturnTab() {
-    if (!AmendMode) frmMain.BankTabs.SetTab(held_tab);
+    if (!AmendMode) frmMain.BankTabs.SetTab(HeldTab);
     RestFocus();
 }
 

@@ -59,10 +59,10 @@ void CopyCellsToCounts() {
 void ShowPercentages() {
     if (!frmMain.KeysEnabled) return;  // by a second mouse button: the counts are held already
     frmMain.HoldNumbers();
-    SamplePercentages(CurrentSample);
+    const Shares shares = SamplePercentages(CurrentSample);
     frmMain.KeysEnabled = false;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        const float share = SamplePercent[slot][CurrentSample];
+        const float share = shares.fractions[slot];
         ShowCountOf(slot, share == kNoBasis ? 0 : ToOneDecimal(share * 100));
     }
     ShowTotalsInPercent();

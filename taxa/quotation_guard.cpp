@@ -24,8 +24,6 @@ constexpr GuardedKey kGuardedKeys[] = {
     {222, "'", "Caution!"},
 };
 
-bool key_awaits_text = false;  // a key went down in the box and has not changed it yet: what is pasted comes from no key
-
 void CutBeforeCaret(TextBox& box) {
     const std::string text = box.Text();
     const auto caret = static_cast<std::size_t>(box.SelStart());
@@ -37,20 +35,20 @@ void CutBeforeCaret(TextBox& box) {
 
 void EnterGuardedBox() {
     LastEditKey = kNoKey;
-    key_awaits_text = false;
+    EditKeyAwaitsText = false;
 }
 
 void NoteEditKey(int code) {
     LastEditKey = ToInteger(code);
-    key_awaits_text = true;
+    EditKeyAwaitsText = true;
 }
 
 void ForgetEditKey() {
-    key_awaits_text = false;
+    EditKeyAwaitsText = false;
 }
 
 bool IsTyped(const TextBox& box) {
-    return std::exchange(key_awaits_text, false) && box.SelStart() >= 1;
+    return std::exchange(EditKeyAwaitsText, false) && box.SelStart() >= 1;
 }
 
 void RefuseQuotationMark(TextBox& box) {

@@ -63,6 +63,26 @@ struct DiagramWindow : Window {
     bool MovingSample = false;        // the same, with the right button and named samples: the column goes along
     bool ConissDrawn = false;         // the tree is open and drawn
 
+    // The members that hold no control, as ForEachSheetVariable.
+    template <class Visit>
+    void ForEachVariable(Visit visit) {
+        visit("SelectedSample", SelectedSample);
+        visit("DiagramTop", DiagramTop);
+        visit("DiagramHeight", DiagramHeight);
+        visit("DiagramFormHeight", DiagramFormHeight);
+        visit("DiagramFormWidth", DiagramFormWidth);
+        visit("WidthMargin", WidthMargin);
+        visit("HeightMargin", HeightMargin);
+        visit("ScrollMargin", ScrollMargin);
+        visit("SliderMargin", SliderMargin);
+        visit("FrameMargin", FrameMargin);
+        visit("BandMargin", BandMargin);
+        visit("DiagramResizeGuard", DiagramResizeGuard);
+        visit("SliderDragging", SliderDragging);
+        visit("MovingSample", MovingSample);
+        visit("ConissDrawn", ConissDrawn);
+    }
+
     void SaveEOF() {}  // both empty: docs/quirks.md
     void SaveAllEOF() {}
 

@@ -1,5 +1,9 @@
 #include "windows/key_windows.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string>
+
 #include "platform/window_table.h"
 #include "windows/pad_places.h"
 
@@ -179,4 +183,5 @@ void KeyCodeWindow::ForgetMembers() {
     OldCode.clear();
     OldFunctional.clear();
     Characters.clear();
+    for (auto& row : SettingsAtOpening) std::fill(std::begin(row), std::end(row), Any());
 }

@@ -31,6 +31,12 @@ struct InitialWindow : Window {
 
     float AllKnown = 0;  // 1: the keyboard was known when the window came up
 
+    // The members that hold no control, as ForEachSheetVariable.
+    template <class Visit>
+    void ForEachVariable(Visit visit) {
+        visit("AllKnown", AllKnown);
+    }
+
 private:
     void LayKey(int key);
     void ForgetMembers() override { AllKnown = 0; }

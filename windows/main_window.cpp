@@ -335,6 +335,7 @@ void MainWindow::OfferNextSample() {
 
 void MainWindow::ForgetMembers() {
     FormLoaded = ChangingSample = KeysEnabled = false;
+    FileDialog.FileName.clear();
 }
 
 // ---- The progress bar ----

@@ -145,6 +145,16 @@ struct MainWindow : Window {
     std::int16_t HeldCounts[kSlots + 1] = {};  // the cells while they show percentages
     std::int16_t HeldTotals[3] = {};
 
+    // The members that hold no control, as ForEachSheetVariable.
+    template <class Visit>
+    void ForEachVariable(Visit visit) {
+        visit("FormLoaded", FormLoaded);
+        visit("ChangingSample", ChangingSample);
+        visit("KeysEnabled", KeysEnabled);
+        visit("HeldCounts", HeldCounts);
+        visit("HeldTotals", HeldTotals);
+    }
+
 private:
     void LayPad();
     void LaySlot(int slot);

@@ -1,5 +1,8 @@
 #include "windows/subtotal_window.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/window_table.h"
 #include "windows/pad_places.h"
 
@@ -53,4 +56,9 @@ void SubtotalWindow::LaySlot(int slot) {
         {Check1[slot], {"Check1", slot}, &bank, place, "", {.points = 8}, "Taxon"},
         {Command4[slot], {"Command4", slot}, &bank, place, "xxx", kHidden},
     });
+}
+
+void SubtotalWindow::ForgetMembers() {
+    Filling = false;
+    for (auto& flags : FlagsAtOpening) std::fill(std::begin(flags), std::end(flags), Any());
 }

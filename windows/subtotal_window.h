@@ -35,7 +35,7 @@ struct SubtotalWindow : Window {
 
 private:
     void LaySlot(int slot);
-    void ForgetMembers() override { Filling = false; }
+    void ForgetMembers() override;
 };
 
 extern SubtotalWindow frmSubtotal;

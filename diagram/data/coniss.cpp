@@ -8,29 +8,24 @@
 #include "diagram/data/sample_position.h"
 #include "windows/main_window.h"
 
-std::vector<ClusterVector> ConissData;
-std::vector<double> ConissDistance;
-std::vector<float> ConissPosition;
-std::vector<double> ConissHeight;
-std::vector<float> MergeUpper, MergeLower;
-std::vector<float> MergeHeight;
-std::int16_t ConissSkip;
-
 namespace {
 // The vectors of the samples and of all means, none of which is ever overwritten, and which of them a cluster has now. A merge then
 // moves a few numbers where it would have to move the vectors of all clusters below.
-std::vector<ClusterVector> vectors;
-std::vector<int> vector_of;  // [cluster]
+struct Clusters {
+    std::vector<ClusterVector> vectors;
+    std::vector<int> vector_of;  // [cluster]
+    const ClusterVector& operator[](int cluster) const { return vectors[vector_of[cluster]]; }
+};
 
-void BeginWithSamples() {
-    RestoreDiagramShares();
+Clusters SamplesAsClusters() {
+    ShowDiagramShares();
     const BasisWeights weights = WeightsOfBasis();
-    vectors.assign(2 * static_cast<std::size_t>(SampleCount), {});
+    Clusters clusters{std::vector<ClusterVector>(2 * static_cast<std::size_t>(SampleCount)), std::vector<int>(SampleCount + 1)};
     for (int slot = 1; slot <= kSlots; ++slot)
         for (int place = 1; place <= SampleCount; ++place)
-            vectors[place][slot] = static_cast<float>(weights[slot] * SamplePercent[RowOfSlot[slot]][place]);
-    vector_of.resize(SampleCount + 1);
-    for (int cluster = 1; cluster <= SampleCount; ++cluster) vector_of[cluster] = cluster;
+            clusters.vectors[place][slot] = static_cast<float>(weights[slot] * DiagramShares[RowOfSlot[slot]][place]);
+    for (int cluster = 1; cluster <= SampleCount; ++cluster) clusters.vector_of[cluster] = cluster;
+    return clusters;
 }
 
 void PlaceSamples() {
@@ -38,7 +33,7 @@ void PlaceSamples() {
     for (int place = 1; place <= SampleCount; ++place) ConissPosition[place] = positions.Y(place);
 }
 
-void Prepare() {
+Clusters Prepare() {
     const std::size_t size = static_cast<std::size_t>(SampleCount) + 1;
     ConissSkip = 0;
     ConissDistance.assign(size, 0);
@@ -47,13 +42,12 @@ void Prepare() {
     MergeUpper.assign(size, 0);
     MergeLower.assign(size, 0);
     MergeHeight.assign(size, 0);
-    BeginWithSamples();
+    Clusters clusters = SamplesAsClusters();
     PlaceSamples();
+    return clusters;
 }
 
-double SquaredDistance(int upper, int lower) {
-    const ClusterVector& a = vectors[vector_of[upper]];
-    const ClusterVector& b = vectors[vector_of[lower]];
+double SquaredDistance(const ClusterVector& a, const ClusterVector& b) {
     double sum = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
         const double difference = static_cast<double>(a[slot]) - b[slot];
@@ -87,42 +81,42 @@ float Mean(float a, float b) {
     return static_cast<float>((static_cast<double>(a) + b) / 2);
 }
 
-void JoinPair(int step, int upper) {
-    const ClusterVector& a = vectors[vector_of[upper]];
-    const ClusterVector& b = vectors[vector_of[upper + 1]];
+void JoinPair(Clusters& clusters, int step, int upper) {
+    const ClusterVector& a = clusters[upper];
+    const ClusterVector& b = clusters[upper + 1];
     const int place = SampleCount + step;
-    ClusterVector& mean = vectors[place];
+    ClusterVector& mean = clusters.vectors[place];
     for (int slot = 1; slot <= kSlots; ++slot) mean[slot] = Mean(a[slot], b[slot]);
-    vector_of[upper] = place;
+    clusters.vector_of[upper] = place;
     ConissPosition[upper] = Mean(ConissPosition[upper], ConissPosition[upper + 1]);
     ConissHeight[upper] = MergeHeight[step];
 }
 
 // Only the distances of the new cluster to its two neighbours have changed.
-void MeasureAgain(int upper, int last) {
-    if (upper != 1) ConissDistance[upper - 1] = SquaredDistance(upper - 1, upper);
-    if (upper != last) ConissDistance[upper] = SquaredDistance(upper, upper + 2);
+void MeasureAgain(const Clusters& clusters, int upper, int last) {
+    if (upper != 1) ConissDistance[upper - 1] = SquaredDistance(clusters[upper - 1], clusters[upper]);
+    if (upper != last) ConissDistance[upper] = SquaredDistance(clusters[upper], clusters[upper + 2]);
 }
 
 template <class T>
-void CloseGap(std::vector<T>& clusters, int upper, int last) {
-    std::copy(clusters.begin() + upper + 2, clusters.begin() + last + 2, clusters.begin() + upper + 1);
+void CloseGap(std::vector<T>& of_clusters, int upper, int last) {
+    std::copy(of_clusters.begin() + upper + 2, of_clusters.begin() + last + 2, of_clusters.begin() + upper + 1);
 }
 
-void Merge(int step, int last) {
+void Merge(Clusters& clusters, int step, int last) {
     const int upper = NearestPair(last);
     RecordMerge(step, upper);
-    JoinPair(step, upper);
-    MeasureAgain(upper, last);
-    CloseGap(vector_of, upper, last);
+    JoinPair(clusters, step, upper);
+    MeasureAgain(clusters, upper, last);
+    CloseGap(clusters.vector_of, upper, last);
     CloseGap(ConissPosition, upper, last);
     CloseGap(ConissDistance, upper, last);
     CloseGap(ConissHeight, upper, last);
 }
 
-void KeepVectors() {
+void KeepVectors(const Clusters& clusters) {
     ConissData.resize(static_cast<std::size_t>(SampleCount) + 1);
-    for (int cluster = 1; cluster <= SampleCount; ++cluster) ConissData[cluster] = vectors[vector_of[cluster]];
+    for (int cluster = 1; cluster <= SampleCount; ++cluster) ConissData[cluster] = clusters[cluster];
 }
 }  // namespace
 
@@ -132,11 +126,12 @@ int LastMerge() {
 
 void ComputeConiss() {
     const Busy busy(SampleCount);
-    Prepare();
-    for (int cluster = 1; cluster <= LastMerge(); ++cluster) ConissDistance[cluster] = SquaredDistance(cluster, cluster + 1);
+    Clusters clusters = Prepare();
+    for (int cluster = 1; cluster <= LastMerge(); ++cluster)
+        ConissDistance[cluster] = SquaredDistance(clusters[cluster], clusters[cluster + 1]);
     for (int step = 1; step <= LastMerge(); ++step) {
         frmMain.Progress.SetValue(step);
-        Merge(step, SampleCount - step - ConissSkip);
+        Merge(clusters, step, SampleCount - step - ConissSkip);
     }
-    KeepVectors();
+    KeepVectors(clusters);
 }

@@ -11,16 +11,30 @@
 using ClusterVector = std::array<float, kSlots + 1>;  // [slot]: its share, as a fraction, 0 outside the basis; [0] is 0
 
 // Of the last run; all begin at index 0, which is unused.
-extern std::vector<ClusterVector> ConissData;      // [cluster]
-extern std::vector<double> ConissDistance;         // [cluster]: to the cluster below it
-extern std::vector<float> ConissPosition;          // [cluster]: where it stands in the scale of the diagram
-extern std::vector<double> ConissHeight;           // [cluster]: 0 of a single sample
-extern std::vector<float> MergeUpper, MergeLower;  // [step]: positions of the two clusters joined, the last step being the root
-extern std::vector<float> MergeHeight;             // [step]
-extern std::int16_t ConissSkip;                    // last samples that are left out: always 0
+inline std::vector<ClusterVector> ConissData;  // [cluster]
+inline std::vector<double> ConissDistance;     // [cluster]: to the cluster below it
+inline std::vector<float> ConissPosition;      // [cluster]: where it stands in the scale of the diagram
+inline std::vector<double> ConissHeight;       // [cluster]: 0 of a single sample
+inline std::vector<float> MergeUpper;          // [step]: positions of the two clusters joined, the last step being the root
+inline std::vector<float> MergeLower;
+inline std::vector<float> MergeHeight;  // [step]
+inline std::int16_t ConissSkip;         // last samples that are left out: always 0
 
-// Fills the arrays above from SamplePercent, which ComputeDiagramData must have filled. Shows the progress bar while it runs. Raises
+// Fills the arrays above from DiagramShares, which ComputeDiagramData must have filled. Shows the progress bar while it runs. Raises
 // "Division by zero" if the first and the last sample have the same depth.
 void ComputeConiss();
 
 int LastMerge();  // the root's step
+
+// The variables above, as ForEachSheetVariable.
+template <class Visit>
+void ForEachClusterVariable(Visit visit) {
+    visit("ConissData", ConissData);
+    visit("ConissDistance", ConissDistance);
+    visit("ConissPosition", ConissPosition);
+    visit("ConissHeight", ConissHeight);
+    visit("MergeUpper", MergeUpper);
+    visit("MergeLower", MergeLower);
+    visit("MergeHeight", MergeHeight);
+    visit("ConissSkip", ConissSkip);
+}

@@ -8,24 +8,14 @@
 #include "session/state/sample_names.h"
 #include "windows/diagram_window.h"
 
-float SamplePercent[kSlots + 1][kColumns + 1];
-std::vector<std::int16_t> SampleRank;
-std::vector<std::int16_t> SampleAtRank;
-float ColumnOffset[kSlots + 2];
-std::int16_t ColumnGap;
-float LastColumnMax;
-std::string DiagramNames[kSlots + 1];
-
 namespace {
-bool shares_are_of_tables = false;  // SamplePercentages has run since ComputeDiagramData
-
-// Into Counts[0], for the samples `first`..`last`. Weights are whole numbers: the sums are exact.
-void SumOnBasis(int first, int last) {
+// Of all samples, into Counts[0]. Weights are whole numbers: the sums are exact.
+void SumOnBasis() {
     const BasisWeights weights = WeightsOfBasis();
     std::array<double, kColumns + 1> sums{};
     for (int slot = 1; slot <= kSlots; ++slot)
-        for (int sample = first; sample <= last; ++sample) sums[sample] += weights[slot] * Counts[slot][sample];
-    for (int sample = first; sample <= last; ++sample) Counts[0][sample] = ToLong(sums[sample]);
+        for (int sample = 1; sample <= SampleCount; ++sample) sums[sample] += weights[slot] * Counts[slot][sample];
+    for (int sample = 1; sample <= SampleCount; ++sample) Counts[0][sample] = ToLong(sums[sample]);
 }
 
 // What has no basis is `without_basis`.
@@ -61,17 +51,16 @@ void RankSamples() {
 }
 
 void FillFractions() {
-    shares_are_of_tables = false;
-    SumOnBasis(1, SampleCount);
+    SumOnBasis();
     for (int slot = 0; slot <= kSlots; ++slot)
         for (int sample = 1; sample <= SampleCount; ++sample)
-            SamplePercent[RowOfSlot[slot]][SampleRank[sample]] = ShareOf(Counts[slot][sample], Counts[0][sample], 0);
+            DiagramShares[RowOfSlot[slot]][SampleRank[sample]] = ShareOf(Counts[slot][sample], Counts[0][sample], 0);
 }
 
 // Of one row, not below 0. Several shares at a time: one after the other each would wait for the last.
 float LargestShare(int row) {
     constexpr int kLanes = 8;
-    const float* const share = SamplePercent[row];
+    const float* const share = DiagramShares[row];
     std::array<float, kLanes> largest{};
     int place = 1;
     for (; place + kLanes <= SampleCount + 1; place += kLanes)
@@ -91,14 +80,24 @@ void LayOutColumns() {
 }
 }  // namespace
 
-void SamplePercentages(std::int16_t sample) {
-    shares_are_of_tables = true;
-    SumOnBasis(sample, sample);
-    for (int slot = 0; slot <= kSlots; ++slot) SamplePercent[slot][sample] = ShareOf(Counts[slot][sample], Counts[0][sample], kNoBasis);
+Shares SharesOf(std::int16_t sample, const BasisWeights& basis) {
+    double sum = 0;
+    for (int slot = 1; slot <= kSlots; ++slot) sum += basis[slot] * Counts[slot][sample];
+    Shares shares{ToLong(sum), {}};
+    shares.fractions[0] = ShareOf(shares.sum, shares.sum, kNoBasis);
+    for (int slot = 1; slot <= kSlots; ++slot) shares.fractions[slot] = ShareOf(Counts[slot][sample], shares.sum, kNoBasis);
+    return shares;
 }
 
-void RestoreDiagramShares() {
-    if (shares_are_of_tables) FillFractions();
+Shares SamplePercentages(std::int16_t sample) {
+    const Shares shares = SharesOf(sample, WeightsOfBasis());
+    Counts[0][sample] = shares.sum;
+    for (int slot = 0; slot <= kSlots; ++slot) SamplePercent[slot][sample] = shares.fractions[slot];
+    return shares;
+}
+
+void ShowDiagramShares() {
+    for (int row = 0; row <= kSlots; ++row) std::copy(&DiagramShares[row][1], &DiagramShares[row][SampleCount + 1], &SamplePercent[row][1]);
 }
 
 double SetScrollRange(double units_in_view) {
@@ -114,6 +113,7 @@ void ComputeDiagramData() {
     ColumnGap = ToInteger(units_per_screen_unit * 10);
     RankSamples();
     FillFractions();
+    ShowDiagramShares();
     for (int slot = 1; slot <= kSlots; ++slot) DiagramNames[RowOfSlot[slot]] = TaxonTable[slot][4].Text();
     LayOutColumns();
     SetScrollRange(units_per_screen_unit * frmDiagram.Diagram.ScaleWidth());

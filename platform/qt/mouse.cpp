@@ -31,8 +31,6 @@ void MadeMouse::Send(QWidget& widget, QEvent::Type type, MouseButton button, QPo
 // ---- The pointer ----
 
 namespace {
-int shown = kPointerDefault;
-
 Qt::CursorShape Shape(int pointer) {
     switch (pointer) {
         case kPointerIBeam:
@@ -47,10 +45,10 @@ Qt::CursorShape Shape(int pointer) {
 }
 
 void Show(int pointer) {
-    if (pointer == shown) return;
-    if (shown != kPointerDefault) QGuiApplication::restoreOverrideCursor();
+    const QCursor* const shown = QGuiApplication::overrideCursor();
+    if (pointer == kPointerDefault ? !shown : shown && shown->shape() == Shape(pointer)) return;
+    if (shown) QGuiApplication::restoreOverrideCursor();
     if (pointer != kPointerDefault) QGuiApplication::setOverrideCursor(Shape(pointer));
-    shown = pointer;
 }
 }  // namespace
 

@@ -14,84 +14,184 @@
 
 // ---- The sheet ----
 
-extern Any SheetHeader[15];                         // header cells 6..9 and 11..14 of the file's first two rows; the others unused
-extern Any SampleTable[3][kColumns + 1];            // [1][j] Serial No., [2][j] name; row 0: the names as the diagram took them up
+inline Any SheetHeader[15];                         // header cells 6..9 and 11..14 of the file's first two rows; the others unused
+inline Any SampleTable[3][kColumns + 1];            // [1][j] Serial No., [2][j] name; row 0: the names as the diagram took them up
 constexpr int kSubtotalFlags[kSubtotals] = {2, 3};  // columns of TaxonTable: of Subtotal-1, of Subtotal-2
-extern Any TaxonTable[kSlots + 1][5];  // [s][0] sheet row, [1] key index, [2], [3] subtotal flags, [4] name; row 0: [2], [3] totals on show
-extern std::int32_t Counts[kSlots + 1][kColumns + 1];  // [slot][sample], may be negative; [0][j]: sum of sample j on the percent basis
-extern std::string SampleNotes[kColumns + 1];          // [0] unused
-extern Any SheetFooter[5];                             // four closing cells 1..4; [0] unused
-extern std::string ParamHeader[kParams + 1][5];        // [p][4] name, [p][1..3] the cells before the values; index 0 unused
-extern Any ParamValues[kParams + 1][kColumns + 1];     // [p][sample]; index 0 unused
-extern std::int32_t AllTotal;                          // sum of the count cells of the sample on show
-extern std::int16_t SampleCount;                       // 0 before the main window is loaded, then 1 and more
-extern std::int16_t CurrentSample;                     // the column on show and counted on
-extern std::int16_t MaxSerial;                         // largest Serial No., 0 if there is none
-extern std::string SheetPath;                          // empty until the first save or open
+inline Any TaxonTable[kSlots + 1][5];  // [s][0] sheet row, [1] key index, [2], [3] subtotal flags, [4] name; row 0: [2], [3] totals on show
+inline std::int32_t Counts[kSlots + 1][kColumns + 1];  // [slot][sample], may be negative; [0][j]: sum of sample j on the percent basis
+inline std::string SampleNotes[kColumns + 1];          // [0] unused
+inline Any SheetFooter[5];                             // four closing cells 1..4; [0] unused
+inline std::string ParamHeader[kParams + 1][5];        // [p][4] name, [p][1..3] the cells before the values; index 0 unused
+inline Any ParamValues[kParams + 1][kColumns + 1];     // [p][sample]; index 0 unused
+inline std::int32_t AllTotal;                          // sum of the count cells of the sample on show
+inline std::int16_t SampleCount;                       // 0 before the main window is loaded, then 1 and more
+inline std::int16_t CurrentSample;                     // the column on show and counted on
+inline std::int16_t MaxSerial;                         // largest Serial No., 0 if there is none
+inline std::string SheetPath;                          // empty until the first save or open
 
 // ---- As read from a file: the order of its rows and columns ----
 
-extern std::int16_t KeyIndex[kSlots + 1];      // slot of sheet row r; [0] unused
-extern std::int16_t RowOfSlot[kSlots + 1];     // the inverse; [0] is 0: the data mark of the diagram goes to row 0
-extern std::int32_t RowSubtotal1[kSlots + 1];  // flags of sheet row r as read
-extern std::int32_t RowSubtotal2[kSlots + 1];
-extern std::string RowNames[kSlots + 1];  // taxon name of sheet row r as read
-extern std::string SampleNamesRead[kColumns + 1];
-extern std::int16_t SerialOfColumn[kColumns + 1];
-extern std::int16_t ColumnOfSerial[kColumns + 1];
+inline std::int16_t KeyIndex[kSlots + 1];      // slot of sheet row r; [0] unused
+inline std::int16_t RowOfSlot[kSlots + 1];     // the inverse; [0] is 0: the data mark of the diagram goes to row 0
+inline std::int32_t RowSubtotal1[kSlots + 1];  // flags of sheet row r as read
+inline std::int32_t RowSubtotal2[kSlots + 1];
+inline std::string RowNames[kSlots + 1];  // taxon name of sheet row r as read
+inline std::string SampleNamesRead[kColumns + 1];
 
 // ---- The snapshot that Reset and Quit go back to ----
 
-extern std::vector<std::array<std::int32_t, kSlots + 1>> CountsAtOpen;  // [sample][slot]; as many samples as at the snapshot
-extern Any TaxonTableAtOpen[kSlots + 1][5];                             // columns 1..4
-extern Any ParamValuesAtOpen[kParams + 1][kColumns + 1];                // [p][0]: the caption of the parameter
+inline std::vector<std::array<std::int32_t, kSlots + 1>> CountsAtOpen;  // [sample][slot]; as many samples as at the snapshot
+inline Any TaxonTableAtOpen[kSlots + 1][5];                             // columns 1..4
+inline Any ParamValuesAtOpen[kParams + 1][kColumns + 1];                // [p][0]: the caption of the parameter
 
 // ---- The curve of taxa seen against grains counted ----
 
-extern std::int16_t TaxaSeen;                     // taxa of the sample on show whose count is not 0
-extern std::int16_t DiversityLength;              // the total of the sample on show: last index of the curve
-extern std::vector<std::int16_t> DiversityCurve;  // [total]: ten times the taxa seen when it was passed; 0 where it was not seen
+inline std::int16_t TaxaSeen;                     // taxa of the sample on show whose count is not 0
+inline std::int16_t DiversityLength;              // the total of the sample on show: last index of the curve
+inline std::vector<std::int16_t> DiversityCurve;  // [total]: ten times the taxa seen when it was passed; 0 where it was not seen
 
 // ---- Keys and sounds ----
 
-extern Any KeySettings[63][3];  // [row][0] definition, [1] key code, [2] key number; rows as in the key settings file
-extern std::int16_t Shift1Code;
-extern std::int16_t Shift2Code;
-extern std::int16_t UndoKeyCode;
-extern bool KeySettingsLoaded;          // False: the built-in keys serve
-extern float KeyboardKnown;             // 1, or 0 while the twelve named keys have not been recognised
-extern std::int16_t KeyTop[kKeys + 1];  // where place i of the pad lies, in twips; [0] unused
-extern std::int16_t KeyLeft[kKeys + 1];
-extern Wave WaveKey1, WaveKey2, WaveKey3, WaveOpening, WaveUndo, WaveSave, WaveAlarm, WaveError;
+inline Any KeySettings[63][3];  // [row][0] definition, [1] key code, [2] key number; rows as in the key settings file
+inline std::int16_t Shift1Code;
+inline std::int16_t Shift2Code;
+inline std::int16_t UndoKeyCode;
+inline bool KeySettingsLoaded;          // False: the built-in keys serve
+inline float KeyboardKnown;             // 1, or 0 while the twelve named keys have not been recognised
+inline std::int16_t KeyTop[kKeys + 1];  // where place i of the pad lies, in twips; [0] unused
+inline std::int16_t KeyLeft[kKeys + 1];
+inline Wave WaveKey1{"WaveKey1", {}};
+inline Wave WaveKey2{"WaveKey2", {}};
+inline Wave WaveKey3{"WaveKey3", {}};
+inline Wave WaveOpening{"WaveOpening", {}};
+inline Wave WaveUndo{"WaveUndo", {}};
+inline Wave WaveSave{"WaveSave", {}};
+inline Wave WaveAlarm{"WaveAlarm", {}};
+inline Wave WaveError{"WaveError", {}};
 
 // ---- The session ----
 
-extern bool SoundOn;             // False: silence, and neither alarm nor back-up while counting
-extern bool SheetClean;          // no counting key or edit since start or open
-extern bool SampleUntouched;     // no key since start or open
-extern bool AmendMode;           // Modify mode: keys do not count, the cells are open for editing
-extern std::int16_t ShiftLevel;  // active bank, 0..2
-extern bool Shift1Down;
-extern bool Shift2Down;
-extern std::int16_t UndoKeyState;   // 0 up; 1 down, no counter key since; 2 and more: counter keys were pressed while it was held
-extern bool ReverseCount;           // the key that is being processed subtracts
-extern std::int16_t RepeatKeyCode;  // always 0
-extern std::int16_t UndoList[kUndoDepth + 1][2];  // newest at 0: [i][0] sample, [i][1] slot, negative for a reverse count, 0: empty
-extern std::int16_t LastSlot;                     // the slot that carries the highlight; 0: none
-extern std::vector<std::string> HistoryLog;       // [0] is a time stamp
-extern std::int16_t HistoryCount;                 // last index of HistoryLog
-extern bool AlarmArmed;                           // the alarm may sound at the next full hundred
-extern bool WarnOldSample;                        // a counting key on an old sample asks first
-extern std::int16_t SelectedSlot;                 // source of a move
-extern std::string EditedValue;                   // text of a cell when it got the focus
-extern std::int16_t LastEditKey;                  // last key pressed in a guarded box, 9999 since it got the focus
-extern float CountAtMouseDown;                    // value of a count box at the last mouse press in it
-extern std::int16_t MoveFrom;                     // source and target column of MoveSampleColumn
-extern std::int16_t MoveTo;
-extern bool DiagramOpen;
-extern std::int16_t SaveOutcome;  // 0 at load, 1 while the main window closes, 2 after a save that was cancelled or failed
-extern bool SaveAsPending;        // the next Save as takes the sheet to its new file
-extern bool TemplateOpened;       // the file that was opened has no samples
-extern std::int16_t BackupSlot;   // 99: the next back-up is the master; -1: it was just written; 0..9: the last ring file
-extern bool SampleNamesAreText;   // some sample name is not just a number
-extern std::int16_t FileVersion;  // layout of the file that was opened: 1 or 2
+inline bool SoundOn;             // False: silence, and neither alarm nor back-up while counting
+inline bool SheetClean;          // no counting key or edit since start or open
+inline bool SampleUntouched;     // no key since start or open
+inline bool AmendMode;           // Modify mode: keys do not count, the cells are open for editing
+inline std::int16_t ShiftLevel;  // active bank, 0..2
+inline bool Shift1Down;
+inline bool Shift2Down;
+inline std::int16_t UndoKeyState;  // 0 up; 1 down, no counter key since; 2 and more: counter keys were pressed while it was held
+inline bool ReverseCount;          // the key that is being processed subtracts
+inline std::int16_t UndoList[kUndoDepth + 1][2];  // newest at 0: [i][0] sample, [i][1] slot, negative for a reverse count, 0: empty
+inline std::int16_t LastSlot;                     // the slot that carries the highlight; 0: none
+inline std::vector<std::string> HistoryLog;       // [0] is a time stamp
+inline std::int16_t HistoryCount;                 // last index of HistoryLog
+inline bool AlarmArmed;                           // the alarm may sound at the next full hundred
+inline bool WarnOldSample;                        // a counting key on an old sample asks first
+inline std::int16_t SelectedSlot;                 // source of a move
+inline std::string EditedValue;                   // text of a cell when it got the focus
+inline std::int16_t LastEditKey;                  // last key pressed in a guarded box, 9999 since it got the focus
+inline float CountAtMouseDown;                    // value of a count box at the last mouse press in it
+inline std::int16_t MoveFrom;                     // source and target column of MoveSampleColumn
+inline std::int16_t MoveTo;
+inline bool DiagramOpen;
+inline std::int16_t SaveOutcome;  // 0 at load, 1 while the main window closes, 2 after a save that was cancelled or failed
+inline bool SaveAsPending;        // the next Save as takes the sheet to its new file
+inline bool TemplateOpened;       // the file that was opened has no samples
+inline std::int16_t BackupSlot;   // 99: the next back-up is the master; -1: it was just written; 0..9: the last ring file
+inline bool SampleNamesAreText;   // some sample name is not just a number
+inline std::int16_t FileVersion;  // layout of the file that was opened: 1 or 2
+
+// ---- For scripts alone: nothing in the program reads these, or they are always 0; SampleAtRank, ConissData, ConissSkip are others ----
+
+inline std::int16_t SerialOfColumn[kColumns + 1];  // as read from a file
+inline std::int16_t ColumnOfSerial[kColumns + 1];  // the inverse
+inline std::int16_t RepeatKeyCode;                 // always 0
+
+// ---- From one event to the next: no script reads these ----
+
+inline int HeldTab;             // the bank that was in front when the mouse went down on the tabs
+inline bool EditKeyAwaitsText;  // LastEditKey went down in its box and has not changed it yet: what is pasted comes from no key
+
+// Every variable above, with its name: for scripts, which read them by name, and for tests, which put them back to what they are when the
+// program starts: 0, false, empty, a wave without its bytes.
+template <class Visit>
+void ForEachSheetVariable(Visit visit) {
+    visit("SheetHeader", SheetHeader);
+    visit("SampleTable", SampleTable);
+    visit("TaxonTable", TaxonTable);
+    visit("Counts", Counts);
+    visit("SampleNotes", SampleNotes);
+    visit("SheetFooter", SheetFooter);
+    visit("ParamHeader", ParamHeader);
+    visit("ParamValues", ParamValues);
+    visit("AllTotal", AllTotal);
+    visit("SampleCount", SampleCount);
+    visit("CurrentSample", CurrentSample);
+    visit("MaxSerial", MaxSerial);
+    visit("SheetPath", SheetPath);
+    visit("KeyIndex", KeyIndex);
+    visit("RowOfSlot", RowOfSlot);
+    visit("RowSubtotal1", RowSubtotal1);
+    visit("RowSubtotal2", RowSubtotal2);
+    visit("RowNames", RowNames);
+    visit("SampleNamesRead", SampleNamesRead);
+    visit("CountsAtOpen", CountsAtOpen);
+    visit("TaxonTableAtOpen", TaxonTableAtOpen);
+    visit("ParamValuesAtOpen", ParamValuesAtOpen);
+    visit("TaxaSeen", TaxaSeen);
+    visit("DiversityLength", DiversityLength);
+    visit("DiversityCurve", DiversityCurve);
+    visit("KeySettings", KeySettings);
+    visit("Shift1Code", Shift1Code);
+    visit("Shift2Code", Shift2Code);
+    visit("UndoKeyCode", UndoKeyCode);
+    visit("KeySettingsLoaded", KeySettingsLoaded);
+    visit("KeyboardKnown", KeyboardKnown);
+    visit("KeyTop", KeyTop);
+    visit("KeyLeft", KeyLeft);
+    visit("SoundOn", SoundOn);
+    visit("SheetClean", SheetClean);
+    visit("SampleUntouched", SampleUntouched);
+    visit("AmendMode", AmendMode);
+    visit("ShiftLevel", ShiftLevel);
+    visit("Shift1Down", Shift1Down);
+    visit("Shift2Down", Shift2Down);
+    visit("UndoKeyState", UndoKeyState);
+    visit("ReverseCount", ReverseCount);
+    visit("UndoList", UndoList);
+    visit("LastSlot", LastSlot);
+    visit("HistoryLog", HistoryLog);
+    visit("HistoryCount", HistoryCount);
+    visit("AlarmArmed", AlarmArmed);
+    visit("WarnOldSample", WarnOldSample);
+    visit("SelectedSlot", SelectedSlot);
+    visit("EditedValue", EditedValue);
+    visit("LastEditKey", LastEditKey);
+    visit("CountAtMouseDown", CountAtMouseDown);
+    visit("MoveFrom", MoveFrom);
+    visit("MoveTo", MoveTo);
+    visit("DiagramOpen", DiagramOpen);
+    visit("SaveOutcome", SaveOutcome);
+    visit("SaveAsPending", SaveAsPending);
+    visit("TemplateOpened", TemplateOpened);
+    visit("BackupSlot", BackupSlot);
+    visit("SampleNamesAreText", SampleNamesAreText);
+    visit("FileVersion", FileVersion);
+    visit("SerialOfColumn", SerialOfColumn);
+    visit("ColumnOfSerial", ColumnOfSerial);
+    visit("RepeatKeyCode", RepeatKeyCode);
+}
+
+// The same for those that no script reads.
+template <class Visit>
+void ForEachHiddenSheetVariable(Visit visit) {
+    visit("WaveKey1", WaveKey1);
+    visit("WaveKey2", WaveKey2);
+    visit("WaveKey3", WaveKey3);
+    visit("WaveOpening", WaveOpening);
+    visit("WaveUndo", WaveUndo);
+    visit("WaveSave", WaveSave);
+    visit("WaveAlarm", WaveAlarm);
+    visit("WaveError", WaveError);
+    visit("HeldTab", HeldTab);
+    visit("EditKeyAwaitsText", EditKeyAwaitsText);
+}

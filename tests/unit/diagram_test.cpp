@@ -3,12 +3,9 @@
 #include "drive/drawn.h"
 #include "platform/user.h"
 #include "session/sample_on_show.h"
-#include "windows/diagram_window.h"
 #include "windows/main_window.h"
 
 DiagramTest::DiagramTest() {
-    frmDiagram.DiagramFormWidth = frmDiagram.DiagramFormHeight = 0;  // of an earlier test
-    MoveFrom = MoveTo = 0;
     Begin("10");
 }
 

@@ -162,6 +162,17 @@ TEST_F(DrawDiagramTest, SharesOfAPercentageTableDoNotShowInTheDiagram) {
     EXPECT_EQ(SamplePercent[1][2], 1.0F);
 }
 
+TEST_F(DrawDiagramTest, ThePercentButtonDoesNotBringACountIntoTheDiagram) {
+    Sheet({"20", "10"}, {{1, 1}, {1}});
+    Open(frmMain.mnuBar);
+    Counts[2][1] = 0;  // as an undo leaves it, until the next key
+    PressMouse(frmMain.Command6, {MouseButton::Left, 0, 0});
+    ReleaseMouse(frmMain.Command6, {MouseButton::Left, 0, 0});
+    EXPECT_EQ(SamplePercent[2][1], 0.0F);
+    frmDiagram.HScroll1.SetValue(1);
+    EXPECT_EQ(SamplePercent[2][2], 0.5F);
+}
+
 TEST_F(DrawDiagramTest, ThePointerAndTheBarAreGivenBack) {
     Open(frmMain.mnuBar);
     EXPECT_EQ(MousePointer, kPointerDefault);

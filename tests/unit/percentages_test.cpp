@@ -112,7 +112,7 @@ TEST_F(PercentagesTest, TheLargestShareOfARowIsFoundWhereverItStandsAndNowhereEl
                 Counts[1][sample] = sample == largest ? 3 : 2;
                 Counts[2][sample] = sample == largest ? 1 : 2;
             }
-            std::fill(&SamplePercent[1][samples + 1], std::end(SamplePercent[1]), 9.0F);  // what a longer sheet has left behind
+            std::fill(&DiagramShares[1][samples + 1], std::end(DiagramShares[1]), 9.0F);  // what a longer sheet has left behind
             ComputeDiagramData();
             ASSERT_EQ(ColumnOffset[2], 5 + 75 + ColumnGap) << "place " << largest << " of " << samples;
         }
@@ -147,7 +147,7 @@ TEST_F(PercentagesTest, ASampleWhoseBasisIs0HasNoSharesAndNoDataMark) {
     Counts[2][3] = 1;
     TaxonTable[2][2] = TaxonTable[3][2] = 1;
     frmMain.Option1[1].SetValue(true);
-    SamplePercent[1][1] = SamplePercent[0][1] = 9;  // of an earlier run
+    DiagramShares[1][1] = DiagramShares[0][1] = 9;  // of an earlier run
     ComputeDiagramData();
     for (const int place : {1, 2})
         for (int row = 0; row <= kSlots; ++row) EXPECT_EQ(SamplePercent[row][place], 0.0F) << place << ", row " << row;

@@ -8,10 +8,6 @@
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
-SheetTest::SheetTest() {
-    frmMain.CommonDialog1.FileName.clear();  // of an earlier test
-}
-
 void SheetTest::TearDown() {
     EXPECT_EQ(services_.messages.unanswered, "");
     EXPECT_EQ(services_.dialogs.unanswered, "");

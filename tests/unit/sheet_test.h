@@ -9,8 +9,6 @@ using Texts = std::vector<std::string>;
 
 class SheetTest : public ProgramTest {
 protected:
-    SheetTest();
-
     // As the installed key settings have them.
     static constexpr int kShift1 = 186;
     static constexpr int kShift2 = 80;

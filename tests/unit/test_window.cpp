@@ -51,6 +51,7 @@ void Forget(Control& control) {
 }  // namespace
 
 void ForgetTestWindows() {
+    mouse_hold = {};
     for (TestWindow* window : {&window_a, &window_b, &window_c}) {
         for (Event<>* event : {&window->Loaded, &window->Unloading, &window->Activated, &window->FrameClosed, &window->Resized})
             event->Calls({});

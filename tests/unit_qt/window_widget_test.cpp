@@ -19,7 +19,7 @@
 namespace {
 class WindowWidgetTest : public OnScreenTest {
 protected:
-    explicit WindowWidgetTest(double density = 1) : OnScreenTest(density) { frmDiagram.DiagramFormHeight = 0; }  // no size of the last test
+    explicit WindowWidgetTest(double density = 1) : OnScreenTest(density) {}
 
     WindowWidget& Widget(const Window& window) const { return *renderer_.WidgetOf(window); }
     static QRect Room(const QWidget& widget) { return widget.screen()->availableGeometry(); }
