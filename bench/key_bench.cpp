@@ -25,7 +25,7 @@ void PressKeys(benchmark::State& state) {
     int key = 0;
     for (auto _ : state) {
         key = key % kKeys + 1;
-        const int code = static_cast<int>(KeySettings[key][1].Number());
+        const int code = static_cast<int>(KeySettings[key][kKeyCode].Number());
         const auto begin = Clock::now();
         DispatchKeyDown(code);
         DispatchKeyUp(code);

@@ -28,7 +28,7 @@ void ReadSheet(benchmark::State& state) {
     const std::string bytes = TheProgram().files.bytes[SheetOf(Samples(state))];
     for (auto _ : state) {
         CellReader cells(DecodeFile(bytes));
-        SheetHeader[6] = cells.Next();
+        SheetHeader[kHeaderPath] = cells.Next();
         GridRead read;
         ReadGrid(cells, read, [](int) {});
         ShowSheet(read);

@@ -53,8 +53,8 @@ void NameTaxonAt(float x) {
     const double scale = HorizontalScale();
     for (int row = 1; row <= kSlots; ++row)
         if (scale * ColumnOffset[row] < x && scale * ColumnOffset[row + 1] > x)
-            frmDiagram.Diagram.SetToolTip(TaxonTable[KeyIndex[row]][4].Text());
-    if (x > ColumnOffset[kSlots]) frmDiagram.Diagram.SetToolTip(TaxonTable[kSlots][4].Text());
+            frmDiagram.Diagram.SetToolTip(TaxonTable[KeyIndex[row]][kTaxonName].Text());
+    if (x > ColumnOffset[kSlots]) frmDiagram.Diagram.SetToolTip(TaxonTable[kSlots][kTaxonName].Text());
 }
 
 bool IsOnSampleLine(float y) {

@@ -41,21 +41,21 @@ void FollowSamples() {
     for (int p = 1; p <= kParams; ++p) MoveInRow(ParamValuesAtOpen[p]);
     CurrentSample = MovedPlace(CurrentSample);
     for (auto& entry : UndoList)
-        if (entry[1] != 0) entry[0] = MovedPlace(entry[0]);
+        if (entry[kUndoSlot] != 0) entry[kUndoSample] = MovedPlace(entry[kUndoSample]);
 }
 
 void RefillSampleList() {
     ComboBox& list = frmMain.SampleList;
-    const std::string shown = CurrentSample == MoveTo ? SampleTable[2][MoveTo].Text() : list.Text();
+    const std::string shown = CurrentSample == MoveTo ? SampleTable[kSampleName][MoveTo].Text() : list.Text();
     list.Clear();
-    for (int sample = 1; sample <= SampleCount; ++sample) list.AddItem(SampleTable[2][sample].Text());
+    for (int sample = 1; sample <= SampleCount; ++sample) list.AddItem(SampleTable[kSampleName][sample].Text());
     list.SetText(shown);
 }
 }  // namespace
 
 void MoveSampleColumnUnseen() {
     if (MoveFrom == MoveTo) return;
-    for (const int row : {1, 2}) MoveInRow(SampleTable[row]);
+    for (const int row : {kSampleSerial, kSampleName}) MoveInRow(SampleTable[row]);
     for (int slot = 1; slot <= kSlots; ++slot) {
         MoveCounts(slot);
         MoveInRow(SamplePercent[slot]);

@@ -28,7 +28,7 @@ void NameBasisItems() {
 
 // The heights of the samples go by the names as they are now; a later rename waits for the next load.
 void TakeUpNames() {
-    for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[0][sample] = SampleTable[2][sample];
+    for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[kSampleNameDrawn][sample] = SampleTable[kSampleName][sample];
 }
 
 void TakeUpSamples() {

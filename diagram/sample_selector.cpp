@@ -35,7 +35,7 @@ void DrawSampleMarker() {
 
 void PlaceSampleSelector() {
     const int sample = frmDiagram.SampleSlider.Value();
-    const std::string name = SampleTable[2][sample].Text();
+    const std::string name = SampleTable[kSampleName][sample].Text();
     frmDiagram.SampleLine.SetCaption(name);
     frmDiagram.SampleList.SetText(name);
     frmDiagram.Selector.SetTop(frmDiagram.Diagram.Top() + SelectorHeight(sample) - 300);
@@ -60,7 +60,7 @@ void SelectChosenSample() {
     const std::string chosen = frmDiagram.SampleList.Text();
     int sample = frmDiagram.SelectedSample;
     for (int each = 1; each <= SampleCount; ++each)
-        if (SampleTable[2][each] == std::string_view(chosen)) sample = each;
+        if (SampleTable[kSampleName][each] == std::string_view(chosen)) sample = each;
     frmDiagram.SampleSlider.SetValue(sample);
     frmDiagram.SampleArrows.SetFocus();
 }
@@ -68,6 +68,6 @@ void SelectChosenSample() {
 void FillSampleList() {
     ComboBox& list = frmDiagram.SampleList;
     list.Clear();
-    for (int sample = 1; sample <= SampleCount; ++sample) list.AddItem(SampleTable[2][sample].Text());
-    list.SetText(SampleTable[2][frmDiagram.SampleSlider.Value()].Text());
+    for (int sample = 1; sample <= SampleCount; ++sample) list.AddItem(SampleTable[kSampleName][sample].Text());
+    list.SetText(SampleTable[kSampleName][frmDiagram.SampleSlider.Value()].Text());
 }

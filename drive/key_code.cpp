@@ -28,7 +28,7 @@ std::optional<int> RowOf(const std::string& word) {
 int HeldCode(const std::string& word) {
     const auto row = RowOf(word);
     if (!row) throw ScriptFault("unknown key " + word + " (known: @1 to @45, @shift1, @shift2, @undo, @save)");
-    const Any& code = KeySettings[*row][1];
+    const Any& code = KeySettings[*row][kKeyCode];
     if (code.Text().empty()) throw ScriptFault("the program holds no key settings yet that give " + word + " a code");
     constexpr double kLargestCode = 65535;
     const double number = code.Number();

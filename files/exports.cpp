@@ -25,7 +25,7 @@ void WriteTemplate(CellWriter& cells, const Busy& busy) {
     }
     WriteParamRows(cells, kNoSamples);
     WriteNoteRow(cells, kNoSamples);
-    for (const Any& label : {SheetHeader[12], SheetHeader[13], Any("All total")}) {
+    for (const Any& label : {SheetHeader[kHeaderSubtotal1], SheetHeader[kHeaderSubtotal2], Any("All total")}) {
         WriteSumLabels(cells, label);
         cells.EndRow();
     }

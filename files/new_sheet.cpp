@@ -34,8 +34,8 @@ void NameFirstSample() {
     if (box.Text().empty()) box.SetText(std::string("1: ") + kEmpty);
     const std::string name = box.Text();
     ShowNewSampleName(name);
-    SampleTable[1][1] = 1;
-    SampleTable[2][1] = name;
+    SampleTable[kSampleSerial][1] = 1;
+    SampleTable[kSampleName][1] = name;
 }
 
 void EmptyFirstSample() {
@@ -47,7 +47,7 @@ void EmptyFirstSample() {
 
 void ShowFirstSample() {
     CurrentSample = 1;
-    frmMain.SerialNumber.SetCaption(SampleTable[1][1].Text() + "/1");
+    frmMain.SerialNumber.SetCaption(SampleTable[kSampleSerial][1].Text() + "/1");
     ShowZeroTotals();
 }
 }  // namespace
@@ -70,11 +70,11 @@ void LoadSiteNameWindow() {
 }
 
 void StoreFirstSampleName() {
-    SampleTable[2][CurrentSample] = frmSiteName.SampleName.Text();
+    SampleTable[kSampleName][CurrentSample] = frmSiteName.SampleName.Text();
 }
 
 void AcceptFirstSample() {
-    SheetHeader[6] = frmSiteName.SampleName.Text();
+    SheetHeader[kHeaderPath] = frmSiteName.SampleName.Text();
     NameSheetInTitle("Marlbrook 2.7");
     NameFirstSample();
     EmptyFirstSample();

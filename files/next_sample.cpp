@@ -25,14 +25,14 @@ constexpr double kUnnamedValue = -9999;
 
 bool IsNameTaken(const std::string& name) {
     for (int sample = 1; sample <= SampleCount; ++sample)
-        if (SampleTable[2][sample] == std::string_view(name)) return true;
+        if (SampleTable[kSampleName][sample] == std::string_view(name)) return true;
     return false;
 }
 
 // A fresh sheet has a first sample that waits for its name; every later one gets a column.
 void MakeColumn() {
     MaxSerial = LargestSerial();
-    if (SampleTable[2][1] == kUnnamedValue) return;
+    if (SampleTable[kSampleName][1] == kUnnamedValue) return;
     if (SampleCount == kColumns) throw Failure(kSubscriptOutOfRange);  // a file may bring more than kSampleLimit
     MaxSerial = ToInteger(MaxSerial + 1);
     CurrentSample = ++SampleCount;
@@ -44,8 +44,8 @@ std::string NameNewSample() {
     if (frmNext.SampleName.Text().empty()) frmNext.SampleName.SetText(std::to_string(SampleCount) + ": " + kEmpty);
     std::string name = frmNext.SampleName.Text();
     ShowNewSampleName(name);
-    SampleTable[1][SampleCount] = MaxSerial;
-    SampleTable[2][SampleCount] = name;
+    SampleTable[kSampleSerial][SampleCount] = MaxSerial;
+    SampleTable[kSampleName][SampleCount] = name;
     return name;
 }
 
@@ -62,7 +62,7 @@ void SnapshotWithNewColumn() {
 // Where the new name belongs among numeric names in order.
 std::int16_t PlaceByValue(double value) {
     for (std::int16_t sample = 1; sample < SampleCount; ++sample)
-        if (SampleTable[2][sample].Number() > value) return sample;
+        if (SampleTable[kSampleName][sample].Number() > value) return sample;
     return SampleCount;
 }
 

@@ -53,9 +53,9 @@ void MakeColumnOfTemplate() {
     TemplateOpened = SampleCount == 0;
     if (!TemplateOpened) return;
     SampleCount = CurrentSample = MaxSerial = 1;
-    SampleTable[1][1] = 1;
+    SampleTable[kSampleSerial][1] = 1;
     ShowSerial();
-    SampleTable[2][1] = frmMain.SampleName.Text();
+    SampleTable[kSampleName][1] = frmMain.SampleName.Text();
 }
 
 void EmptyAndHide(ProgressBar& bar) {
@@ -94,7 +94,7 @@ void ForgetUndos() {
 
 void ShowParams() {
     if (FileVersion != 2) return;
-    for (int p = 1; p <= kParams; ++p) ShowParam(p, ParamHeader[p][4], ParamValues[p][SampleCount].Text());
+    for (int p = 1; p <= kParams; ++p) ShowParam(p, ParamHeader[p][kParamName], ParamValues[p][SampleCount].Text());
 }
 
 void ShowOpenedSheet(ProgressBar& bar) {
@@ -138,7 +138,7 @@ void ReadRest(CellReader& cells) {
     if (TemplateOpened) {
         frmSiteName.Load();
         for (int p = 1; p <= kParams; ++p)  // an older file has no names: those on the screen go on
-            frmSiteName.ParamNames[p].SetCaption(FileVersion > 1 ? ParamHeader[p][4]
+            frmSiteName.ParamNames[p].SetCaption(FileVersion > 1 ? ParamHeader[p][kParamName]
                                                                  : WithoutTrailingColon(frmMain.ParamNames[p].Caption()));
     }
     ReadNotes(cells);
@@ -151,7 +151,7 @@ bool ReadFile(const std::string& path, ProgressBar& bar) {
     SheetPath = path;
     bar.SetVisible(true);
     ClearCounts();
-    SheetHeader[6] = cells.Next();
+    SheetHeader[kHeaderPath] = cells.Next();
     NameSheetInTitle(Left(frmMain.Title(), kLongTitleLength));
     ReadAndShowGrid(cells, bar);
     if (const std::optional<int> repeated = RepeatedKeyIndex()) {

@@ -32,7 +32,7 @@ SubtotalSums SumSamples() {
     SubtotalSums sums;
     for (auto& row : sums) row.resize(SampleCount + 1);
     for (int slot = 1; slot <= kSlots; ++slot) {
-        const double weights[3] = {1, TaxonTable[slot][2].Number(), TaxonTable[slot][3].Number()};
+        const double weights[3] = {1, TaxonTable[slot][kTaxonSubtotal1].Number(), TaxonTable[slot][kTaxonSubtotal2].Number()};
         for (int which = 0; which < 3; ++which) {
             if (weights[which] == 0) continue;
             for (int sample = 1; sample <= SampleCount; ++sample)
@@ -99,7 +99,7 @@ Any ShareOfBasis(std::int16_t sum, std::int16_t basis_sum, bool is_basis) {
 }
 
 void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums) {
-    const Any labels[3] = {"All total", SheetHeader[12], SheetHeader[13]};
+    const Any labels[3] = {"All total", SheetHeader[kHeaderSubtotal1], SheetHeader[kHeaderSubtotal2]};
     const int basis = mode - kSavePercentAll;
     for (const int which : {1, 2, 0}) {
         WriteSumLabels(cells, labels[which]);

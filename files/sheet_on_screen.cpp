@@ -61,12 +61,12 @@ void ShowSheet(const GridRead& read) {
 }
 
 void StoreShownSample() {
-    SampleTable[2][CurrentSample] = frmMain.SampleList.Text();
+    SampleTable[kSampleName][CurrentSample] = frmMain.SampleList.Text();
     if (frmMain.KeysEnabled) CopyCellsToCounts();  // else they show percentages, and no key has counted since they do
 }
 
 void StoreParamNames() {
-    for (int p = 1; p <= kParams; ++p) ParamHeader[p][4] = frmMain.ParamNames[p].Caption();
+    for (int p = 1; p <= kParams; ++p) ParamHeader[p][kParamName] = frmMain.ParamNames[p].Caption();
 }
 
 void NameSheetInTitle(const std::string& program) {

@@ -18,7 +18,7 @@ namespace {
 constexpr int kFirstRow = 51;  // of the named keys in the key settings
 
 Any& CodeOf(int key) {
-    return KeySettings[kFirstRow + key][1];
+    return KeySettings[kFirstRow + key][kKeyCode];
 }
 
 bool HoldsCode(TextBox& box) {

@@ -19,11 +19,12 @@ void CopyRows(const Any (*from)[3], Any (*to)[3]) {
 
 void FillBoxes() {
     for (int row = 0; row <= kMapRows; ++row) {
-        if (row <= kKeys) frmKeyCode.Definitions[row].SetText(KeySettings[row][0].Text());
-        frmKeyCode.Codes[row].SetText(KeySettings[row][1].Text());
-        frmKeyCode.KeyNumbers[row].SetText(KeySettings[row][2].Text());
+        if (row <= kKeys) frmKeyCode.Definitions[row].SetText(KeySettings[row][kKeyDefinition].Text());
+        frmKeyCode.Codes[row].SetText(KeySettings[row][kKeyCode].Text());
+        frmKeyCode.KeyNumbers[row].SetText(KeySettings[row][kKeyNumber].Text());
     }
-    for (int key = 0; key < kFunctionalKeys; ++key) frmKeyCode.FunctionalBoxes[key].SetText(KeySettings[kFunctionalRows[key]][0].Text());
+    for (int key = 0; key < kFunctionalKeys; ++key)
+        frmKeyCode.FunctionalBoxes[key].SetText(KeySettings[kFunctionalRows[key]][kKeyDefinition].Text());
 }
 
 void PutAt(TextBox& box, const TextBox& place) {
@@ -80,7 +81,7 @@ void OfferDefault() {
 void NumberPlacesInOrder() {
     for (int place = 1; place <= kKeys; ++place) {
         frmKeyCode.KeyNumbers[place].SetText(std::to_string(place));
-        KeySettings[place][2] = place;
+        KeySettings[place][kKeyNumber] = place;
     }
     LayOutMaps();
 }

@@ -21,9 +21,9 @@ constexpr int kKeyOfThree = 51;
 std::string BracketedName(int code) {
     std::string name;
     for (int row = kFirstNamedRow; row <= kLastNamedRow; ++row)
-        if (KeySettings[row][1] == code) name = "[" + KeySettings[row][0].Text() + "]";
+        if (KeySettings[row][kKeyCode] == code) name = "[" + KeySettings[row][kKeyDefinition].Text() + "]";
     for (int n = 1; n <= 12; ++n)
-        if (KeySettings[kF1Row][1] == code - n + 1) name = "[F" + std::to_string(n) + "]";
+        if (KeySettings[kF1Row][kKeyCode] == code - n + 1) name = "[F" + std::to_string(n) + "]";
     return name;
 }
 

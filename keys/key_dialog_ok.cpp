@@ -70,14 +70,15 @@ std::int16_t CodeInBox(int row) {
 }
 
 void StoreRow(int row) {
-    if (row <= kKeys) KeySettings[row][0] = frmKeyCode.Definitions[row].Text();
-    KeySettings[row][1] = frmKeyCode.Codes[row].Text();
-    KeySettings[row][2] = frmKeyCode.KeyNumbers[row].Text();
+    if (row <= kKeys) KeySettings[row][kKeyDefinition] = frmKeyCode.Definitions[row].Text();
+    KeySettings[row][kKeyCode] = frmKeyCode.Codes[row].Text();
+    KeySettings[row][kKeyNumber] = frmKeyCode.KeyNumbers[row].Text();
 }
 
 void StoreFunctionalKeys() {
-    for (int key = 0; key < kFunctionalKeys; ++key) KeySettings[kFunctionalRows[key]][0] = frmKeyCode.FunctionalBoxes[key].Text();
-    KeySettings[kSecondShift1][0] = frmKeyCode.Shift1Box.Text();
+    for (int key = 0; key < kFunctionalKeys; ++key)
+        KeySettings[kFunctionalRows[key]][kKeyDefinition] = frmKeyCode.FunctionalBoxes[key].Text();
+    KeySettings[kSecondShift1][kKeyDefinition] = frmKeyCode.Shift1Box.Text();
 }
 
 void Store() {

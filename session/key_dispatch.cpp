@@ -29,7 +29,7 @@ bool IsShiftOrUndoKey(int code) {
 }
 
 bool IsSaveKey(int code) {
-    const Any& save_key = KeySettings[50][1];
+    const Any& save_key = KeySettings[50][kKeyCode];
     return !save_key.Text().empty() && save_key == code;
 }
 
@@ -41,7 +41,7 @@ void UseBuiltInShifts() {
 
 bool IsKnownKey(int code) {
     if (!KeySettingsLoaded) return BuiltInKeyNumber(code) != 0 || IsShiftOrUndoKey(code);
-    return std::any_of(&KeySettings[1], &KeySettings[50], [code](const Any(&row)[3]) { return row[1] == code; });
+    return std::any_of(&KeySettings[1], &KeySettings[50], [code](const Any(&row)[kKeyColumns]) { return row[kKeyCode] == code; });
 }
 
 // One shift key held is level 1, both are level 2, whichever came first; the repeat of a held one changes nothing.
@@ -79,7 +79,7 @@ void DetectReverse(int code) {
 }
 
 bool IsOldSample() {
-    return SampleTable[1][CurrentSample].Number() != SampleCount;
+    return SampleTable[kSampleSerial][CurrentSample].Number() != SampleCount;
 }
 
 bool AskAboutOldSample() {
@@ -144,7 +144,7 @@ std::string SlotText(int code) {
     int slot = 0;
     if (KeySettingsLoaded) {
         for (int key = 1; key <= kKeys; ++key)
-            if (KeySettings[key][1] == code) slot = ToInteger(TaxonTable[key][1].Number());
+            if (KeySettings[key][kKeyCode] == code) slot = ToInteger(TaxonTable[key][kTaxonKey].Number());
     } else {
         slot = BuiltInKeyNumber(code);
     }
@@ -155,8 +155,8 @@ std::string SlotText(int code) {
 
 void PushOnUndoList(int slot) {
     std::memmove(&UndoList[1], &UndoList[0], sizeof(UndoList[0]) * kUndoDepth);
-    UndoList[0][0] = CurrentSample;
-    UndoList[0][1] = ToInteger(ReverseCount ? -slot : slot);
+    UndoList[0][kUndoSample] = CurrentSample;
+    UndoList[0][kUndoSlot] = ToInteger(ReverseCount ? -slot : slot);
 }
 }  // namespace
 
@@ -190,9 +190,9 @@ void CountKeyPress(int code) {
     frmMain.CountChannel.SetText(slot_text);  // its change applies the count
     DropTypedText();
     const int new_slot = static_cast<int>(Val(slot_text));
-    if (UndoList[0][1] != 0) PaintCell(new_slot, kWhite);
+    if (UndoList[0][kUndoSlot] != 0) PaintCell(new_slot, kWhite);
     if (!IsShiftKey(code)) PushOnUndoList(new_slot);
-    const int slot = std::abs(UndoList[0][1]);
+    const int slot = std::abs(UndoList[0][kUndoSlot]);
     if (slot == 0 || SampleUntouched || IsShiftOrUndoKey(code)) return;
     AddHistoryLine((ReverseCount ? "(Amend) " : "") + SlotAndName(slot));
     ShowBold(slot, true);

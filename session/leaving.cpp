@@ -61,7 +61,7 @@ void AbortCount() {
         if (confirmed) {
             RestoreSheet();
             AddHistoryLine("(Reset)");
-            for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][1] = 0;
+            for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][kUndoSlot] = 0;
         }
         frmMain.ResetButton.SetEnabled(!confirmed);
     }

@@ -17,16 +17,16 @@ void ForgetCurve() {
 
 void FindChosenSample(const std::string& chosen) {
     for (std::int16_t sample = 1; sample <= SampleCount; ++sample)
-        if (SampleTable[2][sample] == std::string_view(chosen)) CurrentSample = sample;
+        if (SampleTable[kSampleName][sample] == std::string_view(chosen)) CurrentSample = sample;
 }
 }  // namespace
 
 void ShowSerial() {
-    frmMain.SerialNumber.SetCaption(SampleTable[1][CurrentSample].Text() + "/" + std::to_string(MaxSerial));
+    frmMain.SerialNumber.SetCaption(SampleTable[kSampleSerial][CurrentSample].Text() + "/" + std::to_string(MaxSerial));
 }
 
 void ShowSampleName() {
-    const std::string name = SampleTable[2][CurrentSample].Text();
+    const std::string name = SampleTable[kSampleName][CurrentSample].Text();
     frmMain.SampleName.SetText(name);
     frmMain.SampleList.SetText(name);
 }

@@ -13,8 +13,8 @@ void RestoreSlot(int slot) {
     ShowBold(slot, false);
     const int samples = std::min<int>(SampleCount, static_cast<int>(CountsAtOpen.size()) - 1);
     if (CurrentSample <= samples) ShowCountOf(slot, CountsAtOpen[CurrentSample][slot]);
-    frmMain.TaxonNames[slot].SetText(TaxonTableAtOpen[slot][4].Text());
-    for (int field = 1; field <= 4; ++field) TaxonTable[slot][field] = TaxonTableAtOpen[slot][field];
+    frmMain.TaxonNames[slot].SetText(TaxonTableAtOpen[slot][kTaxonName].Text());
+    for (int field = kTaxonKey; field <= kTaxonName; ++field) TaxonTable[slot][field] = TaxonTableAtOpen[slot][field];
     for (int sample = 1; sample <= samples; ++sample) Counts[slot][sample] = CountsAtOpen[sample][slot];
 }
 
@@ -47,7 +47,7 @@ void SnapshotSheet() {
     for (int sample = 0; sample <= SampleCount; ++sample)
         for (int slot = 0; slot <= kSlots; ++slot) CountsAtOpen[sample][slot] = Counts[slot][sample];
     for (int slot = 0; slot <= kSlots; ++slot)
-        for (int field = 1; field <= 4; ++field) TaxonTableAtOpen[slot][field] = TaxonTable[slot][field];
+        for (int field = kTaxonKey; field <= kTaxonName; ++field) TaxonTableAtOpen[slot][field] = TaxonTable[slot][field];
     SnapshotParams();
 }
 

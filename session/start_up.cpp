@@ -47,17 +47,17 @@ void BeginFirstSample(MainWindow& window) {
 }
 
 void FreshHeader(MainWindow& window) {
-    SheetHeader[6] = "Untitled";
-    SheetHeader[7] = "";
-    SheetHeader[8] = "";
-    SheetHeader[9] = "Serial No.";
-    SheetHeader[11] = "Key index";
-    SheetHeader[12] = "Subtotal-1";
-    SheetHeader[13] = "Subtotal-2";
-    SheetHeader[14] = "Sample name";
-    SampleTable[1][0] = 0;
-    SampleTable[1][1] = 1;
-    SampleTable[2][0] = SampleTable[2][1] = kUnnamed;
+    SheetHeader[kHeaderPath] = "Untitled";
+    SheetHeader[kHeaderSaved] = "";
+    SheetHeader[kHeaderTime] = "";
+    SheetHeader[kHeaderSerial] = "Serial No.";
+    SheetHeader[kHeaderKey] = "Key index";
+    SheetHeader[kHeaderSubtotal1] = "Subtotal-1";
+    SheetHeader[kHeaderSubtotal2] = "Subtotal-2";
+    SheetHeader[kHeaderSample] = "Sample name";
+    SampleTable[kSampleSerial][0] = 0;
+    SampleTable[kSampleSerial][1] = 1;
+    SampleTable[kSampleName][0] = SampleTable[kSampleName][1] = kUnnamed;
     window.SampleName.SetText(kUnnamed);
     window.SampleList.Clear();
     window.SampleList.SetText(kUnnamed);
@@ -69,9 +69,9 @@ void FreshTaxa() {
     RowOfSlot[0] = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
         RowOfSlot[slot] = KeyIndex[slot] = static_cast<std::int16_t>(slot);
-        TaxonTable[slot][0] = TaxonTable[slot][1] = slot;
-        TaxonTable[slot][2] = TaxonTable[slot][3] = 0;
-        TaxonTable[slot][4] = kEmpty;
+        TaxonTable[slot][kTaxonSheetRow] = TaxonTable[slot][kTaxonKey] = slot;
+        TaxonTable[slot][kTaxonSubtotal1] = TaxonTable[slot][kTaxonSubtotal2] = 0;
+        TaxonTable[slot][kTaxonName] = kEmpty;
         Counts[slot][1] = 0;
     }
 }

@@ -25,7 +25,7 @@ void RestoreBlankName(TextBox& box) {
 }  // namespace
 
 void RecountTotals(std::int16_t sample) {
-    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    TaxonTable[0][kTaxonSubtotal1] = TaxonTable[0][kTaxonSubtotal2] = 0;
     AllTotal = 0;
     for (int slot = 1; slot <= kSlots; ++slot) {
         AddToTotals(slot, ShownCount(slot));
@@ -33,8 +33,8 @@ void RecountTotals(std::int16_t sample) {
         RestoreBlankName(frmMain.TaxonNames[slot]);
     }
     frmMain.AllTotal.SetText(NumberText(AllTotal));  // its change enables Next sample and draws the curve
-    frmMain.Subtotal1.SetText(TaxonTable[0][2].Text());
-    frmMain.Subtotal2.SetText(TaxonTable[0][3].Text());
+    frmMain.Subtotal1.SetText(TaxonTable[0][kTaxonSubtotal1].Text());
+    frmMain.Subtotal2.SetText(TaxonTable[0][kTaxonSubtotal2].Text());
 }
 
 void CountSlotInChannel(TextBox& channel) {
@@ -57,7 +57,8 @@ void FollowChangedTotal(const TextBox& total) {
 }
 
 void ChooseBasis(int option) {
-    for (int slot = 1; slot <= kSlots; ++slot) frmMain.TaxonNames[slot].SetUnderline(option != 0 && TaxonTable[slot][option + 1] == 1);
+    for (int slot = 1; slot <= kSlots; ++slot)
+        frmMain.TaxonNames[slot].SetUnderline(option != 0 && TaxonTable[slot][kSubtotalFlags[option - 1]] == 1);
     AlarmArmed = true;
     BasisChosen.Raise();
 }
@@ -72,10 +73,10 @@ void OfferDiagram() {
 
 void ShowZeroTotals() {
     AllTotal = 0;
-    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    TaxonTable[0][kTaxonSubtotal1] = TaxonTable[0][kTaxonSubtotal2] = 0;
     for (TextBox& total : frmMain.Totals) total.SetText("0");
 }
 
 void ShowSubtotalNames() {
-    frmMain.NameSubtotals(SheetHeader[12].Text(), SheetHeader[13].Text());
+    frmMain.NameSubtotals(SheetHeader[kHeaderSubtotal1].Text(), SheetHeader[kHeaderSubtotal2].Text());
 }

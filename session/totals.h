@@ -4,8 +4,9 @@
 
 #include "platform/controls.h"
 
-// Sums the cells of slots 1..135 into AllTotal and TaxonTable[0][2..3], shows the sums in Text3[0..2], sets a cell bold where
-// Counts (one count behind its cell) is not 0. `sample`: 1..SampleCount. Raises "Overflow" past 32 bits; Text3 then keeps the old sums.
+// Sums the cells of slots 1..135 into AllTotal and TaxonTable[0][kTaxonSubtotal1..kTaxonSubtotal2], shows the sums in Text3[0..2], sets a
+// cell bold where Counts (one count behind its cell) is not 0. `sample`: 1..SampleCount. Raises "Overflow" past 32 bits; Text3 then keeps
+// the old sums.
 void RecountTotals(std::int16_t sample);
 
 // The change of `channel`, Text0. A slot number written to it as a text of two or three digits adds one to the slot's cell, or takes one
@@ -18,4 +19,5 @@ void ChooseBasis(int option);                   // Option1[option] was selected:
 void EnableDiagramItems(bool enabled);          // of the main window: the five styles
 void OfferDiagram();                            // Label4 has changed: two samples make a diagram
 void ShowZeroTotals();                          // of a sample in which nothing is counted yet
-void ShowSubtotalNames();                       // SheetHeader[12..13], in the labels of the totals and the entries of the percentage menu
+void ShowSubtotalNames();  // SheetHeader[kHeaderSubtotal1..kHeaderSubtotal2], in the labels of the totals and the entries of the percentage
+                           // menu

@@ -28,13 +28,13 @@ void TakeBack(int slot, int direction) {
 
 void PopUndoList() {
     std::memmove(&UndoList[0], &UndoList[1], sizeof(UndoList[0]) * kUndoDepth);
-    UndoList[kUndoDepth][0] = UndoList[kUndoDepth][1] = 0;
+    UndoList[kUndoDepth][kUndoSample] = UndoList[kUndoDepth][kUndoSlot] = 0;
 }
 
 void UndoNewest() {
-    const int slot = std::abs(UndoList[0][1]);
-    const int direction = UndoList[0][1] < 0 ? -1 : 1;
-    GoToSampleOf(UndoList[0][0]);
+    const int slot = std::abs(UndoList[0][kUndoSlot]);
+    const int direction = UndoList[0][kUndoSlot] < 0 ? -1 : 1;
+    GoToSampleOf(UndoList[0][kUndoSample]);
     const bool alarm_due = AlarmDueAfterUndo();
     TakeBack(slot, direction);
     PlayIfOn(alarm_due ? WaveAlarm : WaveUndo);
@@ -46,8 +46,8 @@ void UndoNewest() {
 
 void Undo() {
     if (!frmMain.KeysEnabled) return;  // the cells show percentages
-    if (UndoList[0][1] != 0) UndoNewest();
+    if (UndoList[0][kUndoSlot] != 0) UndoNewest();
     RecountTotals(CurrentSample);
-    if (UndoList[0][1] == 0) frmMain.mnuUndo.SetEnabled(false);
+    if (UndoList[0][kUndoSlot] == 0) frmMain.mnuUndo.SetEnabled(false);
     AlarmArmed = true;
 }

@@ -15,14 +15,13 @@
 #include "windows/subtotal_window.h"
 
 namespace {
-constexpr int kFirstName = 12;  // cell of SheetHeader: the name of Subtotal-1, that of Subtotal-2 behind it
 
 Any& ChosenFlag(int slot) {
     return TaxonTable[slot][kSubtotalFlags[frmSubtotal.Subtotal1Option.Value() ? 0 : 1]];
 }
 
 std::string CaptionOf(int slot) {
-    const std::string name = TaxonTable[slot][4].Text();
+    const std::string name = TaxonTable[slot][kTaxonName].Text();
     return name.empty() || name == kEmpty ? std::to_string(slot) + ": " + kEmpty : name;
 }
 
@@ -32,7 +31,7 @@ void ShowFlags() {
 
 void ShowNames() {
     for (int subtotal = 1; subtotal <= kSubtotals; ++subtotal)
-        frmSubtotal.SubtotalNames[subtotal].SetText(SheetHeader[kFirstName + subtotal - 1].Text());
+        frmSubtotal.SubtotalNames[subtotal].SetText(SheetHeader[kHeaderSubtotal1 + subtotal - 1].Text());
 }
 
 void KeepFlags() {
@@ -47,7 +46,7 @@ void RestoreFlags() {
 
 void PlaceBoxes() {
     for (int place = 1; place <= kKeys; ++place) {
-        const int key = KeyNumber(KeySettings[place][2]);
+        const int key = KeyNumber(KeySettings[place][kKeyNumber]);
         if (key == 0) continue;
         for (const int bank : {0, kKeys, 2 * kKeys}) {
             const Button& there = frmSubtotal.MemberPlaces[place + bank];
@@ -118,7 +117,7 @@ void SetAllFlags(int flag) {
 void StoreSubtotalName(int subtotal) {
     TextBox& box = frmSubtotal.SubtotalNames[subtotal];
     RefuseQuotationMark(box);
-    SheetHeader[kFirstName + subtotal - 1] = box.Text();
+    SheetHeader[kHeaderSubtotal1 + subtotal - 1] = box.Text();
     ShowSubtotalNames();
     if (!frmSubtotal.Filling) OfferSaving();
 }
@@ -148,7 +147,7 @@ void AcceptParamName() {
     if (&Caller() == &frmNext) {
         frmNext.ParamNames[p].SetCaption(name);
     } else {
-        ParamHeader[p][4] = name;
+        ParamHeader[p][kParamName] = name;
         frmMain.ParamNames[p].SetCaption(name + ":");
     }
     GiveBack(Caller());

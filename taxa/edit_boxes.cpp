@@ -20,7 +20,7 @@
 namespace {
 // The list goes along: by the old name the sample could not be brought up any more.
 void NameSampleOnShow(const std::string& name) {
-    SampleTable[2][CurrentSample] = name;
+    SampleTable[kSampleName][CurrentSample] = name;
     frmMain.SampleList.SetItem(CurrentSample - 1, name);
 }
 
@@ -77,7 +77,7 @@ void StoreSampleName(TextBox& box) {
 }
 
 void StoreTaxonName(int slot, TextBox& box) {
-    TaxonTable[slot][4] = GuardedText(box);
+    TaxonTable[slot][kTaxonName] = GuardedText(box);
 }
 
 void StoreCount(int slot, TextBox& box) {

@@ -27,8 +27,8 @@ void MoveFields(int from, int to) {
         TaxonTable[to][flag] = TaxonTable[from][flag];
         TaxonTable[from][flag] = 0;
     }
-    TaxonTable[to][4] = TaxonTable[from][4];
-    TaxonTable[from][4] = kEmpty;
+    TaxonTable[to][kTaxonName] = TaxonTable[from][kTaxonName];
+    TaxonTable[from][kTaxonName] = kEmpty;
 }
 
 void MoveCells(int from, int to) {
@@ -62,7 +62,7 @@ void TransferTaxa(std::int16_t target) {
     frmMain.SlotNumbers[from].SetBold(false);
     PaintCell(LastSlot, kWhite);
     if (target != 0) MoveHighlight(target, kPaleHighlight);
-    AddHistoryLine("(Move) " + TaxonTable[target][4].Text() + ": " + std::to_string(from) + " to " + std::to_string(target));
+    AddHistoryLine("(Move) " + TaxonTable[target][kTaxonName].Text() + ": " + std::to_string(from) + " to " + std::to_string(target));
     RecountTotals(CurrentSample);
     MarkSheetEdited();
 }

@@ -7,9 +7,9 @@ BasisWeights WeightsOfBasis() {
     BasisWeights weights{};
     for (int slot = 1; slot <= kSlots; ++slot) {
         if (frmMain.Subtotal1Basis.Value())
-            weights[slot] = TaxonTable[slot][2].Number();
+            weights[slot] = TaxonTable[slot][kTaxonSubtotal1].Number();
         else if (frmMain.Subtotal2Basis.Value())
-            weights[slot] = TaxonTable[slot][3].Number();
+            weights[slot] = TaxonTable[slot][kTaxonSubtotal2].Number();
         else
             weights[slot] = 1;
     }

@@ -30,7 +30,7 @@ void RankByDepth() {
     std::vector<float> depths(SampleCount + 1);
     std::vector<std::int16_t> order;
     for (std::int16_t sample = 1; sample <= SampleCount; ++sample) {
-        depths[sample] = static_cast<float>(SampleTable[2][sample].Number());
+        depths[sample] = static_cast<float>(SampleTable[kSampleName][sample].Number());
         if (depths[sample] < kTooDeep) order.push_back(sample);
     }
     if (order.empty()) return;
@@ -114,7 +114,7 @@ void ComputeDiagramData() {
     RankSamples();
     FillFractions();
     ShowDiagramShares();
-    for (int slot = 1; slot <= kSlots; ++slot) DiagramNames[RowOfSlot[slot]] = TaxonTable[slot][4].Text();
+    for (int slot = 1; slot <= kSlots; ++slot) DiagramNames[RowOfSlot[slot]] = TaxonTable[slot][kTaxonName].Text();
     LayOutColumns();
     SetScrollRange(units_per_screen_unit * frmDiagram.Diagram.ScaleWidth());
 }

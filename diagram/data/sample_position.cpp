@@ -6,12 +6,12 @@
 
 namespace {
 double Depth(int sample) {
-    return SampleTable[0][sample].Number();
+    return SampleTable[kSampleNameDrawn][sample].Number();
 }
 
 // Named samples that were given numbers while the window is open have no depths before its next load.
 bool TookUpDepths() {
-    return IsPlainNumber(SampleTable[0][1].Text()) && IsPlainNumber(SampleTable[0][SampleCount].Text());
+    return IsPlainNumber(SampleTable[kSampleNameDrawn][1].Text()) && IsPlainNumber(SampleTable[kSampleNameDrawn][SampleCount].Text());
 }
 }  // namespace
 

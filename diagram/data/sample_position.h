@@ -1,7 +1,7 @@
 // How far down a sample stands, in the diagram as in the tree. Named samples stand in rows of 10 units, in sheet order. Depths stand
 // between the rows of the first and the last sample, in proportion; they are the names that the diagram took up when its window was
-// loaded, in row 0 of SampleTable, and those are in sheet order: on a sheet whose columns are not in depth order the k-th smallest
-// depth stands where the name of column k belongs.
+// loaded, in row kSampleNameDrawn of SampleTable, and those are in sheet order: on a sheet whose columns are not in depth order the k-th
+// smallest depth stands where the name of column k belongs.
 #pragma once
 #include <vector>
 

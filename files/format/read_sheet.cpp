@@ -12,9 +12,9 @@
 namespace {
 // The labels between the path and the serials. An older layout has one cell more before "Serial No.".
 void ReadLabels(CellReader& cells) {
-    for (const int i : {7, 8, 9}) SheetHeader[i] = cells.Next();
-    if (!(SheetHeader[9] == "Serial No.")) SheetHeader[9] = cells.Next();
-    FileVersion = SheetHeader[7] == "Saved:" ? 1 : 2;
+    for (const int i : {kHeaderSaved, kHeaderTime, kHeaderSerial}) SheetHeader[i] = cells.Next();
+    if (!(SheetHeader[kHeaderSerial] == "Serial No.")) SheetHeader[kHeaderSerial] = cells.Next();
+    FileVersion = SheetHeader[kHeaderSaved] == "Saved:" ? 1 : 2;
 }
 
 bool IsNumber(const Any& cell) {
@@ -26,17 +26,17 @@ std::int16_t ReadSerials(CellReader& cells) {
     std::int16_t count = 0;
     for (Any cell = cells.Next();; cell = cells.Next()) {
         if (!IsNumber(cell)) {
-            SheetHeader[11] = cell;
+            SheetHeader[kHeaderKey] = cell;
             return count;
         }
         if (++count > kColumns) throw Failure(kSubscriptOutOfRange);
-        SampleTable[1][count] = cell.Number();
+        SampleTable[kSampleSerial][count] = cell.Number();
     }
 }
 
 void MapSerials() {
     for (std::int16_t column = 1; column <= SampleCount; ++column) {
-        const std::int16_t serial = ToInteger(SampleTable[1][column].Number());
+        const std::int16_t serial = ToInteger(SampleTable[kSampleSerial][column].Number());
         if (serial < 0 || serial > kColumns) throw Failure(kSubscriptOutOfRange);
         SerialOfColumn[column] = serial;
         ColumnOfSerial[serial] = column;
@@ -53,11 +53,11 @@ int ReadTaxonLabels(CellReader& cells, std::int16_t row) {
     RowNames[row] = cells.NextText();
     if (!has_place) throw Failure(kSubscriptOutOfRange);
     RowOfSlot[slot] = row;
-    TaxonTable[slot][0] = row;
-    TaxonTable[slot][1] = slot;
-    TaxonTable[slot][2] = RowSubtotal1[row];
-    TaxonTable[slot][3] = RowSubtotal2[row];
-    TaxonTable[slot][4] = RowNames[row];
+    TaxonTable[slot][kTaxonSheetRow] = row;
+    TaxonTable[slot][kTaxonKey] = slot;
+    TaxonTable[slot][kTaxonSubtotal1] = RowSubtotal1[row];
+    TaxonTable[slot][kTaxonSubtotal2] = RowSubtotal2[row];
+    TaxonTable[slot][kTaxonName] = RowNames[row];
     return slot;
 }
 
@@ -80,17 +80,17 @@ void ReadFirstRow(CellReader& cells, GridRead& read) {
 }
 
 void ReadSampleNames(CellReader& cells, GridRead& read) {
-    for (const int i : {12, 13, 14}) SheetHeader[i] = cells.Next();
+    for (const int i : {kHeaderSubtotal1, kHeaderSubtotal2, kHeaderSample}) SheetHeader[i] = cells.Next();
     read.subtotal_names = true;
     while (read.sample_names < SampleCount) {
         std::string name = cells.NextText();
         const int sample = ++read.sample_names;
-        SampleTable[2][sample] = SampleNamesRead[sample] = std::move(name);
+        SampleTable[kSampleName][sample] = SampleNamesRead[sample] = std::move(name);
     }
 }
 
 void ReadTaxonRows(CellReader& cells, GridRead& read, const RowProgress& progress) {
-    TaxonTable[0][2] = TaxonTable[0][3] = 0;
+    TaxonTable[0][kTaxonSubtotal1] = TaxonTable[0][kTaxonSubtotal2] = 0;
     AllTotal = 0;
     RowOfSlot[0] = 0;  // a key index of 0 in an earlier file may have taken it
     for (std::int16_t row = 1; row <= kSlots; ++row) {
@@ -106,7 +106,7 @@ void ReadTaxonRows(CellReader& cells, GridRead& read, const RowProgress& progres
 std::int16_t LargestSerial() {
     constexpr double kNone = -9999;
     double largest = kNone;
-    for (int sample = 1; sample <= SampleCount; ++sample) largest = std::max(largest, SampleTable[1][sample].Number());
+    for (int sample = 1; sample <= SampleCount; ++sample) largest = std::max(largest, SampleTable[kSampleSerial][sample].Number());
     return largest == kNone ? std::int16_t{0} : ToInteger(largest);
 }
 

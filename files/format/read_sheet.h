@@ -13,7 +13,7 @@
 struct GridRead {
     bool serials = false;               // and with them SampleCount, 0 of a template, and CurrentSample, the last one
     bool largest_serial = false;        // MaxSerial
-    bool subtotal_names = false;        // SheetHeader[12..14]
+    bool subtotal_names = false;        // SheetHeader[kHeaderSubtotal1..kHeaderSample]
     int sample_names = 0;               // of the samples 1..sample_names
     int rows = 0;                       // taxon rows whose four labels are in
     int counts = 0;                     // of the last of these rows; SampleCount if it is whole

@@ -7,22 +7,22 @@
 #include "session/state/sheet_state.h"
 
 void LabelHeader(const char* label, const std::string& stamp) {
-    SheetHeader[6] = SheetPath;
-    SheetHeader[7] = label;
-    SheetHeader[8] = stamp;
+    SheetHeader[kHeaderPath] = SheetPath;
+    SheetHeader[kHeaderSaved] = label;
+    SheetHeader[kHeaderTime] = stamp;
 }
 
 void WriteHeaderRows(CellWriter& cells, int samples) {
-    for (int i = 6; i <= 9; ++i) cells.Write(SheetHeader[i]);
-    for (int sample = 1; sample <= samples; ++sample) cells.Write(SampleTable[1][sample]);
+    for (int i = kHeaderPath; i <= kHeaderSerial; ++i) cells.Write(SheetHeader[i]);
+    for (int sample = 1; sample <= samples; ++sample) cells.Write(SampleTable[kSampleSerial][sample]);
     cells.EndRow();
-    for (int i = 11; i <= 14; ++i) cells.Write(SheetHeader[i]);
-    for (int sample = 1; sample <= samples; ++sample) cells.Write(SampleTable[2][sample]);
+    for (int i = kHeaderKey; i <= kHeaderSample; ++i) cells.Write(SheetHeader[i]);
+    for (int sample = 1; sample <= samples; ++sample) cells.Write(SampleTable[kSampleName][sample]);
     cells.EndRow();
 }
 
 void WriteTaxonLabels(CellWriter& cells, int row) {
-    for (int field = 1; field <= 4; ++field) cells.Write(TaxonTable[KeyIndex[row]][field]);
+    for (int field = kTaxonKey; field <= kTaxonName; ++field) cells.Write(TaxonTable[KeyIndex[row]][field]);
 }
 
 void WriteCountRow(CellWriter& cells, int row) {
@@ -34,7 +34,7 @@ void WriteCountRow(CellWriter& cells, int row) {
 void WriteParamRows(CellWriter& cells, int samples) {
     for (int p = 1; p <= kParams; ++p) {
         for (int i = 1; i <= 3; ++i) cells.Write(ParamHeader[p][i]);
-        cells.Write(WithoutTrailingColon(ParamHeader[p][4]));
+        cells.Write(WithoutTrailingColon(ParamHeader[p][kParamName]));
         for (int sample = 1; sample <= samples; ++sample) cells.Write(ParamValues[p][sample]);
         cells.EndRow();
     }
@@ -55,7 +55,7 @@ void NameUntitledParams() {
     for (int p = 1; p <= kParams; ++p) {
         for (int i = 1; i <= 3; ++i)
             if (ParamHeader[p][i].empty()) ParamHeader[p][i] = kEmpty;
-        if (WithoutTrailingColon(ParamHeader[p][4]).empty()) ParamHeader[p][4] = "Additional info-" + std::to_string(p);
+        if (WithoutTrailingColon(ParamHeader[p][kParamName]).empty()) ParamHeader[p][kParamName] = "Additional info-" + std::to_string(p);
     }
 }
 

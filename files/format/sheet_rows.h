@@ -13,7 +13,7 @@
 #include "files/format/cells.h"
 #include "platform/any.h"
 
-// SheetHeader[6..8]: the path, "Last saved (dd/mm/yyyy):" or the like, date and time.
+// SheetHeader[kHeaderPath..kHeaderTime]: the path, "Last saved (dd/mm/yyyy):" or the like, date and time.
 void LabelHeader(const char* label, const std::string& stamp);
 
 // `samples`: how many columns follow the labels; SampleCount, or 0 in a template.

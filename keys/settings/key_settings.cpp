@@ -25,11 +25,11 @@ constexpr int kBuiltInCodes[] = {
 void ReadKeySettings() {
     KeyboardKnown = 0;
     CellReader cells(DecodeFile(services.files->ReadAll(ProgramFile(kFile))));
-    for (Any(&row)[3] : KeySettings)
+    for (Any(&row)[kKeyColumns] : KeySettings)
         for (Any& field : row) field = cells.Next();
-    Shift1Code = ToInteger(KeySettings[46][1].Number());
-    Shift2Code = ToInteger(KeySettings[47][1].Number());
-    UndoKeyCode = ToInteger(KeySettings[49][1].Number());
+    Shift1Code = ToInteger(KeySettings[46][kKeyCode].Number());
+    Shift2Code = ToInteger(KeySettings[47][kKeyCode].Number());
+    UndoKeyCode = ToInteger(KeySettings[49][kKeyCode].Number());
     for (int place = 1; place <= kKeys; ++place)
         for (const int slot : {place, place + kKeys, place + 2 * kKeys}) frmMain.SlotNumbers[slot].SetCaption(std::to_string(slot));
     PlaceKeyCells();
@@ -39,7 +39,7 @@ void ReadKeySettings() {
 void WriteKeySettings() {
     const auto file = services.files->OpenForWriting(ProgramFile(kFile));
     CellWriter cells(*file);
-    for (const Any(&row)[3] : KeySettings) {
+    for (const Any(&row)[kKeyColumns] : KeySettings) {
         for (const Any& field : row) cells.Write(field);
         cells.EndRow();
     }
@@ -48,7 +48,7 @@ void WriteKeySettings() {
 
 void PlaceKeyCells() {
     for (int place = 1; place <= kKeys; ++place) {
-        const std::int16_t key = ToInteger(KeySettings[place][2].Number());
+        const std::int16_t key = ToInteger(KeySettings[place][kKeyNumber].Number());
         if (key < 1 || key > kSlots) throw Failure(kSubscriptOutOfRange);
         if (key > kKeys) continue;
         frmMain.PlaceSlot(key, KeyLeft[place], KeyTop[place]);
@@ -65,7 +65,7 @@ void PlaceKeyCellsIfKnown() {
 
 bool AreNamedKeysKnown() {
     for (int row = 51; row <= 62; ++row)
-        if (KeySettings[row][1] == 0 || KeySettings[row][1] == kUnknownCode) return false;
+        if (KeySettings[row][kKeyCode] == 0 || KeySettings[row][kKeyCode] == kUnknownCode) return false;
     return true;
 }
 

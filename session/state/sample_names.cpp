@@ -6,5 +6,5 @@
 void CheckSampleNames() {
     SampleNamesAreText = false;
     for (int sample = 1; sample <= SampleCount && !SampleNamesAreText; ++sample)
-        SampleNamesAreText = !IsPlainNumber(SampleTable[2][sample].Text());
+        SampleNamesAreText = !IsPlainNumber(SampleTable[kSampleName][sample].Text());
 }

@@ -14,20 +14,52 @@
 
 // ---- The sheet ----
 
-inline Any SheetHeader[15];                         // header cells 6..9 and 11..14 of the file's first two rows; the others unused
-inline Any SampleTable[3][kColumns + 1];            // [1][j] Serial No., [2][j] name; row 0: the names as the diagram took them up
-constexpr int kSubtotalFlags[kSubtotals] = {2, 3};  // columns of TaxonTable: of Subtotal-1, of Subtotal-2
-inline Any TaxonTable[kSlots + 1][5];  // [s][0] sheet row, [1] key index, [2], [3] subtotal flags, [4] name; row 0: [2], [3] totals on show
+// Cells of SheetHeader: those of the file's first two rows; 0..5 and 10 are unused.
+enum HeaderCell {
+    kHeaderPath = 6,
+    kHeaderSaved,   // "Last saved (dd/mm/yyyy):" or the like
+    kHeaderTime,    // date and time of it
+    kHeaderSerial,  // "Serial No."; the numbers stand behind it
+    kHeaderKey = 11,
+    kHeaderSubtotal1,  // the names of the subtotals
+    kHeaderSubtotal2,
+    kHeaderSample,  // "Sample name"; the names stand behind it
+    kHeaderCells,
+};
+inline Any SheetHeader[kHeaderCells];
+
+// Rows of SampleTable.
+enum SampleRow {
+    kSampleNameDrawn,  // the name as the diagram took it up
+    kSampleSerial,     // Serial No.
+    kSampleName,
+    kSampleRows,
+};
+inline Any SampleTable[kSampleRows][kColumns + 1];
+
+// Columns of TaxonTable.
+enum TaxonColumn {
+    kTaxonSheetRow,
+    kTaxonKey,        // key index: the slot
+    kTaxonSubtotal1,  // flags: 1 for a member of the subtotal, else 0
+    kTaxonSubtotal2,
+    kTaxonName,
+    kTaxonColumns,
+};
+constexpr int kSubtotalFlags[kSubtotals] = {kTaxonSubtotal1, kTaxonSubtotal2};
+inline Any TaxonTable[kSlots + 1][kTaxonColumns];  // [slot]; of row 0 the flags: the totals on show
+
 inline std::int32_t Counts[kSlots + 1][kColumns + 1];  // [slot][sample], may be negative; [0][j]: sum of sample j on the percent basis
 inline std::string SampleNotes[kColumns + 1];          // [0] unused
 inline Any SheetFooter[5];                             // four closing cells 1..4; [0] unused
-inline std::string ParamHeader[kParams + 1][5];        // [p][4] name, [p][1..3] the cells before the values; index 0 unused
-inline Any ParamValues[kParams + 1][kColumns + 1];     // [p][sample]; index 0 unused
-inline std::int32_t AllTotal;                          // sum of the count cells of the sample on show
-inline std::int16_t SampleCount;                       // 0 before the main window is loaded, then 1 and more
-inline std::int16_t CurrentSample;                     // the column on show and counted on
-inline std::int16_t MaxSerial;                         // largest Serial No., 0 if there is none
-inline std::string SheetPath;                          // empty until the first save or open
+constexpr int kParamName = 4;                          // column of ParamHeader
+inline std::string ParamHeader[kParams + 1][kParamName + 1];  // [p][1..3]: the cells before the name and the values; index 0 unused
+inline Any ParamValues[kParams + 1][kColumns + 1];            // [p][sample]; index 0 unused
+inline std::int32_t AllTotal;                                 // sum of the count cells of the sample on show
+inline std::int16_t SampleCount;                              // 0 before the main window is loaded, then 1 and more
+inline std::int16_t CurrentSample;                            // the column on show and counted on
+inline std::int16_t MaxSerial;                                // largest Serial No., 0 if there is none
+inline std::string SheetPath;                                 // empty until the first save or open
 
 // ---- As read from a file: the order of its rows and columns ----
 
@@ -41,7 +73,7 @@ inline std::string SampleNamesRead[kColumns + 1];
 // ---- The snapshot that Reset and Quit go back to ----
 
 inline std::vector<std::array<std::int32_t, kSlots + 1>> CountsAtOpen;  // [sample][slot]; as many samples as at the snapshot
-inline Any TaxonTableAtOpen[kSlots + 1][5];                             // columns 1..4
+inline Any TaxonTableAtOpen[kSlots + 1][kTaxonColumns];                 // from kTaxonKey on
 inline Any ParamValuesAtOpen[kParams + 1][kColumns + 1];                // [p][0]: the caption of the parameter
 
 // ---- The curve of taxa seen against grains counted ----
@@ -52,7 +84,14 @@ inline std::vector<std::int16_t> DiversityCurve;  // [total]: ten times the taxa
 
 // ---- Keys and sounds ----
 
-inline Any KeySettings[63][3];  // [row][0] definition, [1] key code, [2] key number; rows as in the key settings file
+// Columns of KeySettings.
+enum KeyColumn {
+    kKeyDefinition,
+    kKeyCode,
+    kKeyNumber,
+    kKeyColumns,
+};
+inline Any KeySettings[63][kKeyColumns];  // [row], as in the key settings file
 inline std::int16_t Shift1Code;
 inline std::int16_t Shift2Code;
 inline std::int16_t UndoKeyCode;
@@ -80,17 +119,25 @@ inline bool Shift1Down;
 inline bool Shift2Down;
 inline std::int16_t UndoKeyState;  // 0 up; 1 down, no counter key since; 2 and more: counter keys were pressed while it was held
 inline bool ReverseCount;          // the key that is being processed subtracts
-inline std::int16_t UndoList[kUndoDepth + 1][2];  // newest at 0: [i][0] sample, [i][1] slot, negative for a reverse count, 0: empty
-inline std::int16_t LastSlot;                     // the slot that carries the highlight; 0: none
-inline std::vector<std::string> HistoryLog;       // [0] is a time stamp
-inline std::int16_t HistoryCount;                 // last index of HistoryLog
-inline bool AlarmArmed;                           // the alarm may sound at the next full hundred
-inline bool WarnOldSample;                        // a counting key on an old sample asks first
-inline std::int16_t SelectedSlot;                 // source of a move
-inline std::string EditedValue;                   // text of a cell when it got the focus
-inline std::int16_t LastEditKey;                  // last key pressed in a guarded box, 9999 since it got the focus
-inline float CountAtMouseDown;                    // value of a count box at the last mouse press in it
-inline std::int16_t MoveFrom;                     // source and target column of MoveSampleColumn
+
+// Columns of UndoList.
+enum UndoColumn {
+    kUndoSample,
+    kUndoSlot,  // negative for a reverse count; 0: the entry is empty
+    kUndoColumns,
+};
+inline std::int16_t UndoList[kUndoDepth + 1][kUndoColumns];  // newest at 0
+
+inline std::int16_t LastSlot;                // the slot that carries the highlight; 0: none
+inline std::vector<std::string> HistoryLog;  // [0] is a time stamp
+inline std::int16_t HistoryCount;            // last index of HistoryLog
+inline bool AlarmArmed;                      // the alarm may sound at the next full hundred
+inline bool WarnOldSample;                   // a counting key on an old sample asks first
+inline std::int16_t SelectedSlot;            // source of a move
+inline std::string EditedValue;              // text of a cell when it got the focus
+inline std::int16_t LastEditKey;             // last key pressed in a guarded box, 9999 since it got the focus
+inline float CountAtMouseDown;               // value of a count box at the last mouse press in it
+inline std::int16_t MoveFrom;                // source and target column of MoveSampleColumn
 inline std::int16_t MoveTo;
 inline bool DiagramOpen;
 inline std::int16_t SaveOutcome;  // 0 at load, 1 while the main window closes, 2 after a save that was cancelled or failed

@@ -24,7 +24,7 @@ void Check(bool holds, const char* what) {
 }
 
 std::vector<Any> Rows() {
-    return {&KeySettings[0][0], &KeySettings[0][0] + sizeof KeySettings / sizeof(Any)};
+    return {&KeySettings[0][kKeyDefinition], &KeySettings[0][kKeyDefinition] + sizeof KeySettings / sizeof(Any)};
 }
 
 bool Same(const Any& one, const Any& other) {
@@ -32,12 +32,13 @@ bool Same(const Any& one, const Any& other) {
 }
 
 bool SameRows(const std::vector<Any>& rows) {
-    return std::equal(rows.begin(), rows.end(), &KeySettings[0][0], Same);
+    return std::equal(rows.begin(), rows.end(), &KeySettings[0][kKeyDefinition], Same);
 }
 
 // What the dialog holds is text, so that a number comes back as one.
 bool SameTexts(const std::vector<Any>& rows) {
-    return std::equal(rows.begin(), rows.end(), &KeySettings[0][0], [](const Any& a, const Any& b) { return a.Text() == b.Text(); });
+    return std::equal(rows.begin(), rows.end(), &KeySettings[0][kKeyDefinition],
+                      [](const Any& a, const Any& b) { return a.Text() == b.Text(); });
 }
 
 // A quotation mark inside a text would not come back; no key types one into the boxes.

@@ -93,7 +93,7 @@ bool Succeeds(Procedure procedure) {
 }
 
 void CountOne() {
-    const int code = static_cast<int>(KeySettings[1][1].Number());
+    const int code = static_cast<int>(KeySettings[1][kKeyCode].Number());
     DispatchKeyDown(code);
     DispatchKeyUp(code);
 }
@@ -106,12 +106,13 @@ bool Save() {
 // in the place of "Serial No.", a row of slot 0.
 bool IsOurOwn() {
     const auto has_mark = [](const Any& cell) { return cell.Text().find('"') != std::string::npos; };
-    if (!(SheetHeader[9] == "Serial No.") || std::any_of(std::begin(SheetHeader), std::end(SheetHeader), has_mark)) return false;
+    if (!(SheetHeader[kHeaderSerial] == "Serial No.") || std::any_of(std::begin(SheetHeader), std::end(SheetHeader), has_mark))
+        return false;
     if (std::any_of(std::begin(SheetFooter), std::end(SheetFooter), has_mark)) return false;
     for (int sample = 1; sample <= SampleCount; ++sample)
-        if (has_mark(SampleTable[2][sample]) || has_mark(SampleNotes[sample])) return false;
+        if (has_mark(SampleTable[kSampleName][sample]) || has_mark(SampleNotes[sample])) return false;
     for (int row = 1; row <= kSlots; ++row)
-        if (KeyIndex[row] == 0 || has_mark(TaxonTable[row][4])) return false;
+        if (KeyIndex[row] == 0 || has_mark(TaxonTable[row][kTaxonName])) return false;
     for (int p = 1; p <= kParams; ++p) {
         if (frmMain.Label10[p].Caption().ends_with("::") || has_mark(frmMain.Label10[p].Caption())) return false;
         if (std::any_of(std::begin(ParamHeader[p]), std::end(ParamHeader[p]), has_mark)) return false;

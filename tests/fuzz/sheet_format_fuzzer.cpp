@@ -38,7 +38,7 @@ void StartAfresh() {
 bool Read(const std::string& bytes, GridRead& read) {
     CellReader cells(DecodeFile(bytes));
     try {
-        SheetHeader[6] = cells.Next();
+        SheetHeader[kHeaderPath] = cells.Next();
         ReadGrid(cells, read, [](int) {});
         TemplateOpened = SampleCount == 0;
         if (FileVersion > 1) ReadParamRows(cells);
@@ -78,7 +78,8 @@ void CheckRows(const GridRead& read) {
     for (int row = 1; row <= read.rows; ++row) {
         const int slot = KeyIndex[row];
         if (RowOfSlot[slot] != row) continue;
-        Check(TaxonTable[slot][0] == row && TaxonTable[slot][4] == RowNames[row], "the slot has the labels of its row");
+        Check(TaxonTable[slot][kTaxonSheetRow] == row && TaxonTable[slot][kTaxonName] == RowNames[row],
+              "the slot has the labels of its row");
         const int counts = row < read.rows ? SampleCount : read.counts;
         const bool any = std::any_of(&Counts[slot][1], &Counts[slot][counts] + 1, [](std::int32_t count) { return count != 0; });
         Check(any == read.has_count[row] || (row == read.rows && counts < SampleCount), "a row is marked by its counts");
@@ -89,14 +90,16 @@ void CheckRows(const GridRead& read) {
 // label in the place of "Serial No.".
 bool IsOurOwn() {
     const auto has_mark = [](const Any& cell) { return cell.Text().find('"') != std::string::npos; };
-    if (!(SheetHeader[9] == "Serial No.") || std::any_of(std::begin(SheetHeader), std::end(SheetHeader), has_mark)) return false;
+    if (!(SheetHeader[kHeaderSerial] == "Serial No.") || std::any_of(std::begin(SheetHeader), std::end(SheetHeader), has_mark))
+        return false;
     if (std::any_of(std::begin(SheetFooter), std::end(SheetFooter), has_mark)) return false;
     for (int sample = 1; sample <= SampleCount; ++sample)
-        if (has_mark(SampleTable[2][sample]) || has_mark(SampleNotes[sample])) return false;
+        if (has_mark(SampleTable[kSampleName][sample]) || has_mark(SampleNotes[sample])) return false;
     for (int row = 1; row <= kSlots; ++row)
-        if (has_mark(TaxonTable[KeyIndex[row]][4])) return false;
+        if (has_mark(TaxonTable[KeyIndex[row]][kTaxonName])) return false;
     for (int p = 1; p <= kParams; ++p) {
-        if (ParamHeader[p][4].ends_with(':') || std::any_of(std::begin(ParamHeader[p]), std::end(ParamHeader[p]), has_mark)) return false;
+        if (ParamHeader[p][kParamName].ends_with(':') || std::any_of(std::begin(ParamHeader[p]), std::end(ParamHeader[p]), has_mark))
+            return false;
         if (std::any_of(&ParamValues[p][1], &ParamValues[p][SampleCount] + 1, has_mark)) return false;
     }
     return true;

@@ -97,7 +97,7 @@ private:
 
 // True if one more is counted.
 bool CountsOn() {
-    const int code = static_cast<int>(KeySettings[1][1].Number());
+    const int code = static_cast<int>(KeySettings[1][kKeyCode].Number());
     const std::size_t lines = HistoryLog.size();
     PressKey(code);
     ReleaseKey(code);

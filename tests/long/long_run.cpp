@@ -166,7 +166,7 @@ void LongRun::TakeUpSheet() {
     history_limit_ = 1000 + Below(kHistoryLimit);
     numeric_names_ = Below(3) != 0;
     for (int slot = 1; slot <= kSlots; ++slot)
-        for (const int subtotal : {1, 2}) TaxonTable[slot][subtotal + 1] = InSubtotal(slot, subtotal);
+        for (const int subtotal : {1, 2}) TaxonTable[slot][kSubtotalFlags[subtotal - 1]] = InSubtotal(slot, subtotal);
     sheet_ = Sheet{folder_ + "/sheet " + std::to_string(sheets_ % 3) + ".csv", "", {Sample()}};
     shown_ = 0;
     Shown().name = "1000";
@@ -180,7 +180,7 @@ void LongRun::TakeUpSheet() {
 void LongRun::CountKey(int step) {
     const int key = 1 + Below(kKeys);
     const int level = Below(4) == 0 ? 1 + Below(2) : 0;
-    const int code = static_cast<int>(KeySettings[key][1].Number());
+    const int code = static_cast<int>(KeySettings[key][kKeyCode].Number());
     const bool asks = warn_ && Shown().serial != static_cast<int>(sheet_.samples.size());
     if (asks) services_.messages.answers.push_back(Answer::Yes);
     if (step < 0) PressKey(kUndoKey);
@@ -372,7 +372,7 @@ void LongRun::CompareSheet(const Sheet& sheet) {
     Check(SampleCount == static_cast<int>(sheet.samples.size()), "the number of samples");
     for (int j = 1; j <= SampleCount; ++j) {
         const Sample& sample = sheet.samples[static_cast<std::size_t>(j - 1)];
-        Check(SampleTable[1][j] == sample.serial && SampleTable[2][j] == sample.name && SampleNotes[j] == sample.note,
+        Check(SampleTable[kSampleSerial][j] == sample.serial && SampleTable[kSampleName][j] == sample.name && SampleNotes[j] == sample.note,
               "name, serial and note of sample " + std::to_string(j));
         for (int slot = 1; slot <= kSlots; ++slot) Check(Counts[slot][j] == sample.counts[slot], "the counts of " + sample.name);
     }

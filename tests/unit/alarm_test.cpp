@@ -80,7 +80,7 @@ TEST_F(AlarmTest, ATotalOf0IsNoHundred) {
 }
 
 TEST_F(AlarmTest, OnlyTheChosenTotalSoundsIt) {
-    TaxonTable[1][2] = 1;  // Subtotal-1
+    TaxonTable[1][kTaxonSubtotal1] = 1;  // Subtotal-1
     PutInCell(1, "99");
     CountedSoFar(50);
     ClickControl(frmMain.Option1[1]);
@@ -129,7 +129,7 @@ TEST_F(AlarmTest, EveryCountedKeyPassesTheOldSampleTest) {
 }
 
 TEST_F(AlarmTest, ChoosingABasisArmsItAndUnderlinesItsMembers) {
-    TaxonTable[1][2] = TaxonTable[2][3] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = TaxonTable[2][kTaxonSubtotal2] = 1;
     for (const int basis : {1, 2, 0}) {
         AlarmArmed = false;
         ClickControl(frmMain.Option1[basis]);

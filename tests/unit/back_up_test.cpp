@@ -60,7 +60,7 @@ TEST_F(BackUpTest, TheCellsOnTheScreenReachTheBackUp) {
     BackUpSheet();
     EXPECT_EQ(CountIn(kMaster), "6");
     EXPECT_EQ(Counts[1][1], 6);
-    EXPECT_EQ(SampleTable[2][1].Text(), "11");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "11");
 }
 
 TEST_F(BackUpTest, ItLeavesNoOtherTraceInTheSession) {
@@ -78,7 +78,7 @@ TEST_F(BackUpTest, ItLeavesNoOtherTraceInTheSession) {
     EXPECT_EQ(frmMain.Title(), "Marlbrook 2.7.5");
     EXPECT_EQ(Played(), Texts{});
     EXPECT_EQ(CountsAtOpen[1][1], snapshot);
-    EXPECT_EQ(SheetHeader[7].Text(), "Backed up (dd/mm/yyyy):") << "until the next save";
+    EXPECT_EQ(SheetHeader[kHeaderSaved].Text(), "Backed up (dd/mm/yyyy):") << "until the next save";
 }
 
 TEST_F(BackUpTest, EmptyFieldsAreFilledAsASaveFillsThem) {
@@ -87,7 +87,7 @@ TEST_F(BackUpTest, EmptyFieldsAreFilledAsASaveFillsThem) {
     BackUpSheet();
     EXPECT_EQ(SampleNotes[1], "---");
     EXPECT_EQ(ParamValues[1][1].Text(), "---");
-    EXPECT_EQ(ParamHeader[1][4], "Additional info-1:");
+    EXPECT_EQ(ParamHeader[1][kParamName], "Additional info-1:");
 }
 
 TEST_F(BackUpTest, AFailedMasterIsTriedAgain) {

@@ -21,7 +21,7 @@ protected:
     BuiltInKeysTest() {
         Begin("10");
         KeySettingsLoaded = false;
-        KeySettings[50][1] = "";
+        KeySettings[50][kKeyCode] = "";
         Played();
     }
 };
@@ -74,7 +74,7 @@ TEST_F(BuiltInKeysTest, TheShiftsServeFromTheirFirstPress) {
 }
 
 TEST_F(BuiltInKeysTest, TheSaveKeyStaysThatOfTheSettings) {
-    KeySettings[50][1] = kSaveKey;
+    KeySettings[50][kKeyCode] = kSaveKey;
     AnswerDialog("/sheets/Mere.csv");
     Key(kSaveKey);
     EXPECT_EQ(SheetPath, "/sheets/Mere.csv");

@@ -19,7 +19,7 @@ protected:
 
 TEST_F(ColumnLayoutTest, AColumnIsAsWideAsItsLargestShare) {
     SampleCount = 2;
-    SampleTable[2][2] = "20";
+    SampleTable[kSampleName][2] = "20";
     Counts[1][1] = 1;
     Counts[2][1] = 3;
     Counts[1][2] = 2;
@@ -75,7 +75,7 @@ TEST_F(ColumnLayoutTest, TheScrollBarReachesTheEndOfTheLastColumn) {
 TEST_F(ColumnLayoutTest, AScrollRangeBeyond32767EndsThere) {
     Counts[1][1] = 1;
     Counts[2][1] = 400;  // 40000 % of the basis
-    TaxonTable[1][2] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = 1;
     frmMain.Option1[1].SetValue(true);
     RunEvent(ComputeDiagramData);
     EXPECT_EQ(services_.host.failure, "");

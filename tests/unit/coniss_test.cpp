@@ -29,13 +29,13 @@ struct PlainWay {
     }
 
     void Begin(int flag) {
-        const double first = SampleTable[0][1].Number(), last = SampleTable[0][count].Number();
+        const double first = SampleTable[kSampleNameDrawn][1].Number(), last = SampleTable[kSampleNameDrawn][count].Number();
         for (int c = 1; c <= count; ++c) {
             for (int slot = 1; slot <= kSlots; ++slot) {
                 const double weight = flag == 0 ? 1 : TaxonTable[slot][flag].Number();
                 data[slot][c] = static_cast<float>(weight * SamplePercent[RowOfSlot[slot]][c]);
             }
-            const double depth = SampleTable[0][c].Number();
+            const double depth = SampleTable[kSampleNameDrawn][c].Number();
             position[c] =
                 static_cast<float>(SampleNamesAreText ? 10.0 * c : 10 * ((last - depth) + count * (depth - first)) / (last - first));
         }
@@ -83,7 +83,7 @@ struct PlainWay {
 class ConissTest : public DiagramTest {
 protected:
     static void Cluster() {
-        for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[0][sample] = SampleTable[2][sample];
+        for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[kSampleNameDrawn][sample] = SampleTable[kSampleName][sample];
         ComputeDiagramData();
         ComputeConiss();
     }
@@ -119,7 +119,7 @@ TEST_F(ConissTest, MergesBitForBitAsThePlainWay) {
                 for (int& cell : sample) cell = static_cast<int>(random() % (largest + 1));
             }
             Sheet(names, counts);
-            for (int slot = 1; slot <= kSlots; ++slot) TaxonTable[slot][2] = static_cast<int>(random() % 2);
+            for (int slot = 1; slot <= kSlots; ++slot) TaxonTable[slot][kTaxonSubtotal1] = static_cast<int>(random() % 2);
             const int basis = static_cast<int>(random() % 2);
             frmMain.Option1[basis].SetValue(true);
             Cluster();
@@ -216,7 +216,7 @@ TEST_F(ConissTest, TheBarAndThePointerAreGivenBack) {
 
 TEST_F(ConissTest, TheBarCountsTheMergesAgainstTheSamples) {
     Sheet({"a", "b", "c", "d"}, {{1}, {1}, {1}, {1}});
-    for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[0][sample] = SampleTable[2][sample];
+    for (int sample = 1; sample <= SampleCount; ++sample) SampleTable[kSampleNameDrawn][sample] = SampleTable[kSampleName][sample];
     ComputeDiagramData();
     const BarWatch bar;
     ComputeConiss();

@@ -47,7 +47,7 @@ TEST_F(CountChannelTest, ACellThatIsNoNumberGoesOnFromItsLeadingNumber) {
 }
 
 TEST_F(CountChannelTest, TheTotalsAreSummedAnewAndAllCellsReachTheArray) {
-    TaxonTable[7][2] = 1;
+    TaxonTable[7][kTaxonSubtotal1] = 1;
     PutInCell(135, "30");
     frmMain.Text0.SetText("07");
     EXPECT_EQ(frmMain.Text3[0].Text(), "31");

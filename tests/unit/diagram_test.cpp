@@ -13,8 +13,8 @@ void DiagramTest::Sheet(const Texts& names, const std::vector<std::vector<int>>&
     SampleCount = CurrentSample = MaxSerial = static_cast<std::int16_t>(names.size());
     frmMain.Combo2.Clear();
     for (int sample = 1; sample <= SampleCount; ++sample) {
-        SampleTable[1][sample] = sample;
-        SampleTable[2][sample] = names[sample - 1];
+        SampleTable[kSampleSerial][sample] = sample;
+        SampleTable[kSampleName][sample] = names[sample - 1];
         frmMain.Combo2.AddItem(names[sample - 1]);
         for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][sample] = 0;
         for (std::size_t i = 0; i < counts[sample - 1].size(); ++i) Counts[i + 1][sample] = counts[sample - 1][i];
@@ -33,7 +33,7 @@ int DiagramTest::Drawn(const PictureBox& picture, const std::string& operation) 
 
 ThreeDepthsTest::ThreeDepthsTest() {
     Sheet({"10", "20", "40"}, {{40, 50, 10}, {1, 2, 1}, {0, 3, 1}});
-    TaxonTable[1][2] = 1;
-    TaxonTable[3][2] = 1;
-    TaxonTable[2][3] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = 1;
+    TaxonTable[3][kTaxonSubtotal1] = 1;
+    TaxonTable[2][kTaxonSubtotal2] = 1;
 }

@@ -254,7 +254,7 @@ TEST_F(DiagramWindowTest, OfTwoSamplesOfOneNameTheListSelectsTheRightHandOne) {
 
 TEST_F(DiagramWindowTest, ANameThatIsGoneSelectsNothing) {
     Open(frmMain.mnuBar);
-    SampleTable[2][1] = "11";  // renamed; the list was filled before
+    SampleTable[kSampleName][1] = "11";  // renamed; the list was filled before
     ChooseItem(frmDiagram.Combo2, 0);
     EXPECT_EQ(frmDiagram.SelectedSample, 3);
 }
@@ -262,7 +262,7 @@ TEST_F(DiagramWindowTest, ANameThatIsGoneSelectsNothing) {
 TEST_F(DiagramWindowTest, NamesThatBecomeNumbersWhileItIsOpenStopNothing) {
     Sheet({"a", "b", "c"}, {{1}, {1}, {1}});
     Open(frmMain.mnuBar);
-    for (int sample = 1; sample <= 3; ++sample) SampleTable[2][sample] = std::to_string(sample * sample);
+    for (int sample = 1; sample <= 3; ++sample) SampleTable[kSampleName][sample] = std::to_string(sample * sample);
     BringToFront(frmMain);
     RunEvent([this] { KeyNumber(1); });
     RunEvent([] { ClickControl(frmDiagram.mnuCurve); });

@@ -59,7 +59,7 @@ TEST_F(DriveDumpsTest, OfSlotsOnlyThoseThatAreNoLongerFreshAreShown) {
     EXPECT_EQ(Sheet().find("\nRowOfSlot("), std::string::npos);
     EXPECT_EQ(Sheet().find("\nUndoList("), std::string::npos);
     KeyNumber(7, 3);
-    TaxonTable[7][4] = "Pinus";
+    TaxonTable[7][kTaxonName] = "Pinus";
     KeyIndex[7] = 8;
     RowOfSlot[8] = 7;
     const std::string sheet = Sheet();

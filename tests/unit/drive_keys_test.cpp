@@ -21,12 +21,12 @@ TEST_F(DriveKeysTest, ACodeIsANumberOrTheLetterOfItsOwnCode) {
 
 TEST_F(DriveKeysTest, KeysByPurposeComeFromTheSettingsThatAreHeld) {
     EXPECT_THROW(KeyCode("@1"), ScriptFault) << "none are held before the start";
-    KeySettings[1][1] = 81;
-    KeySettings[45][1] = "57";
-    KeySettings[46][1] = 186;
-    KeySettings[47][1] = 80;
-    KeySettings[49][1] = 8;
-    KeySettings[50][1] = 187;
+    KeySettings[1][kKeyCode] = 81;
+    KeySettings[45][kKeyCode] = "57";
+    KeySettings[46][kKeyCode] = 186;
+    KeySettings[47][kKeyCode] = 80;
+    KeySettings[49][kKeyCode] = 8;
+    KeySettings[50][kKeyCode] = 187;
     EXPECT_EQ(KeyCode("@1"), 81);
     EXPECT_EQ(KeyCode("@45"), 57);
     EXPECT_EQ(KeyCode("@shift1"), 186);

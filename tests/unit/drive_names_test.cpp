@@ -38,7 +38,7 @@ TEST_F(DriveNamesTest, PropertiesFollowTheirControlOrWindow) {
 
 TEST_F(DriveNamesTest, VariablesAreNamedAsInTheCode) {
     Counts[5][1] = -3;
-    SampleTable[2][1] = "12.50";
+    SampleTable[kSampleName][1] = "12.50";
     CountsAtOpen.resize(2);
     CountsAtOpen[1][5] = 7;
     EXPECT_EQ(ValueOf("Counts(5,1)"), "-3");

@@ -78,7 +78,7 @@ TEST_F(CellsTest, ACountPast32BitsIsPassedOverInSilence) {
 }
 
 TEST_F(CellsTest, InModifyModeACountMovesTheTotalsAtOnce) {
-    TaxonTable[5][2] = 1;
+    TaxonTable[5][kTaxonSubtotal1] = 1;
     AmendMode = true;
     SampleUntouched = true;
     Edit("12");
@@ -110,18 +110,18 @@ TEST_F(CellsTest, ANameReachesTheTableAtEveryKeystrokeInAllModes) {
     for (const bool amending : {false, true}) {
         AmendMode = amending;
         frmMain.Text1[135].SetText(amending ? "Abies" : "Pinus");
-        EXPECT_EQ(TaxonTable[135][4].Text(), amending ? "Abies" : "Pinus");
+        EXPECT_EQ(TaxonTable[135][kTaxonName].Text(), amending ? "Abies" : "Pinus");
     }
 }
 
 TEST_F(CellsTest, TheNameOfTheSampleReachesTheTableInModifyModeAlone) {
     frmMain.Text1[0].SetText("11");
     EXPECT_EQ(frmMain.Combo2.Text(), "11");
-    EXPECT_EQ(SampleTable[2][1].Text(), "10");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "10");
     AmendMode = true;
     frmMain.Text1[0].SetText("12");
     EXPECT_EQ(frmMain.Combo2.Text(), "12");
-    EXPECT_EQ(SampleTable[2][1].Text(), "12");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "12");
     EXPECT_EQ(frmMain.Label4.Caption(), "1/1");
 }
 
@@ -160,8 +160,8 @@ TEST_F(CellsTest, TypingInTheListRenamesTheSampleOnShow) {
     frmMain.Command5[0].SetEnabled(false);
     frmMain.mnuSave.SetEnabled(false);
     frmMain.Combo2.Enter("11", 2);
-    EXPECT_EQ(SampleTable[2][1].Text(), "11");
-    EXPECT_EQ(SampleTable[2][2].Text(), "20");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "11");
+    EXPECT_EQ(SampleTable[kSampleName][2].Text(), "20");
     EXPECT_TRUE(WarnOldSample);
     EXPECT_TRUE(frmMain.Command5[0].Enabled() && frmMain.mnuSave.Enabled());
 }
@@ -193,6 +193,6 @@ TEST_F(CellsTest, TheMenuOfACellOffersTheFarthestBankFirst) {
 
 TEST_F(CellsTest, ATextThatTheProgramPutsIntoTheListRenamesNothing) {
     frmMain.Combo2.SetText("11");
-    EXPECT_EQ(SampleTable[2][1].Text(), "10");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "10");
 }
 }  // namespace

@@ -57,7 +57,7 @@ TEST_F(FirstRunTest, OkStoresTheCodesAsNumbersAndGoesOnToTheFirstSample) {
     PressNamedKeys();
     ClickControl(frmInitial.Command1);
     EXPECT_EQ(files_.bytes[kFile], KnownKeySettings());
-    EXPECT_TRUE(KeySettings[58][1].IsNumber());
+    EXPECT_TRUE(KeySettings[58][kKeyCode].IsNumber());
     EXPECT_EQ(Played(), Texts{"WaveSave"});
     EXPECT_FALSE(frmInitial.IsLoaded());
     EXPECT_TRUE(frmMain.Visible());
@@ -101,7 +101,7 @@ TEST_F(FirstRunTest, ARerunCanCorrectOneBoxAndGoStraightToOk) {
     EXPECT_EQ(frmInitial.Focus(), &frmInitial.Command1);
     ClickControl(frmInitial.Command1);
     EXPECT_EQ(FileLine(kFile, 57), "\"Enter\",108,\"-\"");
-    EXPECT_EQ(KeySettings[56][1].Number(), 108);
+    EXPECT_EQ(KeySettings[56][kKeyCode].Number(), 108);
 }
 
 TEST_F(FirstRunTest, OkWantsTwelveNumbersOtherThan0) {
@@ -119,7 +119,7 @@ TEST_F(FirstRunTest, OkWantsTwelveNumbersOtherThan0) {
         EXPECT_EQ(LastMessage().text, "Please fill all boxes.");
         EXPECT_EQ(LastMessage().icon, Icon::None);
         EXPECT_EQ(files_.bytes[kFile], before) << bad;
-        EXPECT_EQ(KeySettings[62][1].Number(), 40) << bad;
+        EXPECT_EQ(KeySettings[62][kKeyCode].Number(), 40) << bad;
         EXPECT_TRUE(frmInitial.Visible());
     }
 }
@@ -146,8 +146,8 @@ TEST_F(FirstRunTest, AnyNumberOtherThan0IsTakenForACode) {
         AcceptNamedKeys();
         EXPECT_EQ(MessageCount(), 0u) << text;
         EXPECT_FALSE(frmInitial.IsLoaded()) << text;
-        EXPECT_TRUE(KeySettings[51][1].IsNumber()) << text;
-        EXPECT_EQ(KeySettings[51][1].Number(), code);
+        EXPECT_TRUE(KeySettings[51][kKeyCode].IsNumber()) << text;
+        EXPECT_EQ(KeySettings[51][kKeyCode].Number(), code);
         EXPECT_EQ(FileLine(kFile, 52), "\"Shift\"," + std::string(text) + ",\"-\"");
     }
 }

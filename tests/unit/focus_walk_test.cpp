@@ -86,11 +86,11 @@ TEST_F(FocusWalkTest, WhatStandsWhereAStepEndsIsTypedOver) {
     Step();
     InsertText(frmMain.Text1[2], "P");
     InsertText(frmMain.Text1[2], "i");
-    EXPECT_EQ(TaxonTable[2][4], "Pi");
+    EXPECT_EQ(TaxonTable[2][kTaxonName], "Pi");
     StepBack();
     Step();
     InsertText(frmMain.Text1[2], "Betula");
-    EXPECT_EQ(TaxonTable[2][4], "Betula");
+    EXPECT_EQ(TaxonTable[2][kTaxonName], "Betula");
     ClickControl(frmMain.Text2[1]);
     Step();
     InsertText(frmMain.Text2[2], "5");
@@ -103,7 +103,7 @@ TEST_F(FocusWalkTest, ABoxThatIsLeftIsMarkedNoMore) {
     ClickControl(frmMain.Text1[1]);
     ClickControl(frmMain.Text1[2]);
     InsertText(frmMain.Text1[2], "P");
-    EXPECT_EQ(TaxonTable[2][4], "P---");
+    EXPECT_EQ(TaxonTable[2][kTaxonName], "P---");
 }
 
 TEST_F(FocusWalkTest, ANoteIsNotMarked) {

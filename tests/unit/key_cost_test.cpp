@@ -25,7 +25,7 @@ protected:
     KeyCostTest() {
         Begin("10");
         for (int slot = 1; slot <= kSlots; ++slot) {
-            TaxonTable[slot][2] = TaxonTable[slot][3] = 1;
+            TaxonTable[slot][kTaxonSubtotal1] = TaxonTable[slot][kTaxonSubtotal2] = 1;
             frmMain.Text2[slot].SetText(std::to_string(slot));
         }
         KeyNumber(1);

@@ -124,7 +124,7 @@ TEST_F(KeyDialogTest, CancelJudgesANumberInHandAndTheFrameDoesNot) {
             ClickControl(frmKeyCode.Command1);
         EXPECT_EQ(MessageCount(), by_frame ? 0u : 1u);
         EXPECT_FALSE(frmKeyCode.IsLoaded());
-        EXPECT_EQ(KeySettings[5][2].Number(), 5);
+        EXPECT_EQ(KeySettings[5][kKeyNumber].Number(), 5);
     }
 }
 

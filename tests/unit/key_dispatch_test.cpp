@@ -47,7 +47,7 @@ TEST_F(KeyDispatchTest, AKeyThatTheSettingsDoNotKnowDoesNothing) {
     for (const int code : {kEscape, 222, 97}) Key(code);
     EXPECT_TRUE(SampleUntouched);
     EXPECT_TRUE(frmMain.mnuNext.Enabled());
-    EXPECT_EQ(UndoList[0][1], 1);
+    EXPECT_EQ(UndoList[0][kUndoSlot], 1);
     EXPECT_EQ(Played(), Texts{});
     EXPECT_EQ(frmMain.Text3[0].Text(), "1");
 }
@@ -66,20 +66,20 @@ TEST_F(KeyDispatchTest, AKeyCountsOnlyWhileTheMainWindowIsActive) {
 }
 
 TEST_F(KeyDispatchTest, ACodeThatWasReadAsATextCountsAsItsNumber) {
-    KeySettings[1][1] = "81";
+    KeySettings[1][kKeyCode] = "81";
     Key(81);
     EXPECT_EQ(Counts[1][1], 1);
 }
 
 TEST_F(KeyDispatchTest, OfTwoCounterKeysWithOneCodeTheLastCounts) {
-    KeySettings[7][1] = CodeOf(3);
+    KeySettings[7][kKeyCode] = CodeOf(3);
     Key(CodeOf(3));
     EXPECT_EQ(Counts[3][1], 0);
     EXPECT_EQ(Counts[7][1], 1);
 }
 
 TEST_F(KeyDispatchTest, TheSlotIsTheKeyIndexInTheRowOfTheKey) {
-    TaxonTable[3][1] = 12;
+    TaxonTable[3][kTaxonKey] = 12;
     KeyNumber(3);
     EXPECT_EQ(Counts[3][1], 0);
     EXPECT_EQ(Counts[12][1], 1);
@@ -113,7 +113,7 @@ TEST_F(KeyDispatchTest, AShiftKeyAloneLeavesSaveOffAndSwitchesNextSampleOffInThe
     EXPECT_TRUE(frmMain.Command5[1].Enabled());
     EXPECT_FALSE(SheetClean) << "a shift key is a key of the pad all the same";
     EXPECT_TRUE(frmMain.mnuUndo.Enabled());
-    EXPECT_EQ(UndoList[1][1], 0) << "and it pushes nothing";
+    EXPECT_EQ(UndoList[1][kUndoSlot], 0) << "and it pushes nothing";
     KeyNumber(1);
     EXPECT_TRUE(frmMain.mnuNext.Enabled()) << "the total has moved";
 }
@@ -142,24 +142,24 @@ TEST_F(KeyDispatchTest, TheSlotCountedLastIsHighlightedAlone) {
 
 TEST_F(KeyDispatchTest, TheNewestCountStandsFirstInTheUndoList) {
     for (int i = 0; i <= kUndoDepth; ++i) {
-        UndoList[i][0] = static_cast<std::int16_t>(i % 7 + 1);
-        UndoList[i][1] = static_cast<std::int16_t>(i % kSlots + 1);
+        UndoList[i][kUndoSample] = static_cast<std::int16_t>(i % 7 + 1);
+        UndoList[i][kUndoSlot] = static_cast<std::int16_t>(i % kSlots + 1);
     }
     KeyNumber(44);
-    EXPECT_EQ(UndoList[0][0], 1);
-    EXPECT_EQ(UndoList[0][1], 44);
+    EXPECT_EQ(UndoList[0][kUndoSample], 1);
+    EXPECT_EQ(UndoList[0][kUndoSlot], 44);
     for (int i = 0; i < kUndoDepth; ++i) {
-        ASSERT_EQ(UndoList[i + 1][0], i % 7 + 1) << i;
-        ASSERT_EQ(UndoList[i + 1][1], i % kSlots + 1) << i;
+        ASSERT_EQ(UndoList[i + 1][kUndoSample], i % 7 + 1) << i;
+        ASSERT_EQ(UndoList[i + 1][kUndoSlot], i % kSlots + 1) << i;
     }
 }
 
 TEST_F(KeyDispatchTest, AKnownKeyWithoutASlotPushesSlot0AndChangesNothingToSee) {
     KeyNumber(1);
-    KeySettings[48][1] = 200;  // the second box of Shift-1, with a code of its own
+    KeySettings[48][kKeyCode] = 200;  // the second box of Shift-1, with a code of its own
     Key(200);
-    EXPECT_EQ(UndoList[0][1], 0);
-    EXPECT_EQ(UndoList[1][1], 1);
+    EXPECT_EQ(UndoList[0][kUndoSlot], 0);
+    EXPECT_EQ(UndoList[1][kUndoSlot], 1);
     EXPECT_EQ(frmMain.Text3[0].Text(), "1");
     EXPECT_EQ(LastLines(1), Texts{"1: ---"});
     EXPECT_EQ(frmMain.Text2[1].BackColor(), kCounted);
@@ -179,7 +179,7 @@ TEST_F(KeyDispatchTest, AKeystrokeLeavesNothingInTheHiddenFields) {
 }
 
 TEST_F(KeyDispatchTest, KeyCode0NeverCountsAndNeverSounds) {
-    KeySettings[5][1] = 0;
+    KeySettings[5][kKeyCode] = 0;
     Key(0);
     EXPECT_EQ(Counts[5][1], 0);
     EXPECT_EQ(Played(), Texts{});
@@ -222,7 +222,7 @@ TEST_F(KeyDispatchTest, WhileThePercentButtonIsHeldKeysAreIgnored) {
 
 TEST_F(KeyDispatchTest, TheSaveKeyIsServedFirstAndCountsNothing) {
     SaveAs("/sheets/Mere.csv");
-    KeySettings[50][1] = CodeOf(1);
+    KeySettings[50][kKeyCode] = CodeOf(1);
     Played();
     KeyNumber(1);
     EXPECT_EQ(Played(), Texts{"WaveSave"});

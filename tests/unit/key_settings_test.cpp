@@ -40,12 +40,12 @@ protected:
 };
 
 TEST_F(KeySettingsTest, RowsKeepTextsAsTextsAndNumbersAsNumbers) {
-    EXPECT_EQ(KeySettings[0][0].Text(), "Key");
-    EXPECT_EQ(KeySettings[1][0].Text(), "q");
-    EXPECT_TRUE(KeySettings[1][1].IsNumber() && KeySettings[1][2].IsNumber());
-    EXPECT_FALSE(KeySettings[46][2].IsNumber());
-    EXPECT_EQ(KeySettings[46][2].Text(), "46");
-    EXPECT_EQ(KeySettings[62][0].Text(), "Down");
+    EXPECT_EQ(KeySettings[0][kKeyDefinition].Text(), "Key");
+    EXPECT_EQ(KeySettings[1][kKeyDefinition].Text(), "q");
+    EXPECT_TRUE(KeySettings[1][kKeyCode].IsNumber() && KeySettings[1][kKeyNumber].IsNumber());
+    EXPECT_FALSE(KeySettings[46][kKeyNumber].IsNumber());
+    EXPECT_EQ(KeySettings[46][kKeyNumber].Text(), "46");
+    EXPECT_EQ(KeySettings[62][kKeyDefinition].Text(), "Down");
 }
 
 TEST_F(KeySettingsTest, ShiftAndUndoCodesComeFromTheirRows) {
@@ -133,7 +133,7 @@ TEST_F(KeySettingsTest, ANumberOutside1To135IsAFailure) {
     } cases[] = {{"0", false},  {"1", true},      {"135", true},  {"136", false},
                  {"-1", false}, {"\"x\"", false}, {"999", false}, {"40000", false}};
     for (const auto& each : cases) {
-        KeySettings[45][2] = each.number[0] == '"' ? Any("x") : Any(std::stod(each.number));
+        KeySettings[45][kKeyNumber] = each.number[0] == '"' ? Any("x") : Any(std::stod(each.number));
         if (each.good)
             EXPECT_NO_THROW(PlaceKeyCells()) << each.number;
         else
@@ -163,8 +163,8 @@ TEST_F(KeySettingsTest, AFunctionalCodeBeyond16BitsIsTreatedAsAMissingFile) {
 }
 
 TEST_F(KeySettingsTest, AFractionOfANumberIsRoundedHalfToEven) {
-    KeySettings[1][2] = 2.5;
-    KeySettings[2][2] = "1";
+    KeySettings[1][kKeyNumber] = 2.5;
+    KeySettings[2][kKeyNumber] = "1";
     PlaceKeyCells();
     EXPECT_TRUE(CellLiesAt(2, 1));
     EXPECT_TRUE(CellLiesAt(1, 2));
@@ -174,8 +174,8 @@ TEST_F(KeySettingsTest, WritingGivesTheFileThatWasRead) {
     const std::string before = files_.bytes[kFile];
     WriteKeySettings();
     EXPECT_EQ(files_.bytes[kFile], before);
-    KeySettings[51][1] = 160;
-    KeySettings[1][1] = "90";
+    KeySettings[51][kKeyCode] = 160;
+    KeySettings[1][kKeyCode] = "90";
     WriteKeySettings();
     EXPECT_EQ(FileLine(kFile, 52), "\"Shift\",160,\"-\"");
     EXPECT_EQ(FileLine(kFile, 2), "\"q\",\"90\",1");

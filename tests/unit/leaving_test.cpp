@@ -188,7 +188,7 @@ TEST_F(LeavingTest, QuitFromModifyModeLosesItsEditsAndEnds) {
     EXPECT_EQ(MessageCount(), 1u);
     EXPECT_EQ(Played(), Texts{"WaveError"});
     EXPECT_EQ(Counts[1][1], 1);
-    EXPECT_EQ(TaxonTable[1][4].Text(), "---");
+    EXPECT_EQ(TaxonTable[1][kTaxonName].Text(), "---");
     EXPECT_FALSE(SoundOn);
     EXPECT_TRUE(services_.host.ended);
     EXPECT_EQ(FileLine("/sheets/Mere.csv", 3), "1,0,0,\"---\",1");

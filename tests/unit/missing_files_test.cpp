@@ -51,7 +51,7 @@ TEST_F(MissingFilesTest, AnyMissingWaveMeansOneMessageAndNoSoundAtAll) {
         EXPECT_FALSE(SoundOn) << wave;
         EXPECT_FALSE(KeySettingsLoaded) << wave;
         EXPECT_EQ(KeyboardKnown, 1) << wave;
-        EXPECT_EQ(KeySettings[1][1].Number(), 81) << wave;
+        EXPECT_EQ(KeySettings[1][kKeyCode].Number(), 81) << wave;
         files_.bytes[path] = bytes;
     }
 }
@@ -114,7 +114,7 @@ TEST_F(MissingFilesTest, ASecondFreshSheetChimesAgainAndBeginsTheLogAnewButNotTh
 
 TEST_F(MissingFilesTest, ASecondFreshSheetIsAsFreshAsTheFirst) {
     Begin("10");
-    TaxonTable[1][2] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = 1;
     frmMain.Text1[1].SetText("Pinus");
     KeyNumber(1);
     NextSample("20");
@@ -139,7 +139,7 @@ TEST_F(MissingFilesTest, ASecondFreshSheetIsAsFreshAsTheFirst) {
     EXPECT_EQ(frmMain.Combo2.ListCount(), 0);
     EXPECT_EQ(frmMain.Text3[0].Text(), "0");
     EXPECT_EQ(Counts[1][1], 0);
-    EXPECT_EQ(TaxonTable[1][2].Number(), 0);
+    EXPECT_EQ(TaxonTable[1][kTaxonSubtotal1].Number(), 0);
     EXPECT_EQ(frmMain.Text1[1].Text(), "---");
     EXPECT_EQ(frmMain.Text4.Text(), "---");
     EXPECT_FALSE(frmMain.Text1[1].Bold());

@@ -199,9 +199,9 @@ TEST_F(MouseToolsTest, TheHorizontalGuideCrossesBothPictures) {
 }
 
 TEST_F(MouseToolsTest, TheTipNamesTheTaxonOfTheColumn) {
-    TaxonTable[1][4] = "Pinus";
-    TaxonTable[2][4] = "Quercus";
-    TaxonTable[135][4] = "Fagus";
+    TaxonTable[1][kTaxonName] = "Pinus";
+    TaxonTable[2][kTaxonName] = "Quercus";
+    TaxonTable[135][kTaxonName] = "Fagus";
     Move(30, 20);
     EXPECT_EQ(Diagram().ToolTip(), "");
     ClickControl(frmDiagram.mnuTaxaName);
@@ -223,8 +223,8 @@ TEST_F(MouseToolsTest, TheTipNamesTheTaxonOfTheColumn) {
 }
 
 TEST_F(MouseToolsTest, OnTheEdgeOfAColumnTheOldTipStays) {
-    TaxonTable[1][4] = "Pinus";
-    TaxonTable[2][4] = "Quercus";
+    TaxonTable[1][kTaxonName] = "Pinus";
+    TaxonTable[2][kTaxonName] = "Quercus";
     ClickControl(frmDiagram.mnuTaxaName);
     Move(ColumnOffset[1], 20);
     EXPECT_EQ(Diagram().ToolTip(), "");
@@ -241,8 +241,8 @@ TEST_F(MouseToolsTest, OnTheEdgeOfAColumnTheOldTipStays) {
 }
 
 TEST_F(MouseToolsTest, TheTipOfTheLastTaxonBeginsPastTheEdgeOfItsColumn) {
-    TaxonTable[1][4] = "Pinus";
-    TaxonTable[135][4] = "Fagus";
+    TaxonTable[1][kTaxonName] = "Pinus";
+    TaxonTable[135][kTaxonName] = "Fagus";
     ClickControl(frmDiagram.mnuTaxaName);
     Move(30, 20);
     frmDiagram.HScroll1.SetValue(frmDiagram.HScroll1.Max());
@@ -254,9 +254,9 @@ TEST_F(MouseToolsTest, TheTipOfTheLastTaxonBeginsPastTheEdgeOfItsColumn) {
 }
 
 TEST_F(MouseToolsTest, TheTipAddsTheScrollValueUnscaledAndTheLastColumnStandsUnscaled) {
-    TaxonTable[1][4] = "Pinus";
-    TaxonTable[3][4] = "Alnus";
-    TaxonTable[135][4] = "Fagus";
+    TaxonTable[1][kTaxonName] = "Pinus";
+    TaxonTable[3][kTaxonName] = "Alnus";
+    TaxonTable[135][kTaxonName] = "Fagus";
     ClickControl(frmDiagram.mnuTaxaName);
     frmDiagram.Slider2.SetValue(10);
     ASSERT_EQ(ColumnOffset[2], 50.0F);
@@ -288,10 +288,10 @@ TEST_F(MoveSampleTest, TheRightButtonOnTheLineMovesTheColumn) {
     EXPECT_EQ(Drawn(Diagram(), "line 0 50 500 50 255,0,0"), 1);
     Move(250, 24.9);
     EXPECT_EQ(MoveTo, 2);
-    EXPECT_EQ(SampleTable[2][2], "B");
+    EXPECT_EQ(SampleTable[kSampleName][2], "B");
     Release(24.9);
-    EXPECT_EQ(SampleTable[2][2], "E");
-    EXPECT_EQ(SampleTable[2][5], "D");
+    EXPECT_EQ(SampleTable[kSampleName][2], "E");
+    EXPECT_EQ(SampleTable[kSampleName][5], "D");
     EXPECT_EQ(frmDiagram.Combo2.List()[1], "E");
     EXPECT_EQ(frmDiagram.Combo2.Text(), "E");
     EXPECT_EQ(frmDiagram.SelectedSample, 2);
@@ -302,7 +302,7 @@ TEST_F(MoveSampleTest, ReleasedWhereItWasPressedItMovesNothing) {
     Move(250, 50);
     Press(MouseButton::Right, 50);
     Release(50);
-    EXPECT_EQ(SampleTable[2][5], "E");
+    EXPECT_EQ(SampleTable[kSampleName][5], "E");
     EXPECT_FALSE(frmMain.Command5[0].Enabled());
 }
 
@@ -312,8 +312,8 @@ TEST_F(MoveSampleTest, DroppedOutsideItMovesNothing) {
     Move(250, 20);
     MoveMouseOverWindow(frmDiagram, {MouseButton::Right, 0, 0});
     Release(20);
-    EXPECT_EQ(SampleTable[2][5], "E");
-    EXPECT_EQ(SampleTable[2][2], "B");
+    EXPECT_EQ(SampleTable[kSampleName][5], "E");
+    EXPECT_EQ(SampleTable[kSampleName][2], "B");
     EXPECT_FALSE(frmMain.Command5[0].Enabled());
     EXPECT_EQ(frmDiagram.SelectedSample, 2);
 }

@@ -20,8 +20,12 @@ struct Column {
 };
 
 Column Read(int sample) {
-    Column column{
-        static_cast<std::int16_t>(SampleTable[1][sample].Number()), SampleTable[2][sample].Text(), SampleNotes[sample], {}, {}, {}};
+    Column column{static_cast<std::int16_t>(SampleTable[kSampleSerial][sample].Number()),
+                  SampleTable[kSampleName][sample].Text(),
+                  SampleNotes[sample],
+                  {},
+                  {},
+                  {}};
     for (int slot = 1; slot <= kSlots; ++slot) {
         column.counts.push_back(Counts[slot][sample]);
         column.shares.push_back(SamplePercent[slot][sample]);
@@ -39,8 +43,8 @@ protected:
         SampleCount = static_cast<std::int16_t>(samples);
         frmMain.Combo2.Clear();
         for (int sample = 1; sample <= samples; ++sample) {
-            SampleTable[1][sample] = sample;
-            SampleTable[2][sample] = "A" + std::to_string(sample);
+            SampleTable[kSampleSerial][sample] = sample;
+            SampleTable[kSampleName][sample] = "A" + std::to_string(sample);
             frmMain.Combo2.AddItem("A" + std::to_string(sample));
             SampleNotes[sample] = "note " + std::to_string(sample);
             for (int slot = 1; slot <= kSlots; ++slot) {
@@ -144,12 +148,12 @@ TEST_F(MoveSampleColumnTest, OnlyTheMovedCountsPassThroughASingle) {
 TEST_F(MoveSampleColumnTest, TheNamesAsTheDiagramTookThemUpAndTheBasisSumsStay) {
     Fill(3);
     for (int sample = 1; sample <= 3; ++sample) {
-        SampleTable[0][sample] = sample;
+        SampleTable[kSampleNameDrawn][sample] = sample;
         Counts[0][sample] = sample;
     }
     Move(3, 1);
     for (int sample = 1; sample <= 3; ++sample) {
-        EXPECT_EQ(SampleTable[0][sample].Number(), sample);
+        EXPECT_EQ(SampleTable[kSampleNameDrawn][sample].Number(), sample);
         EXPECT_EQ(Counts[0][sample], sample);
     }
 }
@@ -166,7 +170,7 @@ TEST_F(MoveSampleColumnTest, ASampleOnShowBetweenTheTwoPlacesGoesAlongWithItsCol
     frmMain.Combo2.SetText("A2");
     Move(4, 1);
     EXPECT_EQ(CurrentSample, 3);
-    EXPECT_EQ(SampleTable[2][CurrentSample].Text(), "A2");
+    EXPECT_EQ(SampleTable[kSampleName][CurrentSample].Text(), "A2");
     Move(1, 4);
     EXPECT_EQ(CurrentSample, 2);
     EXPECT_EQ(frmMain.Combo2.Text(), "A2");
@@ -174,12 +178,12 @@ TEST_F(MoveSampleColumnTest, ASampleOnShowBetweenTheTwoPlacesGoesAlongWithItsCol
 
 TEST_F(MoveSampleColumnTest, WhatIsUndoneLaterBelongsToTheSampleWhereItWasCounted) {
     Fill(4);
-    UndoList[0][0] = 4;
-    UndoList[0][1] = 7;
-    UndoList[1][0] = 1;
-    UndoList[1][1] = -3;
+    UndoList[0][kUndoSample] = 4;
+    UndoList[0][kUndoSlot] = 7;
+    UndoList[1][kUndoSample] = 1;
+    UndoList[1][kUndoSlot] = -3;
     Move(4, 2);
-    EXPECT_EQ(UndoList[0][0], 2);
-    EXPECT_EQ(UndoList[1][0], 1);
+    EXPECT_EQ(UndoList[0][kUndoSample], 2);
+    EXPECT_EQ(UndoList[1][kUndoSample], 1);
 }
 }  // namespace

@@ -82,7 +82,7 @@ TEST_F(NewSheetTest, TheFirstNameGoesToTheFirstColumn) {
     KeyNumber(2, 3);
     NextSample("7");
     EXPECT_EQ(SampleCount, 1);
-    EXPECT_EQ(SampleTable[2][1], "7");
+    EXPECT_EQ(SampleTable[kSampleName][1], "7");
 }
 
 // The window that makes a sheet of a template.
@@ -106,7 +106,7 @@ TEST_F(FirstSampleTest, TheWindowOffersTheParametersOfTheTemplate) {
 
 TEST_F(FirstSampleTest, OkBeginsTheSheet) {
     Name("12.5");
-    EXPECT_EQ(SampleTable[2][1], "12.5") << "as it is typed";
+    EXPECT_EQ(SampleTable[kSampleName][1], "12.5") << "as it is typed";
     ClickControl(frmSiteName.Text3[2]);
     InsertText(frmSiteName.Text3[2], "14 m");
     frmSiteName.Text2.SetText("Note: sand");
@@ -115,7 +115,7 @@ TEST_F(FirstSampleTest, OkBeginsTheSheet) {
     EXPECT_TRUE(frmMain.Enabled());
     EXPECT_EQ(frmMain.Focus(), &frmMain.Text99);
     EXPECT_EQ(frmMain.Title(), "Marlbrook 2.7 - [mere]");
-    EXPECT_EQ(SheetHeader[6], "12.5");
+    EXPECT_EQ(SheetHeader[kHeaderPath], "12.5");
     EXPECT_EQ(frmMain.Text1[0].Text(), "12.5");
     EXPECT_EQ(frmMain.Combo2.List(), Texts{"12.5"});
     EXPECT_EQ(frmMain.Combo2.Text(), "12.5");
@@ -133,7 +133,7 @@ TEST_F(FirstSampleTest, OkBeginsTheSheet) {
 
 TEST_F(FirstSampleTest, AnEmptyNameBecomesANumber) {
     ClickControl(frmSiteName.Command1);
-    EXPECT_EQ(SampleTable[2][1], "1: ---");
+    EXPECT_EQ(SampleTable[kSampleName][1], "1: ---");
     EXPECT_EQ(HistoryLog.back(), "(New sample: 1: ---)");
     EXPECT_TRUE(SampleNamesAreText);
 }

@@ -14,20 +14,21 @@ class NextSampleTest : public SheetTest {
 protected:
     static Texts Names() {
         Texts names;
-        for (int sample = 1; sample <= SampleCount; ++sample) names.push_back(SampleTable[2][sample].Text());
+        for (int sample = 1; sample <= SampleCount; ++sample) names.push_back(SampleTable[kSampleName][sample].Text());
         return names;
     }
     static std::vector<int> Serials() {
         std::vector<int> serials;
-        for (int sample = 1; sample <= SampleCount; ++sample) serials.push_back(static_cast<int>(SampleTable[1][sample].Number()));
+        for (int sample = 1; sample <= SampleCount; ++sample)
+            serials.push_back(static_cast<int>(SampleTable[kSampleSerial][sample].Number()));
         return serials;
     }
     // Samples 1, 2, 3 ... up to this many, one grain in each.
     void GrowTo(int samples) {
         SampleCount = static_cast<std::int16_t>(samples);
         for (int sample = 1; sample <= samples; ++sample) {
-            SampleTable[1][sample] = sample;
-            SampleTable[2][sample] = std::to_string(sample);
+            SampleTable[kSampleSerial][sample] = sample;
+            SampleTable[kSampleName][sample] = std::to_string(sample);
             Counts[1][sample] = 1;
         }
         MaxSerial = CurrentSample = SampleCount;
@@ -88,7 +89,7 @@ TEST_F(NextSampleTest, ANewNameGoesBehindItsEqualsAndNegativesToTheFront) {
         KeyNumber(1);
     }
     EXPECT_EQ(Names(), (Texts{"-30", "-2.5", "0", "9.9", "10", "100"}));
-    SampleTable[2][5] = "50.0";  // renamed since
+    SampleTable[kSampleName][5] = "50.0";  // renamed since
     NextSample("50");
     EXPECT_EQ(Names(), (Texts{"-30", "-2.5", "0", "9.9", "50.0", "50", "100"}));
 }
@@ -153,11 +154,11 @@ TEST_F(NextSampleTest, AColumnThatAnEarlierSheetFilledBeginsAt0) {
 
 TEST_F(NextSampleTest, AllTotalsAndTheCurveBeginAt0) {
     Begin("10");
-    TaxonTable[1][2] = TaxonTable[1][3] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = TaxonTable[1][kTaxonSubtotal2] = 1;
     KeyNumber(1, 3);
     NextSample("20");
     for (const TextBox& total : frmMain.Text3) EXPECT_EQ(total.Text(), "0");
-    EXPECT_TRUE(TaxonTable[0][2] == 0 && TaxonTable[0][3] == 0);
+    EXPECT_TRUE(TaxonTable[0][kTaxonSubtotal1] == 0 && TaxonTable[0][kTaxonSubtotal2] == 0);
     EXPECT_TRUE(frmMain.Picture2.Operations().empty());
 }
 
@@ -231,7 +232,7 @@ TEST_F(NextSampleTest, PastTheColumnsThatThereAreTheProgramEnds) {
 TEST_F(NextSampleTest, TheLargestSerialCountsWhereverItStands) {
     Begin("1");
     GrowTo(3);
-    SampleTable[1][1] = 40;
+    SampleTable[kSampleSerial][1] = 40;
     EXPECT_EQ(LargestSerial(), 40);
     NextSample("9");
     EXPECT_EQ(Serials(), (std::vector<int>{40, 2, 3, 41}));
@@ -240,9 +241,9 @@ TEST_F(NextSampleTest, TheLargestSerialCountsWhereverItStands) {
 
 TEST_F(NextSampleTest, WithoutAnySerialTheLargestIs0) {
     Begin("1");
-    SampleTable[1][1] = -9999;
+    SampleTable[kSampleSerial][1] = -9999;
     EXPECT_EQ(LargestSerial(), 0);
-    SampleTable[1][1] = -9998;
+    SampleTable[kSampleSerial][1] = -9998;
     EXPECT_EQ(LargestSerial(), -9998);
 }
 

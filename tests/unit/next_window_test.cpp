@@ -118,7 +118,7 @@ TEST_F(NextWindowTest, ClosingTheStartFaceLeavesAFreshSheetReadyToCount) {
     EXPECT_EQ(ActiveWindow(), &frmMain);
     KeyNumber(1);
     EXPECT_EQ(Counts[1][1], 1);
-    EXPECT_EQ(SampleTable[2][1].Text(), "-9999");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "-9999");
 }
 
 TEST_F(NextWindowTest, ADoubleClickOnTheNoteIsOk) {
@@ -129,7 +129,7 @@ TEST_F(NextWindowTest, ADoubleClickOnTheNoteIsOk) {
     FinishDoubleClick(frmNext.Text2);
     EXPECT_FALSE(frmNext.IsLoaded());
     EXPECT_TRUE(frmMain.Enabled());
-    EXPECT_EQ(SampleTable[2][1].Text(), "10");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "10");
 }
 
 TEST_F(NextWindowTest, AValueFieldIsEmptyWhileItIsEmptyAndDashedWhenItIsLeftSo) {

@@ -33,7 +33,7 @@ TEST_F(OldSampleWarningTest, NoLosesTheKeyAndAsksAgainAtTheNext) {
     EXPECT_EQ(MessageCount(), 2u);
     EXPECT_EQ(Counts[1][1], 1);
     EXPECT_EQ(Played(), (Texts{"WaveError", "WaveError"}));
-    EXPECT_EQ(UndoList[0][0], 2) << "nothing was pushed";
+    EXPECT_EQ(UndoList[0][kUndoSample], 2) << "nothing was pushed";
     EXPECT_EQ(LastLines(1), Texts{"(Change sample: 10)"});
     EXPECT_TRUE(WarnOldSample);
 }

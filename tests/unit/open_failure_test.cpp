@@ -122,14 +122,14 @@ TEST_F(OpenFailureTest, AnEmptyFileTakesThePathAndTheCountsAlone) {
 TEST_F(OpenFailureTest, AFileWithoutAnEndingHasNoNameForTheCaption) {
     EXPECT_FALSE(Open(Joined(DataSheet(1)), "/sheets/mere"));
     EXPECT_EQ(SheetPath, "/sheets/mere");
-    EXPECT_EQ(SheetHeader[6], "/old/place.csv");
+    EXPECT_EQ(SheetHeader[kHeaderPath], "/old/place.csv");
     EXPECT_EQ(SampleCount, 3);
 }
 
 TEST_F(OpenFailureTest, A256thColumnStopsTheOpenBeforeTheSheetHasAnyOfThem) {
     FailToOpen(DataSheet(256));
     EXPECT_EQ(SampleCount, 3);
-    EXPECT_EQ(SampleTable[1][255], 255);
+    EXPECT_EQ(SampleTable[kSampleSerial][255], 255);
     EXPECT_EQ(frmMain.Combo2.ListCount(), 3);
 }
 
@@ -148,7 +148,7 @@ TEST_F(OpenFailureTest, ASerialOutsideTheArraysStopsTheOpenBeforeTheNames) {
         Rows rows = DataSheet(2);
         rows[0][5] = serial;
         EXPECT_TRUE(Open(rows)) << serial;
-        EXPECT_EQ(SerialOfColumn[2], SampleTable[1][2].Number());
+        EXPECT_EQ(SerialOfColumn[2], SampleTable[kSampleSerial][2].Number());
         EXPECT_EQ(ColumnOfSerial[SerialOfColumn[2]], 2);
     }
 }
@@ -170,10 +170,10 @@ TEST_F(OpenFailureTest, AKeyIndexOutsideTheArraysStopsTheOpenInItsRow) {
         FailToOpen(rows);
         EXPECT_EQ(SampleCount, 2) << key;
         EXPECT_EQ(frmMain.Combo2.Text(), "20");
-        EXPECT_EQ(TaxonTable[2][4], "Betula");
+        EXPECT_EQ(TaxonTable[2][kTaxonName], "Betula");
         EXPECT_EQ(Counts[2][1], 3);
         EXPECT_EQ(Counts[3][1], 0);
-        EXPECT_EQ(TaxonTable[4][4], "Taxon 4");
+        EXPECT_EQ(TaxonTable[4][kTaxonName], "Taxon 4");
         EXPECT_EQ(SampleNotes[1], "Note 1");
         SaveSheet(kSave);
         EXPECT_EQ(FileLine(kBad, 4), "2,0,0,\"Betula\",3,4");
@@ -239,7 +239,7 @@ TEST_F(OpenFailureTest, ARepeatedKeyIndexResetsTheSession) {
     EXPECT_EQ(Played(), (Texts{"WaveError", "WaveOpening"}));
     EXPECT_EQ(SheetPath, "");
     EXPECT_EQ(SampleCount, 1);
-    EXPECT_EQ(SampleTable[2][1], "-9999");
+    EXPECT_EQ(SampleTable[kSampleName][1], "-9999");
     EXPECT_EQ(frmMain.Text1[1].Text(), "---");
     EXPECT_EQ(Counts[1][1], 0);
     EXPECT_EQ(KeyIndex[7], 7);
@@ -269,7 +269,7 @@ TEST_F(OpenFailureTest, AFileCutShortAnywhereKeepsWhatWasRead) {
             const int rows_begun = (cells - kHeaderCells + kRowCells - 4) / kRowCells;  // with their four labels
             for (int r = 1; r <= kSlots; ++r) {
                 const std::string name = (cells >= kHeaderCells && r <= rows_begun ? "New Taxon " : "Taxon ") + std::to_string(r);
-                ASSERT_EQ(TaxonTable[r][4], name) << cells << " cells";
+                ASSERT_EQ(TaxonTable[r][kTaxonName], name) << cells << " cells";
                 ASSERT_EQ(frmMain.Text1[r].Text(), name) << cells << " cells";
             }
             if (HasFailure()) return;
@@ -319,7 +319,7 @@ TEST_F(OpenFailureTest, ATemplateCutShortLeavesOneColumn) {
     EXPECT_EQ(SampleCount, 1);
     EXPECT_EQ(CurrentSample, 1);
     EXPECT_EQ(frmMain.Label4.Caption(), "1/1");
-    EXPECT_EQ(SampleTable[1][1], 1);
+    EXPECT_EQ(SampleTable[kSampleSerial][1], 1);
     EXPECT_TRUE(TemplateOpened);
     EXPECT_FALSE(frmSiteName.IsLoaded());
 }

@@ -56,27 +56,27 @@ TEST_F(OpenSheetTest, TheCurveOfTheOldSheetIsGone) {
 
 TEST_F(OpenSheetTest, EveryCellOfTheGridFindsItsPlace) {
     ASSERT_TRUE(Open(DataSheet(2)));
-    EXPECT_EQ(SheetHeader[6], "/sheets/mere.csv") << "the back-up writes the path of the session, not that in the file";
-    EXPECT_EQ(SheetHeader[12], "Trees");
-    EXPECT_EQ(SheetHeader[13], "Herbs");
-    EXPECT_EQ(SampleTable[1][2], 2);
-    EXPECT_EQ(SampleTable[2][1], "10");
-    EXPECT_FALSE(SampleTable[2][1].IsNumber());
+    EXPECT_EQ(SheetHeader[kHeaderPath], "/sheets/mere.csv") << "the back-up writes the path of the session, not that in the file";
+    EXPECT_EQ(SheetHeader[kHeaderSubtotal1], "Trees");
+    EXPECT_EQ(SheetHeader[kHeaderSubtotal2], "Herbs");
+    EXPECT_EQ(SampleTable[kSampleSerial][2], 2);
+    EXPECT_EQ(SampleTable[kSampleName][1], "10");
+    EXPECT_FALSE(SampleTable[kSampleName][1].IsNumber());
     EXPECT_EQ(SampleNamesRead[2], "20");
     EXPECT_EQ(SerialOfColumn[2], 2);
     EXPECT_EQ(ColumnOfSerial[1], 1);
     for (int slot = 1; slot <= kSlots; ++slot) {
         EXPECT_EQ(KeyIndex[slot], slot);
         EXPECT_EQ(RowOfSlot[slot], slot);
-        EXPECT_EQ(TaxonTable[slot][0], slot);
-        EXPECT_EQ(TaxonTable[slot][1], slot);
-        EXPECT_EQ(TaxonTable[slot][2], slot % 2);
-        EXPECT_EQ(TaxonTable[slot][3], slot % 3 == 0);
-        EXPECT_EQ(TaxonTable[slot][4], "Taxon " + std::to_string(slot));
+        EXPECT_EQ(TaxonTable[slot][kTaxonSheetRow], slot);
+        EXPECT_EQ(TaxonTable[slot][kTaxonKey], slot);
+        EXPECT_EQ(TaxonTable[slot][kTaxonSubtotal1], slot % 2);
+        EXPECT_EQ(TaxonTable[slot][kTaxonSubtotal2], slot % 3 == 0);
+        EXPECT_EQ(TaxonTable[slot][kTaxonName], "Taxon " + std::to_string(slot));
         EXPECT_EQ(Counts[slot][1], (slot + 1) % 100);
         EXPECT_EQ(Counts[slot][2], (slot + 2) % 100);
     }
-    EXPECT_EQ(ParamHeader[1][4], "Info 1:") << "the back-up takes the caption";
+    EXPECT_EQ(ParamHeader[1][kParamName], "Info 1:") << "the back-up takes the caption";
     EXPECT_EQ(ParamValues[6][1], "6/1");
     EXPECT_EQ(SheetFooter[4], "Note: ");
     EXPECT_EQ(SampleNotes[1], "Note 1");
@@ -108,7 +108,7 @@ TEST_F(OpenSheetTest, ASortedSheetKeepsItsOrderAndItsKeys) {
     ASSERT_TRUE(Open(rows));
     EXPECT_EQ(KeyIndex[1], 135);
     EXPECT_EQ(RowOfSlot[135], 1);
-    EXPECT_EQ(TaxonTable[135][0], 1);
+    EXPECT_EQ(TaxonTable[135][kTaxonSheetRow], 1);
     EXPECT_EQ(frmMain.Text1[135].Text(), "Taxon 135");
     EXPECT_EQ(RowNames[1], "Taxon 135");
 }
@@ -143,7 +143,7 @@ TEST_F(OpenSheetTest, ASheetOf255SamplesGrowsNoFurther) {
     frmNext.Text1.SetText("2560");
     EXPECT_THROW(AddSample(), Failure);
     EXPECT_EQ(SampleCount, 255);
-    EXPECT_EQ(SampleTable[2][255], "2550");
+    EXPECT_EQ(SampleTable[kSampleName][255], "2550");
     EXPECT_EQ(frmMain.Combo2.ListCount(), 255);
 }
 
@@ -173,9 +173,9 @@ TEST_F(OpenSheetTest, TheBasisGoesBackToAllAndNothingCanBeUndone) {
     EXPECT_TRUE(frmMain.Option1[0].Value());
     EXPECT_FALSE(frmMain.Option1[1].Value());
     EXPECT_FALSE(frmMain.Text1[1].Underline());
-    EXPECT_EQ(UndoList[0][0], 1);
-    EXPECT_EQ(UndoList[0][1], 0);
-    EXPECT_EQ(UndoList[kUndoDepth][1], 0);
+    EXPECT_EQ(UndoList[0][kUndoSample], 1);
+    EXPECT_EQ(UndoList[0][kUndoSlot], 0);
+    EXPECT_EQ(UndoList[kUndoDepth][kUndoSlot], 0);
 }
 
 TEST_F(OpenSheetTest, ANumericNameLeavesTheNamesInOrder) {
@@ -271,8 +271,8 @@ TEST_F(OpenSheetTest, ATemplateAsksForItsFirstSample) {
     EXPECT_EQ(SampleCount, 1);
     EXPECT_EQ(CurrentSample, 1);
     EXPECT_EQ(frmMain.Label4.Caption(), "1/1");
-    EXPECT_EQ(SampleTable[1][1], 1);
-    EXPECT_EQ(SampleTable[2][1], "");
+    EXPECT_EQ(SampleTable[kSampleSerial][1], 1);
+    EXPECT_EQ(SampleTable[kSampleName][1], "");
     EXPECT_EQ(frmMain.Text2[5].Text(), "0");
     EXPECT_EQ(frmMain.Text1[5].Text(), "Taxon 5");
     EXPECT_EQ(SheetPath, kPath) << "so that Save will write the sheet over the template";
@@ -282,7 +282,7 @@ TEST_F(OpenSheetTest, AnOlderSheetLeavesTheAdditionalInfoAlone) {
     ASSERT_TRUE(Open(DataSheet(2)));
     ASSERT_TRUE(Open(OlderSheet(2)));
     EXPECT_EQ(FileVersion, 1);
-    EXPECT_EQ(SheetHeader[9], "Serial No.");
+    EXPECT_EQ(SheetHeader[kHeaderSerial], "Serial No.");
     EXPECT_EQ(SampleNotes[2], "Note 2");
     EXPECT_EQ(frmMain.Label10[3].Caption(), "Info 3:");
     EXPECT_EQ(ParamValues[3][1], "3/1");
@@ -313,7 +313,7 @@ TEST_F(OpenSheetTest, AnOlderSheetWithoutSerialsIsATemplateWithTheAdditionalInfo
     EXPECT_EQ(frmSiteName.Label3[3].Caption(), "Info 3");
     InsertText(frmSiteName.Text1, "5");
     ClickControl(frmSiteName.Command1);
-    EXPECT_EQ(SampleTable[2][1], "5");
+    EXPECT_EQ(SampleTable[kSampleName][1], "5");
     EXPECT_EQ(frmMain.Label10[3].Caption(), "Info 3:");
     EXPECT_EQ(ParamValues[3][1], "---");
 }

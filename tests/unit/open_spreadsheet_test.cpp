@@ -45,7 +45,7 @@ TEST_F(OpenSpreadsheetTest, AccentsReadTheSameInBothEncodings) {
     utf8[kTaxonRow][3] = "\"B\u00e9tula\"";
     windows1252[kTaxonRow][3] = "\"B\xE9tula\"";
     const std::string sheet = Rewritten(Joined(windows1252));
-    EXPECT_EQ(TaxonTable[1][4], "B\u00e9tula");
+    EXPECT_EQ(TaxonTable[1][kTaxonName], "B\u00e9tula");
     EXPECT_EQ(Rewritten(Joined(utf8)), sheet);
     EXPECT_NE(sheet.find("B\xE9tula"), std::string::npos);
 }
@@ -59,11 +59,11 @@ TEST_F(OpenSpreadsheetTest, NamesThatItTookForDatesOrErrorsAreTexts) {
     rows[kTaxonRow + 1][3] = "#NAME?";
     ASSERT_TRUE(Open(Joined(rows, ",", "\n")));
     for (int sample = 1; sample <= 5; ++sample) {
-        EXPECT_EQ(SampleTable[2][sample], names[sample - 1]);
-        EXPECT_FALSE(SampleTable[2][sample].IsNumber()) << "written with quotes again";
+        EXPECT_EQ(SampleTable[kSampleName][sample], names[sample - 1]);
+        EXPECT_FALSE(SampleTable[kSampleName][sample].IsNumber()) << "written with quotes again";
     }
-    EXPECT_EQ(TaxonTable[1][4], "Err:509");
-    EXPECT_EQ(TaxonTable[2][4], "#NAME?");
+    EXPECT_EQ(TaxonTable[1][kTaxonName], "Err:509");
+    EXPECT_EQ(TaxonTable[2][kTaxonName], "#NAME?");
     EXPECT_TRUE(SampleNamesAreText);
 }
 

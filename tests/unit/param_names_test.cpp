@@ -27,7 +27,7 @@ TEST_F(ParamNamesTest, ANameIsKeptAsTypedAndShownWithOneColonMore) {
     Begin("10");
     for (const auto& test : cases) {
         Rename(3, test.typed);
-        EXPECT_EQ(ParamHeader[3][4], test.typed);
+        EXPECT_EQ(ParamHeader[3][kParamName], test.typed);
         EXPECT_EQ(frmMain.Label10[3].Caption(), test.shown);
         RenameParamOfSheet(3);
         EXPECT_EQ(frmParaName.Label2.Caption(), test.offered);
@@ -47,7 +47,7 @@ TEST_F(ParamNamesTest, EachFieldHasItsOwnName) {
     Begin("10");
     for (int p = 1; p <= kParams; ++p) Rename(p, "name " + std::to_string(p));
     for (int p = 1; p <= kParams; ++p) {
-        EXPECT_EQ(ParamHeader[p][4], "name " + std::to_string(p));
+        EXPECT_EQ(ParamHeader[p][kParamName], "name " + std::to_string(p));
         EXPECT_EQ(frmMain.Label10[p].Caption(), "name " + std::to_string(p) + ":");
     }
 }

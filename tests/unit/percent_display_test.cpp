@@ -50,7 +50,7 @@ TEST_F(PercentDisplayTest, TheProductIsRoundedAsASingleTiesToEven) {
 TEST_F(PercentDisplayTest, ASlotOutsideTheBasisShowsItsShareOfTheBasisAllTheSame) {
     Count(1, 10);
     Count(2, 25);
-    TaxonTable[1][3] = 1;
+    TaxonTable[1][kTaxonSubtotal2] = 1;
     ClickControl(frmMain.Option1[2]);
     ShowPercentages();
     EXPECT_EQ(frmMain.Text2[1].Text(), "100");
@@ -68,7 +68,7 @@ TEST_F(PercentDisplayTest, WithNothingInTheBasisEveryCellShows0) {
 }
 
 TEST_F(PercentDisplayTest, TheTotalsTurnIntoPercentOnlyWhereSample136HasASum) {
-    TaxonTable[1][2] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = 1;
     KeyNumber(1, 2);
     KeyNumber(2, 4);
     Counts[0][136] = 5;

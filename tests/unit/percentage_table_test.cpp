@@ -12,9 +12,9 @@ class PercentageTableTest : public SheetTest {
 protected:
     PercentageTableTest() {
         Begin("12.5");
-        SheetHeader[12] = "Trees";
-        SheetHeader[13] = "Herbs";
-        TaxonTable[1][2] = TaxonTable[2][2] = TaxonTable[3][3] = 1;
+        SheetHeader[kHeaderSubtotal1] = "Trees";
+        SheetHeader[kHeaderSubtotal2] = "Herbs";
+        TaxonTable[1][kTaxonSubtotal1] = TaxonTable[2][kTaxonSubtotal1] = TaxonTable[3][kTaxonSubtotal2] = 1;
         frmMain.Text1[1].SetText("Pinus");
         for (const int key : {1, 2, 3}) KeyNumber(key, key == 1 ? 40 : key == 2 ? 9 : 1);
         NextSample("15");
@@ -88,7 +88,7 @@ TEST_F(PercentageTableTest, SharesHaveFourDecimalsTiesToEven) {
 }
 
 TEST_F(PercentageTableTest, AShareIsRoundedFromASingleAndASumFromADouble) {
-    TaxonTable[2][2] = 0;
+    TaxonTable[2][kTaxonSubtotal1] = 0;
     frmMain.Text2[1].SetText("8");
     frmMain.Text2[2].SetText("23");
     frmMain.Text2[3].SetText("0");

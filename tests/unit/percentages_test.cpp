@@ -21,7 +21,7 @@ protected:
     // Samples of these names, with nothing counted.
     static void Names(const Texts& names) {
         SampleCount = static_cast<std::int16_t>(names.size());
-        for (std::size_t i = 0; i < names.size(); ++i) SampleTable[2][i + 1] = names[i];
+        for (std::size_t i = 0; i < names.size(); ++i) SampleTable[kSampleName][i + 1] = names[i];
     }
     static std::vector<int> Ranks() { return {SampleRank.begin() + 1, SampleRank.end()}; }
 };
@@ -90,7 +90,7 @@ TEST_F(PercentagesTest, RanksAgreeWithAStableSort) {
 TEST_F(PercentagesTest, SharesStandInSheetRowsAndDisplayPlaces) {
     Names({"20", "10"});
     std::swap(RowOfSlot[1], RowOfSlot[3]);
-    TaxonTable[1][4] = "Pinus";
+    TaxonTable[1][kTaxonName] = "Pinus";
     Counts[1][1] = 1;
     Counts[2][1] = 2;
     Counts[2][2] = 5;
@@ -123,8 +123,8 @@ TEST_F(PercentagesTest, TheBasisIsTheChosenTotal) {
     Counts[1][1] = 10;
     Counts[2][1] = 30;
     Counts[3][1] = 60;
-    TaxonTable[1][2] = TaxonTable[2][2] = 1;
-    TaxonTable[3][3] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = TaxonTable[2][kTaxonSubtotal1] = 1;
+    TaxonTable[3][kTaxonSubtotal2] = 1;
     struct {
         int basis, sum;
         float first, last;
@@ -145,7 +145,7 @@ TEST_F(PercentagesTest, ASampleWhoseBasisIs0HasNoSharesAndNoDataMark) {
     Counts[2][2] = 3;
     Counts[3][2] = -3;
     Counts[2][3] = 1;
-    TaxonTable[2][2] = TaxonTable[3][2] = 1;
+    TaxonTable[2][kTaxonSubtotal1] = TaxonTable[3][kTaxonSubtotal1] = 1;
     frmMain.Option1[1].SetValue(true);
     DiagramShares[1][1] = DiagramShares[0][1] = 9;  // of an earlier run
     ComputeDiagramData();

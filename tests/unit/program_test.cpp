@@ -33,5 +33,5 @@ void ProgramTest::Key(int code) {
 }
 
 void ProgramTest::KeyNumber(int key, int times) {
-    for (int i = 0; i < times; ++i) Key(static_cast<int>(KeySettings[key][1].Number()));
+    for (int i = 0; i < times; ++i) Key(static_cast<int>(KeySettings[key][kKeyCode].Number()));
 }

@@ -145,9 +145,9 @@ TEST_F(GuardedBoxesTest, InModifyModeNamesNoteAndAdditionalInfoAreGuarded) {
     Begin("10");
     ClickControl(frmMain.Command3[0]);
     EXPECT_TRUE(Refuses(frmMain.Text1[0], 50, "\"")) << "the name of the sample";
-    EXPECT_EQ(SampleTable[2][1].Text(), "10");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "10");
     EXPECT_TRUE(Refuses(frmMain.Text1[1], 50, "\""));
-    EXPECT_EQ(TaxonTable[1][4].Text(), "---");
+    EXPECT_EQ(TaxonTable[1][kTaxonName].Text(), "---");
     EXPECT_TRUE(Refuses(frmMain.Text1[45], 51, "\""));
     EXPECT_TRUE(Refuses(frmMain.Text4, 222, "\""));
     for (int p = 1; p <= kParams; ++p) EXPECT_TRUE(Refuses(frmMain.Text5[p], 50, "@")) << p;

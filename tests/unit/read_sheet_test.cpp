@@ -41,7 +41,7 @@ protected:
         read_ = {};
         progress_.clear();
         cells_.emplace(text);
-        SheetHeader[6] = cells_->Next();
+        SheetHeader[kHeaderPath] = cells_->Next();
         try {
             ReadGrid(*cells_, read_, [this](int row) { progress_.push_back(row); });
             return "";
@@ -66,8 +66,8 @@ TEST_F(ReadSheetTest, AWholeGridIsInTheArrays) {
     EXPECT_EQ(SampleCount, 3);
     EXPECT_EQ(CurrentSample, 3);
     EXPECT_EQ(MaxSerial, 3);
-    EXPECT_EQ(SampleTable[2][2], "20");
-    EXPECT_EQ(TaxonTable[135][4], "Taxon 135");
+    EXPECT_EQ(SampleTable[kSampleName][2], "20");
+    EXPECT_EQ(TaxonTable[135][kTaxonName], "Taxon 135");
     EXPECT_EQ(Counts[135][3], 38);
     EXPECT_TRUE(read_.serials && read_.largest_serial && read_.subtotal_names);
     EXPECT_EQ(read_.sample_names, 3);
@@ -116,8 +116,8 @@ TEST_F(ReadSheetTest, AFaultLeavesWhatWasReadBeforeIt) {
     EXPECT_EQ(read_.counts, 1);
     EXPECT_EQ(Counts[10][1], 11);
     EXPECT_EQ(Counts[10][2], 0);
-    EXPECT_EQ(TaxonTable[10][4], "Taxon 10");
-    EXPECT_EQ(TaxonTable[11][4], "");
+    EXPECT_EQ(TaxonTable[10][kTaxonName], "Taxon 10");
+    EXPECT_EQ(TaxonTable[11][kTaxonName], "");
 }
 
 TEST_F(ReadSheetTest, SerialsOutsideTheirTypeOrTheArraysStopItBeforeTheNames) {

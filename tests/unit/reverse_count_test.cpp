@@ -17,7 +17,7 @@ TEST_F(ReverseCountTest, ACounterKeyUnderTheHeldUndoKeySubtractsAndItsReleaseUnd
     KeyNumber(1);
     ReleaseKey(kUndo);
     EXPECT_EQ(Counts[1][1], 1);
-    EXPECT_EQ(UndoList[0][1], -1);
+    EXPECT_EQ(UndoList[0][kUndoSlot], -1);
     EXPECT_EQ(LastLines(2), (Texts{"1: ---", "(Amend) 1: ---"}));
     EXPECT_EQ(Played(), Texts{"WaveUndo"});
     EXPECT_EQ(UndoKeyState, 0);
@@ -43,7 +43,7 @@ TEST_F(ReverseCountTest, AllKeysUnderTheHeldUndoKeySubtractInTheirBanks) {
     EXPECT_EQ(Counts[1][1], -1);
     EXPECT_EQ(Counts[2][1], -1);
     EXPECT_EQ(Counts[91][1], -1);
-    EXPECT_EQ(UndoList[0][1], -91);
+    EXPECT_EQ(UndoList[0][kUndoSlot], -91);
 }
 
 TEST_F(ReverseCountTest, AfterTheUndoKeyKeysCountUpAgain) {

@@ -20,12 +20,12 @@ protected:
         frmNext.Label3[1].SetCaption("Depth of core");
         frmNext.Text3[1].SetText("14 m");
         ClickControl(frmNext.Command1);
-        SheetHeader[12] = "Trees";
-        SheetHeader[13] = "Herbs";
+        SheetHeader[kHeaderSubtotal1] = "Trees";
+        SheetHeader[kHeaderSubtotal2] = "Herbs";
         const char* const names[] = {"Pinus", "Quercus", "Poaceae"};
         for (int slot = 1; slot <= 3; ++slot) {
             frmMain.Text1[slot].SetText(names[slot - 1]);
-            TaxonTable[slot][slot == 3 ? 3 : 2] = 1;
+            TaxonTable[slot][slot == 3 ? kTaxonSubtotal2 : kTaxonSubtotal1] = 1;
         }
         KeyNumber(1, 40);
         KeyNumber(2, 9);
@@ -105,7 +105,7 @@ TEST_F(SaveSheetTest, TheNameAndTheCountsOnTheScreenReachTheFile) {
     EXPECT_EQ(FileLine(kPath, 7), "5,0,0,\"---\",8");
     EXPECT_EQ(FileLine(kPath, 2), "\"Key index\",\"Subtotal-1\",\"Subtotal-2\",\"Sample name\",\"11\"");
     EXPECT_EQ(Counts[5][1], 8);
-    EXPECT_EQ(SampleTable[2][1].Text(), "11");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "11");
 }
 
 TEST_F(SaveSheetTest, EveryEmptyFieldIsFilledInTheSessionToo) {
@@ -127,7 +127,7 @@ TEST_F(SaveSheetTest, TheNameOfAFieldComesFromTheScreenLessOneColon) {
     Begin("10");
     frmMain.Label10[1].SetCaption("pH");
     frmMain.Label10[2].SetCaption("Ratio 1:2::");
-    ParamHeader[1][4] = "another";
+    ParamHeader[1][kParamName] = "another";
     SaveAs(kPath);
     EXPECT_EQ(FileLine(kPath, 138), "\"---\",\"---\",\"---\",\"pH\",\"---\"");
     EXPECT_EQ(FileLine(kPath, 139), "\"---\",\"---\",\"---\",\"Ratio 1:2:\",\"---\"");
@@ -201,7 +201,7 @@ TEST_F(SaveSheetTest, ASubtotalBeyondItStopsTheRunAsWell) {
     Counts[1][1] = 20000;
     Counts[2][1] = 20000;
     Counts[3][1] = -20000;
-    TaxonTable[1][3] = TaxonTable[2][3] = 1;
+    TaxonTable[1][kTaxonSubtotal2] = TaxonTable[2][kTaxonSubtotal2] = 1;
     EXPECT_THROW(SaveSheet(kSaveAs), Failure);
 }
 }  // namespace

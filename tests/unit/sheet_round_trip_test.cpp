@@ -79,20 +79,20 @@ protected:
         random.Shuffle(std::begin(serials), std::end(serials));
         const bool numeric = random.OneIn(2);
         for (int sample = 1; sample <= SampleCount; ++sample) {
-            SampleTable[1][sample] = serials[sample - 1];
-            SampleTable[2][sample] = random.SampleName(sample, numeric);
+            SampleTable[kSampleSerial][sample] = serials[sample - 1];
+            SampleTable[kSampleName][sample] = random.SampleName(sample, numeric);
             SampleNotes[sample] = random.Text(6);
         }
-        frmMain.Combo2.SetText(SampleTable[2][SampleCount].Text());
+        frmMain.Combo2.SetText(SampleTable[kSampleName][SampleCount].Text());
         frmMain.Text4.SetText(SampleNotes[SampleCount]);
     }
     void FillTaxa(RandomSheet& random) {
         std::iota(&KeyIndex[1], std::end(KeyIndex), std::int16_t{1});
         random.Shuffle(&KeyIndex[1], std::end(KeyIndex));
         for (int slot = 1; slot <= kSlots; ++slot) {
-            TaxonTable[slot][1] = slot;
-            TaxonTable[slot][2] = random.Below(2);
-            TaxonTable[slot][3] = random.OneIn(9) ? -1 : random.Below(2);
+            TaxonTable[slot][kTaxonKey] = slot;
+            TaxonTable[slot][kTaxonSubtotal1] = random.Below(2);
+            TaxonTable[slot][kTaxonSubtotal2] = random.OneIn(9) ? -1 : random.Below(2);
             frmMain.Text1[slot].SetText(random.TaxonName());
             for (int sample = 1; sample <= SampleCount; ++sample) Counts[slot][sample] = random.OneIn(2) ? 0 : random.Below(400) - 180;
             frmMain.Text2[slot].SetText(std::to_string(Counts[slot][SampleCount]));
@@ -139,14 +139,17 @@ TEST_F(RoundTripTest, EveryCellComesBackAsItWas) {
             return all;
         };
         const auto everything = [&] {
-            std::vector<Texts> all = {texts(SampleTable[1]), texts(SampleTable[2]), {SampleNotes + 1, SampleNotes + 1 + SampleCount}};
+            std::vector<Texts> all = {
+                texts(SampleTable[kSampleSerial]), texts(SampleTable[kSampleName]), {SampleNotes + 1, SampleNotes + 1 + SampleCount}};
             for (int p = 1; p <= kParams; ++p) all.push_back(texts(ParamValues[p]));
             for (int slot = 1; slot <= kSlots; ++slot) {
-                all.push_back({TaxonTable[slot][2].Text(), TaxonTable[slot][3].Text(), TaxonTable[slot][4].Text()});
+                all.push_back({TaxonTable[slot][kTaxonSubtotal1].Text(), TaxonTable[slot][kTaxonSubtotal2].Text(),
+                               TaxonTable[slot][kTaxonName].Text()});
                 for (int sample = 1; sample <= SampleCount; ++sample) all.back().push_back(std::to_string(Counts[slot][sample]));
                 all.back().push_back(std::to_string(KeyIndex[slot]));
             }
-            all.push_back({SheetHeader[12].Text(), SheetHeader[13].Text(), SheetFooter[1].Text(), SheetFooter[3].Text()});
+            all.push_back(
+                {SheetHeader[kHeaderSubtotal1].Text(), SheetHeader[kHeaderSubtotal2].Text(), SheetFooter[1].Text(), SheetFooter[3].Text()});
             return all;
         };
         const auto before = everything();

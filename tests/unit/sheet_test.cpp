@@ -14,7 +14,7 @@ void SheetTest::TearDown() {
 }
 
 int SheetTest::CodeOf(int key) const {
-    return static_cast<int>(KeySettings[key][1].Number());
+    return static_cast<int>(KeySettings[key][kKeyCode].Number());
 }
 
 void SheetTest::NextSample(const std::string& name) {

@@ -16,7 +16,7 @@ protected:
 
 TEST_F(SnapshotAndRestoreTest, RestoreBringsBackCountsNamesFlagsAndAdditionalInfo) {
     frmMain.Text1[1].SetText("Pinus");
-    TaxonTable[1][2] = 1;
+    TaxonTable[1][kTaxonSubtotal1] = 1;
     frmMain.Label10[1].SetCaption("Depth:");
     frmMain.Text5[1].SetText("14 m");
     KeyNumber(1, 3);
@@ -24,9 +24,9 @@ TEST_F(SnapshotAndRestoreTest, RestoreBringsBackCountsNamesFlagsAndAdditionalInf
     KeyNumber(1);
     KeyNumber(2, 2);
     frmMain.Text1[1].SetText("Abies");
-    TaxonTable[1][1] = 2;
-    TaxonTable[1][2] = 0;
-    TaxonTable[1][3] = 1;
+    TaxonTable[1][kTaxonKey] = 2;
+    TaxonTable[1][kTaxonSubtotal1] = 0;
+    TaxonTable[1][kTaxonSubtotal2] = 1;
     frmMain.Label10[1].SetCaption("Width:");
     frmMain.Text5[1].SetText("16 m");
     RestoreSheet();
@@ -35,8 +35,8 @@ TEST_F(SnapshotAndRestoreTest, RestoreBringsBackCountsNamesFlagsAndAdditionalInf
     EXPECT_EQ(frmMain.Text2[1].Text(), "3");
     EXPECT_EQ(frmMain.Text2[2].Text(), "0");
     EXPECT_EQ(frmMain.Text1[1].Text(), "Pinus");
-    EXPECT_EQ(TaxonTable[1][4].Text(), "Pinus");
-    EXPECT_TRUE(TaxonTable[1][1] == 1 && TaxonTable[1][2] == 1 && TaxonTable[1][3] == 0);
+    EXPECT_EQ(TaxonTable[1][kTaxonName].Text(), "Pinus");
+    EXPECT_TRUE(TaxonTable[1][kTaxonKey] == 1 && TaxonTable[1][kTaxonSubtotal1] == 1 && TaxonTable[1][kTaxonSubtotal2] == 0);
     EXPECT_EQ(frmMain.Label10[1].Caption(), "Depth:");
     EXPECT_EQ(frmMain.Text5[1].Text(), "14 m");
     EXPECT_EQ(ParamValues[1][1].Text(), "14 m");
@@ -98,7 +98,7 @@ TEST_F(SnapshotAndRestoreTest, TheSnapshotIsAsWideAsTheSheet) {
     SnapshotSheet();
     ASSERT_EQ(CountsAtOpen.size(), 3u);
     EXPECT_EQ(CountsAtOpen[2][1], 2);
-    EXPECT_EQ(TaxonTableAtOpen[135][1].Number(), 135);
+    EXPECT_EQ(TaxonTableAtOpen[135][kTaxonKey].Number(), 135);
     EXPECT_EQ(ParamValuesAtOpen[6][0].Text(), "Additional info-6:");
     EXPECT_EQ(ParamValuesAtOpen[6][2].Text(), "---");
 }
@@ -138,7 +138,7 @@ TEST_F(SnapshotAndRestoreTest, NoLeavesEverythingAndTheButtonOn) {
     AnswerNext(Answer::No);
     ClickControl(frmMain.mnuReset);
     EXPECT_EQ(Counts[1][1], 1);
-    EXPECT_EQ(UndoList[0][1], 1);
+    EXPECT_EQ(UndoList[0][kUndoSlot], 1);
     EXPECT_EQ(LastLines(1), Texts{"1: ---"});
     EXPECT_TRUE(frmMain.Command2[0].Enabled());
 }
@@ -166,14 +166,14 @@ TEST_F(SnapshotAndRestoreTest, ANegativeTotalIsSomethingToReset) {
 TEST_F(SnapshotAndRestoreTest, ResetForgetsTheNewest101CountsAndNoMore) {
     KeyNumber(1);
     for (int i = 0; i <= kUndoDepth; ++i) {
-        UndoList[i][0] = 1;
-        UndoList[i][1] = 7;
+        UndoList[i][kUndoSample] = 1;
+        UndoList[i][kUndoSlot] = 7;
     }
     AnswerNext(Answer::Yes);
     AbortCount();
     for (int i = 0; i <= kUndoDepth; ++i) {
-        ASSERT_EQ(UndoList[i][1], i <= 100 ? 0 : 7) << i;
-        ASSERT_EQ(UndoList[i][0], 1) << i;
+        ASSERT_EQ(UndoList[i][kUndoSlot], i <= 100 ? 0 : 7) << i;
+        ASSERT_EQ(UndoList[i][kUndoSample], 1) << i;
     }
 }
 

@@ -63,10 +63,10 @@ TEST_F(StartUpTest, TheFreshSheetHasOneSampleWithoutANameAnd135EmptySlots) {
     EXPECT_EQ(SampleCount, 1);
     EXPECT_EQ(CurrentSample, 1);
     EXPECT_EQ(SheetPath, "");
-    EXPECT_EQ(SampleTable[1][0].Number(), 0);
-    EXPECT_EQ(SampleTable[1][1].Number(), 1);
-    EXPECT_EQ(SampleTable[2][0].Text(), "-9999");
-    EXPECT_EQ(SampleTable[2][1].Text(), "-9999");
+    EXPECT_EQ(SampleTable[kSampleSerial][0].Number(), 0);
+    EXPECT_EQ(SampleTable[kSampleSerial][1].Number(), 1);
+    EXPECT_EQ(SampleTable[kSampleName][0].Text(), "-9999");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "-9999");
     EXPECT_EQ(frmMain.Text1[0].Text(), "-9999");
     EXPECT_EQ(frmMain.Combo2.Text(), "-9999");
     EXPECT_EQ(frmMain.Combo2.ListCount(), 0);
@@ -78,9 +78,11 @@ TEST_F(StartUpTest, TheFreshSheetHasOneSampleWithoutANameAnd135EmptySlots) {
         EXPECT_EQ(frmMain.Text2[slot].Text(), "0");
         EXPECT_EQ(frmMain.Label1[slot].Caption(), std::to_string(slot));
         EXPECT_FALSE(frmMain.Label1[slot].Visible());
-        EXPECT_EQ(TaxonTable[slot][0].Number(), slot);
-        EXPECT_EQ(TaxonTable[slot][1].Number(), slot);
-        EXPECT_TRUE(TaxonTable[slot][2] == 0 && TaxonTable[slot][3] == 0 && TaxonTable[slot][4] == "---") << slot;
+        EXPECT_EQ(TaxonTable[slot][kTaxonSheetRow].Number(), slot);
+        EXPECT_EQ(TaxonTable[slot][kTaxonKey].Number(), slot);
+        EXPECT_TRUE(TaxonTable[slot][kTaxonSubtotal1] == 0 && TaxonTable[slot][kTaxonSubtotal2] == 0 &&
+                    TaxonTable[slot][kTaxonName] == "---")
+            << slot;
         EXPECT_EQ(KeyIndex[slot], slot);
         EXPECT_EQ(RowOfSlot[slot], slot);
         EXPECT_EQ(Counts[slot][1], 0);

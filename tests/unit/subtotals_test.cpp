@@ -15,7 +15,7 @@ protected:
 
 TEST_F(SubtotalsTest, AnEmptySlotIsCalledByItsNumber) {
     frmMain.Text1[5].SetText("Pinus");
-    TaxonTable[6][4] = "";
+    TaxonTable[6][kTaxonName] = "";
     Open();
     EXPECT_EQ(frmSubtotal.Check1[4].Caption(), "4: ---");
     EXPECT_EQ(frmSubtotal.Check1[5].Caption(), "Pinus");
@@ -23,9 +23,9 @@ TEST_F(SubtotalsTest, AnEmptySlotIsCalledByItsNumber) {
 }
 
 TEST_F(SubtotalsTest, TheBoxesFollowTheKeyNumbersInAllThreeBanks) {
-    KeySettings[1][2] = 2;
-    KeySettings[2][2] = "1";
-    KeySettings[3][2] = 200;
+    KeySettings[1][kKeyNumber] = 2;
+    KeySettings[2][kKeyNumber] = "1";
+    KeySettings[3][kKeyNumber] = 200;
     Open();
     for (const int bank : {0, 45, 90}) {
         EXPECT_EQ(frmSubtotal.Check1[2 + bank].Left(), frmSubtotal.Command4[1 + bank].Left()) << bank;
@@ -53,15 +53,15 @@ TEST_F(SubtotalsTest, ATaxonCanBeInBothSubtotalsOrInNone) {
 }
 
 TEST_F(SubtotalsTest, CancelBringsBackEvenAFlagThatIsNoneOfOurs) {
-    TaxonTable[7][2] = 300;
-    TaxonTable[8][3] = -1;
+    TaxonTable[7][kTaxonSubtotal1] = 300;
+    TaxonTable[8][kTaxonSubtotal2] = -1;
     Open();
     EXPECT_EQ(frmSubtotal.Check1[7].Value(), 0);
     SetAllFlags(1);
-    EXPECT_TRUE(TaxonTable[7][2] == 1);
+    EXPECT_TRUE(TaxonTable[7][kTaxonSubtotal1] == 1);
     CancelSubtotals();
-    EXPECT_TRUE(TaxonTable[7][2] == 300);
-    EXPECT_TRUE(TaxonTable[8][3] == -1);
+    EXPECT_TRUE(TaxonTable[7][kTaxonSubtotal1] == 300);
+    EXPECT_TRUE(TaxonTable[8][kTaxonSubtotal2] == -1);
 }
 
 TEST_F(SubtotalsTest, ANameShowsEverywhereAtOnceAndSurvivesCancel) {
@@ -69,7 +69,7 @@ TEST_F(SubtotalsTest, ANameShowsEverywhereAtOnceAndSurvivesCancel) {
     ClickControl(frmSubtotal.Text1[2]);
     frmSubtotal.Text1[2].Enter("Herbs", 5);
     for (int look = 0; look < 2; ++look) {
-        EXPECT_TRUE(SheetHeader[13] == "Herbs");
+        EXPECT_TRUE(SheetHeader[kHeaderSubtotal2] == "Herbs");
         EXPECT_EQ(frmMain.Label2[2].Caption(), "Herbs:");
         EXPECT_EQ(frmMain.mnuPercentSub2.Caption(), "% by Herbs");
         EXPECT_EQ(frmMain.mnuPercentSub1.Caption(), "% by Subtotal-1");
@@ -88,7 +88,7 @@ TEST_F(SubtotalsTest, ASubtotalRenamedToNothingIsSpokenByItsNumber) {
 }
 
 TEST_F(SubtotalsTest, OpeningAloneMakesNothingToSave) {
-    TaxonTable[7][2] = 1;
+    TaxonTable[7][kTaxonSubtotal1] = 1;
     SheetClean = true;
     Open();
     ClickControl(frmSubtotal.Option1[2]);
@@ -114,7 +114,8 @@ TEST_F(SubtotalsTest, SelectAllTakesEmptySlotsTooAndMovesNoTotalByThem) {
     KeyNumber(5, 2);
     Open();
     ClickControl(frmSubtotal.Command2[1]);
-    for (int slot = 1; slot <= kSlots; ++slot) ASSERT_TRUE(TaxonTable[slot][2] == 1 && TaxonTable[slot][3] == 0) << slot;
+    for (int slot = 1; slot <= kSlots; ++slot)
+        ASSERT_TRUE(TaxonTable[slot][kTaxonSubtotal1] == 1 && TaxonTable[slot][kTaxonSubtotal2] == 0) << slot;
     EXPECT_EQ(frmMain.Text3[1].Text(), "2");
     ClickControl(frmSubtotal.Command2[0]);
     EXPECT_EQ(frmMain.Text3[1].Text(), "0");

@@ -11,7 +11,7 @@ protected:
 };
 
 TEST_F(TotalsTest, SubtotalCountsASlotThatHasNoName) {
-    TaxonTable[7][2] = 1;
+    TaxonTable[7][kTaxonSubtotal1] = 1;
     frmMain.Text2[7].SetText("12");
     RecountTotals(1);
     EXPECT_EQ(frmMain.Text3[1].Text(), "12");

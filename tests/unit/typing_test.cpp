@@ -25,15 +25,15 @@ constexpr const char* kCountKeys = "0123456789-.,x '\"@#";                   // 
 
 // All that a file keeps of a sheet.
 Texts SheetContents() {
-    Texts all = {SheetHeader[12].Text(), SheetHeader[13].Text()};
+    Texts all = {SheetHeader[kHeaderSubtotal1].Text(), SheetHeader[kHeaderSubtotal2].Text()};
     for (int sample = 1; sample <= SampleCount; ++sample) {
-        all.push_back(SampleTable[2][sample].Text());
+        all.push_back(SampleTable[kSampleName][sample].Text());
         all.push_back(SampleNotes[sample]);
         for (int p = 1; p <= kParams; ++p) all.push_back(ParamValues[p][sample].Text());
         for (int slot = 1; slot <= kSlots; ++slot) all.push_back(std::to_string(Counts[slot][sample]));
     }
     for (int slot = 1; slot <= kSlots; ++slot)
-        for (int field = 1; field <= 4; ++field) all.push_back(TaxonTable[slot][field].Text());
+        for (int field = kTaxonKey; field <= kTaxonName; ++field) all.push_back(TaxonTable[slot][field].Text());
     for (int p = 1; p <= kParams; ++p) all.push_back(frmMain.Label10[p].Caption());
     return all;
 }

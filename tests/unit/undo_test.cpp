@@ -52,13 +52,13 @@ TEST_F(UndoTest, TheUndoneSlotTakesAPalerHighlight) {
 
 TEST_F(UndoTest, TheEntryIsPoppedAndTheLastPlaceEmpties) {
     for (int i = 0; i <= kUndoDepth; ++i) {
-        UndoList[i][0] = 1;
-        UndoList[i][1] = static_cast<std::int16_t>(i % kSlots + 1);
+        UndoList[i][kUndoSample] = 1;
+        UndoList[i][kUndoSlot] = static_cast<std::int16_t>(i % kSlots + 1);
     }
     Undo();
-    for (int i = 0; i < kUndoDepth; ++i) ASSERT_EQ(UndoList[i][1], (i + 1) % kSlots + 1) << i;
-    EXPECT_EQ(UndoList[kUndoDepth][0], 0);
-    EXPECT_EQ(UndoList[kUndoDepth][1], 0);
+    for (int i = 0; i < kUndoDepth; ++i) ASSERT_EQ(UndoList[i][kUndoSlot], (i + 1) % kSlots + 1) << i;
+    EXPECT_EQ(UndoList[kUndoDepth][kUndoSample], 0);
+    EXPECT_EQ(UndoList[kUndoDepth][kUndoSlot], 0);
 }
 
 TEST_F(UndoTest, ACountOfAnotherSampleBringsThatSampleBack) {
@@ -86,8 +86,8 @@ TEST_F(UndoTest, GoingToAnotherSampleRenamesNothing) {
     ShowSample(2);
     Undo();
     EXPECT_EQ(CurrentSample, 1);
-    EXPECT_EQ(SampleTable[2][1].Text(), "10");
-    EXPECT_EQ(SampleTable[2][2].Text(), "20");
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "10");
+    EXPECT_EQ(SampleTable[kSampleName][2].Text(), "20");
     EXPECT_EQ(Counts[1][1], 0);
 }
 
@@ -108,7 +108,7 @@ TEST_F(UndoTest, NoteAndAdditionalInfoOfTheSampleBroughtBackAreOnShow) {
 TEST_F(UndoTest, SamplesOfOneNameAreToldApartByTheirSerial) {
     KeyNumber(1);
     NextSample("20");
-    SampleTable[2][1] = "20";
+    SampleTable[kSampleName][1] = "20";
     Undo();
     EXPECT_EQ(CurrentSample, 1);
     EXPECT_EQ(frmMain.Label4.Caption(), "1/2");
@@ -120,7 +120,7 @@ TEST_F(UndoTest, ItSoundsTheAlarmOneAboveAHundredAndAt1) {
         const char* wave;
     } cases[] = {{1, "WaveAlarm"}, {2, "WaveUndo"}, {100, "WaveUndo"}, {101, "WaveAlarm"}, {102, "WaveUndo"}, {201, "WaveAlarm"}};
     for (const auto& each : cases) {
-        UndoList[0][0] = UndoList[0][1] = 1;
+        UndoList[0][kUndoSample] = UndoList[0][kUndoSlot] = 1;
         PutInCell(1, std::to_string(each.total));
         RecountTotals(1);
         AlarmArmed = false;  // which it does not look at
@@ -153,7 +153,7 @@ TEST_F(UndoTest, ItIsSilentWithoutSound) {
 
 TEST_F(UndoTest, WithNothingToUndoItOnlyRecountsAndArmsTheAlarm) {
     KeyNumber(1);
-    UndoList[0][1] = 0;
+    UndoList[0][kUndoSlot] = 0;
     frmMain.mnuUndo.SetEnabled(true);
     AlarmArmed = false;
     PutInCell(1, "5");
@@ -169,12 +169,12 @@ TEST_F(UndoTest, WithNothingToUndoItOnlyRecountsAndArmsTheAlarm) {
 
 TEST_F(UndoTest, AnEntryWithoutASlotIsNotPopped) {
     KeyNumber(1);
-    KeySettings[48][1] = 200;
+    KeySettings[48][kKeyCode] = 200;
     Key(200);
     Undo();
     EXPECT_EQ(Counts[1][1], 1);
-    EXPECT_EQ(UndoList[0][1], 0);
-    EXPECT_EQ(UndoList[1][1], 1);
+    EXPECT_EQ(UndoList[0][kUndoSlot], 0);
+    EXPECT_EQ(UndoList[1][kUndoSlot], 1);
 }
 
 TEST_F(UndoTest, TheMenuOffersItWhileThereIsSomethingToUndo) {
@@ -203,7 +203,7 @@ TEST_F(UndoTest, ASaveDoesNotEndWhatCanBeUndone) {
 TEST_F(UndoTest, AFreshSheetKeepsTheListAndOnlySwitchesTheMenuOff) {
     KeyNumber(3);
     InitialiseSheet();
-    EXPECT_EQ(UndoList[0][1], 3);
+    EXPECT_EQ(UndoList[0][kUndoSlot], 3);
     EXPECT_FALSE(frmMain.mnuUndo.Enabled());
     Undo();
     EXPECT_EQ(Counts[3][1], -1);

@@ -86,7 +86,7 @@ TEST_F(UntrustedFileTest, NulsAndOtherControlCharactersAreCharactersLikeAnyOther
     const std::string name("Pi\0nus\x01\x7F\x1A", 9);
     rows[kTaxonRow][3] = Quoted(name);
     ASSERT_TRUE(Open(rows));
-    EXPECT_EQ(TaxonTable[1][4], name);
+    EXPECT_EQ(TaxonTable[1][kTaxonName], name);
     SaveSheet(kSave);
     EXPECT_EQ(FileLine(kPath, 3), "1,1,0," + Quoted(name) + ",2");
     SheetClean = true;

@@ -303,7 +303,7 @@ TEST_F(SettingsFaultsTest, OkInTheFirstRunEndsTheProgramWhereverTheDiskIsFull) {
 // What a full disk has left of the settings is told at the next start, and the built-in keys count; or nothing that matters is missing.
 TEST_F(SettingsFaultsTest, SettingsCutAnywhereStillLeaveAProgramThatCounts) {
     const std::string whole = files_.bytes[kSettings];
-    const std::string definition = KeySettings[45][0].Text();
+    const std::string definition = KeySettings[45][kKeyDefinition].Text();
     constexpr int kFirstBuiltInKey = 81;
     for (std::size_t length = 0; length <= whole.size(); length += length + 20 < whole.size() ? 3 : 1) {
         files_.bytes[kSettings] = whole.substr(0, length);
@@ -324,6 +324,6 @@ TEST_F(SettingsFaultsTest, SettingsCutAnywhereStillLeaveAProgramThatCounts) {
         ASSERT_EQ(Counts[1][1], 1) << length;
         frmMain.Combo1.Clear();
     }
-    EXPECT_EQ(KeySettings[45][0].Text(), definition);
+    EXPECT_EQ(KeySettings[45][kKeyDefinition].Text(), definition);
 }
 }  // namespace

@@ -154,7 +154,7 @@ TEST_F(HeldKeysTest, AKeyBringsTheWindowThatHasItToTheFront) {
 
 TEST_F(HeldKeysTest, ABoxThatTakesEveryKeyHasAHeldOneOnce) {
     Do([] {
-        for (int row = 51; row <= 62; ++row) KeySettings[row][1] = 999;
+        for (int row = 51; row <= 62; ++row) KeySettings[row][kKeyCode] = 999;
         CloseWindow(frmNext);
         frmInitial.Show();
     });

@@ -57,7 +57,7 @@ TEST_F(TextLineTest, TheClickIntoAnUnnamedCellMarksItsDashes) {
     Type(frmMain.Text1[5], "P");
     Type(frmMain.Text1[5], "i");
     EXPECT_EQ(frmMain.Text1[5].Text(), "Pi");
-    EXPECT_EQ(TaxonTable[5][4], "Pi");
+    EXPECT_EQ(TaxonTable[5][kTaxonName], "Pi");
 }
 
 TEST_F(TextLineTest, TheNextClickThereSetsTheCaret) {
@@ -109,7 +109,7 @@ TEST_F(TextLineTest, ADoubleClickOnTheDashesLeavesModifyMode) {
     ClickByHand(frmMain.Text1[5]);
     Hand(frmMain.Text1[5], QEvent::MouseButtonDblClick, QRectF(Line(frmMain.Text1[5]).rect()).center());
     EXPECT_FALSE(AmendMode);
-    EXPECT_EQ(TaxonTable[5][4], "---");
+    EXPECT_EQ(TaxonTable[5][kTaxonName], "---");
 }
 
 TEST_F(TextLineTest, AStepWithTabShowsWhatItMarks) {
@@ -118,7 +118,7 @@ TEST_F(TextLineTest, AStepWithTabShowsWhatItMarks) {
     ASSERT_TRUE(Line(frmMain.Text1[2]).hasFocus());
     EXPECT_EQ(Line(frmMain.Text1[2]).selectedText(), "---");
     Type(frmMain.Text1[2], "P");
-    EXPECT_EQ(TaxonTable[2][4], "P");
+    EXPECT_EQ(TaxonTable[2][kTaxonName], "P");
     EXPECT_FALSE(Line(frmMain.Text1[1]).hasSelectedText());
     Press(frmMain.Text1[2], Qt::Key_Backtab, "", Qt::ShiftModifier);
     EXPECT_TRUE(Line(frmMain.Text1[1]).hasFocus());
