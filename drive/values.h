@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/any.h"
-#include "platform/colour.h"
+#include "platform/control.h"
 
 namespace drive {
 

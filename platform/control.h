@@ -4,11 +4,11 @@
 // Setting a property to the value it has does nothing. All places are in twips (a fifteenth of a pixel at 100 %), in the container's
 // own coordinates.
 #pragma once
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "platform/colour.h"
 #include "platform/event.h"
 
 class Window;
@@ -67,6 +67,17 @@ struct Box {  // in twips
     int width = 0;
     int height = 0;
 };
+
+struct Colour {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    bool operator==(const Colour&) const = default;
+};
+
+constexpr Colour kBlack{0, 0, 0};
+constexpr Colour kWhite{255, 255, 255};
+constexpr Colour kFormColour{236, 238, 240};  // the ground of every window
 
 class ControlView {
 public:

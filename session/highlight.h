@@ -1,6 +1,6 @@
 // The colour of the cell that was counted or undone last.
 #pragma once
-#include "platform/colour.h"
+#include "platform/control.h"
 
 constexpr Colour kPaleHighlight{255, 255, 135};  // of an undone count and of a moved taxon: paler than a count's
 
