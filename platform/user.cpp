@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/key_codes.h"
 #include "platform/services.h"
 #include "platform/text.h"
 

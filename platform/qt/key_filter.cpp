@@ -8,7 +8,6 @@
 
 #include "platform/controls.h"
 #include "platform/focus_walk.h"
-#include "platform/key_codes.h"
 #include "platform/qt/combo_box_view.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/menu_view.h"

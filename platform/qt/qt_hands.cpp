@@ -6,7 +6,6 @@
 #include <QPixmap>
 
 #include "events/program.h"
-#include "platform/key_codes.h"
 #include "platform/qt/combo_box_view.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/desktop_services.h"
