@@ -1,7 +1,6 @@
 #include "drive/headless_hands.h"
 
 #include "events/program.h"
-#include "platform/run_event.h"
 #include "platform/text.h"
 #include "platform/user.h"
 

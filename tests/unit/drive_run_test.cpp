@@ -8,8 +8,8 @@
 
 #include "drive/headless_hands.h"
 #include "platform/failure.h"
-#include "platform/run_event.h"
 #include "platform/services.h"
+#include "platform/user.h"
 #include "session/state/sheet_state.h"
 #include "unit/program_test.h"
 #include "windows/main_window.h"

@@ -17,7 +17,6 @@
 #include "keys/first_run.h"
 #include "keys/key_dialog_ok.h"
 #include "keys/settings/key_settings.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "session/start_up.h"
 #include "unit/sheet_test.h"
