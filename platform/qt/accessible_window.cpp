@@ -3,10 +3,10 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "platform/control.h"
 #include "platform/qt/accessible_control.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
-#include "platform/spoken_name.h"
 #include "platform/user.h"
 
 namespace {
