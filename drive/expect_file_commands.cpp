@@ -7,7 +7,7 @@
 #include "drive/fault.h"
 #include "drive/words.h"
 #include "platform/encoding.h"
-#include "platform/headless/disk_files.h"
+#include "platform/headless/files.h"
 
 namespace drive {
 

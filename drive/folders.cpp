@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "drive/fault.h"
-#include "platform/headless/disk_files.h"
+#include "platform/headless/files.h"
 
 namespace drive {
 

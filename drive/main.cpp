@@ -6,7 +6,7 @@
 
 #include "drive/headless_hands.h"
 #include "drive/run_script.h"
-#include "platform/headless/disk_files.h"
+#include "platform/headless/files.h"
 #ifdef MARLBROOK_WITH_WINDOWS
 #include "platform/qt/qt_hands.h"
 #endif

@@ -3,10 +3,9 @@
 #pragma once
 #include <string>
 
-#include "platform/headless/disk_files.h"
+#include "platform/headless/files.h"
 #include "platform/headless/recorders.h"
 #include "platform/headless/scripted_dialogs.h"
-#include "platform/headless/scripted_files.h"
 #include "platform/services.h"
 
 struct HeadlessServices {
