@@ -5,9 +5,9 @@
 
 #include "drive/commands.h"
 #include "drive/fault.h"
-#include "drive/headless_hands.h"
 #include "drive/names.h"
 #include "drive/words.h"
+#include "platform/headless/headless_hands.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
 

@@ -6,8 +6,8 @@
 #include <random>
 #include <sstream>
 
-#include "drive/headless_hands.h"
 #include "platform/failure.h"
+#include "platform/headless/headless_hands.h"
 #include "platform/services.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"

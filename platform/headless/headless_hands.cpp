@@ -1,4 +1,4 @@
-#include "drive/headless_hands.h"
+#include "platform/headless/headless_hands.h"
 
 #include "events/program.h"
 #include "platform/text.h"
