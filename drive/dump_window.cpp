@@ -1,7 +1,7 @@
 #include "drive/dumps.h"
 #include "drive/names.h"
+#include "drive/script.h"
 #include "drive/values.h"
-#include "drive/words.h"
 #include "session/state/sheet_state.h"
 
 namespace drive {

@@ -3,9 +3,8 @@
 #include <iterator>
 
 #include "drive/commands.h"
-#include "drive/fault.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "platform/failure.h"
 #include "session/state/sheet_state.h"
 

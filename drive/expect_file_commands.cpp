@@ -4,8 +4,7 @@
 #include <optional>
 
 #include "drive/commands.h"
-#include "drive/fault.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "platform/encoding.h"
 #include "platform/headless/files.h"
 

@@ -1,9 +1,8 @@
 // The commands that say what a picture must show.
 #include "drive/commands.h"
 #include "drive/drawn.h"
-#include "drive/fault.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
 
 namespace drive {
 

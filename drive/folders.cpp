@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "drive/fault.h"
+#include "drive/script.h"
 #include "platform/headless/files.h"
 
 namespace drive {

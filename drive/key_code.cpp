@@ -2,8 +2,7 @@
 
 #include <optional>
 
-#include "drive/fault.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "session/state/sheet_state.h"
 
 namespace drive {

@@ -2,9 +2,8 @@
 #include "drive/commands.h"
 #include "drive/drawn.h"
 #include "drive/dumps.h"
-#include "drive/fault.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
 
 namespace drive {
 

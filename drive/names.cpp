@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "drive/properties.h"
+#include "drive/script.h"
 #include "drive/variables.h"
-#include "drive/words.h"
 
 namespace drive {
 

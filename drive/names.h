@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "drive/fault.h"
+#include "drive/script.h"
 #include "platform/control.h"
 #include "platform/window.h"
 

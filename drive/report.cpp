@@ -1,6 +1,6 @@
 #include "drive/report.h"
 
-#include "drive/words.h"
+#include "drive/script.h"
 
 namespace drive {
 

@@ -6,7 +6,7 @@
 
 #include "diagram/data/coniss.h"
 #include "diagram/data/percentages.h"
-#include "drive/fault.h"
+#include "drive/script.h"
 #include "drive/values.h"
 #include "platform/services.h"
 #include "session/state/sheet_state.h"

@@ -10,11 +10,9 @@
 #include <sstream>
 #include <string>
 
-#include "drive/fault.h"
 #include "drive/names.h"
 #include "drive/run_script.h"
 #include "drive/script.h"
-#include "drive/words.h"
 #include "platform/failure.h"
 #include "platform/headless/headless_hands.h"
 #include "unit/program_test.h"

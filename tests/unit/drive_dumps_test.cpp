@@ -4,9 +4,8 @@
 #include <sstream>
 
 #include "drive/commands.h"
-#include "drive/fault.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "platform/headless/headless_hands.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"

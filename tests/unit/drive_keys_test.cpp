@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "drive/fault.h"
 #include "drive/key_code.h"
+#include "drive/script.h"
 #include "drive/us_keyboard.h"
 #include "unit/program_test.h"
 

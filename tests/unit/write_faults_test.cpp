@@ -10,7 +10,7 @@
 #include "diagram/merge_list.h"
 #include "drive/dumps.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "files/back_up.h"
 #include "files/exports.h"
 #include "files/save_sheet.h"
