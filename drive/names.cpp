@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "drive/properties.h"
 #include "drive/script.h"
+#include "drive/values.h"
 #include "drive/variables.h"
 
 namespace drive {
