@@ -2,10 +2,8 @@
 #include <algorithm>
 
 #include "drive/commands.h"
-#include "drive/key_code.h"
 #include "drive/names.h"
 #include "drive/script.h"
-#include "drive/us_keyboard.h"
 #include "platform/text.h"
 #include "platform/user.h"
 
