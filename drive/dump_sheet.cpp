@@ -12,9 +12,9 @@ constexpr const char* kScalars[] = {"SheetPath",  "SampleCount",     "CurrentSam
                                     "BackupSlot", "LastSlot",        "FileVersion",   "DiagramOpen",    "HistoryCount"};
 
 // Writes "NAME = VALUE" lines.
-class Lines {
+class SheetLines {
 public:
-    Lines(std::ostream& out, const ValueOfName& value_of) : out_(out), value_of_(value_of) {}
+    SheetLines(std::ostream& out, const ValueOfName& value_of) : out_(out), value_of_(value_of) {}
     void Write(const std::string& name) { out_ << name << " = " << value_of_(name) << "\n"; }
     void Write(const std::string& array, int index) { Write(array + "(" + std::to_string(index) + ")"); }
     void Write(const std::string& array, int first, int second) {
@@ -31,7 +31,7 @@ bool IsFreshRow(int slot) {
     return row[0] == slot && row[1] == slot && row[2] == 0 && row[3] == 0 && row[4] == kEmpty;
 }
 
-void WriteSamples(Lines& lines) {
+void WriteSamples(SheetLines& lines) {
     for (const int cell : {6, 7, 8, 9, 11, 12, 13, 14}) lines.Write("SheetHeader", cell);
     for (int sample = 1; sample <= SampleCount; ++sample) {
         lines.Write("SampleTable", 1, sample);
@@ -40,7 +40,7 @@ void WriteSamples(Lines& lines) {
     }
 }
 
-void WriteTaxa(Lines& lines) {
+void WriteTaxa(SheetLines& lines) {
     lines.Write("TaxonTable", 0, 2);
     lines.Write("TaxonTable", 0, 3);
     for (int slot = 1; slot <= kSlots; ++slot)
@@ -54,7 +54,7 @@ void WriteTaxa(Lines& lines) {
         if (RowOfSlot[slot] != slot) lines.Write("RowOfSlot", slot);
 }
 
-void WriteParams(Lines& lines) {
+void WriteParams(SheetLines& lines) {
     for (int param = 1; param <= kParams; ++param) {
         for (int cell = 1; cell <= 4; ++cell) lines.Write("ParamHeader", param, cell);
         for (int sample = 1; sample <= SampleCount; ++sample) lines.Write("ParamValues", param, sample);
@@ -62,7 +62,7 @@ void WriteParams(Lines& lines) {
     for (int cell = 1; cell <= 4; ++cell) lines.Write("SheetFooter", cell);
 }
 
-void WriteHistory(Lines& lines) {
+void WriteHistory(SheetLines& lines) {
     for (int entry = 0; entry <= kUndoDepth; ++entry) {
         if (UndoList[entry][1] == 0) continue;
         lines.Write("UndoList", entry, 0);
@@ -74,7 +74,7 @@ void WriteHistory(Lines& lines) {
 }  // namespace
 
 void DumpSheet(std::ostream& out, const ValueOfName& value_of) {
-    Lines lines(out, value_of);
+    SheetLines lines(out, value_of);
     for (const char* name : kScalars) lines.Write(name);
     WriteSamples(lines);
     WriteTaxa(lines);

@@ -1,8 +1,8 @@
 #include "drive/dumps.h"
-#include "drive/names.h"
 #include "drive/script.h"
 #include "drive/values.h"
 #include "session/state/sheet_state.h"
+#include "windows/main_window.h"
 
 namespace drive {
 
@@ -23,31 +23,32 @@ std::string Marks(const Properties& name, const Properties& count) {
     return marks;
 }
 
-void WriteCells(std::ostream& out) {
+void WriteCells(std::ostream& out, const MainWindow& window) {
     for (int slot = 1; slot <= kSlots; ++slot) {
-        const Properties& name = ControlOf(Indexed("frmMain.Text1", slot)).State();
-        const Properties& count = ControlOf(Indexed("frmMain.Text2", slot)).State();
+        const Properties& name = window.TaxonNames[slot].State();
+        const Properties& count = window.TaxonCounts[slot].State();
         const std::string marks = Marks(name, count);
         if (name.text == kEmpty && count.text == "0" && marks.empty()) continue;
         out << Indexed("Text1", slot) << " = " << Quoted(name.text) << " " << Quoted(count.text) << marks << "\n";
     }
 }
 
-class Lines {
+class WindowLines {
 public:
-    Lines(std::ostream& out, const ValueOfName& value_of) : out_(out), value_of_(value_of) {}
-    void Write(const std::string& control) { out_ << control << " = " << value_of_("frmMain." + control) << "\n"; }
+    WindowLines(std::ostream& out, const MainWindow& window, const ValueOfName& value_of)
+        : out_(out), window_(window), value_of_(value_of) {}
+    void Write(const std::string& control) { out_ << control << " = " << value_of_(window_.name + "." + control) << "\n"; }
     void Write(const std::string& array, int first, int last) {
         for (int index = first; index <= last; ++index) Write(Indexed(array, index));
     }
-    void WriteList(const std::string& combo) {
-        Write(combo);
-        const int count = static_cast<int>(ControlOf("frmMain." + combo).State().items.size());
-        for (int item = 0; item < count; ++item) Write(Indexed(combo + ".List", item));
+    void WriteList(const ComboBox& list) {
+        Write(list.name);
+        for (int item = 0; item < list.ListCount(); ++item) Write(Indexed(list.name + ".List", item));
     }
 
 private:
     std::ostream& out_;
+    const MainWindow& window_;
     const ValueOfName& value_of_;
 };
 
@@ -55,8 +56,8 @@ bool IsCommand(const Control& control) {
     return control.kind() == Kind::Button || (control.kind() == Kind::MenuItem && control.State().text != "-");
 }
 
-void WriteCommands(std::ostream& out) {
-    for (const Control* control : WindowOf("frmMain").Controls()) {
+void WriteCommands(std::ostream& out, const MainWindow& window) {
+    for (const Control* control : window.Controls()) {
         if (!IsCommand(*control)) continue;
         const bool is_checked = control->kind() == Kind::MenuItem && control->State().checked;
         out << (control->index < 0 ? control->name : Indexed(control->name, control->index)) << " = " << Quoted(control->State().text)
@@ -66,10 +67,10 @@ void WriteCommands(std::ostream& out) {
 
 }  // namespace
 
-void DumpWindow(std::ostream& out, const ValueOfName& value_of) {
-    Lines lines(out, value_of);
+void DumpWindow(std::ostream& out, const MainWindow& window, const ValueOfName& value_of) {
+    WindowLines lines(out, window, value_of);
     lines.Write("Title");
-    WriteCells(out);
+    WriteCells(out, window);
     lines.Write("Text3", 0, 2);
     lines.Write("Text4");
     lines.Write("Text5", 1, kParams);
@@ -77,10 +78,10 @@ void DumpWindow(std::ostream& out, const ValueOfName& value_of) {
     lines.Write("Label2", 0, 2);
     lines.Write("Label4");
     lines.Write("SSTab1");
-    lines.WriteList("Combo1");
-    lines.WriteList("Combo2");
+    lines.WriteList(window.History);
+    lines.WriteList(window.SampleList);
     lines.Write("Option1", 0, 2);
-    WriteCommands(out);
+    WriteCommands(out, window);
 }
 
 }  // namespace drive

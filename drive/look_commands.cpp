@@ -4,6 +4,7 @@
 #include "drive/dumps.h"
 #include "drive/names.h"
 #include "drive/script.h"
+#include "windows/main_window.h"
 
 namespace drive {
 
@@ -25,7 +26,7 @@ void Dump(Stage& stage, const Command& command) {
     const std::string& what = command.words[1];
     const auto value_of = [&](const std::string& name) { return OnOneLine(stage.Shown(name)); };
     if (what == "sheet") return DumpSheet(stage.out, value_of);
-    if (what == "window") return DumpWindow(stage.out, value_of);
+    if (what == "window") return DumpWindow(stage.out, frmMain, value_of);
     for (const std::string& line : PictureLines(ControlOf<PictureBox>(what, "picture"))) stage.out << line << "\n";
 }
 

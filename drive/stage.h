@@ -1,7 +1,7 @@
 // What the commands of a script work on: the two folders of a run, $F for the program and $W for the work, and how scripts name paths;
 // the report of what held and what did not, one line for each miss and the count of both; the program's services and hands.
 //
-//     curve.drive:12: frmMain.Text3(0): expected "3", got "2"
+//     curve.drive:12: SampleCount: expected "3", got "2"
 #pragma once
 #include <cstddef>
 #include <filesystem>

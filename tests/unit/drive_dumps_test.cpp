@@ -23,7 +23,7 @@ protected:
     }
     static std::string MainWindow() {
         std::ostringstream out;
-        drive::DumpWindow(out, OneLine);
+        drive::DumpWindow(out, frmMain, OneLine);
         return out.str();
     }
     // What the command itself prints.

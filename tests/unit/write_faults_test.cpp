@@ -78,7 +78,7 @@ std::string SheetInMemory() {
 
 std::string MainWindowOnShow() {
     std::ostringstream out;
-    drive::DumpWindow(out, [](const std::string& name) { return drive::OnOneLine(drive::ValueOf(name)); });
+    drive::DumpWindow(out, frmMain, [](const std::string& name) { return drive::OnOneLine(drive::ValueOf(name)); });
     return out.str();
 }
 
