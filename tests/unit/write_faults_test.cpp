@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "diagram/merge_list.h"
-#include "drive/dumps.h"
+#include "drive/look_commands.h"
 #include "drive/names.h"
 #include "drive/script.h"
 #include "files/back_up.h"

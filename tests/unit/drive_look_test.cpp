@@ -1,5 +1,5 @@
 // What "dump" prints: whole sheets, the main window, pictures.
-#include "drive/dumps.h"
+#include "drive/look_commands.h"
 
 #include <sstream>
 
