@@ -22,7 +22,7 @@
 #include "bench/x_user.h"
 #include "diagram/data/sample_position.h"
 #include "events/program.h"
-#include "platform/headless/scripted_dialogs.h"
+#include "platform/headless/headless_services.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/key_filter.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "drive/fault.h"
+#include "drive/script.h"
 
 namespace drive {
 

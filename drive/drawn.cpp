@@ -5,9 +5,8 @@
 #include <iterator>
 #include <variant>
 
-#include "drive/fault.h"
+#include "drive/script.h"
 #include "drive/values.h"
-#include "drive/words.h"
 #include "platform/number.h"
 
 namespace drive {

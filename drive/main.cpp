@@ -4,9 +4,9 @@
 #include <iostream>
 #include <sstream>
 
-#include "drive/headless_hands.h"
 #include "drive/run_script.h"
-#include "platform/headless/disk_files.h"
+#include "platform/headless/files.h"
+#include "platform/headless/headless_hands.h"
 #ifdef MARLBROOK_WITH_WINDOWS
 #include "platform/qt/qt_hands.h"
 #endif

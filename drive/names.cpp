@@ -1,11 +1,13 @@
 #include "drive/names.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
-#include "drive/properties.h"
+#include "drive/script.h"
+#include "drive/values.h"
 #include "drive/variables.h"
-#include "drive/words.h"
+#include "session/state/sheet_state.h"
 
 namespace drive {
 
@@ -83,6 +85,42 @@ std::string InWindow(const Window& window, const std::vector<Part>& parts, const
     throw ScriptFault(control ? name + ": such a control has no such property" : "there is no " + name);
 }
 
+struct NamedRow {
+    const char* word;
+    int row;
+};
+constexpr NamedRow kNamedRows[] = {{"@shift1", 46}, {"@shift2", 47}, {"@undo", 49}, {"@save", 50}};
+constexpr int kHighestCode = 32767;
+
+std::optional<int> RowOf(const std::string& word) {
+    for (const NamedRow& named : kNamedRows)
+        if (word == named.word) return named.row;
+    const auto key = AsWhole(word.substr(1));
+    if (!key || *key < 1 || *key > kKeys) return std::nullopt;
+    return key;
+}
+
+int HeldCode(const std::string& word) {
+    const auto row = RowOf(word);
+    if (!row) throw ScriptFault("unknown key " + word + " (known: @1 to @45, @shift1, @shift2, @undo, @save)");
+    const Any& code = KeySettings[*row][kKeyCode];
+    if (code.Text().empty()) throw ScriptFault("the program holds no key settings yet that give " + word + " a code");
+    constexpr double kLargestCode = 65535;
+    const double number = code.Number();
+    if (!(number >= 0 && number <= kLargestCode)) throw ScriptFault("the code that the key settings give " + word + " is no key");
+    return static_cast<int>(number);
+}
+
+struct PunctuationKey {
+    int code;
+    std::string_view characters;  // without and with shift
+};
+constexpr PunctuationKey kPunctuation[] = {
+    {186, ";:"}, {187, "=+"}, {188, ",<"},  {189, "-_"}, {190, ".>"},  {191, "/?"},
+    {192, "`~"}, {219, "[{"}, {220, "\\|"}, {221, "]}"}, {222, "'\""},
+};
+constexpr std::string_view kDigitsWithShift = ")!@#$%^&*(";
+
 }  // namespace
 
 std::string ValueOf(const std::string& name) {
@@ -116,6 +154,26 @@ bool IsWindowName(const std::string& name) {
 std::string FullName(const Control& control) {
     const std::string name = control.window->name + "." + control.name;
     return control.index < 0 ? name : name + "(" + std::to_string(control.index) + ")";
+}
+
+int KeyCode(const std::string& word) {
+    if (word.starts_with('@')) return HeldCode(word);
+    if (word.size() == 1 && word[0] >= 'A' && word[0] <= 'Z') return word[0];
+    const auto code = AsWhole(word);
+    if (!code || *code < 0 || *code > kHighestCode)
+        throw ScriptFault("unknown key " + word + " (a decimal code, a capital letter or @...)");
+    return *code;
+}
+
+std::optional<int> KeyThatTypes(char character) {
+    if (character == ' ') return 32;
+    if (character >= '0' && character <= '9') return character;
+    if (character >= 'A' && character <= 'Z') return character;
+    if (character >= 'a' && character <= 'z') return character - 'a' + 'A';
+    if (const auto digit = kDigitsWithShift.find(character); digit != std::string_view::npos) return '0' + static_cast<int>(digit);
+    for (const PunctuationKey& key : kPunctuation)
+        if (key.characters.find(character) != std::string_view::npos) return key.code;
+    return std::nullopt;
 }
 
 }  // namespace drive

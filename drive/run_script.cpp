@@ -1,7 +1,7 @@
 #include "drive/run_script.h"
 
 #include "drive/commands.h"
-#include "drive/fault.h"
+#include "drive/script.h"
 
 namespace drive {
 

@@ -4,11 +4,10 @@
 #include <optional>
 
 #include "drive/commands.h"
-#include "drive/fault.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "platform/encoding.h"
-#include "platform/headless/disk_files.h"
+#include "platform/headless/files.h"
 
 namespace drive {
 

@@ -2,11 +2,8 @@
 #include <algorithm>
 
 #include "drive/commands.h"
-#include "drive/fault.h"
-#include "drive/key_code.h"
 #include "drive/names.h"
-#include "drive/us_keyboard.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "platform/text.h"
 #include "platform/user.h"
 

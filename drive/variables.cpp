@@ -6,7 +6,9 @@
 #include <map>
 #include <utility>
 
-#include "drive/fault.h"
+#include "diagram/data/coniss.h"
+#include "diagram/data/percentages.h"
+#include "drive/script.h"
 #include "drive/values.h"
 #include "session/variables.h"
 

@@ -2,7 +2,7 @@
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
-#include "platform/key_codes.h"
+#include "platform/control.h"
 #include "session/focus.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "keys/settings/key_settings.h"
-#include "platform/key_codes.h"
+#include "platform/control.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "session/focus.h"

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "keys/key_dialog.h"
+#include "platform/control.h"
 #include "platform/encoding.h"
-#include "platform/key_codes.h"
 #include "platform/text.h"
 #include "session/state/sheet_state.h"
 #include "taxa/quotation_guard.h"

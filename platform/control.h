@@ -4,11 +4,11 @@
 // Setting a property to the value it has does nothing. All places are in twips (a fifteenth of a pixel at 100 %), in the container's
 // own coordinates.
 #pragma once
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "platform/colour.h"
 #include "platform/event.h"
 
 class Window;
@@ -58,6 +58,13 @@ struct Mouse {
     double y = 0;
 };
 
+// The virtual-key numbers that the program knows by name. They are the numbers that Windows gives the keys, on every system.
+constexpr int kBackspaceKey = 8;
+constexpr int kTabKey = 9;
+constexpr int kEnterKey = 13;
+constexpr int kEscapeKey = 27;
+constexpr int kDeleteKey = 46;
+
 constexpr int kTwipsPerPixel = 15;  // at 100 %
 constexpr int kTwipsPerPoint = 20;
 
@@ -67,6 +74,17 @@ struct Box {  // in twips
     int width = 0;
     int height = 0;
 };
+
+struct Colour {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    bool operator==(const Colour&) const = default;
+};
+
+constexpr Colour kBlack{0, 0, 0};
+constexpr Colour kWhite{255, 255, 255};
+constexpr Colour kFormColour{236, 238, 240};  // the ground of every window
 
 class ControlView {
 public:
@@ -240,3 +258,8 @@ private:
     Properties design_;
     ControlView* view_ = nullptr;
 };
+
+// What a screen reader says for a control: its accessible name, its own caption and the words of the control that names it, as they are
+// now, in this order: "Set alarm: All total". A part without a letter or digit, such as the "---" of a cell that has no taxon, is left out,
+// and so are blanks, dashes and the colon at an end. A label with nothing left in it counts as it was designed: "Subtotal-1".
+std::string SpokenName(const Control& control);

@@ -75,7 +75,7 @@ void ComboBox::AddItem(const std::string& item) {
 }
 
 void ComboBox::SetItem(int item, const std::string& text) {
-    if (item < ListCount()) Assign(now_.items[static_cast<std::size_t>(item)], text, Property::Items);
+    if (item >= 0 && item < ListCount()) Assign(now_.items[static_cast<std::size_t>(item)], text, Property::Items);
 }
 
 void ComboBox::Clear() {

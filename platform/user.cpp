@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/key_codes.h"
+#include "platform/failure.h"
 #include "platform/services.h"
 #include "platform/text.h"
 
@@ -65,6 +65,14 @@ void ReplaceSelection(TextHolder& box, const std::string& text) {
     Replace(box, box.SelStart(), box.SelLength(), text);
 }
 }  // namespace
+
+void RunEvent(const std::function<void()>& event) {
+    try {
+        event();
+    } catch (const Failure& failure) {
+        services.host->Fail(failure.what());
+    }
+}
 
 void BringToFront(Window& window) {
     if (window.Visible() && window.Enabled() && &window != ActiveWindow()) window.Show();

@@ -1,9 +1,15 @@
 // What a user does, told to the windows. The headless platform calls it from a script, a toolkit from its widgets, so both raise the
 // same events in the same order. What a user could not reach (CanReach, platform/window.h) is passed over in silence.
 #pragma once
+#include <functional>
+
 #include "platform/controls.h"
 #include "platform/picture_box.h"
 #include "platform/window.h"
+
+// Runs one event to its end: every event of a platform runs through here. A failure that no procedure has caught goes to the host, which
+// shows its word and ends the program.
+void RunEvent(const std::function<void()>& event);
 
 // Brings a window to the front, as a press in it does. A disabled one stays where it is.
 void BringToFront(Window& window);

@@ -1,6 +1,6 @@
 // The cells of the pad, a name and a count a slot: what the counts read, and how both look.
 #pragma once
-#include "platform/colour.h"
+#include "platform/control.h"
 #include "platform/controls.h"
 
 double ShownCount(int slot);               // what its cell reads

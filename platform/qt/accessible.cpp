@@ -3,12 +3,12 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "platform/control.h"
 #include "platform/qt/accessible_boxes.h"
 #include "platform/qt/accessible_value.h"
 #include "platform/qt/box_views.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
-#include "platform/spoken_name.h"
 #include "platform/user.h"
 
 namespace {

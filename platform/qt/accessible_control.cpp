@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QMetaObject>
 
+#include "platform/control.h"
 #include "platform/qt/look.h"
-#include "platform/spoken_name.h"
 #include "platform/user.h"
 
 int AccessibleNode::indexOfChild(const QAccessibleInterface* child) const {

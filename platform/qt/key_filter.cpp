@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "platform/control.h"
 #include "platform/controls.h"
 #include "platform/focus_walk.h"
-#include "platform/key_codes.h"
 #include "platform/qt/box_views.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/menu_view.h"

@@ -6,7 +6,7 @@
 #include <QPixmap>
 
 #include "events/program.h"
-#include "platform/key_codes.h"
+#include "platform/control.h"
 #include "platform/qt/box_views.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/desktop.h"

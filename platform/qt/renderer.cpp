@@ -6,7 +6,6 @@
 
 #include "platform/qt/mouse.h"
 #include "platform/qt/window_widget.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 
 Renderer::Renderer(std::function<bool()> has_ended) : has_ended_(std::move(has_ended)) {

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "keys/settings/key_settings.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/program_test.h"
 #include "windows/key_windows.h"

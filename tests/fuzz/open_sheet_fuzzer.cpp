@@ -18,6 +18,7 @@
 #include "session/start_up.h"
 #include "session/state/sheet_state.h"
 #include "unit/memory_files.h"
+#include "unit/sheet_bytes.h"
 #include "windows/main_window.h"
 #include "windows/name_windows.h"
 
@@ -102,23 +103,9 @@ bool Save() {
     return Succeeds([] { SaveSheet(kSave); }) && SaveOutcome == 0;
 }
 
-// What would not come back, as in no sheet of the program's own: a quotation mark inside a text, a name with two colons, another label
-// in the place of "Serial No.", a row of slot 0.
+// Of a sheet that has been saved: the names on the screen are in the arrays. A row of slot 0 is in no sheet of the program's own.
 bool IsOurOwn() {
-    const auto has_mark = [](const Any& cell) { return cell.Text().find('"') != std::string::npos; };
-    if (!(SheetHeader[kHeaderSerial] == "Serial No.") || std::any_of(std::begin(SheetHeader), std::end(SheetHeader), has_mark))
-        return false;
-    if (std::any_of(std::begin(SheetFooter), std::end(SheetFooter), has_mark)) return false;
-    for (int sample = 1; sample <= SampleCount; ++sample)
-        if (has_mark(SampleTable[kSampleName][sample]) || has_mark(SampleNotes[sample])) return false;
-    for (int row = 1; row <= kSlots; ++row)
-        if (KeyIndex[row] == 0 || has_mark(TaxonTable[row][kTaxonName])) return false;
-    for (int p = 1; p <= kParams; ++p) {
-        if (frmMain.Label10[p].Caption().ends_with("::") || has_mark(frmMain.Label10[p].Caption())) return false;
-        if (std::any_of(std::begin(ParamHeader[p]), std::end(ParamHeader[p]), has_mark)) return false;
-        if (std::any_of(&ParamValues[p][1], &ParamValues[p][SampleCount] + 1, has_mark)) return false;
-    }
-    return true;
+    return ComesBackFromItsFile() && std::find(&KeyIndex[1], &KeyIndex[kSlots] + 1, 0) == &KeyIndex[kSlots] + 1;
 }
 
 // What was opened and saved opens again and is saved as the same bytes.

@@ -10,13 +10,11 @@
 #include <sstream>
 #include <string>
 
-#include "drive/fault.h"
-#include "drive/headless_hands.h"
 #include "drive/names.h"
 #include "drive/run_script.h"
 #include "drive/script.h"
-#include "drive/words.h"
 #include "platform/failure.h"
+#include "platform/headless/headless_hands.h"
 #include "unit/program_test.h"
 
 namespace {

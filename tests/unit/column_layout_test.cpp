@@ -3,7 +3,7 @@
 #include <random>
 
 #include "diagram/data/percentages.h"
-#include "platform/run_event.h"
+#include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"

@@ -187,6 +187,20 @@ TEST_F(ControlsTest, ATickBoxSaysClickWhoeverSetsIt) {
     EXPECT_EQ(Raised(), 2);
 }
 
+TEST_F(ControlsTest, AnItemThatIsNotThereCannotBeSet) {
+    ComboBox list;
+    list.BindView(&view_);
+    for (const int item : {-1, 0}) list.SetItem(item, "new");
+    EXPECT_EQ(list.ListCount(), 0);
+    list.AddItem("one");
+    view_.Take();
+    for (const int item : {-1, 1}) list.SetItem(item, "new");
+    EXPECT_EQ(list.List(), std::vector<std::string>{"one"});
+    EXPECT_EQ(view_.Take().size(), 0u);
+    list.SetItem(0, "new");
+    EXPECT_EQ(list.List(), std::vector<std::string>{"new"});
+}
+
 TEST_F(ControlsTest, AListTellsTypingFromTheProgramsText) {
     ComboBox list;
     Count(list.Edited);

@@ -7,7 +7,6 @@
 #include "diagram/layout.h"
 #include "diagram/open_diagram.h"
 #include "diagram/sample_selector.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/diagram_test.h"
 #include "windows/diagram_window.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "drive/fault.h"
+#include "drive/script.h"
 
 using drive::CountDrawn;
 using drive::CountKind;

@@ -7,6 +7,8 @@
 
 using drive::ControlOf;
 using drive::FullName;
+using drive::KeyCode;
+using drive::KeyThatTypes;
 using drive::ScriptFault;
 using drive::ValueOf;
 using drive::WindowOf;
@@ -68,4 +70,39 @@ TEST_F(DriveNamesTest, ControlsAndWindowsAreFoundForTheHands) {
     EXPECT_THROW(ControlOf("frmMain"), ScriptFault);
     EXPECT_THROW(ControlOf("frmMain.Text4.Text"), ScriptFault);
     EXPECT_THROW(ControlOf<TabControl>("frmMain.Text4", "tab control"), ScriptFault);
+}
+
+class DriveKeysTest : public ProgramTest {};
+
+TEST_F(DriveKeysTest, ACodeIsANumberOrTheLetterOfItsOwnCode) {
+    EXPECT_EQ(KeyCode("81"), 81);
+    EXPECT_EQ(KeyCode("Q"), 81);
+    EXPECT_EQ(KeyCode("5"), 5) << "a digit is a number, not a key";
+    EXPECT_EQ(KeyCode("0"), 0);
+    for (const char* word : {"q", "QW", "", "-1", "1.5", "É"}) EXPECT_THROW(KeyCode(word), ScriptFault) << word;
+}
+
+TEST_F(DriveKeysTest, KeysByPurposeComeFromTheSettingsThatAreHeld) {
+    EXPECT_THROW(KeyCode("@1"), ScriptFault) << "none are held before the start";
+    KeySettings[1][kKeyCode] = 81;
+    KeySettings[45][kKeyCode] = "57";
+    KeySettings[46][kKeyCode] = 186;
+    KeySettings[47][kKeyCode] = 80;
+    KeySettings[49][kKeyCode] = 8;
+    KeySettings[50][kKeyCode] = 187;
+    EXPECT_EQ(KeyCode("@1"), 81);
+    EXPECT_EQ(KeyCode("@45"), 57);
+    EXPECT_EQ(KeyCode("@shift1"), 186);
+    EXPECT_EQ(KeyCode("@shift2"), 80);
+    EXPECT_EQ(KeyCode("@undo"), 8);
+    EXPECT_EQ(KeyCode("@save"), 187);
+    for (const char* word : {"@0", "@46", "@", "@1x", "@Save"}) EXPECT_THROW(KeyCode(word), ScriptFault) << word;
+}
+
+TEST_F(DriveKeysTest, EveryPrintableCharacterHasAKey) {
+    for (char character = ' '; character <= '~'; ++character) EXPECT_TRUE(KeyThatTypes(character)) << character;
+    for (const char character : {'\t', '\x7f', '\xc3'}) EXPECT_FALSE(KeyThatTypes(character));
+    const std::pair<char, int> keys[] = {{'a', 65},  {'A', 65},   {'3', 51}, {'#', 51}, {')', 48},
+                                         {'"', 222}, {'\'', 222}, {' ', 32}, {'?', 191}};
+    for (const auto& [character, code] : keys) EXPECT_EQ(KeyThatTypes(character), code) << character;
 }

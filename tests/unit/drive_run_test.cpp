@@ -6,10 +6,10 @@
 #include <random>
 #include <sstream>
 
-#include "drive/headless_hands.h"
 #include "platform/failure.h"
-#include "platform/run_event.h"
+#include "platform/headless/headless_hands.h"
 #include "platform/services.h"
+#include "platform/user.h"
 #include "session/state/sheet_state.h"
 #include "unit/program_test.h"
 #include "windows/main_window.h"

@@ -1,6 +1,5 @@
 #include "keys/first_run.h"
 
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/key_windows.h"

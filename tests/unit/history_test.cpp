@@ -1,7 +1,7 @@
 #include "session/history.h"
 
 #include "platform/failure.h"
-#include "platform/run_event.h"
+#include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <random>
 
-#include "platform/headless/disk_files.h"
+#include "platform/headless/files.h"
 #include "unit/open_test.h"
 
 namespace {

@@ -1,7 +1,6 @@
 #include "keys/key_dialog.h"
 
 #include "keys/key_dialog_ok.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "session/leaving.h"
 #include "unit/sheet_test.h"

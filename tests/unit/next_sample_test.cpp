@@ -2,7 +2,6 @@
 #include "files/next_sample.h"
 
 #include "files/format/read_sheet.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "session/totals.h"
 #include "unit/sheet_test.h"

@@ -1,6 +1,6 @@
 #include "taxa/dialogs.h"
 
-#include "platform/spoken_name.h"
+#include "platform/control.h"
 #include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"

@@ -1,7 +1,6 @@
 #include "session/pad_cells.h"
 
 #include "diagram/data/percentages.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"

@@ -9,29 +9,13 @@
 #include <string>
 #include <vector>
 
-#include "files/format/sheet_rows.h"
 #include "platform/failure.h"
+#include "session/state/sheet_state.h"
 #include "unit/shared_state.h"
+#include "unit/sheet_bytes.h"
 #include "unit/sheet_file.h"
 
 namespace {
-struct BytesInMemory : OutputFile {
-    std::string bytes;
-    void Replace(std::string_view all) override { bytes = all; }
-};
-
-// As a back-up holds it: all that is read again.
-std::string Written() {
-    BytesInMemory file;
-    CellWriter cells(file);
-    WriteHeaderRows(cells, SampleCount);
-    for (int row = 1; row <= kSlots; ++row) WriteCountRow(cells, row);
-    WriteParamRows(cells, SampleCount);
-    WriteNoteRow(cells, SampleCount);
-    cells.Close();
-    return file.bytes;
-}
-
 class ReadSheetTest : public testing::Test {
 protected:
     ReadSheetTest() { WipeSharedState(); }
@@ -158,7 +142,7 @@ TEST_F(ReadSheetTest, WhatIsWrittenFromTheArraysIsWhatWasRead) {
         std::swap(rows[kTaxonRow], rows[kTaxonRow + 99]);
         rows.resize(kSumRow);
         ReadWhole(rows);
-        EXPECT_EQ(Written(), Joined(rows)) << samples;
+        EXPECT_EQ(SheetBytes(), Joined(rows)) << samples;
     }
 }
 }  // namespace

@@ -1,4 +1,4 @@
-#include "platform/spoken_name.h"
+#include "platform/control.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // sheet holds.
 #include <random>
 
-#include "drive/us_keyboard.h"
+#include "drive/names.h"
 #include "keys/settings/key_settings.h"
 #include "platform/text.h"
 #include "platform/user.h"

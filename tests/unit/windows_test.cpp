@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/control.h"
 #include "platform/focus_walk.h"
-#include "platform/spoken_name.h"
 #include "platform/text.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"

@@ -8,16 +8,15 @@
 #include <sstream>
 
 #include "diagram/cluster_tree.h"
-#include "drive/dumps.h"
+#include "drive/look_commands.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
 #include "files/back_up.h"
 #include "files/exports.h"
 #include "files/save_sheet.h"
 #include "keys/first_run.h"
 #include "keys/key_dialog_ok.h"
 #include "keys/settings/key_settings.h"
-#include "platform/run_event.h"
 #include "platform/user.h"
 #include "session/start_up.h"
 #include "unit/sheet_test.h"
@@ -78,7 +77,7 @@ std::string SheetInMemory() {
 
 std::string MainWindowOnShow() {
     std::ostringstream out;
-    drive::DumpWindow(out, [](const std::string& name) { return drive::OnOneLine(drive::ValueOf(name)); });
+    drive::DumpWindow(out, frmMain, [](const std::string& name) { return drive::OnOneLine(drive::ValueOf(name)); });
     return out.str();
 }
 

@@ -1,5 +1,8 @@
-#include "platform/headless/scripted_dialogs.h"
+#include "platform/headless/headless_services.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -57,4 +60,10 @@ std::optional<std::string> ScriptedFileDialogs::Ask(const FileQuestion& question
     auto answer = std::move(answers.front());
     answers.pop_front();
     return answer;
+}
+
+bool RecordedHost::CanShow(const std::string& picture) {
+    constexpr std::string_view kJpegPngGifBmp[] = {"\xFF\xD8\xFF", "\x89PNG", "GIF8", "BM"};
+    return std::any_of(std::begin(kJpegPngGifBmp), std::end(kJpegPngGifBmp),
+                       [&picture](std::string_view start) { return picture.starts_with(start); });
 }

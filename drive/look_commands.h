@@ -4,11 +4,13 @@
 #include <ostream>
 #include <string>
 
+struct MainWindow;
+
 namespace drive {
 
 using ValueOfName = std::function<std::string(const std::string& name)>;  // on one line, as scripts show values
 
 void DumpSheet(std::ostream& out, const ValueOfName& value_of);
-void DumpWindow(std::ostream& out, const ValueOfName& value_of);
+void DumpWindow(std::ostream& out, const MainWindow& window, const ValueOfName& value_of);
 
 }  // namespace drive

@@ -1,7 +1,7 @@
-// Files over which a script has power: a file can be locked, as if another program held it, and its disk can be full. For everything
-// else they are the files beneath.
+// The files of the disk, by the standard library alone, and files over which a script has power.
 #pragma once
 #include <cstddef>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <set>
@@ -9,6 +9,18 @@
 
 #include "platform/files.h"
 
+class DiskFiles : public Files {
+public:
+    std::string ReadAll(const std::string& path) override;
+    std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
+};
+
+// Between the UTF-8 of the memory and the system's own paths. A `\` separates folders on every system.
+std::filesystem::path DiskPath(const std::string& utf8);
+std::string PathText(const std::filesystem::path& path);  // with `/` between the names
+
+// Files over which a script has power: a file can be locked, as if another program held it, and its disk can be full. For everything
+// else they are the files beneath.
 class ScriptedFiles : public Files {
 public:
     explicit ScriptedFiles(Files& beneath) : beneath_(beneath) {}  // `beneath` must outlive it

@@ -1,13 +1,12 @@
 // What "dump" prints: whole sheets, the main window, pictures.
-#include "drive/dumps.h"
+#include "drive/look_commands.h"
 
 #include <sstream>
 
 #include "drive/commands.h"
-#include "drive/fault.h"
-#include "drive/headless_hands.h"
 #include "drive/names.h"
-#include "drive/words.h"
+#include "drive/script.h"
+#include "platform/headless/headless_hands.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
 
@@ -24,7 +23,7 @@ protected:
     }
     static std::string MainWindow() {
         std::ostringstream out;
-        drive::DumpWindow(out, OneLine);
+        drive::DumpWindow(out, frmMain, OneLine);
         return out.str();
     }
     // What the command itself prints.

@@ -1,8 +1,6 @@
-#include "drive/headless_hands.h"
+#include "platform/headless/headless_hands.h"
 
 #include "events/program.h"
-#include "platform/key_codes.h"
-#include "platform/run_event.h"
 #include "platform/text.h"
 #include "platform/user.h"
 

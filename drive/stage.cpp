@@ -1,4 +1,4 @@
-#include "drive/folders.h"
+#include "drive/stage.h"
 
 #include <algorithm>
 #include <array>
@@ -7,8 +7,8 @@
 #include <random>
 #include <vector>
 
-#include "drive/fault.h"
-#include "platform/headless/disk_files.h"
+#include "drive/script.h"
+#include "platform/headless/files.h"
 
 namespace drive {
 
@@ -122,6 +122,16 @@ std::string Folders::Shown(std::string text) const {
     Replace(text, Program(), "$F");
     Replace(text, Work(), "$W");
     return text;
+}
+
+void Report::Check(bool holds, const std::string& name, const std::string& expected, const std::string& got) {
+    ++(holds ? passed : failed);
+    if (!holds)
+        errors_ << script_name_ << ":" << line << ": " << name << ": expected " << Quoted(expected) << ", got " << Quoted(got) << "\n";
+}
+
+void Report::Fault(const std::string& sentence) {
+    errors_ << script_name_ << ":" << line << ": " << sentence << "\n";
 }
 
 }  // namespace drive
