@@ -53,7 +53,7 @@ void DrawTicks() {
 
 // As the shortest text of the float, which is shorter than that of the double it would become.
 Any FloatCell(float number) {
-    return Val(SingleText(number));
+    return Val(FloatText(number));
 }
 
 void WriteMerges(CellWriter& cells, const Busy& busy) {

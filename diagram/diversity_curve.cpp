@@ -17,12 +17,12 @@ void RecordPoint(double total) {
     TaxaSeen = 0;
     for (int slot = 1; slot <= kSlots; ++slot)
         if (frmMain.TaxonCounts[slot].Number() != 0) ++TaxaSeen;
-    if (std::abs(total) <= kLongestCurve) DiversityLength = ToInteger(total);
+    if (std::abs(total) <= kLongestCurve) DiversityLength = ToInt16(total);
     if (DiversityLength < 0) return;  // reverse counts alone: there is nothing to hold
     DiversityCurve.resize(static_cast<std::size_t>(DiversityLength) + 1);
     DiversityCurve[0] = 0;
     // The first count after a start or a change of sample has not passed the old-sample test yet: it leaves a gap (docs/quirks.md).
-    if (!WarnOldSample) DiversityCurve[DiversityLength] = ToInteger(TaxaSeen * 10);
+    if (!WarnOldSample) DiversityCurve[DiversityLength] = ToInt16(TaxaSeen * 10);
 }
 
 // The data fill the right and upper part, both axes from 0 to ten times their largest value; the rest is room for the labels.
@@ -89,7 +89,7 @@ void BeginDiversityCurve() {
     const double total = frmMain.AllTotal.Number();
     if (total < 0 || total > kLongestCurve) return;
     DiversityCurve.resize(static_cast<std::size_t>(total) + 1);
-    DiversityCurve[0] = ToInteger(total);
+    DiversityCurve[0] = ToInt16(total);
 }
 
 void DrawDiversityCurve() {

@@ -63,12 +63,12 @@ void SetScrollRangeOfPicture() {
 }  // namespace
 
 void MeasureMargins() {
-    frmDiagram.WidthMargin = ToInteger(frmDiagram.Width() - frmDiagram.Diagram.Width());
-    frmDiagram.HeightMargin = ToInteger(frmDiagram.Height() - frmDiagram.Diagram.Height());
-    frmDiagram.ScrollMargin = ToInteger(frmDiagram.Height() - frmDiagram.ColumnScroll.Top());
-    frmDiagram.SliderMargin = ToInteger(frmDiagram.Height() - frmDiagram.SampleSlider.Height());
-    frmDiagram.FrameMargin = ToInteger(frmDiagram.Width() - frmDiagram.Selector.Left());
-    frmDiagram.BandMargin = ToInteger(frmDiagram.Height() - frmDiagram.Band.Top());
+    frmDiagram.WidthMargin = ToInt16(frmDiagram.Width() - frmDiagram.Diagram.Width());
+    frmDiagram.HeightMargin = ToInt16(frmDiagram.Height() - frmDiagram.Diagram.Height());
+    frmDiagram.ScrollMargin = ToInt16(frmDiagram.Height() - frmDiagram.ColumnScroll.Top());
+    frmDiagram.SliderMargin = ToInt16(frmDiagram.Height() - frmDiagram.SampleSlider.Height());
+    frmDiagram.FrameMargin = ToInt16(frmDiagram.Width() - frmDiagram.Selector.Left());
+    frmDiagram.BandMargin = ToInt16(frmDiagram.Height() - frmDiagram.Band.Top());
 }
 
 void SetDiagramScale() {

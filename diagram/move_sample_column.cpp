@@ -23,7 +23,7 @@ void MoveInRow(T* row) {
 
 // The moved count passes through a float: past 16,777,216 grains it loses digits (docs/quirks.md).
 void MoveCounts(int slot) {
-    Counts[slot][MoveFrom] = ToLong(static_cast<float>(Counts[slot][MoveFrom]));
+    Counts[slot][MoveFrom] = ToInt32(static_cast<float>(Counts[slot][MoveFrom]));
     MoveInRow(Counts[slot]);
 }
 

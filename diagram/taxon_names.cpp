@@ -31,7 +31,7 @@ Italics ItalicRows() {
 
 std::int32_t BaseLine() {
     constexpr double kPixelsPerTwip = 0.0667;
-    return ToLong(frmDiagram.NameStrip.Height() * kPixelsPerTwip - 8);
+    return ToInt32(frmDiagram.NameStrip.Height() * kPixelsPerTwip - 8);
 }
 }  // namespace
 
@@ -45,7 +45,7 @@ void DrawTaxonNames() {
         const auto x = static_cast<float>(left * scale);
         if (x < 0 || x >= frmDiagram.Diagram.ScaleWidth()) continue;
         const bool has_name = HasName(row);
-        frmDiagram.NameStrip.Name(ToLong(left * 0.99 * scale), y, has_name && italic[row], has_name ? DiagramNames[row] : kEmpty);
+        frmDiagram.NameStrip.Name(ToInt32(left * 0.99 * scale), y, has_name && italic[row], has_name ? DiagramNames[row] : kEmpty);
     }
 }
 

@@ -108,7 +108,7 @@ std::string ValueText(bool value) {
 }
 
 std::string ValueText(float value) {
-    return std::isfinite(value) ? SingleText(value) : std::to_string(value);
+    return std::isfinite(value) ? FloatText(value) : std::to_string(value);
 }
 
 std::string ValueText(double value) {

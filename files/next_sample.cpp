@@ -34,7 +34,7 @@ void MakeColumn() {
     MaxSerial = LargestSerial();
     if (SampleTable[kSampleName][1] == kUnnamedValue) return;
     if (SampleCount == kColumns) throw Failure(kSubscriptOutOfRange);  // a file may bring more than kSampleLimit
-    MaxSerial = ToInteger(MaxSerial + 1);
+    MaxSerial = ToInt16(MaxSerial + 1);
     CurrentSample = ++SampleCount;
 }
 

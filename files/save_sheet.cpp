@@ -36,7 +36,7 @@ SubtotalSums SumSamples() {
         for (int which = 0; which < 3; ++which) {
             if (weights[which] == 0) continue;
             for (int sample = 1; sample <= SampleCount; ++sample)
-                sums[which][sample] = ToInteger(sums[which][sample] + Counts[slot][sample] * weights[which]);
+                sums[which][sample] = ToInt16(sums[which][sample] + Counts[slot][sample] * weights[which]);
         }
     }
     return sums;

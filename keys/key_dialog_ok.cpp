@@ -66,7 +66,7 @@ void Report(const Fault& fault) {
 }
 
 std::int16_t CodeInBox(int row) {
-    return ToInteger(frmKeyCode.Codes[row].Number());
+    return ToInt16(frmKeyCode.Codes[row].Number());
 }
 
 void StoreRow(int row) {

@@ -30,11 +30,11 @@ double PowerOfTen(int exponent) {
 
 }  // namespace
 
-std::int16_t ToInteger(double number) {
+std::int16_t ToInt16(double number) {
     return ToWhole<std::int16_t>(number);
 }
 
-std::int32_t ToLong(double number) {
+std::int32_t ToInt32(double number) {
     return ToWhole<std::int32_t>(number);
 }
 

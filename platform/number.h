@@ -3,6 +3,6 @@
 #pragma once
 #include <cstdint>
 
-std::int16_t ToInteger(double number);
-std::int32_t ToLong(double number);
+std::int16_t ToInt16(double number);
+std::int32_t ToInt32(double number);
 double RoundHalfEven(double number, int decimals);  // decimals: 0..15 digits kept after the period

@@ -143,7 +143,7 @@ std::string NumberText(double number) {
     return WithoutExponent({buffer, rounded.ptr});
 }
 
-std::string SingleText(float number) {
+std::string FloatText(float number) {
     if (!std::isfinite(number)) throw Failure(kOverflow);
     if (number == 0) return "0";
     char buffer[32];

@@ -19,7 +19,7 @@ std::optional<double> AsNumber(std::string_view text);
 std::string NumberText(double number);
 
 // The same for a float: the shortest decimal text that reads back as the same float (0.1, not 0.10000000149).
-std::string SingleText(float number);
+std::string FloatText(float number);
 
 // Whether a text is just the text of its own numeric value: "12.5" is, "12.50", "007" and "top" are not.
 bool IsPlainNumber(std::string_view text);

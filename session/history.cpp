@@ -19,7 +19,7 @@ void AddHistoryLine(const std::string& line) {
 }
 
 void LogShownLineAgain() {
-    HistoryCount = ToInteger(HistoryCount + 1);
+    HistoryCount = ToInt16(HistoryCount + 1);
     HistoryLog.push_back(frmMain.History.Text());
 }
 

@@ -144,7 +144,7 @@ std::string SlotText(int code) {
     int slot = 0;
     if (KeySettingsLoaded) {
         for (int key = 1; key <= kKeys; ++key)
-            if (KeySettings[key][kKeyCode] == code) slot = ToInteger(TaxonTable[key][kTaxonKey].Number());
+            if (KeySettings[key][kKeyCode] == code) slot = ToInt16(TaxonTable[key][kTaxonKey].Number());
     } else {
         slot = BuiltInKeyNumber(code);
     }
@@ -156,7 +156,7 @@ std::string SlotText(int code) {
 void PushOnUndoList(int slot) {
     std::memmove(&UndoList[1], &UndoList[0], sizeof(UndoList[0]) * kUndoDepth);
     UndoList[0][kUndoSample] = CurrentSample;
-    UndoList[0][kUndoSlot] = ToInteger(ReverseCount ? -slot : slot);
+    UndoList[0][kUndoSlot] = ToInt16(ReverseCount ? -slot : slot);
 }
 }  // namespace
 

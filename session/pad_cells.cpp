@@ -53,7 +53,7 @@ void EmptyCountCells() {
 }
 
 void CopyCellsToCounts() {
-    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToLong(ShownCount(slot));
+    for (int slot = 1; slot <= kSlots; ++slot) Counts[slot][CurrentSample] = ToInt32(ShownCount(slot));
 }
 
 void ShowPercentages() {

@@ -14,7 +14,7 @@ namespace {
 void AddToTotals(int slot, double count) {
     for (const int flag : kSubtotalFlags)
         if (TaxonTable[slot][flag] == 1) TaxonTable[0][flag] = TaxonTable[0][flag].Number() + count;
-    AllTotal = ToLong(AllTotal + count);  // a whole number: rounded at each addition, not once at the end
+    AllTotal = ToInt32(AllTotal + count);  // a whole number: rounded at each addition, not once at the end
 }
 
 // A name that was wiped out is an empty slot.

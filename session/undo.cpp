@@ -23,7 +23,7 @@ void GoToSampleOf(std::int16_t sample) {
 
 void TakeBack(int slot, int direction) {
     ShowCountOf(slot, ShownCount(slot) - direction);
-    Counts[slot][CurrentSample] = ToLong(ShownCount(slot));
+    Counts[slot][CurrentSample] = ToInt32(ShownCount(slot));
 }
 
 void PopUndoList() {

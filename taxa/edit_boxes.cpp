@@ -31,7 +31,7 @@ bool IsWholeNumber(const std::string& text) {
 void RefuseCount(TextBox& box) {
     PlayIfOn(WaveError);
     services.messages->Show({"Error", "Please input digit(s).", Icon::Exclamation, Buttons::Ok});
-    box.SetText(SingleText(CountAtMouseDown));
+    box.SetText(FloatText(CountAtMouseDown));
 }
 
 void StoreIfWhole(int slot, TextBox& box) {
@@ -40,12 +40,12 @@ void StoreIfWhole(int slot, TextBox& box) {
             RefuseCount(box);
             return;
         }
-        Counts[slot][CurrentSample] = ToLong(box.Number());
+        Counts[slot][CurrentSample] = ToInt32(box.Number());
         SampleUntouched = false;
         MarkSheetEdited();
         RecountTotals(CurrentSample);
     }
-    Counts[slot][CurrentSample] = ToLong(box.Number());
+    Counts[slot][CurrentSample] = ToInt32(box.Number());
     if (!IsWholeNumber(box.Text())) RefuseCount(box);
 }
 

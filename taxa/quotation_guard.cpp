@@ -39,7 +39,7 @@ void EnterGuardedBox() {
 }
 
 void NoteEditKey(int code) {
-    LastEditKey = ToInteger(code);
+    LastEditKey = ToInt16(code);
     EditKeyAwaitsText = true;
 }
 

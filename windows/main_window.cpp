@@ -308,8 +308,8 @@ void MainWindow::EnableParamNames(bool enabled) {
 }
 
 void MainWindow::HoldNumbers() {
-    for (int slot = 0; slot <= kSlots; ++slot) HeldCounts[slot] = ToInteger(TaxonCounts[slot].Number());
-    for (int i = 0; i < 3; ++i) HeldTotals[i] = ToInteger(Totals[i].Number());
+    for (int slot = 0; slot <= kSlots; ++slot) HeldCounts[slot] = ToInt16(TaxonCounts[slot].Number());
+    for (int i = 0; i < 3; ++i) HeldTotals[i] = ToInt16(Totals[i].Number());
 }
 
 void MainWindow::ShowHeldNumbers() {

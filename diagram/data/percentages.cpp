@@ -15,7 +15,7 @@ void SumOnBasis() {
     std::array<double, kColumns + 1> sums{};
     for (int slot = 1; slot <= kSlots; ++slot)
         for (int sample = 1; sample <= SampleCount; ++sample) sums[sample] += weights[slot] * Counts[slot][sample];
-    for (int sample = 1; sample <= SampleCount; ++sample) Counts[0][sample] = ToLong(sums[sample]);
+    for (int sample = 1; sample <= SampleCount; ++sample) Counts[0][sample] = ToInt32(sums[sample]);
 }
 
 // What has no basis is `without_basis`.
@@ -83,7 +83,7 @@ void LayOutColumns() {
 Shares SharesOf(std::int16_t sample, const BasisWeights& basis) {
     double sum = 0;
     for (int slot = 1; slot <= kSlots; ++slot) sum += basis[slot] * Counts[slot][sample];
-    Shares shares{ToLong(sum), {}};
+    Shares shares{ToInt32(sum), {}};
     shares.fractions[0] = ShareOf(shares.sum, shares.sum, kNoBasis);
     for (int slot = 1; slot <= kSlots; ++slot) shares.fractions[slot] = ShareOf(Counts[slot][sample], shares.sum, kNoBasis);
     return shares;
@@ -103,14 +103,14 @@ void ShowDiagramShares() {
 double SetScrollRange(double units_in_view) {
     constexpr double kFarthest = 32767;  // where a taxon far outside the basis makes the diagram wider, its end is out of reach
     const double end = static_cast<double>(ColumnOffset[kSlots]) - units_in_view + LastColumnMax + 2 * ColumnGap;
-    frmDiagram.ColumnScroll.SetRange(0, ToInteger(std::min(end, kFarthest)));
-    frmDiagram.ColumnScroll.SetSteps(10, ToInteger(units_in_view));
+    frmDiagram.ColumnScroll.SetRange(0, ToInt16(std::min(end, kFarthest)));
+    frmDiagram.ColumnScroll.SetSteps(10, ToInt16(units_in_view));
     return end;
 }
 
 void ComputeDiagramData() {
     const double units_per_screen_unit = 5.0 / frmDiagram.HorizontalScale.Value();
-    ColumnGap = ToInteger(units_per_screen_unit * 10);
+    ColumnGap = ToInt16(units_per_screen_unit * 10);
     RankSamples();
     FillFractions();
     ShowDiagramShares();

@@ -41,7 +41,7 @@ Any CellReader::Next() {
 
 std::int32_t CellReader::NextCount() {
     const auto digits = TakeDigits();
-    return digits ? *digits : ToLong(Next().Number());
+    return digits ? *digits : ToInt32(Next().Number());
 }
 
 // Nearly all cells of a sheet are like this: digits from the first character to the comma.

@@ -36,7 +36,7 @@ std::int16_t ReadSerials(CellReader& cells) {
 
 void MapSerials() {
     for (std::int16_t column = 1; column <= SampleCount; ++column) {
-        const std::int16_t serial = ToInteger(SampleTable[kSampleSerial][column].Number());
+        const std::int16_t serial = ToInt16(SampleTable[kSampleSerial][column].Number());
         if (serial < 0 || serial > kColumns) throw Failure(kSubscriptOutOfRange);
         SerialOfColumn[column] = serial;
         ColumnOfSerial[serial] = column;
@@ -45,11 +45,11 @@ void MapSerials() {
 
 // The labels of one taxon row; returns its slot.
 int ReadTaxonLabels(CellReader& cells, std::int16_t row) {
-    const std::int16_t slot = ToInteger(cells.Next().Number());
+    const std::int16_t slot = ToInt16(cells.Next().Number());
     const bool has_place = slot >= 0 && slot <= kSlots;
     if (has_place) KeyIndex[row] = slot;  // always a slot: even after an open that fails, a save goes by it
-    RowSubtotal1[row] = ToLong(cells.Next().Number());
-    RowSubtotal2[row] = ToLong(cells.Next().Number());
+    RowSubtotal1[row] = ToInt32(cells.Next().Number());
+    RowSubtotal2[row] = ToInt32(cells.Next().Number());
     RowNames[row] = cells.NextText();
     if (!has_place) throw Failure(kSubscriptOutOfRange);
     RowOfSlot[slot] = row;
@@ -107,7 +107,7 @@ std::int16_t LargestSerial() {
     constexpr double kNone = -9999;
     double largest = kNone;
     for (int sample = 1; sample <= SampleCount; ++sample) largest = std::max(largest, SampleTable[kSampleSerial][sample].Number());
-    return largest == kNone ? std::int16_t{0} : ToInteger(largest);
+    return largest == kNone ? std::int16_t{0} : ToInt16(largest);
 }
 
 void ReadGrid(CellReader& cells, GridRead& read, const RowProgress& progress) {

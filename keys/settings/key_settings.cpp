@@ -27,9 +27,9 @@ void ReadKeySettings() {
     CellReader cells(DecodeFile(services.files->ReadAll(ProgramFile(kFile))));
     for (Any(&row)[kKeyColumns] : KeySettings)
         for (Any& field : row) field = cells.Next();
-    Shift1Code = ToInteger(KeySettings[46][kKeyCode].Number());
-    Shift2Code = ToInteger(KeySettings[47][kKeyCode].Number());
-    UndoKeyCode = ToInteger(KeySettings[49][kKeyCode].Number());
+    Shift1Code = ToInt16(KeySettings[46][kKeyCode].Number());
+    Shift2Code = ToInt16(KeySettings[47][kKeyCode].Number());
+    UndoKeyCode = ToInt16(KeySettings[49][kKeyCode].Number());
     for (int place = 1; place <= kKeys; ++place)
         for (const int slot : {place, place + kKeys, place + 2 * kKeys}) frmMain.SlotNumbers[slot].SetCaption(std::to_string(slot));
     PlaceKeyCells();
@@ -48,7 +48,7 @@ void WriteKeySettings() {
 
 void PlaceKeyCells() {
     for (int place = 1; place <= kKeys; ++place) {
-        const std::int16_t key = ToInteger(KeySettings[place][kKeyNumber].Number());
+        const std::int16_t key = ToInt16(KeySettings[place][kKeyNumber].Number());
         if (key < 1 || key > kSlots) throw Failure(kSubscriptOutOfRange);
         if (key > kKeys) continue;
         frmMain.PlaceSlot(key, KeyLeft[place], KeyTop[place]);

@@ -200,7 +200,7 @@ TEST(CellReaderTest, ACountIsTheCellRoundedToAWholeNumber) {
             for (std::size_t length = random() % 40; length > 0; --length) text += "0123456789-,,,,. +e\"\r\n"[random() % 22];
             CellReader counts(text), cells(text);
             while (!cells.AtEnd()) {
-                const std::string expected = CountOrFailure([&] { return ToLong(cells.Next().Number()); });
+                const std::string expected = CountOrFailure([&] { return ToInt32(cells.Next().Number()); });
                 ASSERT_EQ(CountOrFailure([&] { return counts.NextCount(); }), expected)
                     << testing::PrintToString(text) << " of seed " << seed;
             }

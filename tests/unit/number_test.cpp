@@ -33,33 +33,33 @@ TEST(NumberTest, IntegerAndLongRoundHalfToEven) {
     } cases[] = {{0, 0},    {0.49, 0},  {0.5, 0},   {0.51, 1},  {1.5, 2},      {2.5, 2}, {3.5, 4},
                  {-0.5, 0}, {-1.5, -2}, {-2.5, -2}, {16.5, 16}, {-16.51, -17}, {12, 12}, {-9999, -9999}};
     for (const auto& [number, whole] : cases) {
-        EXPECT_EQ(ToInteger(number), whole) << number;
-        EXPECT_EQ(ToLong(number), whole) << number;
+        EXPECT_EQ(ToInt16(number), whole) << number;
+        EXPECT_EQ(ToInt32(number), whole) << number;
     }
 }
 
 TEST(NumberTest, IntegerEndsAtSixteenBits) {
-    EXPECT_EQ(ToInteger(32767), 32767);
-    EXPECT_EQ(ToInteger(32767.49), 32767);
-    EXPECT_EQ(ToInteger(-32768), -32768);
-    EXPECT_EQ(ToInteger(-32768.5), -32768);  // its even neighbour
+    EXPECT_EQ(ToInt16(32767), 32767);
+    EXPECT_EQ(ToInt16(32767.49), 32767);
+    EXPECT_EQ(ToInt16(-32768), -32768);
+    EXPECT_EQ(ToInt16(-32768.5), -32768);  // its even neighbour
     for (const double number : {32767.5, 32768.0, -32768.51, -32769.0, 1e300, kInfinity, -kInfinity, kNoNumber})
-        EXPECT_EQ(WordOf([&] { ToInteger(number); }), kOverflow) << number;
+        EXPECT_EQ(WordOf([&] { ToInt16(number); }), kOverflow) << number;
 }
 
 TEST(NumberTest, LongEndsAtThirtyTwoBits) {
-    EXPECT_EQ(ToLong(2147483647), 2147483647);
-    EXPECT_EQ(ToLong(2147483647.49), 2147483647);
-    EXPECT_EQ(ToLong(-2147483648.0), std::numeric_limits<std::int32_t>::min());
-    EXPECT_EQ(ToLong(-2147483648.5), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(ToInt32(2147483647), 2147483647);
+    EXPECT_EQ(ToInt32(2147483647.49), 2147483647);
+    EXPECT_EQ(ToInt32(-2147483648.0), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(ToInt32(-2147483648.5), std::numeric_limits<std::int32_t>::min());
     for (const double number : {2147483647.5, 2147483648.0, -2147483648.51, -1e300, kInfinity, -kInfinity, kNoNumber})
-        EXPECT_EQ(WordOf([&] { ToLong(number); }), kOverflow) << number;
+        EXPECT_EQ(WordOf([&] { ToInt32(number); }), kOverflow) << number;
 }
 
 TEST(NumberTest, AnExponentTooLargeForANumberOverflowsAWholeNumber) {
-    EXPECT_EQ(WordOf([] { ToInteger(Val("1E400")); }), kOverflow);
-    EXPECT_EQ(WordOf([] { ToLong(Val("-1E400")); }), kOverflow);
-    EXPECT_EQ(ToLong(Val("1E-400")), 0);
+    EXPECT_EQ(WordOf([] { ToInt16(Val("1E400")); }), kOverflow);
+    EXPECT_EQ(WordOf([] { ToInt32(Val("-1E400")); }), kOverflow);
+    EXPECT_EQ(ToInt32(Val("1E-400")), 0);
 }
 
 TEST(RoundHalfEvenTest, KeepsSoManyDecimals) {

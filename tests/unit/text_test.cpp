@@ -222,7 +222,7 @@ TEST(NumberTextTest, KeepsEveryDecimalOfFourPlaces) {
 TEST(NumberTextTest, FailsForWhatIsNoFiniteNumber) {
     EXPECT_THROW(NumberText(std::numeric_limits<double>::infinity()), Failure);
     EXPECT_THROW(NumberText(std::numeric_limits<double>::quiet_NaN()), Failure);
-    EXPECT_THROW(SingleText(-std::numeric_limits<float>::infinity()), Failure);
+    EXPECT_THROW(FloatText(-std::numeric_limits<float>::infinity()), Failure);
 }
 
 TEST(NumberTextTest, HasAPeriodWhateverTheLocale) {
@@ -233,20 +233,20 @@ TEST(NumberTextTest, HasAPeriodWhateverTheLocale) {
     };
     const std::locale before = std::locale::global(std::locale(std::locale::classic(), new Comma));
     EXPECT_EQ(NumberText(1234.5), "1234.5");
-    EXPECT_EQ(SingleText(1234.5F), "1234.5");
+    EXPECT_EQ(FloatText(1234.5F), "1234.5");
     EXPECT_EQ(Val("1234.5"), 1234.5);
     std::locale::global(before);
 }
 
 TEST(SingleTextTest, IsTheShortestTextOfASingle) {
-    EXPECT_EQ(SingleText(0.1F), "0.1");
-    EXPECT_EQ(SingleText(-0.0F), "0");
-    EXPECT_EQ(SingleText(12.5F), "12.5");
-    EXPECT_EQ(SingleText(100.0F), "100");
-    EXPECT_EQ(SingleText(1.0F / 3), "0.33333334");
-    EXPECT_EQ(SingleText(16777216.0F), "16777216");
-    EXPECT_EQ(SingleText(-1e20F), "-100000000000000000000");
-    EXPECT_EQ(SingleText(1e-20F), "0.00000000000000000001");
+    EXPECT_EQ(FloatText(0.1F), "0.1");
+    EXPECT_EQ(FloatText(-0.0F), "0");
+    EXPECT_EQ(FloatText(12.5F), "12.5");
+    EXPECT_EQ(FloatText(100.0F), "100");
+    EXPECT_EQ(FloatText(1.0F / 3), "0.33333334");
+    EXPECT_EQ(FloatText(16777216.0F), "16777216");
+    EXPECT_EQ(FloatText(-1e20F), "-100000000000000000000");
+    EXPECT_EQ(FloatText(1e-20F), "0.00000000000000000001");
 }
 
 TEST(SingleTextTest, ReadsBackAsTheSameSingle) {
@@ -254,7 +254,7 @@ TEST(SingleTextTest, ReadsBackAsTheSameSingle) {
         std::mt19937_64 random(seed);
         for (int round = 0; round < 500; ++round) {
             const float number = RandomNumber<float, std::uint32_t>(random);
-            const std::string text = SingleText(number);
+            const std::string text = FloatText(number);
             ASSERT_EQ(std::strtof(text.c_str(), nullptr), number) << text << " of seed " << seed;
             ASSERT_EQ(text.find_first_of("eE+"), text.npos) << text << " of seed " << seed;
             ASSERT_LE(SignificantDigits(text), 9u) << text << " of seed " << seed;
