@@ -7,7 +7,7 @@ namespace drive {
 
 namespace {
 
-// False if the script itself is wrong; the report then has its fault.
+// false if the script itself is wrong; the report then has its fault.
 bool Play(Stage& stage, std::istream& text) {
     Script script(text);
     try {

@@ -43,7 +43,7 @@ struct Command {
 class Script {
 public:
     explicit Script(std::istream& text) : text_(text) {}  // `text` must outlive it
-    // False at the end. ScriptFault for a line that cannot be split into words and for an END that is missing.
+    // false at the end. ScriptFault for a line that cannot be split into words and for an END that is missing.
     bool Next(Command& command);
     int Line() const { return line_; }  // the line read last; after a fault, the one to blame
 

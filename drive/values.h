@@ -13,7 +13,7 @@
 namespace drive {
 
 std::string ValueText(bool value);
-std::string ValueText(float value);  // the shortest text that reads back as the same Single; "inf", "nan" for what is no number
+std::string ValueText(float value);  // the shortest text that reads back as the same float; "inf", "nan" for what is no number
 std::string ValueText(double value);
 std::string ValueText(Colour value);
 inline std::string ValueText(const std::string& value) {

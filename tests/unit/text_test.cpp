@@ -238,7 +238,7 @@ TEST(NumberTextTest, HasAPeriodWhateverTheLocale) {
     std::locale::global(before);
 }
 
-TEST(SingleTextTest, IsTheShortestTextOfASingle) {
+TEST(FloatTextTest, IsTheShortestTextOfAFloat) {
     EXPECT_EQ(FloatText(0.1F), "0.1");
     EXPECT_EQ(FloatText(-0.0F), "0");
     EXPECT_EQ(FloatText(12.5F), "12.5");
@@ -249,7 +249,7 @@ TEST(SingleTextTest, IsTheShortestTextOfASingle) {
     EXPECT_EQ(FloatText(1e-20F), "0.00000000000000000001");
 }
 
-TEST(SingleTextTest, ReadsBackAsTheSameSingle) {
+TEST(FloatTextTest, ReadsBackAsTheSameFloat) {
     for (unsigned seed = 1; seed <= 20; ++seed) {
         std::mt19937_64 random(seed);
         for (int round = 0; round < 500; ++round) {
