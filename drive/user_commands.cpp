@@ -11,8 +11,6 @@ namespace drive {
 
 namespace {
 
-constexpr int kEnter = 13;
-
 int Whole(const std::string& word) {
     const auto number = AsWhole(word);
     if (!number) throw ScriptFault(Quoted(word) + " is not a whole number");
@@ -38,7 +36,7 @@ Control& BoxOf(const std::string& name) {
 }
 
 int KeyOf(char character) {
-    if (character == '\n') return kEnter;
+    if (character == '\n') return kEnterKey;
     const auto code = KeyThatTypes(character);
     if (!code) throw ScriptFault("no key of a US keyboard types all of that text: use press or paste");
     return *code;
