@@ -24,6 +24,7 @@
 #include "session/start_up.h"
 #include "session/state/sample_names.h"
 #include "session/state/sheet_state.h"
+#include "session/told.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -186,6 +187,7 @@ void FinishOpening() {
     AddHistoryLine("(Open) " + SheetPath);
     ShowOpenedSheet();
     HandOver();
+    SheetReplaced.Raise();
 }
 
 // False: cancelled, or the file could not be read to its end.

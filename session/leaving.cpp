@@ -90,6 +90,7 @@ void AbortCount() {
             AddHistoryLine("(Reset)");
             for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][1] = 0;
             frmMain.ResetButton.SetEnabled(false);
+            SheetReset.Raise();
         } else {
             frmMain.ResetButton.SetEnabled(true);
         }

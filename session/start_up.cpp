@@ -11,6 +11,7 @@
 #include "session/stamps.h"
 #include "session/state/sheet_state.h"
 #include "session/subtotal_names.h"
+#include "session/told.h"
 #include "session/totals.h"
 #include "windows/initial_window.h"
 #include "windows/main_window.h"
@@ -202,6 +203,7 @@ void InitialiseSheet() {
     ReverseCount = false;
     if (!AmendMode) frmMain.BankTabs.SetTab(0);
     RecountTotals(CurrentSample);
+    SheetReplaced.Raise();
     if (!LoadKeySettings() || !LoadWaves()) return;
     services.sounds->Play(WaveOpening);
     SoundOn = true;

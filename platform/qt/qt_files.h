@@ -1,5 +1,6 @@
 // The files of the disk, under their paths in UTF-8.
 #pragma once
+#include <QFile>
 #include <QString>
 
 #include "platform/files.h"
@@ -10,4 +11,5 @@ public:
     std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
 };
 
+bool FlushToDisk(const QFile& file);
 QString SystemPath(const std::string& path);  // as the toolkit takes it
