@@ -17,11 +17,12 @@ std::string BackUpPath() {
     return ProgramFile("References/Back up files/") + name;
 }
 
+}  // namespace
+
 // A back-up ends after the notes: its sums would only be read by a spreadsheet.
-void WriteBackUp() {
-    const auto file = services.files->OpenForWriting(BackUpPath());
-    CellWriter cells(*file);
-    LabelHeader("Backed up (dd/mm/yyyy):", FileStamp());
+void WriteBackUp(OutputFile& file) {
+    CellWriter cells(file);
+    LabelHeader(kBackUpLabel, FileStamp());
     StoreParamNames();
     FillEmptyParams();
     FillEmptyNotes();
@@ -31,13 +32,12 @@ void WriteBackUp() {
     WriteNoteRow(cells, SampleCount);
     cells.Close();
 }
-}  // namespace
 
 void BackUpSheet() {
     if (BackupSlot != kMaster) BackupSlot = static_cast<std::int16_t>((BackupSlot + 1) % kRing);
     try {
         StoreShownSample();
-        WriteBackUp();
+        WriteBackUp(*services.files->OpenForWriting(BackUpPath()));
     } catch (const Failure&) {
         return;
     }

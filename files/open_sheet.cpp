@@ -23,6 +23,7 @@
 #include "session/start_up.h"
 #include "session/state/sample_names.h"
 #include "session/state/sheet_state.h"
+#include "session/told.h"
 #include "session/totals.h"
 #include "windows/main_window.h"
 #include "windows/name_windows.h"
@@ -173,6 +174,7 @@ void FinishOpening(ProgressBar& bar) {
     AddHistoryLine("(Open) " + SheetPath);
     ShowOpenedSheet(bar);
     HandOver();
+    SheetReplaced.Raise();
 }
 
 // false: cancelled, or the file could not be read to its end.

@@ -16,6 +16,7 @@
 #include "session/saved_state.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
+#include "session/told.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -23,6 +24,11 @@ constexpr double kNoBasisPercent = 9999;
 
 bool IsPercentTable(std::int16_t mode) {
     return mode >= kSavePercentAll;
+}
+
+// The others write a table, or a copy beside the sheet.
+bool IsPlainSave(std::int16_t mode) {
+    return mode == kSave || mode == kSaveClean || mode == kSaveAs;
 }
 
 // The sums of each sample: [0] all, [1] subtotal 1, [2] subtotal 2; of 16 bits each.
@@ -178,6 +184,7 @@ void SaveSheet(std::int16_t mode) {
     try {
         WriteFile(path, mode, sums, busy);
         TellSaved();
+        if (IsPlainSave(mode)) SheetSaved.Raise();
         if (mode == kSave) ReturnFocus();
     } catch (const Failure&) {
         TellFailed();

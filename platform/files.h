@@ -1,6 +1,7 @@
 // The service that opens files. All reading and writing of the program goes through it, so that a test can lock a file or fill a disk.
 #pragma once
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,6 +24,19 @@ public:
 };
 
 constexpr std::size_t kLargestFile = 64 << 20;  // bytes, far beyond any sheet: what is larger, or never ends, is not read
+
+// Files that the program keeps for itself: each is under its name whole, on the disk, or not at all. Nothing is raised.
+class WholeFiles {
+public:
+    virtual ~WholeFiles() = default;
+    // Both may return before it is done; one is done after the other. `done` is called between events, with whether it was.
+    virtual void Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) = 0;
+    virtual void Remove(const std::string& path) = 0;
+    virtual void Finish() = 0;  // returns when all of it is done
+
+    virtual bool IsThere(const std::string& path) = 0;
+    virtual bool AreSame(const std::string& path, const std::string& other) = 0;  // two names of one file that is there
+};
 
 class Files {
 public:

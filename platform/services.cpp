@@ -12,9 +12,11 @@ std::string ProgramFile(const std::string& parts) {
 }
 
 bool CommonDialog::Ask(FileQuestion::Kind kind) {
-    const FileQuestion question{kind, kSheetFilter, FileName, kind == FileQuestion::Kind::Save};
+    const bool opens = kind == FileQuestion::Kind::Open;
+    const FileQuestion question{kind, kSheetFilter, FileName, !opens, opens ? first_folder : ""};
     const auto path = services.dialogs->Ask(question);
     if (path) FileName = *path;
+    if (path && opens) first_folder.clear();
     return path.has_value();
 }
 

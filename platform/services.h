@@ -35,6 +35,7 @@ struct FileQuestion {
     std::string filter;         // "DataFile(*.csv)|*.csv"
     std::string proposed_name;  // may be empty
     bool ask_before_overwriting = false;
+    std::string first_folder = {};  // where to begin if no name is proposed; empty: where the platform would
 };
 
 class FileDialogs {
@@ -123,7 +124,8 @@ std::string ProgramFile(const std::string& parts);
 class CommonDialog {
 public:
     std::string FileName;
-    bool AskForSaving();  // false: cancelled, and FileName is as it was
+    std::string first_folder;  // of the first file to be opened; empty: the platform's own
+    bool AskForSaving();       // false: cancelled, and FileName is as it was
     bool AskForOpening();
 
 private:

@@ -62,6 +62,7 @@ void AbortCount() {
             RestoreSheet();
             AddHistoryLine("(Reset)");
             for (int i = 0; i < kForgottenUndos; ++i) UndoList[i][kUndoSlot] = 0;
+            SheetReset.Raise();
         }
         frmMain.ResetButton.SetEnabled(!confirmed);
     }

@@ -9,12 +9,9 @@
 #include "windows/next_window.h"
 
 namespace {
-constexpr Colour kWarning{176, 48, 32};
-
 void SaySilent() {
-    if (!frmNext.IsLoaded()) return;
-    frmNext.StartLine.SetCaption("No sound device: keys count without a sound");
-    frmNext.StartLine.SetForeColor(kWarning);
+    if (!frmNext.IsLoaded() || frmNext.TellsOnStartFace()) return;  // of something graver
+    frmNext.TellOnStartFace("No sound device: keys count without a sound");
 }
 
 // Those whose "Set alarm" is chosen.

@@ -7,6 +7,7 @@
 #include "session/history.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
+#include "session/told.h"
 #include "session/totals.h"
 #include "windows/key_windows.h"
 #include "windows/main_window.h"
@@ -177,6 +178,7 @@ void InitialiseSheet() {
     ReverseCount = false;
     if (!AmendMode) frmMain.BankTabs.SetTab(0);
     RecountTotals(CurrentSample);
+    SheetReplaced.Raise();
     if (!LoadKeySettings() || !LoadWaves()) return;
     services.sounds->Play(WaveOpening);
     SoundOn = true;

@@ -4,4 +4,7 @@ Event<> SaveAsked;
 Event<> HundredReached;
 Event<> CountsChanged;
 Event<> TotalChanged;
+Event<> SheetSaved;
+Event<> SheetReplaced;
+Event<> SheetReset;
 Event<> BasisChosen;

@@ -1,6 +1,8 @@
 // frmNext: the window that the program starts with, and the one that adds a sample. Its start face offers to create a sheet or open
 // one; its sample face takes the name, the note and the Additional info of a sample.
 #pragma once
+#include <string>
+
 #include "platform/controls.h"
 #include "platform/picture_box.h"
 #include "platform/window.h"
@@ -37,6 +39,9 @@ struct NextWindow : Window {
     Button& OkButton = Command1;
     Button Command3;
     Button& CancelButton = Command3;
+
+    void TellOnStartFace(const std::string& text);  // in the place of what the program is for
+    bool TellsOnStartFace() const;
 
 private:
     void LayParam(int p);

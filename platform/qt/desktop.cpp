@@ -4,12 +4,15 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPixmap>
+#include <QTimer>
 
 #include "events/program.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/key_filter.h"
 #include "platform/qt/qt_host.h"
+#include "platform/qt/qt_whole_files.h"
 #include "platform/qt/renderer.h"
+#include "platform/qt/unasked_end.h"
 #include "platform/qt/window_system.h"
 #include "platform/qt/window_widget.h"
 
@@ -27,6 +30,39 @@ void QtPopups::Open(MenuItem& menu) {
 // ---- The run ----
 
 namespace {
+constexpr int kKeepAfterMs = 1000;  // an event: half of what may be lost when the power goes, the other half is the disk's
+
+// Keeps a copy of the sheet for the case that the session ends by itself.
+class Lifeline {
+public:
+    Lifeline(QtHost& host, Renderer& renderer) : host_(host), rescue_(disk_, [this] { soon_.start(); }), last_act_([this] { KeepNow(); }) {
+        soon_.setSingleShot(true);
+        soon_.setInterval(kKeepAfterMs);
+        soon_.callOnTimeout([this] {
+            if (!host_.HasEnded()) rescue_.Keep();
+        });
+        renderer.WhenEventBegins([this] {
+            if (!soon_.isActive()) soon_.start();
+        });
+        host.BeforeItFails([this] { KeepNow(); });
+    }
+    void Offer() { rescue_.Offer(); }
+    void End() {
+        if (host_.HasEnded() && !host_.HasFailed()) rescue_.EndByUser();
+    }
+
+private:
+    void KeepNow() {
+        if (!host_.HasEnded()) rescue_.KeepNow();
+    }
+
+    QtHost& host_;
+    QtWholeFiles disk_;
+    QTimer soon_;
+    Rescue rescue_;
+    UnaskedEnd last_act_;
+};
+
 // Under Wayland the toolkit asks for its window to be activated whenever the focus moves inside it. The desktop answers later, and the
 // window would take the keyboard back from a box that has opened meanwhile.
 void AskForNoActivation() {
@@ -49,6 +85,12 @@ int RunDesktop(int argc, char** argv) {
     if (!host.HasFolderAlone(messages)) return 0;
 
     DesktopServices desktop(host, renderer);
-    renderer.Run(StartProgram);
-    return QApplication::exec();
+    Lifeline lifeline(host, renderer);
+    renderer.Run([&lifeline] {
+        StartProgram();
+        lifeline.Offer();
+    });
+    const int status = QApplication::exec();
+    lifeline.End();
+    return status;
 }

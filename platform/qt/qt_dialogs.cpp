@@ -141,8 +141,9 @@ std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
     if (folder_.isEmpty()) folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();
     const bool has_folder = proposed.isAbsolute() && proposed.dir().exists();
+    const QString first = QFileInfo(SystemPath(question.first_folder)).isDir() ? SystemPath(question.first_folder) : folder_;
 
-    QFileDialog dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), has_folder ? proposed.path() : folder_);
+    QFileDialog dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), has_folder ? proposed.path() : first);
     dialog.setFont(opens.Font());
     dialog.resize(kSizeInLines * QFontMetrics(opens.Font()).height());
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -15,14 +15,6 @@
 #endif
 
 namespace {
-bool FlushToDisk(const QFile& file) {
-#ifdef Q_OS_WIN
-    return _commit(file.handle()) == 0;
-#else
-    return fsync(file.handle()) == 0;
-#endif
-}
-
 class QtOutputFile : public OutputFile {
 public:
     explicit QtOutputFile(const QString& path) : file_(path) {
@@ -51,6 +43,14 @@ private:
     QFile file_;
 };
 }  // namespace
+
+bool FlushToDisk(const QFile& file) {
+#ifdef Q_OS_WIN
+    return _commit(file.handle()) == 0;
+#else
+    return fsync(file.handle()) == 0;
+#endif
+}
 
 QString SystemPath(const std::string& path) {
     return ToQt(path).replace(u'\\', u'/');  // which separates folders everywhere there

@@ -49,6 +49,8 @@ void QtHost::End() {
 }
 
 void QtHost::Fail(const char* word) {
+    has_failed_ = true;
+    before_failing_();
     has_ended_ = true;  // from here on nothing is written
     Show(*services.messages, word);
     End();

@@ -2,6 +2,7 @@
 #pragma once
 #include <QLockFile>
 #include <QString>
+#include <functional>
 #include <string>
 
 #include "platform/services.h"
@@ -10,6 +11,8 @@ class QtHost : public ProgramHost {
 public:
     QtHost();
     bool HasEnded() const { return has_ended_; }
+    bool HasFailed() const { return has_failed_; }
+    void BeforeItFails(std::function<void()> procedure) { before_failing_ = std::move(procedure); }
     bool HasFolderAlone(MessageBoxes& messages);  // false: another process works on it; the user has been told
 
     std::string Folder() override { return folder_; }
@@ -19,7 +22,9 @@ public:
     void Fail(const char* word) override;
 
 private:
+    std::function<void()> before_failing_ = [] {};
     bool has_ended_ = false;
+    bool has_failed_ = false;
     std::string folder_;
     QLockFile lock_;
 };

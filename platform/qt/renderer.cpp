@@ -20,6 +20,7 @@ Renderer::~Renderer() {
 void Renderer::Run(const std::function<void()>& event) {
     if (has_ended_()) return;
     if (depth_ == 0) TellUserSizes();
+    event_begins_();
     ++depth_;
     RunEvent(event);
     if (--depth_ > 0) return;

@@ -31,6 +31,7 @@ public:
 
     // Called after every event, when what it changed is on show.
     void WhenEventIsOver(std::function<void()> procedure) { event_is_over_ = std::move(procedure); }
+    void WhenEventBegins(std::function<void()> procedure) { event_begins_ = std::move(procedure); }
 
     void SyncLater(ModelView& view) override;
     int TextChanges() const { return text_changes_; }  // grows whenever the text of a box changes
@@ -52,6 +53,7 @@ private:
 
     std::function<bool()> has_ended_;
     std::function<void()> nothing_is_shown_ = [] {};
+    std::function<void()> event_begins_ = [] {};
     std::function<void()> event_is_over_ = [] {};
     int depth_ = 0;  // events that run, one inside the other
     int text_changes_ = 0;

@@ -22,6 +22,7 @@ class Screen:
         button(number, down)    1 is the left one, 3 the right one
         settle(window)          waits until the window's program has taken the moves of the pointer so far
         repeat(on)              held keys repeat, from 200 ms on 50 times a second; at first they do not
+        leave()                 ends the connections of the tests with it, if there are any
         picture()               the bytes of a PNG of all that is on it
         copied_picture()        the bytes of a PNG from the clipboard
 
@@ -68,7 +69,14 @@ class Screen:
         self.button(number, True)
         self.button(number, False)
 
+    def lose(self):
+        """What draws the windows is gone, as if it had failed."""
+        self.leave()
+        self.processes[0].kill()
+        self.processes[0].wait()
+
     def close(self):
+        self.leave()
         self._end_processes()
 
     def _end_processes(self):

@@ -40,9 +40,13 @@ class WaylandDesk(Screen):
         path.write_text(CONFIGURATION.read_text(encoding="ascii") + f"output * resolution {size} position 0 0\n", encoding="ascii")
         return path
 
+    def leave(self):
+        if self.hands:
+            self.hands.close()
+            self.control.close()
+        self.hands = None
+
     def close(self):
-        self.hands.close()
-        self.control.close()
         super().close()
         shutil.rmtree(self.places)
 

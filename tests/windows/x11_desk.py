@@ -32,9 +32,10 @@ class X11Desk(Screen):
         self.use_layout(layout, variant)
         self.repeat(False)
 
-    def close(self):
-        self.display.close()
-        super().close()
+    def leave(self):
+        if self.display:
+            self.display.close()
+        self.display = None
 
     def use_layout(self, layout, variant=""):
         self.output("setxkbmap", "-layout", layout, "-variant", variant)

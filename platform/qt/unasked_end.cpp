@@ -1,0 +1,101 @@
+#include "platform/qt/unasked_end.h"
+
+#include <QGuiApplication>
+#include <QSocketNotifier>
+#include <QThread>
+#include <csignal>
+#include <cstdlib>
+#include <exception>
+#include <utility>
+
+#ifndef Q_OS_WIN
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
+
+namespace {
+// What the system calls knows no object.
+std::function<void()> act_at_exit;  // empty: there is nothing to do
+std::terminate_handler terminate_before = nullptr;
+QtMessageHandler say_before = nullptr;
+
+// The toolkit exits by itself when it has lost the display.
+void ActAtExit() {
+    if (const auto act = std::exchange(act_at_exit, nullptr)) act();
+}
+
+// Under Wayland it ends at once, and all that it does before is to say so, in the thread that noticed it first or in both.
+void HearLastWords(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (text.startsWith(QLatin1String("The Wayland connection"))) {
+        const bool is_ours = QThread::currentThread() == qGuiApp->thread();
+        QMetaObject::invokeMethod(qGuiApp, ActAtExit, is_ours ? Qt::DirectConnection : Qt::BlockingQueuedConnection);
+    }
+    say_before(type, context, text);
+}
+
+[[noreturn]] void Terminate() {
+    ActAtExit();
+    if (terminate_before) terminate_before();
+    std::abort();
+}
+
+#ifndef Q_OS_WIN
+int signal_sockets[2] = {-1, -1};  // a signal goes in at the first and is read from the second between events
+constexpr int kEndingSignals[] = {SIGTERM, SIGHUP, SIGINT};
+
+void SendOn(int signal) {
+    const char byte = static_cast<char>(signal);
+    [[maybe_unused]] const ssize_t sent = write(signal_sockets[0], &byte, 1);
+}
+#endif
+}  // namespace
+
+UnaskedEnd::UnaskedEnd(std::function<void()> last_act) : last_act_(std::move(last_act)) {
+    act_at_exit = [this] { Act(); };
+    std::atexit(ActAtExit);
+    terminate_before = std::set_terminate(Terminate);
+    say_before = qInstallMessageHandler(HearLastWords);
+    connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { Act(); }, Qt::DirectConnection);
+    HearSignals();
+}
+
+UnaskedEnd::~UnaskedEnd() {
+    act_at_exit = nullptr;
+    std::set_terminate(terminate_before);
+    qInstallMessageHandler(say_before);
+#ifndef Q_OS_WIN
+    for (const int signal : kEndingSignals) std::signal(signal, SIG_DFL);
+    for (int& socket : signal_sockets) close(std::exchange(socket, -1));
+#endif
+}
+
+// What it does may itself be what ends the program.
+void UnaskedEnd::Act() {
+    if (std::exchange(acts_, true)) return;
+    last_act_();
+    acts_ = false;
+}
+
+void UnaskedEnd::HearSignals() {
+#ifndef Q_OS_WIN
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_sockets) != 0) return;
+    signals_ = std::make_unique<QSocketNotifier>(signal_sockets[1], QSocketNotifier::Read);
+    connect(signals_.get(), &QSocketNotifier::activated, this, &UnaskedEnd::EndBySignal);
+    struct sigaction action {};
+    action.sa_handler = SendOn;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : kEndingSignals) sigaction(signal, &action, nullptr);
+#endif
+}
+
+// Dies of the signal after all, so that whoever sent it sees it obeyed.
+void UnaskedEnd::EndBySignal() {
+#ifndef Q_OS_WIN
+    char signal = 0;
+    if (read(signal_sockets[1], &signal, 1) != 1) return;
+    Act();
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+#endif
+}

@@ -1,0 +1,23 @@
+// What ends the program without its user: a signal, the end of the desktop session, a display that goes, a failure that nothing catches.
+#pragma once
+#include <QObject>
+#include <functional>
+#include <memory>
+
+class QSocketNotifier;
+
+// One at a time, while there is an application. `last_act` is called before the program ends so, in the thread of the windows.
+class UnaskedEnd : public QObject {
+public:
+    explicit UnaskedEnd(std::function<void()> last_act);
+    ~UnaskedEnd() override;
+
+private:
+    void Act();
+    void HearSignals();
+    void EndBySignal();
+
+    std::function<void()> last_act_;
+    bool acts_ = false;
+    std::unique_ptr<QSocketNotifier> signals_;
+};

@@ -1,0 +1,289 @@
+#include "files/rescue.h"
+
+#include <deque>
+
+#include "files/new_sheet.h"
+#include "files/open_sheet.h"
+#include "files/save_sheet.h"
+#include "session/leaving.h"
+#include "unit/sheet_test.h"
+#include "windows/main_window.h"
+#include "windows/next_window.h"
+
+namespace {
+const std::string kFolder = "/program/References/Back up files/";
+const std::string kRescue = kFolder + "Rescue.csv";
+const std::string kSecond = kFolder + "Rescue_(2).csv";
+
+// Takes a file, or refuses it, when it is asked to finish.
+class LateFiles : public WholeFiles {
+public:
+    explicit LateFiles(MemoryFiles& files) : files_(files) {}
+    bool is_full = false;
+    int written = 0;
+
+    void Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) override {
+        jobs_.push_back([this, path, bytes, done = std::move(done)] {
+            if (!is_full) files_.bytes[path] = bytes;
+            ++written;
+            done(!is_full);
+        });
+    }
+    void Remove(const std::string& path) override {
+        jobs_.push_back([this, path] { files_.bytes.erase(path); });
+    }
+    void Finish() override {
+        for (; !jobs_.empty(); jobs_.pop_front()) jobs_.front()();
+    }
+    bool IsThere(const std::string& path) override { return files_.bytes.count(path) > 0; }
+    bool AreSame(const std::string& path, const std::string& other) override { return path == other; }
+
+private:
+    MemoryFiles& files_;
+    std::deque<std::function<void()>> jobs_;
+};
+
+class RescueTest : public SheetTest {
+protected:
+    LateFiles disk_{files_};
+    int tries_ = 0;
+    Rescue rescue_{disk_, [this] { ++tries_; }};
+
+    bool IsThere(const std::string& path) {
+        disk_.Finish();
+        return files_.bytes.count(path) > 0;
+    }
+    std::string CountIn(const std::string& path) {
+        disk_.Finish();
+        const std::string line = FileLine(path, 3);
+        return line.substr(line.rfind(',') + 1);
+    }
+    // What a session of yesterday has left.
+    void LeaveCopy(const std::string& path) {
+        files_.bytes[path] = "\"\",\"Backed up (dd/mm/yyyy):\",\"13/11/2026_(09:08:07)\",\"Serial No.\",1\r\n";
+    }
+};
+
+TEST_F(RescueTest, NothingIsWrittenBeforeAnythingIsDone) {
+    rescue_.KeepNow();
+    Start();
+    rescue_.KeepNow();
+    EXPECT_EQ(disk_.written, 0);
+}
+
+TEST_F(RescueTest, ItHoldsTheSheetAsItStandsAndOpens) {
+    Begin("10");
+    KeyNumber(1, 3);
+    frmMain.Text4.SetText("a note");
+    rescue_.KeepNow();
+    EXPECT_EQ(CountIn(kRescue), "3");
+    EXPECT_TRUE(FileLine(kRescue, 1).starts_with("\"\",\"Backed up (dd/mm/yyyy):\",\"14/11/2026_(10:11:12)\""));
+    const std::string copy = files_.bytes[kRescue];
+    AnswerNext(Answer::Yes);
+    NewSheet();
+    files_.bytes[kRescue] = copy;
+    AnswerDialog(kRescue);
+    OpenSheet();
+    EXPECT_EQ(Counts[1][1], 3);
+    EXPECT_EQ(SampleNotes[1], "a note");
+}
+
+TEST_F(RescueTest, WritingItLeavesTheSheetAsItIs) {
+    Begin("10");
+    KeyNumber(1, 3);
+    PutInCell(2, "7");  // an edit that the arrays have not heard of
+    ParamValues[1][1] = "";
+    ParamHeader[1][1] = "";
+    frmMain.Combo2.SetText("11");
+    const std::string name = SampleTable[2][1].Text(), label = SheetHeader[7].Text();
+    rescue_.KeepNow();
+    EXPECT_EQ(Counts[2][1], 0);
+    EXPECT_EQ(ParamValues[1][1], "");
+    EXPECT_EQ(ParamHeader[1][1], "");
+    EXPECT_EQ(SampleTable[2][1].Text(), name);
+    EXPECT_EQ(SheetHeader[7].Text(), label);
+}
+
+TEST_F(RescueTest, ItIsWrittenOnlyWhenTheSheetHasChanged) {
+    Begin("10");
+    KeyNumber(1);
+    for (int time = 0; time < 3; ++time) rescue_.KeepNow();
+    EXPECT_EQ(disk_.written, 1);
+    KeyNumber(1);
+    rescue_.KeepNow();
+    EXPECT_EQ(disk_.written, 2);
+    EXPECT_EQ(CountIn(kRescue), "2");
+}
+
+TEST_F(RescueTest, ASaveTakesEverythingIn) {
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    SaveAs("/sheets/Mere.csv");
+    EXPECT_FALSE(IsThere(kRescue));
+    rescue_.KeepNow();
+    EXPECT_FALSE(IsThere(kRescue)) << "nothing has changed since";
+    KeyNumber(1);
+    rescue_.KeepNow();
+    EXPECT_EQ(CountIn(kRescue), "2");
+}
+
+TEST_F(RescueTest, NoTableAndNoCopyOfTheSheetIsASave) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    AnswerDialog("/sheets/percent.csv");
+    SaveSheet(kSavePercentAll);
+    AnswerDialog("/sheets/copy.csv");
+    SaveSheet(kSaveCopy);
+    EXPECT_TRUE(IsThere(kRescue));
+}
+
+TEST_F(RescueTest, ASaveThatFailsKeepsIt) {
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    files_.locked.insert("/sheets/Mere.csv");
+    AnswerNext(Answer::Ok);
+    AnswerDialog("/sheets/Mere.csv");
+    SaveSheet(kSaveAs);
+    EXPECT_TRUE(IsThere(kRescue));
+}
+
+TEST_F(RescueTest, AResetRemovesItAndWhatIsLeftUnsavedIsKeptAnew) {
+    Begin("10");
+    KeyNumber(1, 2);
+    NextSample("20");  // from here on Reset goes back to this
+    KeyNumber(1);
+    rescue_.KeepNow();
+    AnswerNext(Answer::Yes);
+    AbortCount();
+    EXPECT_FALSE(IsThere(kRescue));
+    rescue_.KeepNow();
+    EXPECT_EQ(FileLine(kRescue, 3), "1,0,0,\"---\",2,0");
+}
+
+TEST_F(RescueTest, AResetThatIsDeclinedKeepsIt) {
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    AnswerNext(Answer::No);
+    AbortCount();
+    EXPECT_TRUE(IsThere(kRescue));
+}
+
+TEST_F(RescueTest, AnotherSheetHasNoUseForIt) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    for (void (*const replace)() : {NewSheet, OpenSheet}) {
+        KeyNumber(1);
+        rescue_.KeepNow();
+        ASSERT_TRUE(IsThere(kRescue));
+        AnswerNext(Answer::Yes);
+        AnswerDialog("/sheets/Mere.csv");
+        replace();
+        EXPECT_FALSE(IsThere(kRescue));
+        rescue_.KeepNow();
+        EXPECT_FALSE(IsThere(kRescue));
+        services_.dialogs.answers.clear();
+    }
+}
+
+TEST_F(RescueTest, TheEndThatItsUserChoseRemovesIt) {
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    rescue_.EndByUser();
+    EXPECT_EQ(files_.bytes.count(kRescue), 0u);
+}
+
+TEST_F(RescueTest, ADiskThatRefusesIsTriedAgain) {
+    Begin("10");
+    KeyNumber(1);
+    disk_.is_full = true;
+    rescue_.KeepNow();
+    EXPECT_EQ(tries_, 1);
+    disk_.is_full = false;
+    rescue_.KeepNow();
+    EXPECT_EQ(CountIn(kRescue), "1");
+    EXPECT_EQ(tries_, 1);
+}
+
+TEST_F(RescueTest, ACountThatNoFileHoldsIsTriedAgain) {
+    Begin("10");
+    KeyNumber(1);
+    PutInCell(2, "3000000000");
+    rescue_.KeepNow();
+    EXPECT_EQ(tries_, 1);
+    PutInCell(2, "3");
+    rescue_.KeepNow();
+    EXPECT_TRUE(IsThere(kRescue));
+}
+
+TEST_F(RescueTest, TheStartFaceTellsWhatAnEarlierSessionLeft) {
+    LeaveCopy(kRescue);
+    Start();
+    rescue_.Offer();
+    EXPECT_EQ(frmNext.StartLine.Caption(), "A session of 13/11/2026 (09:08:07) ended by itself: Rescue.csv in Back up files holds it");
+    AnswerDialog("/sheets/Mere.csv");
+    OpenSheet();
+    EXPECT_EQ(services_.dialogs.asked.back().first_folder, "/program/References/Back up files");
+    EXPECT_EQ(services_.dialogs.asked.back().proposed_name, "");
+}
+
+TEST_F(RescueTest, WithoutOneTheStartFaceSaysWhatItAlwaysSays) {
+    Start();
+    const std::string usual = frmNext.StartLine.Caption();
+    rescue_.Offer();
+    EXPECT_EQ(frmNext.StartLine.Caption(), usual);
+    EXPECT_EQ(frmMain.FileDialog.first_folder, "");
+}
+
+TEST_F(RescueTest, WhatAnEarlierSessionLeftStaysUntilASheetIsSaved) {
+    LeaveCopy(kRescue);
+    const std::string left = files_.bytes[kRescue];
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    EXPECT_EQ(files_.bytes[kRescue], left);
+    EXPECT_EQ(CountIn(kSecond), "1");
+    SaveAs("/sheets/Mere.csv");
+    EXPECT_FALSE(IsThere(kRescue));
+    EXPECT_FALSE(IsThere(kSecond));
+}
+
+TEST_F(RescueTest, TheLastOfTwoIsTold) {
+    LeaveCopy(kRescue);
+    LeaveCopy(kSecond);
+    Start();
+    rescue_.Offer();
+    EXPECT_NE(frmNext.StartLine.Caption().find("Rescue_(2).csv"), std::string::npos);
+}
+
+TEST_F(RescueTest, ACopyThatHasBecomeTheSheetIsNeverRemoved) {
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    SaveAs(kRescue);
+    EXPECT_TRUE(FileLine(kRescue, 1).find("Last saved") != std::string::npos);
+    const std::string saved = files_.bytes[kRescue];
+    KeyNumber(1);
+    rescue_.KeepNow();
+    EXPECT_EQ(files_.bytes[kRescue], saved);
+    EXPECT_EQ(CountIn(kSecond), "2");
+    rescue_.EndByUser();
+    EXPECT_EQ(files_.bytes[kRescue], saved);
+    EXPECT_FALSE(IsThere(kSecond));
+}
+
+TEST_F(RescueTest, ASheetSavedUnderItsNameIsNoneThatASessionLeft) {
+    LeaveCopy(kRescue);
+    Begin("10");
+    SaveAs(kRescue);
+    frmNext.Unload();
+    Start();
+    rescue_.Offer();
+    EXPECT_EQ(frmNext.StartLine.Caption().find("ended by itself"), std::string::npos);
+}
+}  // namespace

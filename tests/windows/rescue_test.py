@@ -1,0 +1,133 @@
+"""A session that ends by itself: what was counted is in the rescue, and the next session tells of it."""
+import os
+import random
+import signal
+import time
+import unittest
+
+from count_test import expected_sheet
+from desk import MAIN, START, Desk, Program
+from keyboard import ALT, ENTER, PAD, SAVE, TAB, UP, key_of
+from spoken import wait_for
+
+KILLS = int(os.environ.get("MARLBROOK_KILLS", "3"))
+SEED = 20261122
+PROMISED = 2   # seconds: what was counted longer ago is in the rescue
+A_SECOND = 10  # keys
+
+
+def counts_in(path):
+    """The counts of the first sample by slot, those that are not 0; empty if there is no file."""
+    if not path.exists():
+        return {}
+    rows = [line.split(b",") for line in path.read_bytes().split(b"\r\n")[2:137]]
+    return {int(row[0]): int(row[4]) for row in rows if int(row[4]) != 0}
+
+
+class RescueTest(unittest.TestCase):
+    def setUp(self):
+        self.desk = Desk()
+        self.addCleanup(self.desk.close)
+        self.start()
+
+    def start(self):
+        self.program = Program(self.desk)
+        self.addCleanup(self.program.end)
+        self.rescue = self.program.folder / "References/Back up files/Rescue.csv"
+
+    def count(self, grains):
+        self.program.press(*PAD[:grains])
+        self.program.wait_total(grains)
+
+    def wait_for_end(self):
+        wait_for("the end of the program", lambda: self.program.process.poll() is not None)
+
+    def wait_for_rescue(self, grains):
+        wait_for(f"a rescue of {grains} grains", lambda: sum(counts_in(self.rescue).values()) == grains)
+
+    def test_a_signal_that_ends_it_loses_nothing(self):
+        for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+            self.program.begin("10")
+            self.count(12)
+            self.program.process.send_signal(number)
+            self.wait_for_end()
+            self.assertEqual(self.program.process.returncode, -number)
+            self.assertEqual(counts_in(self.rescue), {slot: 1 for slot in range(1, 13)})
+            self.rescue.unlink()
+            self.program.start()
+
+    def test_a_display_that_goes_loses_nothing(self):
+        self.program.begin("10")
+        self.count(12)
+        self.desk.lose()
+        self.wait_for_end()
+        self.assertEqual(counts_in(self.rescue), {slot: 1 for slot in range(1, 13)})
+
+    def test_a_failure_that_nothing_catches_loses_nothing(self):
+        path = self.program.work / "full.csv"
+        path.write_bytes(expected_sheet(path, {1: 32767}))
+        self.program.window(START)
+        self.program.press(TAB, ENTER)  # Open data file or template
+        self.program.answer_file_dialog("Open", path)
+        self.program.press(PAD[0])
+        self.program.wait_total(32768)
+        self.program.press(SAVE)
+        self.program.click("Marlbrook", "OK")  # "Overflow"
+        self.wait_for_end()
+        self.assertEqual(counts_in(self.rescue), {1: 32768})
+
+    def test_it_is_written_while_its_user_counts_and_goes_with_a_save(self):
+        self.program.begin("10")
+        self.count(12)
+        self.wait_for_rescue(12)
+        self.program.save_as(self.program.work / "core.csv")
+        wait_for("the end of the rescue", lambda: not self.rescue.exists())
+
+    def test_the_end_that_its_user_chose_leaves_none(self):
+        self.program.begin("10")
+        self.count(12)
+        self.wait_for_rescue(12)
+        self.program.chord(ALT, key_of("f"))
+        self.program.press(UP, ENTER)  # Quit, the last one
+        self.program.click("Caution!", "Yes")
+        self.wait_for_end()
+        self.assertFalse(self.rescue.exists())
+
+    def test_the_next_session_tells_of_it_and_opens_it(self):
+        self.program.begin("10")
+        self.count(12)
+        self.program.stop()
+        self.program.start()
+        self.program.control(START, r"A session of .* ended by itself: Rescue\.csv in Back up files holds it")
+        self.program.window(START)
+        self.program.press(TAB, ENTER)  # Open data file or template
+        self.program.window("Open")
+        self.program.enter_file_name("Open", self.rescue.name)  # the dialog shows its folder
+        self.program.press(ENTER)
+        self.program.wait_total(12)
+
+    def test_a_kill_at_any_moment_costs_two_seconds_at_the_most(self):
+        chance = random.Random(SEED)
+        for _ in range(KILLS):
+            self.program.begin("10")
+            sent = []  # (when, slot)
+            end = time.monotonic() + chance.uniform(1, 6)
+            while time.monotonic() < end:
+                slot = len(sent) % len(PAD) + 1
+                sent.append((time.monotonic(), slot))
+                self.program.press(PAD[slot - 1])
+                time.sleep(1 / A_SECOND)
+            killed = time.monotonic()
+            self.program.process.kill()
+            self.wait_for_end()
+            saved = counts_in(self.rescue)
+            for slot in range(1, len(PAD) + 1):
+                promised = sum(one == slot and when < killed - PROMISED for when, one in sent)
+                pressed = sum(one == slot for _, one in sent)
+                self.assertTrue(promised <= saved.get(slot, 0) <= pressed, f"slot {slot}: {saved.get(slot, 0)} of {pressed}, {promised} promised")
+            self.rescue.unlink(missing_ok=True)
+            self.program.start()
+
+
+if __name__ == "__main__":
+    unittest.main()
