@@ -1,7 +1,6 @@
 #include "diagram/open_diagram.h"
 
 #include "diagram/cluster_tree.h"
-#include "diagram/data/basis.h"
 #include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
 #include "diagram/layout.h"

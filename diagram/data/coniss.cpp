@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "diagram/data/basis.h"
 #include "diagram/data/percentages.h"
 #include "diagram/data/sample_position.h"
 #include "windows/main_window.h"

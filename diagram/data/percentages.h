@@ -5,8 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "diagram/data/basis.h"
 #include "session/state/sheet_state.h"
+
+// The percent basis: all taxa, or the members of a subtotal. frmMain.BasisOptions holds the choice, the menu of the diagram shows it.
+using BasisWeights = std::array<double, kSlots + 1>;  // [slot]: how often a grain counts in the basis; [0] is 0
+
+BasisWeights WeightsOfBasis();
+void ShowBasisInMenu();  // the check marks of the diagram's menu
 
 // What the diagram and the clusters are made of, as ComputeDiagramData left it: fractions, 1 being 100 %. Row 0 is 1 where the sample has
 // data, else 0.
