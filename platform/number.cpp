@@ -2,7 +2,6 @@
 
 #include <cassert>
 #include <cmath>
-#include <limits>
 
 #include "platform/failure.h"
 
@@ -12,13 +11,9 @@ constexpr double kAllWhole = 4503599627370496.0;  // 2^52: a double from here on
 
 // std::nearbyint rounds half to even: nothing in the program sets another way of rounding.
 template <class T>
-T ToWhole(double number) {
-    const auto fits = [](double value) {  // not so for what is no number
-        return value >= std::numeric_limits<T>::min() && value <= std::numeric_limits<T>::max();
-    };
-    if (fits(number) && number == static_cast<T>(number)) return static_cast<T>(number);  // nearly always: spares the call
+T RoundToWhole(double number) {
     const double whole = std::nearbyint(number);
-    if (!fits(whole)) throw Failure(kOverflow);
+    if (!Fits<T>(whole)) throw Failure(kOverflow);
     return static_cast<T>(whole);
 }
 
@@ -30,12 +25,12 @@ double PowerOfTen(int exponent) {
 
 }  // namespace
 
-std::int16_t ToInt16(double number) {
-    return ToWhole<std::int16_t>(number);
+std::int16_t RoundToInt16(double number) {
+    return RoundToWhole<std::int16_t>(number);
 }
 
-std::int32_t ToInt32(double number) {
-    return ToWhole<std::int32_t>(number);
+std::int32_t RoundToInt32(double number) {
+    return RoundToWhole<std::int32_t>(number);
 }
 
 double RoundHalfEven(double number, int decimals) {
