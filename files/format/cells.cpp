@@ -44,13 +44,16 @@ std::int32_t CellReader::NextCount() {
     return digits ? *digits : ToInt32(Next().Number());
 }
 
-// Nearly all cells of a sheet are like this: digits from the first character to the comma.
+// Nearly all cells of a sheet are like this: some digits from the first character to the comma.
 std::optional<std::int32_t> CellReader::TakeDigits() {
-    const char* const end = text_.data() + text_.size();
+    constexpr std::size_t kSurelyFit = 9;  // digits of 32 bits
+    const std::string_view rest = std::string_view(text_).substr(at_, kSurelyFit + 1);
+    std::size_t length = 0;
     std::int32_t number = 0;
-    const auto [next, fault] = std::from_chars(text_.data() + at_, end, number);
-    if (fault != std::errc() || next == end || *next != ',') return std::nullopt;
-    at_ = static_cast<std::size_t>(next + 1 - text_.data());
+    for (const std::size_t end = std::min(rest.size(), kSurelyFit); length < end && rest[length] >= '0' && rest[length] <= '9'; ++length)
+        number = number * 10 + (rest[length] - '0');
+    if (length == 0 || length == rest.size() || rest[length] != ',') return std::nullopt;
+    at_ += length + 1;
     after_comma_ = true;
     return number;
 }
