@@ -116,10 +116,6 @@ void WriteSumRows(CellWriter& cells, std::int16_t mode, const SubtotalSums& sums
     }
 }
 
-void ComputeShares() {
-    for (std::int16_t sample = 1; sample <= SampleCount; ++sample) SamplePercentages(sample);
-}
-
 void GatherTexts() {
     StoreParamNames();
     FillEmptyParams();
@@ -141,7 +137,7 @@ void WriteFile(const std::string& path, std::int16_t mode, const SubtotalSums& s
     LabelHeader("Last saved (dd/mm/yyyy):", FileStamp());
     const bool was_changed = IsSheetChanged();
     MarkSheetChanged(false);
-    if (IsPercentTable(mode)) ComputeShares();
+    if (IsPercentTable(mode)) AllSamplePercentages();
     GatherTexts();
     CellWriter cells(*file);
     WriteHeaderRows(cells, SampleCount);

@@ -115,6 +115,13 @@ Shares SamplePercentages(std::int16_t sample) {
     return shares;
 }
 
+void AllSamplePercentages() {
+    SumOnBasis();
+    for (int slot = 0; slot <= kSlots; ++slot)
+        for (int sample = 1; sample <= SampleCount; ++sample)
+            SamplePercent[slot][sample] = ShareOf(Counts[slot][sample], Counts[0][sample], kNoBasis);
+}
+
 void ShowDiagramShares() {
     for (int row = 0; row <= kSlots; ++row) std::copy(&DiagramShares[row][1], &DiagramShares[row][SampleCount + 1], &SamplePercent[row][1]);
 }

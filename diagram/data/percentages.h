@@ -39,6 +39,7 @@ Shares SharesOf(std::int16_t sample, const BasisWeights& basis);  // raises "Ove
 // The shares of one sample on the basis selected in frmMain.BasisOptions, for a table: they go to SamplePercent[slot][sample] too, and the
 // sum to Counts[0][sample]. Raises "Overflow" as above.
 Shares SamplePercentages(std::int16_t sample);
+void AllSamplePercentages();  // of each sample, row by row as they lie in memory
 
 // Everything that the diagram draws from, on the same basis, with the horizontal scale of frmDiagram.HorizontalScale; sets the range of its
 // scroll bar. Calls CheckSampleNames. Raises "Overflow" as above.

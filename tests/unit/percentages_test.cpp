@@ -176,6 +176,22 @@ TEST_F(PercentagesTest, ForTablesASampleStandsInItsOwnColumnBySlot) {
     for (int slot = 0; slot <= kSlots; ++slot) EXPECT_EQ(SamplePercent[slot][2], 99.99F) << "no basis, slot " << slot;
 }
 
+TEST_F(PercentagesTest, AWholeTableHoldsWhatItsSamplesHoldOneByOne) {
+    Names({"20", "10", "30"});
+    for (int slot = 1; slot <= kSlots; ++slot)
+        for (int sample = 1; sample <= 2; ++sample) Counts[slot][sample] = slot * sample % 7 - 1;
+    std::vector<float> one_by_one;
+    for (std::int16_t sample = 1; sample <= SampleCount; ++sample) {
+        SamplePercentages(sample);
+        for (int slot = 0; slot <= kSlots; ++slot) one_by_one.push_back(std::exchange(SamplePercent[slot][sample], -1.0F));
+    }
+    AllSamplePercentages();
+    std::vector<float> table;
+    for (int sample = 1; sample <= SampleCount; ++sample)
+        for (int slot = 0; slot <= kSlots; ++slot) table.push_back(SamplePercent[slot][sample]);
+    EXPECT_EQ(table, one_by_one);
+}
+
 TEST_F(PercentagesTest, OneSampleForATableTouchesNoOther) {
     Names({"20", "10"});
     Counts[1][1] = Counts[1][2] = 1;
