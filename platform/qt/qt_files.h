@@ -20,7 +20,7 @@ public:
 };
 
 // Does it on a thread of its own: no key waits for the disk.
-class QtWholeFiles : public QObject, public WholeFiles {
+class QtWholeFiles final : public QObject, public WholeFiles {
 public:
     QtWholeFiles();
     ~QtWholeFiles() override;  // does first what is still to be done

@@ -176,7 +176,8 @@ TEST_F(RescueTest, AResetThatIsDeclinedKeepsIt) {
 TEST_F(RescueTest, AnotherSheetHasNoUseForIt) {
     Begin("10");
     SaveAs("/sheets/Mere.csv");
-    for (void (*const replace)() : {NewSheet, OpenSheet}) {
+    const std::function<void()> ways[] = {NewSheet, OpenSheet};
+    for (const auto& replace : ways) {
         KeyNumber(1);
         rescue_.KeepNow();
         ASSERT_TRUE(IsThere(kRescue));

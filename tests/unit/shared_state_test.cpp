@@ -68,11 +68,12 @@ TEST(SharedStateTest, EachVariableOfTheDiagramIsListedOnce) {
 
 // A member of a window that holds no control begins with a value: "bool FormLoaded = false;".
 TEST(SharedStateTest, EachMemberOfAWindowIsListedOnce) {
-    for (auto& [header, list] : std::map<std::string, std::function<void(Lister)>>{
-             {"windows/main_window.h", [](Lister lister) { frmMain.ForEachVariable(lister); }},
-             {"windows/diagram_window.h", [](Lister lister) { frmDiagram.ForEachVariable(lister); }},
-             {"windows/key_windows.h", [](Lister lister) { frmInitial.ForEachVariable(lister); }},
-         }) {
+    const std::map<std::string, std::function<void(Lister)>> lists = {
+        {"windows/main_window.h", [](Lister lister) { frmMain.ForEachVariable(lister); }},
+        {"windows/diagram_window.h", [](Lister lister) { frmDiagram.ForEachVariable(lister); }},
+        {"windows/key_windows.h", [](Lister lister) { frmInitial.ForEachVariable(lister); }},
+    };
+    for (const auto& [header, list] : lists) {
         Names listed;
         list(Lister{listed});
         EXPECT_EQ(listed, Found(TextOf(header), R"(^    (?:bool|float|std::u?int\w+) (\w+)(?:\[[^\]]*\])* = )")) << header;
