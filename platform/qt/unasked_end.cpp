@@ -86,6 +86,7 @@ void UnaskedEnd::HearSignals() {
     action.sa_handler = SendOn;
     action.sa_flags = SA_RESTART;
     for (const int signal : kEndingSignals) sigaction(signal, &action, nullptr);
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow any further is told by the write that fails
 #endif
 }
 
