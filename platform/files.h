@@ -41,7 +41,7 @@ public:
 class Files {
 public:
     virtual ~Files() = default;
-    // Paths are UTF-8; `/` and `\` both separate folders where the system's own separator is `/`. Reading raises "File error" if the file
+    // Paths are UTF-8, `/` separates folders. Reading raises "File error" if the file
     // cannot be opened, is no ordinary file, or is larger than kLargestFile; opening makes a file that is not there, or raises the same.
     virtual std::string ReadAll(const std::string& path) = 0;
     virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;

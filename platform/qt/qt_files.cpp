@@ -1,6 +1,7 @@
 #include "platform/qt/qt_files.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -56,7 +57,7 @@ private:
 }  // namespace
 
 QString SystemPath(const std::string& path) {
-    return ToQt(path).replace(u'\\', u'/');  // which separates folders everywhere there
+    return QDir::fromNativeSeparators(ToQt(path));  // elsewhere than on Windows a `\` is a character like any other
 }
 
 std::string QtFiles::ReadAll(const std::string& path) {
