@@ -42,17 +42,17 @@ bool IsFreshRow(int slot) {
 void WriteSamples(SheetLines& lines) {
     for (const int cell : {6, 7, 8, 9, 11, 12, 13, 14}) lines.Write("SheetHeader", cell);
     for (int sample = 1; sample <= SampleCount; ++sample) {
-        lines.Write("SampleTable", 1, sample);
-        lines.Write("SampleTable", 2, sample);
+        lines.Write("SampleTable", kSampleSerial, sample);
+        lines.Write("SampleTable", kSampleName, sample);
         lines.Write("SampleNotes", sample);
     }
 }
 
 void WriteTaxa(SheetLines& lines) {
-    lines.Write("TaxonTable", 0, 2);
-    lines.Write("TaxonTable", 0, 3);
+    lines.Write("TaxonTable", 0, kTaxonSubtotal1);
+    lines.Write("TaxonTable", 0, kTaxonSubtotal2);
     for (int slot = 1; slot <= kSlots; ++slot)
-        for (int column = 0; column <= 4 && !IsFreshRow(slot); ++column) lines.Write("TaxonTable", slot, column);
+        for (int column = kTaxonSheetRow; column <= kTaxonName && !IsFreshRow(slot); ++column) lines.Write("TaxonTable", slot, column);
     for (int slot = 1; slot <= kSlots; ++slot)
         for (int sample = 1; sample <= SampleCount; ++sample)
             if (Counts[slot][sample] != 0) lines.Write("Counts", slot, sample);
@@ -73,8 +73,8 @@ void WriteParams(SheetLines& lines) {
 void WriteHistory(SheetLines& lines) {
     for (int entry = 0; entry <= kUndoDepth; ++entry) {
         if (UndoList[entry][kUndoSlot] == 0) continue;
-        lines.Write("UndoList", entry, 0);
-        lines.Write("UndoList", entry, 1);
+        lines.Write("UndoList", entry, kUndoSample);
+        lines.Write("UndoList", entry, kUndoSlot);
     }
     for (int line = 0; line < static_cast<int>(HistoryLog.size()); ++line) lines.Write("HistoryLog", line);
 }
