@@ -1,7 +1,8 @@
 #include "files/rescue.h"
 
 #include <algorithm>
-#include <array>
+#include <cstring>
+#include <utility>
 #include <vector>
 
 #include "files/back_up.h"
@@ -17,7 +18,8 @@
 
 namespace {
 constexpr const char* kFolder = "References/Back up files";
-constexpr int kNames = 9;
+constexpr int kNames = 99;
+constexpr std::size_t kTimeLength = 21;  // "14/11/2026_(10:11:12)"
 
 std::string NameOfCopy(int number) {
     return number == 1 ? "Rescue.csv" : "Rescue_(" + std::to_string(number) + ").csv";
@@ -28,19 +30,27 @@ std::string PathOf(const std::string& name) {
 }
 
 template <class T, std::size_t n>
-void Assign(T (&to)[n], const T (&from)[n]) {
+void Copy(const T (&from)[n], T (&to)[n]) {
     if constexpr (std::is_array_v<T>)
-        for (std::size_t i = 0; i < n; ++i) Assign(to[i], from[i]);
+        for (std::size_t i = 0; i < n; ++i) Copy(from[i], to[i]);
     else
         std::copy(from, from + n, to);
+}
+
+template <class T, std::size_t n>
+void Move(T (&from)[n], T (&to)[n]) {
+    if constexpr (std::is_array_v<T>)
+        for (std::size_t i = 0; i < n; ++i) Move(from[i], to[i]);
+    else
+        std::move(from, from + n, to);
 }
 
 // Gives an array its content back at its end.
 template <class Array>
 class Untouched {
 public:
-    explicit Untouched(Array& array) : array_(array) { Assign(content_, array); }
-    ~Untouched() { Assign(array_, content_); }
+    explicit Untouched(Array& array) : array_(array) { Copy(array, content_); }
+    ~Untouched() { Move(content_, array_); }
     Untouched(const Untouched&) = delete;
     Untouched& operator=(const Untouched&) = delete;
 
@@ -56,7 +66,7 @@ public:
 };
 
 // The bytes of a back-up. Nothing of what it fills in stays.
-std::string Copy() {
+std::string BytesOfCopy() {
     const Untouched header(SheetHeader);
     const Untouched samples(SampleTable);
     const Untouched counts(Counts);
@@ -69,9 +79,10 @@ std::string Copy() {
     return file.bytes;
 }
 
-// The copy without the cells that tell of the copy itself: path, label, date and time.
+// The copy without the cells that tell of the copy itself: path, label, date and time. These stand first, and the time is always as long.
 std::string SheetOf(const std::string& copy) {
-    return copy.substr(std::min(copy.find(SheetHeader[kHeaderSerial].Text()), copy.size()));
+    const std::size_t label = copy.rfind(kBackUpLabel, copy.find("\r\n"));
+    return copy.substr(label + std::strlen(kBackUpLabel) + std::strlen("\",\"") + kTimeLength);
 }
 
 // When the session that left this file wrote it: "14/11/2026 (10:11:12)". Nothing if it is no such copy, but a sheet that a user has saved
@@ -82,6 +93,7 @@ std::optional<std::string> TimeOfCopy(const std::string& path) {
         cells.NextText();
         if (cells.NextText() != kBackUpLabel) return std::nullopt;
         std::string stamp = cells.NextText();
+        if (stamp.size() != kTimeLength) return std::nullopt;
         std::replace(stamp.begin(), stamp.end(), '_', ' ');
         return stamp;
     } catch (const Failure&) {
@@ -94,79 +106,119 @@ struct Left {
     std::string time;
 };
 
+// "13/11/2026 (09:08:07)" as "2026 11 13(09:08:07)": the later one is the greater text.
+std::string InOrder(const std::string& time) {
+    return time.substr(6, 4) + time.substr(3, 2) + time.substr(0, 2) + time.substr(10);
+}
+
+// The latest first.
 std::vector<Left> LeftCopies() {
     std::vector<Left> copies;
     for (int number = 1; number <= kNames; ++number)
         if (const auto time = TimeOfCopy(PathOf(NameOfCopy(number)))) copies.push_back({NameOfCopy(number), *time});
+    std::stable_sort(copies.begin(), copies.end(), [](const Left& a, const Left& b) { return InOrder(a.time) > InOrder(b.time); });
     return copies;
 }
 }  // namespace
 
 Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk), try_again_(std::move(try_again)) {
-    SheetSaved.Calls([this] { TakeSaved(); });
+    SaveBegins.Calls([this](const std::string& path) { LeaveFileAlone(path); });
+    SheetSaved.Calls([this] { HearOfSave(); });
+    SaveFailed.Calls([this] {
+        last_save_failed_ = true;
+        Keep();
+    });
     SheetReplaced.Calls([this] { SheetIsSafe(); });
-    SheetReset.Calls([this] { Forget(); });
+    SheetReset.Calls([this] { HearOfReset(); });
 }
 
 Rescue::~Rescue() {
-    for (Event<>* told : {&SheetSaved, &SheetReplaced, &SheetReset}) told->Calls({});
+    SaveBegins.Calls({});
+    for (Event<>* told : {&SheetSaved, &SaveFailed, &SheetReplaced, &SheetReset}) told->Calls({});
 }
 
 void Rescue::Offer() {
     const std::vector<Left> copies = LeftCopies();
     if (copies.empty()) return;
-    const Left& last = copies.back();
-    frmNext.TellOnStartFace("A session of " + last.time + " ended by itself: " + last.name + " in Back up files holds it");
+    const Left& last = copies.front();
+    const std::string more = copies.size() > 1 ? ", and " + std::to_string(copies.size() - 1) + " more" : "";
+    frmNext.TellOnStartFace("A session of " + last.time + " ended by itself: " + last.name + " in Back up files holds it" + more);
     frmMain.FileDialog.first_folder = ProgramFile(kFolder);
+    told_ = PathOf(last.name);
 }
 
 void Rescue::Keep() {
     if (!safe_) return;
     try {
-        const std::string copy = Copy();
+        const std::string copy = BytesOfCopy();
         const std::string sheet = SheetOf(copy);
         if (sheet == kept_ || (kept_.empty() && sheet == *safe_)) return;
-        for (int number = 1; path_.empty() && number <= kNames; ++number)
-            if (const std::string path = PathOf(NameOfCopy(number)); number == kNames || !disk_.IsThere(path)) path_ = path;
+        ChooseName();
         kept_ = sheet;
         disk_.Write(path_, copy, [this](bool done) {
             if (done) return;
             kept_.clear();
             try_again_();
         });
-    } catch (const Failure&) {  // a number on the screen that no file can hold
+    } catch (const Failure&) {  // a number on the screen that no file can hold, or no name that is free
         try_again_();
     }
 }
 
+// What a write has failed to do may not have been told yet.
 void Rescue::KeepNow() {
+    disk_.Finish();
+    kept_.clear();
     Keep();
     disk_.Finish();
 }
 
 void Rescue::EndByUser() {
-    Forget();
+    if (!last_save_failed_) Forget();
     disk_.Finish();
 }
 
-// Its user has chosen the copy itself for the sheet: then it is no copy any longer.
-void Rescue::Forget() {
-    if (!path_.empty() && !disk_.AreSame(path_, SheetPath)) disk_.Remove(path_);
+void Rescue::ChooseName() {
+    for (int number = 1; path_.empty(); ++number) {
+        if (number > kNames) throw Failure(kFileError);
+        if (const std::string path = PathOf(NameOfCopy(number)); !disk_.IsThere(path)) path_ = path;
+    }
+}
+
+// Its user has chosen the copy itself for a file: then it is no copy any longer.
+void Rescue::LeaveFileAlone(const std::string& path) {
+    disk_.Finish();
+    if (path_.empty() || !disk_.AreSame(path_, path)) return;
     path_.clear();
     kept_.clear();
 }
 
-void Rescue::SheetIsSafe() {
-    Forget();
-    safe_ = SheetOf(Copy());
+void Rescue::Forget() {
+    if (!path_.empty()) Remove(path_);
+    path_.clear();
+    kept_.clear();
 }
 
-void Rescue::TakeSaved() {
-    RemoveLeft();
+void Rescue::Remove(const std::string& path) {
+    disk_.Finish();
+    if (TimeOfCopy(path) && !disk_.AreSame(path, SheetPath)) disk_.Remove(path);
+}
+
+void Rescue::SheetIsSafe() {
+    Forget();
+    last_save_failed_ = false;
+    safe_ = SheetOf(BytesOfCopy());
+}
+
+void Rescue::HearOfSave() {
+    if (!told_.empty()) Remove(std::exchange(told_, ""));
     SheetIsSafe();
 }
 
-void Rescue::RemoveLeft() {
-    for (const Left& copy : LeftCopies())
-        if (const std::string path = PathOf(copy.name); !disk_.AreSame(path, SheetPath)) disk_.Remove(path);
+// What the sheet has gone back to may be in no file either.
+void Rescue::HearOfReset() {
+    if (safe_ && SheetOf(BytesOfCopy()) == *safe_)
+        Forget();
+    else
+        Keep();
 }

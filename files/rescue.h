@@ -1,8 +1,9 @@
 // What a session leaves behind that ends by itself: References/Back up files/Rescue.csv, the rows of a back-up, with all that no save has.
 //
 // It is written whole beside its old content and takes its name only then. It goes when its sheet is saved, given up, or the user ends
-// the program. What an earlier session has left stays until a sheet has been saved; the copy of this one then has a name of its own,
-// Rescue_(2).csv and so on. Writing it changes nothing in the sheet.
+// the program, unless the last save has failed. What an earlier session has left stays until its user has been told of it and has saved a
+// sheet; the copy of this one then has a name of its own, Rescue_(2).csv and so on. A file that its user has put in the place of a copy is
+// left alone. Writing the copy changes nothing in the sheet.
 #pragma once
 #include <functional>
 #include <optional>
@@ -21,17 +22,22 @@ public:
     void Offer();      // the start face tells of what earlier sessions have left, and Open shows it first
     void Keep();       // writes the copy if the sheet holds anything that neither its file nor the copy has
     void KeepNow();    // the same, and it is on the disk when this returns
-    void EndByUser();  // whatever the user's answer was, there is nothing to rescue
+    void EndByUser();  // whatever the user's answer was, there is nothing to rescue, but for a save that was wanted and failed
 
 private:
     void SheetIsSafe();
-    void TakeSaved();
+    void HearOfSave();
+    void HearOfReset();
+    void LeaveFileAlone(const std::string& path);
+    void ChooseName();
     void Forget();  // the copy of this session
-    void RemoveLeft();
+    void Remove(const std::string& path);
 
     WholeFiles& disk_;
     std::function<void()> try_again_;
     std::optional<std::string> safe_;  // the sheet as it was when nothing of it could be lost; before the main window is there, none
     std::string kept_;                 // the sheet as the copy has it; empty: it has none
     std::string path_;                 // of the copy; empty before it is written
+    std::string told_;                 // path of the copy that the start face tells of; empty: of none
+    bool last_save_failed_ = false;
 };

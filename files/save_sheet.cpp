@@ -164,6 +164,7 @@ void TellFailed() {
     SaveOutcome = 2;
     services.messages->Show(
         {"Error", "The file is being used by another software. Please close the file and try again.", Icon::Exclamation, Buttons::Ok});
+    SaveFailed.Raise();
 }
 }  // namespace
 
@@ -177,6 +178,7 @@ void SaveSheet(std::int16_t mode) {
         SaveOutcome = 2;
         return;
     }
+    SaveBegins.Raise(path);
     try {
         WriteFile(path, mode, sums, busy);
         TellSaved();

@@ -11,22 +11,26 @@
 #include "windows/next_window.h"
 
 namespace {
-const std::string kFolder = "/program/References/Back up files/";
-const std::string kRescue = kFolder + "Rescue.csv";
-const std::string kSecond = kFolder + "Rescue_(2).csv";
+const std::string kBackUps = "/program/References/Back up files/";
+const std::string kRescue = kBackUps + "Rescue.csv";
+const std::string kSecond = kBackUps + "Rescue_(2).csv";
 
-// Takes a file, or refuses it, when it is asked to finish.
+// Takes a file, or refuses it, when it is asked to finish, and tells so when it is asked to tell.
 class LateFiles : public WholeFiles {
 public:
     explicit LateFiles(MemoryFiles& files) : files_(files) {}
     bool is_full = false;
     int written = 0;
 
+    void Tell() {
+        for (; !told_.empty(); told_.pop_front()) told_.front()();
+    }
+
     void Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) override {
         jobs_.push_back([this, path, bytes, done = std::move(done)] {
             if (!is_full) files_.bytes[path] = bytes;
             ++written;
-            done(!is_full);
+            told_.push_back([done, taken = !is_full] { done(taken); });
         });
     }
     void Remove(const std::string& path) override {
@@ -41,6 +45,7 @@ public:
 private:
     MemoryFiles& files_;
     std::deque<std::function<void()>> jobs_;
+    std::deque<std::function<void()>> told_;
 };
 
 class RescueTest : public SheetTest {
@@ -49,6 +54,10 @@ protected:
     int tries_ = 0;
     Rescue rescue_{disk_, [this] { ++tries_; }};
 
+    void Keep() {
+        rescue_.Keep();
+        disk_.Finish();
+    }
     bool IsThere(const std::string& path) {
         disk_.Finish();
         return files_.bytes.count(path) > 0;
@@ -59,8 +68,8 @@ protected:
         return line.substr(line.rfind(',') + 1);
     }
     // What a session of yesterday has left.
-    void LeaveCopy(const std::string& path) {
-        files_.bytes[path] = "\"\",\"Backed up (dd/mm/yyyy):\",\"13/11/2026_(09:08:07)\",\"Serial No.\",1\r\n";
+    void LeaveCopy(const std::string& path, const std::string& time = "13/11/2026_(09:08:07)") {
+        files_.bytes[path] = "\"\",\"Backed up (dd/mm/yyyy):\",\"" + time + "\",\"Serial No.\",1\r\n";
     }
 };
 
@@ -95,22 +104,22 @@ TEST_F(RescueTest, WritingItLeavesTheSheetAsItIs) {
     ParamValues[1][1] = "";
     ParamHeader[1][1] = "";
     frmMain.Combo2.SetText("11");
-    const std::string name = SampleTable[2][1].Text(), label = SheetHeader[7].Text();
+    const std::string name = SampleTable[kSampleName][1].Text(), label = SheetHeader[kHeaderSaved].Text();
     rescue_.KeepNow();
     EXPECT_EQ(Counts[2][1], 0);
     EXPECT_EQ(ParamValues[1][1], "");
     EXPECT_EQ(ParamHeader[1][1], "");
-    EXPECT_EQ(SampleTable[2][1].Text(), name);
-    EXPECT_EQ(SheetHeader[7].Text(), label);
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), name);
+    EXPECT_EQ(SheetHeader[kHeaderSaved].Text(), label);
 }
 
 TEST_F(RescueTest, ItIsWrittenOnlyWhenTheSheetHasChanged) {
     Begin("10");
     KeyNumber(1);
-    for (int time = 0; time < 3; ++time) rescue_.KeepNow();
+    for (int time = 0; time < 3; ++time) Keep();
     EXPECT_EQ(disk_.written, 1);
     KeyNumber(1);
-    rescue_.KeepNow();
+    Keep();
     EXPECT_EQ(disk_.written, 2);
     EXPECT_EQ(CountIn(kRescue), "2");
 }
@@ -140,18 +149,29 @@ TEST_F(RescueTest, NoTableAndNoCopyOfTheSheetIsASave) {
     EXPECT_TRUE(IsThere(kRescue));
 }
 
-TEST_F(RescueTest, ASaveThatFailsKeepsIt) {
+TEST_F(RescueTest, ASaveThatFailsKeepsItWhateverTheUserDoesThen) {
     Begin("10");
     KeyNumber(1);
-    rescue_.KeepNow();
     files_.locked.insert("/sheets/Mere.csv");
     AnswerNext(Answer::Ok);
     AnswerDialog("/sheets/Mere.csv");
     SaveSheet(kSaveAs);
+    EXPECT_EQ(CountIn(kRescue), "1") << "at once";
+    rescue_.EndByUser();
     EXPECT_TRUE(IsThere(kRescue));
 }
 
-TEST_F(RescueTest, AResetRemovesItAndWhatIsLeftUnsavedIsKeptAnew) {
+TEST_F(RescueTest, AResetToWhatIsSavedRemovesIt) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    AnswerNext(Answer::Yes);
+    AbortCount();
+    EXPECT_FALSE(IsThere(kRescue));
+}
+
+TEST_F(RescueTest, AResetToWhatNoFileHasIsKeptAtOnce) {
     Begin("10");
     KeyNumber(1, 2);
     NextSample("20");  // from here on Reset goes back to this
@@ -159,8 +179,7 @@ TEST_F(RescueTest, AResetRemovesItAndWhatIsLeftUnsavedIsKeptAnew) {
     rescue_.KeepNow();
     AnswerNext(Answer::Yes);
     AbortCount();
-    EXPECT_FALSE(IsThere(kRescue));
-    rescue_.KeepNow();
+    disk_.Finish();
     EXPECT_EQ(FileLine(kRescue, 3), "1,0,0,\"---\",2,0");
 }
 
@@ -204,11 +223,64 @@ TEST_F(RescueTest, ADiskThatRefusesIsTriedAgain) {
     KeyNumber(1);
     disk_.is_full = true;
     rescue_.KeepNow();
+    disk_.Tell();
     EXPECT_EQ(tries_, 1);
     disk_.is_full = false;
-    rescue_.KeepNow();
+    rescue_.Keep();
     EXPECT_EQ(CountIn(kRescue), "1");
+    disk_.Tell();
     EXPECT_EQ(tries_, 1);
+}
+
+TEST_F(RescueTest, TheLastActTrustsNoWriteThatHasNotBeenToldOf) {
+    Begin("10");
+    KeyNumber(1);
+    disk_.is_full = true;
+    rescue_.Keep();
+    disk_.Finish();
+    disk_.is_full = false;
+    rescue_.KeepNow();
+    EXPECT_EQ(files_.bytes.count(kRescue), 1u);
+}
+
+TEST_F(RescueTest, WhatAnotherProgramWroteForSerialNoDoesNotMatter) {
+    Begin("10");
+    for (const char* label : {"S\xC3\xA9rie", "", "1", "14"}) {
+        SheetHeader[kHeaderSerial] = label;
+        SaveAs("/sheets/Mere.csv");
+        const int before = disk_.written;
+        rescue_.KeepNow();
+        EXPECT_EQ(disk_.written, before) << label;
+        KeyNumber(1);
+        rescue_.KeepNow();
+        EXPECT_EQ(disk_.written, before + 1) << label;
+    }
+}
+
+TEST_F(RescueTest, NoFileIsWrittenOverWhereAllNamesAreTaken) {
+    for (int number = 2; number <= 99; ++number) LeaveCopy(kBackUps + "Rescue_(" + std::to_string(number) + ").csv");
+    LeaveCopy(kRescue);
+    const auto before = files_.bytes;
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    EXPECT_EQ(disk_.written, 0);
+    EXPECT_EQ(tries_, 1);
+}
+
+TEST_F(RescueTest, AFileThatIsSavedOverItIsTheUsers) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    AnswerDialog(kRescue);
+    SaveSheet(kSaveAs);  // the second one: the sheet stays where it is
+    const std::string saved = files_.bytes[kRescue];
+    KeyNumber(1);
+    rescue_.KeepNow();
+    rescue_.EndByUser();
+    EXPECT_EQ(files_.bytes[kRescue], saved);
+    EXPECT_FALSE(IsThere(kSecond));
 }
 
 TEST_F(RescueTest, ACountThatNoFileHoldsIsTriedAgain) {
@@ -245,6 +317,7 @@ TEST_F(RescueTest, WhatAnEarlierSessionLeftStaysUntilASheetIsSaved) {
     LeaveCopy(kRescue);
     const std::string left = files_.bytes[kRescue];
     Begin("10");
+    rescue_.Offer();
     KeyNumber(1);
     rescue_.KeepNow();
     EXPECT_EQ(files_.bytes[kRescue], left);
@@ -254,12 +327,16 @@ TEST_F(RescueTest, WhatAnEarlierSessionLeftStaysUntilASheetIsSaved) {
     EXPECT_FALSE(IsThere(kSecond));
 }
 
-TEST_F(RescueTest, TheLastOfTwoIsTold) {
-    LeaveCopy(kRescue);
-    LeaveCopy(kSecond);
-    Start();
+TEST_F(RescueTest, TheLatestOfSeveralIsToldAndGoesFirst) {
+    LeaveCopy(kRescue, "13/11/2026_(09:08:07)");
+    LeaveCopy(kSecond, "31/10/2026_(23:08:07)");
+    Begin("10");
     rescue_.Offer();
-    EXPECT_NE(frmNext.StartLine.Caption().find("Rescue_(2).csv"), std::string::npos);
+    EXPECT_EQ(frmNext.StartLine.Caption(),
+              "A session of 13/11/2026 (09:08:07) ended by itself: Rescue.csv in Back up files holds it, and 1 more");
+    SaveAs("/sheets/Mere.csv");
+    EXPECT_FALSE(IsThere(kRescue));
+    EXPECT_TRUE(IsThere(kSecond)) << "nobody has been told its name";
 }
 
 TEST_F(RescueTest, ACopyThatHasBecomeTheSheetIsNeverRemoved) {
