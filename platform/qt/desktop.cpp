@@ -35,16 +35,19 @@ constexpr int kKeepAfterMs = 1000;  // an event: half of what may be lost when t
 // Keeps a copy of the sheet for the case that the session ends by itself.
 class Lifeline {
 public:
-    Lifeline(QtHost& host, Renderer& renderer) : host_(host), rescue_(disk_, [this] { soon_.start(); }), last_act_([this] { KeepNow(); }) {
+    Lifeline(QtHost& host, Renderer& renderer)
+        : host_(host), renderer_(renderer), rescue_(disk_, [this] { soon_.start(); }), last_act_([this] { KeepNow(); }) {
         soon_.setSingleShot(true);
         soon_.setInterval(kKeepAfterMs);
-        soon_.callOnTimeout([this] {
-            if (!host_.HasEnded()) rescue_.Keep();
-        });
+        soon_.callOnTimeout([this] { Keep(); });
         renderer.WhenEventBegins([this] {
             if (!soon_.isActive()) soon_.start();
         });
         host.BeforeItFails([this] { KeepNow(); });
+    }
+    ~Lifeline() {
+        renderer_.WhenEventBegins([] {});
+        host_.BeforeItFails([] {});
     }
     void Offer() { rescue_.Offer(); }
     void End() {
@@ -52,11 +55,17 @@ public:
     }
 
 private:
+    void Keep() {
+        if (host_.HasEnded()) return;
+        rescue_.Keep();
+        if (renderer_.InEvent()) soon_.start();  // a box is open: what follows its answer belongs to the same event
+    }
     void KeepNow() {
         if (!host_.HasEnded()) rescue_.KeepNow();
     }
 
     QtHost& host_;
+    Renderer& renderer_;
     QtWholeFiles disk_;
     QTimer soon_;
     Rescue rescue_;

@@ -107,6 +107,7 @@ bool WriteWhole(const std::string& path, const std::string& bytes) {
     }
     std::error_code error;
     std::filesystem::rename(SystemFile(beside), SystemFile(path), error);
+    if (error) QFile::remove(SystemPath(beside));
     FlushFolderOf(SystemFile(path));
     return !error;
 }
@@ -124,16 +125,23 @@ QtWholeFiles::~QtWholeFiles() {
     worker_.join();
 }
 
+// On a disk that is slow the newest content is all that counts.
 void QtWholeFiles::Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) {
-    Add([this, path, bytes, done = std::move(done)] {
+    const auto write = [this, path, bytes, done = std::move(done)] {
         const bool is_done = WriteWhole(path, bytes);
         QMetaObject::invokeMethod(
             this, [done, is_done] { done(is_done); }, Qt::QueuedConnection);
-    });
+    };
+    const std::lock_guard lock(mutex_);
+    if (jobs_.size() > 1 && jobs_.back().writes == path) jobs_.pop_back();
+    jobs_.push_back({path, write});
+    changed_.notify_all();
 }
 
 void QtWholeFiles::Remove(const std::string& path) {
-    Add([path] { QFile::remove(SystemPath(path)); });
+    const std::lock_guard lock(mutex_);
+    jobs_.push_back({"", [path] { QFile::remove(SystemPath(path)); }});
+    changed_.notify_all();
 }
 
 void QtWholeFiles::Finish() {
@@ -150,21 +158,14 @@ bool QtWholeFiles::AreSame(const std::string& path, const std::string& other) {
     return std::filesystem::equivalent(SystemFile(path), SystemFile(other), ignored);
 }
 
-void QtWholeFiles::Add(std::function<void()> job) {
-    {
-        const std::lock_guard lock(mutex_);
-        jobs_.push_back(std::move(job));
-    }
-    changed_.notify_all();
-}
-
 void QtWholeFiles::Work() {
     std::unique_lock lock(mutex_);
     while (true) {
         changed_.wait(lock, [this] { return ends_ || !jobs_.empty(); });
         if (jobs_.empty()) return;
+        const std::function<void()>& procedure = jobs_.front().procedure;  // it stays where it is: no one else takes from the front
         lock.unlock();
-        jobs_.front()();  // no one else takes from the front
+        procedure();
         lock.lock();
         jobs_.pop_front();
         changed_.notify_all();

@@ -32,12 +32,15 @@ public:
     bool AreSame(const std::string& path, const std::string& other) override;
 
 private:
-    void Add(std::function<void()> job);
+    struct Job {
+        std::string writes;  // the path that it writes; empty if it removes one
+        std::function<void()> procedure;
+    };
     void Work();
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<std::function<void()>> jobs_;  // the first one is being done
+    std::deque<Job> jobs_;  // the first one is being done
     bool ends_ = false;
     std::thread worker_;
 };

@@ -1,5 +1,6 @@
 #include "platform/qt/unasked_end.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QSocketNotifier>
 #include <QThread>
@@ -24,24 +25,27 @@ void ActAtExit() {
     if (const auto act = std::exchange(act_at_exit, nullptr)) act();
 }
 
+bool IsInThreadOfWindows() {
+    return qGuiApp && QThread::currentThread() == qGuiApp->thread();
+}
+
 // Under Wayland it ends at once, and all that it does before is to say so, in the thread that noticed it first or in both.
 void HearLastWords(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (text.startsWith(QLatin1String("The Wayland connection"))) {
-        const bool is_ours = QThread::currentThread() == qGuiApp->thread();
-        QMetaObject::invokeMethod(qGuiApp, ActAtExit, is_ours ? Qt::DirectConnection : Qt::BlockingQueuedConnection);
-    }
+    const Qt::ConnectionType at_once = IsInThreadOfWindows() ? Qt::DirectConnection : Qt::BlockingQueuedConnection;
+    if (text.startsWith(QLatin1String("The Wayland connection"))) QMetaObject::invokeMethod(qGuiApp, ActAtExit, at_once);
+    if (type == QtFatalMsg && IsInThreadOfWindows()) ActAtExit();
     say_before(type, context, text);
 }
 
 [[noreturn]] void Terminate() {
-    ActAtExit();
+    if (IsInThreadOfWindows()) ActAtExit();
     if (terminate_before) terminate_before();
     std::abort();
 }
 
 #ifndef Q_OS_WIN
 int signal_sockets[2] = {-1, -1};  // a signal goes in at the first and is read from the second between events
-constexpr int kEndingSignals[] = {SIGTERM, SIGHUP, SIGINT};
+constexpr int kEndingSignals[] = {SIGTERM, SIGHUP, SIGINT, SIGQUIT};
 
 void SendOn(int signal) {
     const char byte = static_cast<char>(signal);
@@ -57,6 +61,7 @@ UnaskedEnd::UnaskedEnd(std::function<void()> last_act) : last_act_(std::move(las
     say_before = qInstallMessageHandler(HearLastWords);
     connect(
         qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { Act(); }, Qt::DirectConnection);
+    qGuiApp->installEventFilter(this);
     HearSignals();
 }
 
@@ -65,9 +70,23 @@ UnaskedEnd::~UnaskedEnd() {
     std::set_terminate(terminate_before);
     qInstallMessageHandler(say_before);
 #ifndef Q_OS_WIN
-    for (const int signal : kEndingSignals) std::signal(signal, SIG_DFL);
+    struct sigaction now {};
+    for (const int signal : kEndingSignals)
+        if (sigaction(signal, nullptr, &now) == 0 && now.sa_handler == SendOn) std::signal(signal, SIG_DFL);
     for (int& socket : signal_sockets) close(std::exchange(socket, -1));
 #endif
+}
+
+// The desktop session ends: the toolkit would have all windows closed, as if their user had done it.
+bool UnaskedEnd::eventFilter(QObject* watched, QEvent* event) {
+#ifndef Q_OS_MACOS  // where it is the user's own Quit
+    if (watched == qGuiApp && event->type() == QEvent::Quit) {
+        Act();
+        QCoreApplication::exit(0);
+        return true;
+    }
+#endif
+    return QObject::eventFilter(watched, event);
 }
 
 // What it does may itself be what ends the program.
@@ -85,8 +104,12 @@ void UnaskedEnd::HearSignals() {
     struct sigaction action {};
     action.sa_handler = SendOn;
     action.sa_flags = SA_RESTART;
-    for (const int signal : kEndingSignals) sigaction(signal, &action, nullptr);
-    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow any further is told by the write that fails
+    for (const int signal : kEndingSignals) {
+        struct sigaction before {};
+        sigaction(signal, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);  // whoever started it may want it to outlive a terminal
+    }
+    for (const int signal : {SIGXFSZ, SIGPIPE}) std::signal(signal, SIG_IGN);  // the write that they are about fails, which tells it
 #endif
 }
 

@@ -12,6 +12,8 @@ public:
     explicit UnaskedEnd(std::function<void()> last_act);
     ~UnaskedEnd() override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void Act();
     void HearSignals();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -145,3 +146,74 @@ TEST_F(QtFilesTest, WhatIsNoOrdinaryFileOrFarTooLargeIsNotRead) {
     QFile::link("/dev/zero", QString::fromStdString(Path("endless.csv")));
     for (const char* name : {"huge.csv", "endless.csv", "."}) EXPECT_THROW(files_.ReadAll(Path(name)), Failure) << name;
 }
+
+class QtWholeFilesTest : public QtFilesTest {
+    char name_[5] = "test";
+    char* arguments_[1] = {name_};
+    int count_ = 1;
+    QCoreApplication application_{count_, arguments_};
+
+protected:
+    QtWholeFiles whole_;
+    int taken_ = 0, refused_ = 0;
+
+    void Write(const char* name, const std::string& bytes) {
+        whole_.Write(Path(name), bytes, [this](bool done) { ++(done ? taken_ : refused_); });
+    }
+    void Finish() {
+        whole_.Finish();
+        QCoreApplication::sendPostedEvents();
+    }
+    QStringList Names() const { return QDir(folder_.path()).entryList(QDir::Files); }
+};
+
+TEST_F(QtWholeFilesTest, TheNewestContentIsThereAndNothingBesideIt) {
+    for (int time = 0; time <= 200; ++time) Write("a.csv", std::string(1000, 'x') + std::to_string(time));
+    Finish();
+    EXPECT_EQ(files_.ReadAll(Path("a.csv")), std::string(1000, 'x') + "200");
+    EXPECT_EQ(Names(), QStringList{"a.csv"});
+    EXPECT_GE(taken_, 1);
+    EXPECT_EQ(refused_, 0);
+}
+
+TEST_F(QtWholeFilesTest, OneIsDoneAfterTheOther) {
+    Write("a.csv", "1");
+    whole_.Remove(Path("a.csv"));
+    Write("b.csv", "2");
+    Write("a.csv", "3");
+    whole_.Remove(Path("b.csv"));
+    Finish();
+    EXPECT_EQ(Names(), QStringList{"a.csv"});
+    EXPECT_EQ(files_.ReadAll(Path("a.csv")), "3");
+}
+
+TEST_F(QtWholeFilesTest, WhatCannotBeWrittenIsTold) {
+    Write("none/a.csv", "1");
+    Finish();
+    EXPECT_EQ(refused_, 1);
+}
+
+TEST_F(QtWholeFilesTest, TwoNamesOfOneFileAreFound) {
+    Write("a.csv", "1");
+    Finish();
+    ASSERT_TRUE(QFile::link(folder_.path() + "/a.csv", folder_.path() + "/b.csv"));
+    EXPECT_TRUE(whole_.IsThere(Path("a.csv")));
+    EXPECT_FALSE(whole_.IsThere(Path("c.csv")));
+    EXPECT_TRUE(whole_.AreSame(Path("a.csv"), Path("b.csv")));
+    EXPECT_FALSE(whole_.AreSame(Path("a.csv"), Path("c.csv")));
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(QtWholeFilesTest, OnAFullDiskTheOldContentStays) {
+    Write("a.csv", "old");
+    Finish();
+    {
+        const FileSizeLimit limit(10);
+        Write("a.csv", std::string(1000, 'x'));
+        Finish();
+    }
+    EXPECT_EQ(refused_, 1);
+    EXPECT_EQ(files_.ReadAll(Path("a.csv")), "old");
+    EXPECT_EQ(Names(), QStringList{"a.csv"});
+}
+#endif
