@@ -96,8 +96,12 @@ void Folders::LayEmpty() const {
 
 void Folders::LayFresh() const {
     if (!fs::is_directory(tree_)) throw ScriptFault("there is no installation tree at " + PathText(tree_) + ": build the project first");
-    LayEmpty();
-    fs::copy(tree_, program_, fs::copy_options::recursive);
+    std::error_code error;
+    do {  // a signal, such as a timer's, may break it off
+        LayEmpty();
+        fs::copy(tree_, program_, fs::copy_options::recursive, error);
+    } while (error == std::errc::interrupted);
+    if (error) throw fs::filesystem_error("cannot copy", tree_, program_, error);
 }
 
 void Folders::LayKnown() const {
