@@ -336,6 +336,7 @@ void MainWindow::OfferNextSample() {
 void MainWindow::ForgetMembers() {
     FormLoaded = ChangingSample = KeysEnabled = false;
     FileDialog.FileName.clear();
+    FileDialog.first_folder.clear();
 }
 
 // ---- The progress bar ----

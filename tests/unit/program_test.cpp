@@ -14,6 +14,12 @@ ProgramTest::ProgramTest() {
 
 ProgramTest::~ProgramTest() {
     for (Window* window : AllWindows()) window->Unload();
+    for (Window* window : AllWindows()) {  // a test may have changed one that it had not loaded
+        window->Loaded.Calls({});
+        window->Unloading.Calls({});
+        window->Load();
+        window->Unload();
+    }
 }
 
 void ProgramTest::Start() {
