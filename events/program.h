@@ -1,5 +1,5 @@
-// The way into the program for every platform: call Start once, when the services are in place, inside an event. A platform that may be
-// ended against its user's will has a Rescue before that.
+// The way into the program for every platform: call StartProgram once, when the services are in place, inside an event. A platform that
+// may be ended against its user's will has a Rescue before that.
 #pragma once
 #include "files/rescue.h"
 

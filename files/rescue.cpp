@@ -106,7 +106,7 @@ struct Left {
     std::string time;
 };
 
-// "13/11/2026 (09:08:07)" as "2026 11 13(09:08:07)": the later one is the greater text.
+// "13/11/2026 (09:08:07)" as "20261113 (09:08:07)": the later one is the greater text.
 std::string InOrder(const std::string& time) {
     return time.substr(6, 4) + time.substr(3, 2) + time.substr(0, 2) + time.substr(10);
 }
