@@ -27,7 +27,9 @@ class WaylandDesk(Screen):
         outside = {key: value for key, value in os.environ.items() if key not in ("DISPLAY", "WAYLAND_DISPLAY")}
         own = {"XDG_RUNTIME_DIR": str(self.places), "SWAYSOCK": str(self.places / "sway"), "WLR_BACKENDS": "headless",
                "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1"}
-        self.start([*as_nobody, "sway", "--config", str(self._configuration(size))], env={**outside, **own})
+        # By itself sway tells where a new window is to be before it puts it there, so a click at that place could go to another.
+        at_once = "-Dnoatomic"
+        self.start([*as_nobody, "sway", at_once, "--config", str(self._configuration(size))], env={**outside, **own})
         self.control = wait_for("sway", self._connect)
         display = wait_for("the display of Wayland", lambda: next(self.places.glob("wayland-?"), None))
         self.env = {**outside, "WAYLAND_DISPLAY": str(display), "QT_QPA_PLATFORM": "wayland"}
