@@ -1,13 +1,9 @@
 #include "platform/failure.h"
 #include "platform/user.h"
-#include "session/leaving.h"
 #include "unit/sheet_test.h"
 #include "windows/information_windows.h"
-#include "windows/key_windows.h"
 #include "windows/main_window.h"
-#include "windows/name_windows.h"
 #include "windows/picture_window.h"
-#include "windows/subtotal_window.h"
 
 namespace {
 constexpr const char* kFavorite = "/program/References/My_favorite.jpg";
@@ -118,14 +114,5 @@ TEST_F(AccessoriesTest, TheAboutBoxIsInThreeColours) {
     EXPECT_EQ(frmAboutMB1.Label1.ForeColor(), (Colour{0, 0, 128}));
     EXPECT_EQ(frmAboutMB1.Label2.ForeColor(), (Colour{150, 0, 0}));
     for (const Label& credit : frmAboutMB1.Label3) EXPECT_EQ(credit.ForeColor(), (Colour{0, 100, 0}));
-}
-
-TEST_F(AccessoriesTest, LeavingClosesEveryWindowButTheMainOne) {
-    Begin("10");
-    for (Window* window :
-         std::initializer_list<Window*>{&frmAboutMB1, &frmAboutDX1, &frmNote, &frmPicture, &frmSubtotal, &frmParaName, &frmKeyCode})
-        window->Show();
-    UnloadAll();
-    for (const Window* window : AllWindows()) EXPECT_EQ(window->IsLoaded(), window == &frmMain) << window->name;
 }
 }  // namespace
