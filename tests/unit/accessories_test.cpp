@@ -2,8 +2,10 @@
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/information_windows.h"
+#include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/picture_window.h"
+#include "windows/subtotal_window.h"
 
 namespace {
 constexpr const char* kFavorite = "/program/References/My_favorite.jpg";
@@ -114,5 +116,26 @@ TEST_F(AccessoriesTest, TheAboutBoxIsInThreeColours) {
     EXPECT_EQ(frmAboutMB1.Label1.ForeColor(), (Colour{0, 0, 128}));
     EXPECT_EQ(frmAboutMB1.Label2.ForeColor(), (Colour{150, 0, 0}));
     for (const Label& credit : frmAboutMB1.Label3) EXPECT_EQ(credit.ForeColor(), (Colour{0, 100, 0}));
+}
+
+TEST_F(AccessoriesTest, ADialogThatIsClosedByItsFrameGivesTheMainWindowBack) {
+    Begin("10");
+    const struct {
+        MenuItem* item;
+        Window* dialog;
+    } dialogs[] = {{&frmMain.mnuKeyCodeReader, &frmKeyCode},
+                   {&frmMain.mnuSubtotal, &frmSubtotal},
+                   {&frmMain.mnuInitial, &frmInitial},
+                   {&frmMain.mnuAboutMB1, &frmAboutMB1},
+                   {&frmMain.mnuAboutDX1, &frmAboutDX1}};
+    for (const auto& each : dialogs) {
+        ClickControl(*each.item);
+        EXPECT_EQ(ActiveWindow(), each.dialog);
+        EXPECT_FALSE(frmMain.Enabled()) << each.dialog->name;
+        CloseWindow(*each.dialog);
+        EXPECT_FALSE(each.dialog->Visible());
+        EXPECT_TRUE(frmMain.Enabled()) << each.dialog->name;
+        EXPECT_EQ(ActiveWindow(), &frmMain) << each.dialog->name;
+    }
 }
 }  // namespace
