@@ -2,11 +2,13 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QSemaphore>
 #include <QSocketNotifier>
 #include <QThread>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 #include <utility>
 
 #ifndef Q_OS_WIN
@@ -15,6 +17,8 @@
 #endif
 
 namespace {
+constexpr int kMostToWaitMs = 5000;
+
 // What the system calls knows no object.
 std::function<void()> act_at_exit;  // empty: there is nothing to do
 std::terminate_handler terminate_before = nullptr;
@@ -29,10 +33,21 @@ bool IsInThreadOfWindows() {
     return qGuiApp && QThread::currentThread() == qGuiApp->thread();
 }
 
+// In the thread of the windows, which may itself be waiting for the one that calls this: it waits for it as long as a disk may take.
+void ActInThreadOfWindows() {
+    if (IsInThreadOfWindows()) return ActAtExit();
+    const auto done = std::make_shared<QSemaphore>();
+    const auto act = [done] {
+        ActAtExit();
+        done->release();
+    };
+    QMetaObject::invokeMethod(qGuiApp, act, Qt::QueuedConnection);
+    done->tryAcquire(1, kMostToWaitMs);
+}
+
 // Under Wayland it ends at once, and all that it does before is to say so, in the thread that noticed it first or in both.
 void HearLastWords(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    const Qt::ConnectionType at_once = IsInThreadOfWindows() ? Qt::DirectConnection : Qt::BlockingQueuedConnection;
-    if (text.startsWith(QLatin1String("The Wayland connection"))) QMetaObject::invokeMethod(qGuiApp, ActAtExit, at_once);
+    if (text.startsWith(QLatin1String("The Wayland connection"))) ActInThreadOfWindows();
     if (type == QtFatalMsg && IsInThreadOfWindows()) ActAtExit();
     say_before(type, context, text);
 }

@@ -1,6 +1,10 @@
 #include "platform/qt/unasked_end.h"
 
 #include <QEvent>
+#include <QEventLoop>
+#include <QtGlobal>
+#include <csignal>
+#include <thread>
 
 #include "unit_qt/on_screen_test.h"
 #include "windows/next_window.h"
@@ -18,5 +22,44 @@ TEST_F(UnaskedEndTest, TheEndOfTheDesktopSessionClosesNoWindowAsItsUserWould) {
         EXPECT_TRUE(frmNext.Visible());
     }
     EXPECT_EQ(acts, 1);
+}
+
+void SayThatTheDisplayIsGone() {
+    qWarning("The Wayland connection broke.");
+}
+
+TEST_F(UnaskedEndTest, ADisplayThatAnotherThreadLosesIsHeardInThatOfTheWindows) {
+    QEventLoop loop;
+    std::thread::id heard_in;
+    const UnaskedEnd end([&loop, &heard_in] {
+        heard_in = std::this_thread::get_id();
+        loop.quit();
+    });
+    std::thread other(SayThatTheDisplayIsGone);
+    loop.exec();
+    other.join();
+    EXPECT_EQ(heard_in, std::this_thread::get_id());
+}
+
+TEST_F(UnaskedEndTest, AThreadThatLosesTheDisplayDoesNotWaitForEverForOneThatWaitsForIt) {
+    int acts = 0;
+    {
+        const UnaskedEnd end([&acts] { ++acts; });
+        std::thread(SayThatTheDisplayIsGone).join();
+        EXPECT_EQ(acts, 0);
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(acts, 0) << "the end is no longer waited for";
+}
+
+TEST_F(UnaskedEndTest, ASignalThatItsStarterHasItIgnoreStaysIgnored) {
+    std::signal(SIGHUP, SIG_IGN);
+    {
+        const UnaskedEnd end([] {});
+        struct sigaction now {};
+        sigaction(SIGHUP, nullptr, &now);
+        EXPECT_EQ(now.sa_handler, SIG_IGN);
+    }
+    EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);
 }
 }  // namespace
