@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QTimer>
+#include <ctime>
 
 #include "events/program.h"
 #include "platform/qt/accessible.h"
@@ -15,6 +16,23 @@
 #include "platform/qt/unasked_end.h"
 #include "platform/qt/window_system.h"
 #include "platform/qt/window_widget.h"
+
+namespace {
+std::string LocalTime(const char* format) {
+    const std::time_t now = std::time(nullptr);
+    char text[sizeof "14/11/2026"];
+    std::strftime(text, sizeof text, format, std::localtime(&now));
+    return text;
+}
+}  // namespace
+
+std::string SystemClock::DateText() {
+    return LocalTime("%d/%m/%Y");
+}
+
+std::string SystemClock::TimeText() {
+    return LocalTime("%H:%M:%S");
+}
 
 void QtClipboard::PutImage(const PictureBox& picture) {
     renderer_.Sync();  // the picture is to be as it stands now, in the middle of the event

@@ -1,7 +1,5 @@
 // The program on the desktop: the services that it has there, and its run.
 #pragma once
-#include <QDateTime>
-
 #include "platform/qt/look.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_files.h"
@@ -11,10 +9,11 @@
 
 class Renderer;
 
-class QtClock : public Clock {
+// Without the toolkit, whose dates are empty while a process ends that has lost its display.
+class SystemClock : public Clock {
 public:
-    std::string DateText() override { return FromQt(QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy"))); }
-    std::string TimeText() override { return FromQt(QTime::currentTime().toString(QStringLiteral("HH:mm:ss"))); }
+    std::string DateText() override;
+    std::string TimeText() override;
 };
 
 class QtClipboard : public Clipboard {
@@ -41,7 +40,7 @@ struct DesktopServices {
     QtMessageBoxes messages;
     QtFileDialogs dialogs;
     QtSounds sounds;
-    QtClock clock;
+    SystemClock clock;
     QtClipboard clipboard;
     QtPopups popups;
     QtFiles files;
