@@ -69,18 +69,19 @@ public:
     }
     void Offer() { rescue_.Offer(); }
     void End() {
-        if (host_.HasEnded() && !host_.HasFailed()) rescue_.EndByUser();
+        if (HasEndedByUser()) rescue_.EndByUser();
     }
 
 private:
     void Keep() {
-        if (host_.HasEnded()) return;
+        if (HasEndedByUser()) return;
         rescue_.Keep();
         if (renderer_.InEvent()) soon_.start();  // a box is open: what follows its answer belongs to the same event
     }
     void KeepNow() {
-        if (!host_.HasEnded()) rescue_.KeepNow();
+        if (!HasEndedByUser()) rescue_.KeepNow();
     }
+    bool HasEndedByUser() const { return host_.HasEnded() && !host_.HasFailed(); }  // a failure leaves the sheet as it was then
 
     QtHost& host_;
     Renderer& renderer_;

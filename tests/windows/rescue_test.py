@@ -1,6 +1,7 @@
 """A session that ends by itself: what was counted is in the rescue, and the next session tells of it."""
 import os
 import random
+import shutil
 import signal
 import time
 import unittest
@@ -42,6 +43,12 @@ class RescueTest(unittest.TestCase):
     def wait_for_end(self):
         wait_for("the end of the program", lambda: self.program.process.poll() is not None)
 
+    def expect_kept(self, counts):
+        """In a copy that the next session tells of: it is dated."""
+        first_line = self.rescue.read_bytes().split(b"\r\n")[0]
+        self.assertRegex(first_line, rb'"Backed up \(dd/mm/yyyy\):","\d\d/\d\d/\d{4}_\(\d\d:\d\d:\d\d\)"')
+        self.assertEqual(counts_in(self.rescue), counts)
+
     def wait_for_rescue(self, grains):
         wait_for(f"a rescue of {grains} grains", lambda: sum(counts_in(self.rescue).values()) == grains)
 
@@ -52,7 +59,7 @@ class RescueTest(unittest.TestCase):
             self.program.process.send_signal(number)
             self.wait_for_end()
             self.assertEqual(self.program.process.returncode, -number)
-            self.assertEqual(counts_in(self.rescue), {slot: 1 for slot in range(1, 13)})
+            self.expect_kept({slot: 1 for slot in range(1, 13)})
             self.rescue.unlink()
             self.program.start()
 
@@ -61,20 +68,37 @@ class RescueTest(unittest.TestCase):
         self.count(12)
         self.desk.lose()
         self.wait_for_end()
-        self.assertEqual(counts_in(self.rescue), {slot: 1 for slot in range(1, 13)})
+        self.expect_kept({slot: 1 for slot in range(1, 13)})
 
-    def test_a_failure_that_nothing_catches_loses_nothing(self):
-        path = self.program.work / "full.csv"
-        path.write_bytes(expected_sheet(path, {1: 32767}))
+    def open(self, path):
         self.program.window(START)
         self.program.press(TAB, ENTER)  # Open data file or template
         self.program.answer_file_dialog("Open", path)
+
+    def fail_at_save(self):
+        """With "Overflow", for a grain more than a sheet can hold."""
+        path = self.program.work / "full.csv"
+        path.write_bytes(expected_sheet(path, {1: 32767}))
+        self.open(path)
         self.program.press(PAD[0])
         self.program.wait_total(32768)
         self.program.press(SAVE)
-        self.program.click("Marlbrook", "OK")  # "Overflow"
+        self.program.window("Marlbrook")
+
+    def test_a_failure_that_nothing_catches_loses_nothing(self):
+        self.fail_at_save()
+        self.program.click("Marlbrook", "OK")
         self.wait_for_end()
-        self.assertEqual(counts_in(self.rescue), {1: 32768})
+        self.expect_kept({1: 32768})
+
+    def test_after_a_failure_a_disk_that_refuses_is_tried_again(self):
+        folder = self.rescue.parent
+        shutil.rmtree(folder)
+        folder.touch()
+        self.fail_at_save()
+        folder.unlink()
+        folder.mkdir()
+        self.wait_for_rescue(32768)
 
     def test_it_is_written_while_its_user_counts_and_goes_with_a_save(self):
         self.program.begin("10")
