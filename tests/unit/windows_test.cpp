@@ -116,7 +116,7 @@ std::vector<Control*> Round(Window& window, bool back) {
 // The same, from the stop that the window has first.
 std::vector<Control*> FromTheFirst(const Window& window, std::vector<Control*> round) {
     const auto place = [&window](Control* stop) { return std::ranges::find(window.Controls(), stop); };
-    std::ranges::rotate(round, std::ranges::min_element(round, {}, place));
+    std::rotate(round.begin(), std::ranges::min_element(round, {}, place), round.end());
     return round;
 }
 
