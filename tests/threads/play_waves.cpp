@@ -4,38 +4,16 @@
 #include <SDL_mixer.h>
 
 #include <chrono>
-#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <random>
-#include <string>
 #include <thread>
 
 #include "platform/qt/qt_sounds.h"
+#include "unit/wave_bytes.h"
 
 namespace {
-void Append(std::string& bytes, std::uint32_t number, int size) {
-    for (int i = 0; i < size; ++i) bytes += static_cast<char>(number >> (8 * i));
-}
-
-// So many frames of silence, 16 bits mono, 44100 a second.
-std::string SilentWave(std::uint32_t frames) {
-    std::string bytes = "RIFF";
-    Append(bytes, 36 + 2 * frames, 4);
-    bytes += "WAVEfmt ";
-    Append(bytes, 16, 4);
-    Append(bytes, 1, 2);
-    Append(bytes, 1, 2);
-    Append(bytes, 44100, 4);
-    Append(bytes, 88200, 4);
-    Append(bytes, 2, 2);
-    Append(bytes, 16, 2);
-    bytes += "data";
-    Append(bytes, 2 * frames, 4);
-    return bytes + std::string(2 * frames, '\0');
-}
-
 void Rest(int milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }

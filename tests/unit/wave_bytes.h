@@ -1,0 +1,19 @@
+// Wave files for tests.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+struct WaveFormat {
+    int coding = 1;  // PCM
+    int channels = 1;
+    std::uint32_t rate = 44100;  // frames a second
+    int bits = 16;               // a sample
+    int FrameBytes() const { return channels * bits / 8; }
+};
+
+std::string LowFirst(std::uint32_t number, int bytes);
+std::string WaveChunk(std::string_view name, std::string_view content);  // with a byte more behind an odd size
+std::string FormatChunk(const WaveFormat& format);
+std::string WaveOf(std::string_view chunks);
+std::string SilentWave(std::uint32_t frames, const WaveFormat& format = {});
