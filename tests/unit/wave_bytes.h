@@ -1,4 +1,4 @@
-// Wave files for tests.
+// Wave files for tests: whole and odd.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -15,5 +15,6 @@ struct WaveFormat {
 std::string LowFirst(std::uint32_t number, int bytes);
 std::string WaveChunk(std::string_view name, std::string_view content);  // with a byte more behind an odd size
 std::string FormatChunk(const WaveFormat& format);
+std::string LongFormatChunk(const WaveFormat& format);  // the coding stands behind the rest
 std::string WaveOf(std::string_view chunks);
 std::string SilentWave(std::uint32_t frames, const WaveFormat& format = {});
