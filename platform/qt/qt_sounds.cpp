@@ -7,6 +7,8 @@
 #include <QMetaObject>
 #include <utility>
 
+#include "platform/qt/load_wave.h"
+
 namespace {
 constexpr int kRate = 44100;
 constexpr int kOneChannel = 1;
@@ -69,7 +71,7 @@ void QtSounds::PlayNow(const Wave* wave, const std::string& bytes) {
     if (loaded.bytes != bytes) {
         if (loaded.chunk) Mix_FreeChunk(loaded.chunk);  // halts it first
         loaded.bytes = bytes;
-        loaded.chunk = Mix_LoadWAV_RW(SDL_RWFromConstMem(loaded.bytes.data(), static_cast<int>(loaded.bytes.size())), 1);
+        loaded.chunk = LoadWave(bytes);
     }
     if (loaded.chunk)
         Mix_PlayChannel(0, loaded.chunk, 0);

@@ -26,7 +26,7 @@ public:
 
 private:
     struct Loaded {
-        std::string bytes;  // the chunk plays from them
+        std::string bytes;  // the chunk was made from them
         Mix_Chunk* chunk = nullptr;
     };
     void Open();

@@ -1,12 +1,21 @@
-// Whether there is a device to play on. Both drivers are SDL's own: one that plays into nothing, and one that does not exist.
+// Whether there is a device to play on, and what a broken wave does there. Both drivers are SDL's own: one that plays into nothing, and
+// one that does not exist.
 #include "platform/qt/qt_sounds.h"
 
+#include <SDL_mixer.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QThread>
+#include <string>
+
+#include "platform/headless/files.h"
+#include "unit/wave_bytes.h"
 
 namespace {
+constexpr int kLimit = 20000;  // milliseconds
+
 class QtSoundsTest : public testing::Test {
 protected:
     ~QtSoundsTest() override { qunsetenv("SDL_AUDIODRIVER"); }
@@ -21,6 +30,18 @@ protected:
         }
         QCoreApplication::processEvents();
         return told;
+    }
+
+    template <class Condition>
+    static bool Comes(Condition condition) {
+        for (const QDeadlineTimer limit(kLimit); !limit.hasExpired(); QThread::msleep(1))
+            if (condition()) return true;
+        return false;
+    }
+    // Whether the wave that was asked for last sounds. While the device opens, the library may not be asked what its channel does.
+    static bool IsHeard() {
+        return Comes([] { return Mix_QuerySpec(nullptr, nullptr, nullptr) > 0 && Mix_AllocateChannels(-1) == 1; }) &&
+               Comes([] { return Mix_Playing(0) != 0; });
     }
 
     char name_[5] = "test";
@@ -42,10 +63,59 @@ TEST_F(QtSoundsTest, WhoAsksLaterIsToldToo) {
     bool first = false, second = false;
     QtSounds sounds;
     sounds.IfSilent([&first] { first = true; });
-    for (const QDeadlineTimer limit(20000); !first && !limit.hasExpired();) QCoreApplication::processEvents();
-    ASSERT_TRUE(first);
+    ASSERT_TRUE(Comes([&first] {
+        QCoreApplication::processEvents();
+        return first;
+    }));
     sounds.IfSilent([&second] { second = true; });
     QCoreApplication::processEvents();
     EXPECT_TRUE(second);
+}
+
+TEST_F(QtSoundsTest, AWaveOfOneFrameASecondDoesNotEndTheProgram) {
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    std::string opening = DiskFiles().ReadAll(WAVES_FOLDER "/Opening.wav");
+    opening.replace(24, 4, LowFirst(1, 4));
+    const Wave spoiled{"WaveOpening", opening};
+    const Wave next{"WaveKey1", SilentWave(20 * 44100)};
+    QtSounds sounds;
+    sounds.Play(spoiled);
+    sounds.Play(next);
+    EXPECT_TRUE(IsHeard());
+    sounds.Play(spoiled);
+    EXPECT_FALSE(Mix_Playing(0));
+}
+
+TEST_F(QtSoundsTest, ABrokenWaveCutsOffTheOldOneAndIsSilent) {
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    const Wave old_one{"WaveKey1", SilentWave(20 * 44100)};
+    const Wave broken[] = {
+        {"a rate too low", SilentWave(1000, {.rate = 7999})},
+        {"floating point", SilentWave(1000, {.coding = 3, .bits = 32})},
+        {"over 30 s", SilentWave(31 * 8000, {.rate = 8000})},
+        {"no samples", SilentWave(0)},
+        {"no wave", "broken"},
+        {"empty", ""},
+    };
+    QtSounds sounds;
+    for (const Wave& wave : broken) {
+        sounds.Play(old_one);
+        ASSERT_TRUE(IsHeard()) << "before " << wave.name;
+        sounds.Play(wave);
+        EXPECT_FALSE(Mix_Playing(0)) << wave.name;
+    }
+}
+
+TEST_F(QtSoundsTest, MusicUnderTheNameOfAWaveReachesNoDecoder) {
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    QtSounds sounds;
+    const Wave wave{"WaveKey1", SilentWave(20 * 44100)};
+    sounds.Play(wave);
+    ASSERT_TRUE(IsHeard());
+    for (const char* head : {"OggS", "fLaC", "MThd", "ID3\x03", "IMPM"}) {
+        const Wave music{head, head + std::string(100, '\0')};
+        sounds.Play(music);
+    }
+    EXPECT_EQ(Mix_Init(0), 0) << "the decoders that are loaded";
 }
 }  // namespace
