@@ -73,10 +73,7 @@ void QtSounds::PlayNow(const Wave* wave, const std::string& bytes) {
         loaded.bytes = bytes;
         loaded.chunk = LoadWave(bytes);
     }
-    if (loaded.chunk)
-        Mix_PlayChannel(0, loaded.chunk, 0);
-    else
-        Mix_HaltChannel(0);  // a broken wave cuts the old one off too
+    if (!loaded.chunk || Mix_PlayChannel(0, loaded.chunk, 0) < 0) Mix_HaltChannel(0);  // broken or too short, it cuts the old one off too
 }
 
 void QtSounds::Beep() {

@@ -94,6 +94,7 @@ TEST_F(QtSoundsTest, ABrokenWaveCutsOffTheOldOneAndIsSilent) {
         {"floating point", SilentWave(1000, {.coding = 3, .bits = 32})},
         {"over 30 s", SilentWave(31 * 8000, {.rate = 8000})},
         {"no samples", SilentWave(0)},
+        {"too short for the device", SilentWave(1, {.rate = 192000})},
         {"no wave", "broken"},
         {"empty", ""},
     };
