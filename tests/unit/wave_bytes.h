@@ -1,4 +1,4 @@
-// Wave files for tests: whole and odd.
+// Wave files for tests: whole, odd, and spoiled.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -18,3 +18,6 @@ std::string FormatChunk(const WaveFormat& format);
 std::string LongFormatChunk(const WaveFormat& format);  // the coding stands behind the rest
 std::string WaveOf(std::string_view chunks);
 std::string SilentWave(std::uint32_t frames, const WaveFormat& format = {});
+
+// With one to three faults, most of them in the first 44 bytes; the same seed spoils in the same way.
+std::string SpoiledWave(std::string wave, unsigned seed);
