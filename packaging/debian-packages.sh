@@ -32,7 +32,7 @@ for_test=(
 )
 for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)
 for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)
-for_fuzz=(clang libclang-rt-dev libgtest-dev)
+for_fuzz=(clang libclang-rt-dev libgtest-dev libsdl2-mixer-dev)
 for_format=(clang-format)
 for_lint=(clang clang-tidy cppcheck)
 
