@@ -62,10 +62,20 @@ protected:
         disk_.Finish();
         return files_.bytes.count(path) > 0;
     }
-    std::string CountIn(const std::string& path) {
+    std::string CountIn(const std::string& path, int slot = 1) {
         disk_.Finish();
-        const std::string line = FileLine(path, 3);
+        const std::string line = FileLine(path, 2 + static_cast<std::size_t>(slot));
         return line.substr(line.rfind(',') + 1);
+    }
+    // From a sheet that has nothing of it, as in the next session.
+    void OpenCopy() {
+        disk_.Finish();
+        const std::string copy = files_.bytes[kRescue];
+        AnswerNext(Answer::Yes);
+        NewSheet();
+        files_.bytes[kRescue] = copy;
+        AnswerDialog(kRescue);
+        OpenSheet();
     }
     // What a session of yesterday has left.
     void LeaveCopy(const std::string& path, const std::string& time = "13/11/2026_(09:08:07)") {
@@ -87,12 +97,7 @@ TEST_F(RescueTest, ItHoldsTheSheetAsItStandsAndOpens) {
     rescue_.KeepNow();
     EXPECT_EQ(CountIn(kRescue), "3");
     EXPECT_TRUE(FileLine(kRescue, 1).starts_with("\"\",\"Backed up (dd/mm/yyyy):\",\"14/11/2026_(10:11:12)\""));
-    const std::string copy = files_.bytes[kRescue];
-    AnswerNext(Answer::Yes);
-    NewSheet();
-    files_.bytes[kRescue] = copy;
-    AnswerDialog(kRescue);
-    OpenSheet();
+    OpenCopy();
     EXPECT_EQ(Counts[1][1], 3);
     EXPECT_EQ(SampleNotes[1], "a note");
 }
@@ -283,15 +288,23 @@ TEST_F(RescueTest, AFileThatIsSavedOverItIsTheUsers) {
     EXPECT_FALSE(IsThere(kSecond));
 }
 
-TEST_F(RescueTest, ACountThatNoFileHoldsIsTriedAgain) {
+TEST_F(RescueTest, ACountThatNoFileHoldsLeavesTheOneBeforeAndCostsNoOther) {
     Begin("10");
-    KeyNumber(1);
-    PutInCell(2, "3000000000");
-    rescue_.KeepNow();
-    EXPECT_EQ(tries_, 1);
-    PutInCell(2, "3");
-    rescue_.KeepNow();
-    EXPECT_TRUE(IsThere(kRescue));
+    KeyNumber(1, 2);
+    KeyNumber(2, 3);
+    for (const char* beyond : {"2147483648", "-2147483649", "1e300"}) {
+        PutInCell(2, beyond);
+        PutInCell(3, "7");
+        frmMain.Text4.SetText(beyond);
+        rescue_.KeepNow();
+        EXPECT_EQ(CountIn(kRescue, 1), "2") << beyond;
+        EXPECT_EQ(CountIn(kRescue, 2), "3") << beyond;
+        EXPECT_EQ(CountIn(kRescue, 3), "7") << beyond;
+    }
+    EXPECT_EQ(tries_, 0);
+    OpenCopy();
+    EXPECT_EQ(AllTotal, 12);
+    EXPECT_EQ(SampleNotes[1], "1e300") << "it was read to its end";
 }
 
 TEST_F(RescueTest, TheStartFaceTellsWhatAnEarlierSessionLeft) {
