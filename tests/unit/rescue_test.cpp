@@ -5,6 +5,7 @@
 #include "files/new_sheet.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
+#include "platform/user.h"
 #include "session/leaving.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
@@ -305,6 +306,31 @@ TEST_F(RescueTest, ACountThatNoFileHoldsLeavesTheOneBeforeAndCostsNoOther) {
     OpenCopy();
     EXPECT_EQ(AllTotal, 12);
     EXPECT_EQ(SampleNotes[1], "1e300") << "it was read to its end";
+}
+
+TEST_F(RescueTest, ASampleOfMoreGrainsThanASaveTakesIsInTheCopyAndOpens) {
+    Begin("10");
+    for (const int slot : {1, 2}) PutInCell(slot, "32760");
+    KeyNumber(1, 8);
+    RunEvent([] { SaveSheet(kSaveAs); });
+    EXPECT_EQ(services_.host.failure, "Overflow");
+    rescue_.KeepNow();
+    OpenCopy();
+    EXPECT_EQ(Counts[1][1], 32768);
+    EXPECT_EQ(Counts[2][1], 32760);
+    EXPECT_EQ(frmMain.Text3[0].Text(), "65528");
+}
+
+TEST_F(RescueTest, TheKeyThatFillsTheHistoryIsInTheCopy) {
+    Begin("10");
+    HistoryCount = 32760;
+    KeyNumber(1, 7);
+    EXPECT_EQ(services_.host.failure, "");
+    RunEvent([this] { KeyNumber(2); });
+    EXPECT_EQ(services_.host.failure, "Overflow");
+    rescue_.KeepNow();
+    EXPECT_EQ(CountIn(kRescue, 1), "7");
+    EXPECT_EQ(CountIn(kRescue, 2), "1");
 }
 
 TEST_F(RescueTest, TheStartFaceTellsWhatAnEarlierSessionLeft) {
