@@ -43,13 +43,14 @@ int Complain(const std::string& sentence) {
     return drive::kScriptWrong;
 }
 
-// An installed driver has the installed tree beside it, any other that of its build.
+// Beside the folder of the driver, whether that is installed or lies where it was built.
 fs::path InstallationTree(const char* program) {
     std::error_code ignored;
     fs::path driver = fs::canonical("/proc/self/exe", ignored);
     if (driver.empty()) driver = fs::absolute(program, ignored);
-    const fs::path installed = driver.parent_path().parent_path() / "share" / "marlbrook";
-    return fs::is_directory(installed, ignored) ? installed : fs::path(MARLBROOK_TREE);
+    const fs::path above = driver.parent_path().parent_path();
+    const fs::path installed = above / "share" / "marlbrook";
+    return fs::is_directory(installed, ignored) ? installed : above / "tree";
 }
 
 drive::RunOptions OptionsFor(const Arguments& arguments, const char* program) {
