@@ -8,6 +8,7 @@
 #include "platform/headless/files.h"
 #include "platform/headless/headless_hands.h"
 #ifdef MARLBROOK_WITH_WINDOWS
+#include "platform/qt/open_files.h"
 #include "platform/qt/qt_hands.h"
 #endif
 
@@ -85,6 +86,7 @@ int main(int argc, char** argv) {
     drive::MakeHands make_hands = [](auto has_ended) { return std::make_unique<HeadlessHands>(has_ended); };
     if (arguments.windows) {
 #ifdef MARLBROOK_WITH_WINDOWS
+        if (const std::string lack = LackOfOpenFiles(); !lack.empty()) return Complain("--windows: " + lack);
         make_hands = [&](auto has_ended) { return MakeQtHands(argc, argv, has_ended); };
 #else
         return Complain("--windows: this driver was built without the windows (Qt 6 was not found)");
