@@ -32,7 +32,7 @@ WEIGHT = {
     "So get a back-up out before you go on counting.", "No sound, no back-up.", "After a save that failed, closing may not ask again", "Grains since the last alarm",
     "A sample above 32767 grains cannot be saved.", "A held key goes on counting", "Alt and the underlined letter of a menu opens it",
     "on a Dvorak keyboard", "no back-ups", "Your sheets lie where you save them.", "This is not the usual incremental sum of squares.",
-    "A back-up", "A template", "A percentage table", "all columns as text",
+    "A back-up", "A template", "A percentage table", "all columns as text", "One program at a time writes a sheet.",
 }
 
 
