@@ -8,6 +8,7 @@
 #include "platform/headless/files.h"
 #include "platform/headless/headless_hands.h"
 #ifdef MARLBROOK_WITH_WINDOWS
+#include "platform/qt/open_files.h"
 #include "platform/qt/qt_hands.h"
 #endif
 
@@ -43,13 +44,14 @@ int Complain(const std::string& sentence) {
     return drive::kScriptWrong;
 }
 
-// An installed driver has the installed tree beside it, any other that of its build.
+// Beside the folder of the driver, whether that is installed or lies where it was built.
 fs::path InstallationTree(const char* program) {
     std::error_code ignored;
     fs::path driver = fs::canonical("/proc/self/exe", ignored);
     if (driver.empty()) driver = fs::absolute(program, ignored);
-    const fs::path installed = driver.parent_path().parent_path() / "share" / "marlbrook";
-    return fs::is_directory(installed, ignored) ? installed : fs::path(MARLBROOK_TREE);
+    const fs::path above = driver.parent_path().parent_path();
+    const fs::path installed = above / "share" / "marlbrook";
+    return fs::is_directory(installed, ignored) ? installed : above / "tree";
 }
 
 drive::RunOptions OptionsFor(const Arguments& arguments, const char* program) {
@@ -84,6 +86,7 @@ int main(int argc, char** argv) {
     drive::MakeHands make_hands = [](auto has_ended) { return std::make_unique<HeadlessHands>(has_ended); };
     if (arguments.windows) {
 #ifdef MARLBROOK_WITH_WINDOWS
+        if (const std::string lack = LackOfOpenFiles(); !lack.empty()) return Complain("--windows: " + lack);
         make_hands = [&](auto has_ended) { return MakeQtHands(argc, argv, has_ended); };
 #else
         return Complain("--windows: this driver was built without the windows (Qt 6 was not found)");

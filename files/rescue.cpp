@@ -65,7 +65,8 @@ public:
     void Replace(std::string_view all) override { bytes = all; }
 };
 
-// The bytes of a back-up. Nothing of what it fills in stays.
+// The bytes of a back-up. Nothing of what it fills in stays. One cell that no file can hold must not cost all the others: the count that
+// the sheet had before stands there, as where such a count is typed.
 std::string BytesOfCopy() {
     const Untouched header(SheetHeader);
     const Untouched samples(SampleTable);
@@ -74,7 +75,7 @@ std::string BytesOfCopy() {
     const Untouched values(ParamValues);
     const Untouched notes(SampleNotes);
     Gathered file;
-    StoreShownSample();
+    StoreWhatFitsOfShownSample();
     WriteBackUp(file);
     return file.bytes;
 }
@@ -160,7 +161,7 @@ void Rescue::Keep() {
             kept_.clear();
             try_again_();
         });
-    } catch (const Failure&) {  // a number on the screen that no file can hold, or no name that is free
+    } catch (const Failure&) {  // no name is free
         try_again_();
     }
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "files/format/sheet_rows.h"
+#include "platform/number.h"
 #include "session/history.h"
 #include "session/pad_cells.h"
 #include "session/sample_on_show.h"
@@ -45,6 +46,16 @@ void ShowRow(int row, const GridRead& read) {
         ShowNoCounts(slot);
     frmMain.ChangingSample = false;
 }
+
+void CopyCellsThatFit() {
+    for (int slot = 1; slot <= kSlots; ++slot)
+        if (const double count = ShownCount(slot); Fits<std::int32_t>(count)) Counts[slot][CurrentSample] = ToInt32(count);
+}
+
+void StoreNameAndCells(void (*copy_cells)()) {
+    SampleTable[kSampleName][CurrentSample] = frmMain.SampleList.Text();
+    if (frmMain.KeysEnabled) copy_cells();  // else they show percentages, and no key has counted since they do
+}
 }  // namespace
 
 void ShowSheet(const GridRead& read) {
@@ -61,8 +72,11 @@ void ShowSheet(const GridRead& read) {
 }
 
 void StoreShownSample() {
-    SampleTable[kSampleName][CurrentSample] = frmMain.SampleList.Text();
-    if (frmMain.KeysEnabled) CopyCellsToCounts();  // else they show percentages, and no key has counted since they do
+    StoreNameAndCells(CopyCellsToCounts);
+}
+
+void StoreWhatFitsOfShownSample() {
+    StoreNameAndCells(CopyCellsThatFit);
 }
 
 void StoreParamNames() {

@@ -17,8 +17,10 @@ void ShowNewSampleName(const std::string& name);    // box and list take it up, 
 void ShowNote(int sample);
 void ShowParam(int p, const std::string& name, const std::string& value);  // the label sees to it that the name ends in one colon
 
-void StoreShownSample();  // the name and the counts on the screen go into the arrays, as the column of CurrentSample
-void StoreParamNames();   // ParamHeader takes the captions on the screen
+// The name and the counts on the screen go into the arrays, as the column of CurrentSample.
+void StoreShownSample();            // raises "Overflow" for a count past 32 bits
+void StoreWhatFitsOfShownSample();  // leaves such a count as the arrays have it
+void StoreParamNames();             // ParamHeader takes the captions on the screen
 
 // Takes note, names and values of the Additional info from a window's boxes into the sheet, as those of `sample`, and shows them in
 // the main window. An empty value becomes "---".

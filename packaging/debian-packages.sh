@@ -28,7 +28,7 @@ for_test=(
     dbus at-spi2-core python3-pyatspi                                  # what a screen reader finds
     libxtst-dev                                                        # keys for the benchmark of the window
     imagemagick xclip
-    dpkg-dev file debootstrap lintian desktop-file-utils appstream  # packages made, looked over and installed in a clean root
+    dpkg-dev file debootstrap lintian devscripts desktop-file-utils appstream  # packages made, looked over and installed in a clean root
 )
 for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)
 for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)

@@ -40,6 +40,16 @@ TEST_F(KeyDispatchTest, AKeyThatIsHeldCountsAtEveryRepeat) {
     EXPECT_EQ(Counts[1][1], 4);
 }
 
+TEST_F(KeyDispatchTest, OfTwoKeysThatAreDownAtOnceEachCounts) {
+    PressKey(CodeOf(1));
+    PressKey(CodeOf(2));
+    ReleaseKey(CodeOf(1));
+    PressKey(CodeOf(3));
+    ReleaseKey(CodeOf(2));
+    ReleaseKey(CodeOf(3));
+    for (int slot = 1; slot <= 4; ++slot) EXPECT_EQ(Counts[slot][1], slot <= 3 ? 1 : 0) << "slot " << slot;
+}
+
 TEST_F(KeyDispatchTest, AKeyThatTheSettingsDoNotKnowDoesNothing) {
     KeyNumber(1);
     Played();

@@ -5,6 +5,7 @@
 #include "files/new_sheet.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
+#include "platform/user.h"
 #include "session/leaving.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
@@ -62,10 +63,20 @@ protected:
         disk_.Finish();
         return files_.bytes.count(path) > 0;
     }
-    std::string CountIn(const std::string& path) {
+    std::string CountIn(const std::string& path, int slot = 1) {
         disk_.Finish();
-        const std::string line = FileLine(path, 3);
+        const std::string line = FileLine(path, 2 + static_cast<std::size_t>(slot));
         return line.substr(line.rfind(',') + 1);
+    }
+    // From a sheet that has nothing of it, as in the next session.
+    void OpenCopy() {
+        disk_.Finish();
+        const std::string copy = files_.bytes[kRescue];
+        AnswerNext(Answer::Yes);
+        NewSheet();
+        files_.bytes[kRescue] = copy;
+        AnswerDialog(kRescue);
+        OpenSheet();
     }
     // What a session of yesterday has left.
     void LeaveCopy(const std::string& path, const std::string& time = "13/11/2026_(09:08:07)") {
@@ -87,12 +98,7 @@ TEST_F(RescueTest, ItHoldsTheSheetAsItStandsAndOpens) {
     rescue_.KeepNow();
     EXPECT_EQ(CountIn(kRescue), "3");
     EXPECT_TRUE(FileLine(kRescue, 1).starts_with("\"\",\"Backed up (dd/mm/yyyy):\",\"14/11/2026_(10:11:12)\""));
-    const std::string copy = files_.bytes[kRescue];
-    AnswerNext(Answer::Yes);
-    NewSheet();
-    files_.bytes[kRescue] = copy;
-    AnswerDialog(kRescue);
-    OpenSheet();
+    OpenCopy();
     EXPECT_EQ(Counts[1][1], 3);
     EXPECT_EQ(SampleNotes[1], "a note");
 }
@@ -283,15 +289,48 @@ TEST_F(RescueTest, AFileThatIsSavedOverItIsTheUsers) {
     EXPECT_FALSE(IsThere(kSecond));
 }
 
-TEST_F(RescueTest, ACountThatNoFileHoldsIsTriedAgain) {
+TEST_F(RescueTest, ACountThatNoFileHoldsLeavesTheOneBeforeAndCostsNoOther) {
     Begin("10");
-    KeyNumber(1);
-    PutInCell(2, "3000000000");
+    KeyNumber(1, 2);
+    KeyNumber(2, 3);
+    for (const char* beyond : {"2147483648", "-2147483649", "1e300"}) {
+        PutInCell(2, beyond);
+        PutInCell(3, "7");
+        frmMain.Text4.SetText(beyond);
+        rescue_.KeepNow();
+        EXPECT_EQ(CountIn(kRescue, 1), "2") << beyond;
+        EXPECT_EQ(CountIn(kRescue, 2), "3") << beyond;
+        EXPECT_EQ(CountIn(kRescue, 3), "7") << beyond;
+    }
+    EXPECT_EQ(tries_, 0);
+    OpenCopy();
+    EXPECT_EQ(AllTotal, 12);
+    EXPECT_EQ(SampleNotes[1], "1e300") << "it was read to its end";
+}
+
+TEST_F(RescueTest, ASampleOfMoreGrainsThanASaveTakesIsInTheCopyAndOpens) {
+    Begin("10");
+    for (const int slot : {1, 2}) PutInCell(slot, "32760");
+    KeyNumber(1, 8);
+    RunEvent([] { SaveSheet(kSaveAs); });
+    EXPECT_EQ(services_.host.failure, "Overflow");
     rescue_.KeepNow();
-    EXPECT_EQ(tries_, 1);
-    PutInCell(2, "3");
+    OpenCopy();
+    EXPECT_EQ(Counts[1][1], 32768);
+    EXPECT_EQ(Counts[2][1], 32760);
+    EXPECT_EQ(frmMain.Text3[0].Text(), "65528");
+}
+
+TEST_F(RescueTest, TheKeyThatFillsTheHistoryIsInTheCopy) {
+    Begin("10");
+    HistoryCount = 32760;
+    KeyNumber(1, 7);
+    EXPECT_EQ(services_.host.failure, "");
+    RunEvent([this] { KeyNumber(2); });
+    EXPECT_EQ(services_.host.failure, "Overflow");
     rescue_.KeepNow();
-    EXPECT_TRUE(IsThere(kRescue));
+    EXPECT_EQ(CountIn(kRescue, 1), "7");
+    EXPECT_EQ(CountIn(kRescue, 2), "1");
 }
 
 TEST_F(RescueTest, TheStartFaceTellsWhatAnEarlierSessionLeft) {

@@ -1,4 +1,5 @@
 // A held key belongs to the window it was pressed in. Key events come to the window of the screen, as the desktop sends them.
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
@@ -6,6 +7,7 @@
 #include <QTimer>
 
 #include "keys/first_run.h"
+#include "platform/qt/box_views.h"
 #include "platform/qt/key_filter.h"
 #include "platform/qt/menu_view.h"
 #include "platform/qt/qt_dialogs.h"
@@ -115,6 +117,20 @@ TEST_F(HeldKeysTest, AKeyOnItsWayToAClosedMenuCounts) {
     EXPECT_EQ(Counts[1][1], 2);
 }
 
+TEST_F(HeldKeysTest, AKeyOverAnOpenListClosesItAndCounts) {
+    BeginCounting();
+    for (const ComboBox* box : {&frmMain.Combo1, &frmMain.Combo2}) {
+        ComboList& list = dynamic_cast<ComboBoxView&>(Shown(*box)).OpenList();
+        const int before = Counts[1][1];
+        ASSERT_TRUE(list.isVisible()) << box->name;
+        PressQ(list);
+        EXPECT_FALSE(list.isVisible()) << box->name;
+        PressQ(frmMain, true);
+        ReleaseQ(frmMain);
+        EXPECT_EQ(Counts[1][1], before + 2) << box->name;
+    }
+}
+
 TEST_F(HeldKeysTest, AKeyThatWasPressedInAnotherProgramReachesNobody) {
     BeginCounting();
     PressQ(frmMain, true);
@@ -179,6 +195,33 @@ QString HeldKeysTest::WordOfEnter(const Message& message) {
     });
     QtMessageBoxes(renderer_).Show(message);
     return word.remove('&');
+}
+
+// What was on its way to the counter when the message came up: letters, repeats, anything in its first moment.
+TEST_F(HeldKeysTest, KeysOfOneWhoTypesOnAnswerNoMessage) {
+    constexpr int kDeafMs = 250;
+    const auto send = [](QWidget& box, Qt::Key key, const char* text, bool repeats) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text, repeats);
+        QApplication::sendEvent(box.windowHandle(), &event);
+    };
+    bool is_answered_by_them = false;
+    QTimer typing;
+    typing.callOnTimeout([&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        send(*box, Qt::Key_Y, "y", false);
+        is_answered_by_them |= box->button(QMessageBox::Yes)->isDown();
+        send(*box, Qt::Key_Return, "\r", true);
+        is_answered_by_them |= !box->isVisible();
+        send(*box, Qt::Key_Return, "\r", false);
+    });
+    typing.start(0);
+    QElapsedTimer up;
+    up.start();
+    const Answer answer = QtMessageBoxes(renderer_).Show({"Caution!", "Do you proceed?", Icon::None, Buttons::YesNo, true});
+    EXPECT_GE(up.elapsed(), kDeafMs) << "Enter has answered too early";
+    EXPECT_FALSE(is_answered_by_them);
+    EXPECT_EQ(answer, Answer::No);
 }
 
 TEST_F(HeldKeysTest, EnterAnswersNoWhereYesLosesWork) {

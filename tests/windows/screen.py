@@ -31,6 +31,7 @@ class Screen:
         frame(window)           the width of its frame at the left, right, top and bottom; () before it has one
         put(window, ...)        asks for this left, top, width, height of its inside
         maximise(window, on)    asks for that
+        minimise(window)        likewise
     """
 
     def __init__(self):

@@ -11,6 +11,7 @@ from spoken import wait_for
 OPENBOX = pathlib.Path(__file__).with_name("openbox.xml")
 RUNNING = "running"  # name of the root window once the manager is up
 PAGER = 2            # who asks the manager
+ICONIC = 3           # the state of a minimised window
 
 
 class X11Desk(Screen):
@@ -98,6 +99,9 @@ class X11Desk(Screen):
     def maximise(self, window, on):
         sides = [self.display.intern_atom(f"_NET_WM_STATE_MAXIMIZED_{side}") for side in ("HORZ", "VERT")]
         self._ask_manager(window, "_NET_WM_STATE", int(on), *sides, PAGER)
+
+    def minimise(self, window):
+        self._ask_manager(window, "WM_CHANGE_STATE", ICONIC)
 
     def frame(self, window):
         return tuple(self._property(self._window(window), "_NET_FRAME_EXTENTS") or ())

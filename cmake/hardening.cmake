@@ -1,0 +1,27 @@
+# What compiler and linker have against a fault of memory, for the build that users get: the program then ends at once, with a copy of the
+# sheet on the disk, in place of counting on with what is spoiled. What a compiler does not know is left out.
+include(CheckCXXCompilerFlag)
+include(CheckCXXSourceCompiles)
+include(CheckLinkerFlag)
+
+foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard -fPIE)
+  string(MAKE_C_IDENTIFIER "COMPILER_HAS${flag}" has)
+  check_cxx_compiler_flag(${flag} ${has})
+  if(${has})
+    add_compile_options(${flag})
+  endif()
+endforeach()
+
+foreach(flag -pie -Wl,-z,relro -Wl,-z,now)
+  string(MAKE_C_IDENTIFIER "LINKER_HAS${flag}" has)
+  check_linker_flag(CXX ${flag} ${has})
+  if(${has})
+    add_link_options(${flag})
+  endif()
+endforeach()
+
+# The bounds of what the library copies and prints: at level 3 as far as they are known at run time. An older library warns of that level.
+set(CMAKE_REQUIRED_FLAGS "-O2 -Werror -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3")
+check_cxx_source_compiles("#include <cstring>\nint main() {}" LIBRARY_HAS_FORTIFY_3)
+unset(CMAKE_REQUIRED_FLAGS)
+add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=$<IF:$<BOOL:${LIBRARY_HAS_FORTIFY_3}>,3,2>)
