@@ -6,7 +6,7 @@
 
 #include "platform/qt/box_views.h"
 #include "platform/qt/look.h"
-#include "platform/qt/text_editors.h"
+#include "platform/qt/shown_text.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "platform/user.h"

@@ -6,18 +6,10 @@
 #include <QPlainTextEdit>
 #include <QString>
 #include <QWidget>
-#include <string>
 
 #include "platform/controls.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/fitted_text.h"
-
-// Texts and carets between the program and the widgets. The program counts characters and breaks lines with CR LF, two characters;
-// a widget counts UTF-16 units and breaks lines with one LF.
-QString Shown(const std::string& text);                // a program's text as a widget holds it
-std::string Unshown(const QString& shown);             // and back
-int CharactersBefore(const QString& shown, int unit);  // the program's count of what stands before a widget's place
-int UnitAfter(const QString& shown, int characters);   // the widget's place behind so many of the program's characters
 
 // The user has changed the text: the program hears it as a whole, with the caret (in units of `shown`). The view shows what became of it.
 void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret);
