@@ -3,15 +3,18 @@
 #include <algorithm>
 
 #include "platform/qt/look.h"
+#include "platform/text.h"
 
 namespace {
+constexpr QChar kDots = u'\u2026';
+
 int CharactersOf(QChar unit) {
     if (unit == u'\n') return 2;
     return unit.isLowSurrogate() ? 0 : 1;
 }
 }  // namespace
 
-QString Shown(const std::string& text) {
+QString Shown(std::string_view text) {
     return ToQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
 }
 
@@ -29,4 +32,20 @@ int UnitAfter(const QString& shown, int characters) {
     int unit = 0;
     while (unit < shown.size() && (characters > 0 || shown[unit].isLowSurrogate())) characters -= CharactersOf(shown[unit++]);
     return unit;
+}
+
+std::string_view Head(std::string_view text, std::size_t most) {
+    const std::size_t end = text.size() <= most ? text.size() : ByteOffset(text, most);
+    const bool parts_break = end < text.size() && text[end - 1] == '\r' && text[end] == '\n';
+    return text.substr(0, parts_break ? end + 1 : end);
+}
+
+QString Brief(std::string_view text, std::size_t most) {
+    const std::string_view head = Head(text, most);
+    return head.size() < text.size() ? ToQt(head) + kDots : ToQt(text);
+}
+
+QString BriefLines(std::string_view text, std::size_t most) {
+    const std::string_view head = Head(text, most);
+    return head.size() < text.size() ? Shown(head) + kDots : Shown(text);
 }

@@ -55,7 +55,8 @@ void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, c
     const Qt::Alignment across = box.IsCentred() ? Qt::AlignHCenter : Qt::AlignLeft;
     const Qt::Alignment down = one_line ? Qt::AlignVCenter : Qt::AlignTop;
     const int above = one_line ? 1 : margin;
-    fitted.Paint(painter, room.adjusted(margin, above, -margin, -above), Shown(box.Text()), font, across | down, most_lines);
+    const QString words = BriefLines(box.Text(), one_line ? kMostOfCaption : kMostAtRest);
+    fitted.Paint(painter, room.adjusted(margin, above, -margin, -above), words, font, across | down, most_lines);
 }
 
 void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus) {

@@ -19,7 +19,7 @@ int BoxMargin(double factor);  // pixels left and right of the text
 void PrepareEditor(QWidget& editor, const TextHolder& box);
 QPalette EditorPalette(const TextHolder& box);
 
-// A box that does not hold the keyboard shows its whole text.
+// A box that does not hold the keyboard shows all of its text that goes in.
 void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
                  int most_lines);
 void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus);
