@@ -34,6 +34,7 @@ private:
         editor_->Sync(Font(), Factor());
         MouseWidget()->update();
     }
+    QString Tip() const override { return TipOf(box_, editor_->Held()); }
     bool PassesMouse() const override { return HoldsFocus(box_); }
     bool UseKey(QKeyEvent& key) override {
         QCoreApplication::sendEvent(editor_, &key);

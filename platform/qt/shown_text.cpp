@@ -1,13 +1,12 @@
 #include "platform/qt/shown_text.h"
 
+#include <QLocale>
 #include <algorithm>
 
 #include "platform/qt/look.h"
 #include "platform/text.h"
 
 namespace {
-constexpr QChar kDots = u'\u2026';
-
 int CharactersOf(QChar unit) {
     if (unit == u'\n') return 2;
     return unit.isLowSurrogate() ? 0 : 1;
@@ -48,4 +47,43 @@ QString Brief(std::string_view text, std::size_t most) {
 QString BriefLines(std::string_view text, std::size_t most) {
     const std::string_view head = Head(text, most);
     return head.size() < text.size() ? Shown(head) + kDots : Shown(text);
+}
+
+std::size_t MostOf(const TextHolder& box) {
+    return box.BreaksLines() ? kMostOfArea : kMostOfLine;
+}
+
+// The program may have made the text shorter than the rest was.
+std::string_view EditedHead::Own() const {
+    const std::string_view text = box_.Text();
+    return text.substr(0, text.size() - std::min(rest_, text.size()));
+}
+
+std::string_view EditedHead::Rest() const {
+    return std::string_view(box_.Text()).substr(Own().size());
+}
+
+QString EditedHead::Text() const {
+    return Shown(Own());
+}
+
+// While the user edits the head, the rest behind it stays the same; any other change of the text is the program's.
+QString EditedHead::Follow(const QString& held) {
+    const std::size_t most = MostOf(box_), length = Length(Own());
+    const bool has_its_length = length <= 2 * most && (IsAll() || length >= most / 2);
+    const bool parts_break = Own().ends_with('\r') && Rest().starts_with('\n');
+    if (has_its_length && !parts_break && Text() == held) return held;
+    rest_ = box_.Text().size() - Head(box_.Text(), most).size();
+    return Text();
+}
+
+std::string EditedHead::Whole(const QString& edited) const {
+    return Unshown(edited).append(Rest());
+}
+
+QString EditedHead::WordsOnRest() const {
+    if (IsAll()) return {};
+    const auto characters = static_cast<qlonglong>(Length(Rest()));
+    const QString number = QLocale(QLocale::English).toString(characters);
+    return QStringLiteral("There is more, not shown here: %1 %2").arg(number, characters == 1 ? "character" : "characters");
 }
