@@ -6,8 +6,10 @@
 #include <QPlainTextEdit>
 #include <algorithm>
 
+#include "platform/qt/qt_hands.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
+#include "unit/shared_state.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -206,5 +208,39 @@ TEST_F(EditedHeadTest, ANumberThatIsNotShownToItsEndIsNoneForAReader) {
     EXPECT_TRUE(Found(frmMain.Text1[3])->valueInterface());
     Do([] { frmMain.Text1[3].SetText(std::string(kMostOfName, '0') + "7"); });
     EXPECT_FALSE(Found(frmMain.Text1[3])->valueInterface());
+}
+
+// The hands of a script bring an application of their own.
+class ScriptedHandsTest : public testing::Test {
+protected:
+    ~ScriptedHandsTest() override {
+        for (Window* window : AllWindows()) window->Unload();
+    }
+
+    char name_[5] = "test";
+    char* arguments_[1] = {name_};
+    int count_ = 1;
+    HeadlessServices services_{"/program"};
+    MemoryFiles files_;
+};
+
+TEST_F(ScriptedHandsTest, ATextThatNoEditorHoldsArrivesWhole) {
+    WipeSharedState();
+    ::services.files = &files_;
+    files_.LayDownProgram("/program");
+    const auto hands = MakeQtHands(count_, arguments_, [] { return false; });
+    hands->Start();
+    hands->Close(frmNext);
+    hands->Click(frmMain.Command3[0]);  // Modify mode
+    hands->SetBox(frmMain.Text4, Letters(kMost + 10));
+    EXPECT_TRUE(frmMain.Text4.Text() == Letters(kMost + 10));
+    EXPECT_EQ(frmMain.Text4.SelStart(), kMost + 10);
+    hands->Paste("b");
+    EXPECT_TRUE(frmMain.Text4.Text() == Letters(kMost + 10) + "b");
+    hands->SetBox(frmMain.Text4, "short");
+    EXPECT_EQ(frmMain.Text4.Text(), "short");
+    hands->SetBox(frmMain.Text1[3], Letters(kMostOfName * 40));
+    EXPECT_TRUE(frmMain.Text1[3].Text() == Letters(kMostOfName * 40));
+    hands->Click(frmMain.Command3[1]);
 }
 }  // namespace
