@@ -1,7 +1,9 @@
 #include "platform/qt/shown_text.h"
 
 #include <QLocale>
+#include <QTextBoundaryFinder>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/look.h"
 #include "platform/text.h"
@@ -53,6 +55,24 @@ std::size_t MostOf(const TextHolder& box) {
     return box.BreaksLines() ? kMostOfArea : kMostOfLine;
 }
 
+namespace {
+constexpr qsizetype kMostOnALetter = 100;  // units: marks, or signs joined to one
+
+bool HoldsLongerCharacter(const QString& text) {
+    QTextBoundaryFinder places(QTextBoundaryFinder::Grapheme, text);
+    for (qsizetype start = 0, end = places.toNextBoundary(); end >= 0; start = std::exchange(end, places.toNextBoundary()))
+        if (end - start > kMostOnALetter) return true;
+    return false;
+}
+}  // namespace
+
+EditedHead::EditedHead(const TextHolder& box) : box_(box), most_(MostOf(box)) {}
+
+void EditedHead::Cut(std::size_t most) {
+    most_ = most;
+    rest_ = box_.Text().size() - Head(box_.Text(), most).size();
+}
+
 // The program may have made the text shorter than the rest was.
 std::string_view EditedHead::Own() const {
     const std::string_view text = box_.Text();
@@ -67,13 +87,15 @@ QString EditedHead::Text() const {
     return Shown(Own());
 }
 
-// While the user edits the head, the rest behind it stays the same; any other change of the text is the program's.
+// While the user edits the head, the rest behind it stays the same; any other change of the text is the program's. Laying out thousands of
+// marks on one letter takes a time that grows with the square of their number.
 QString EditedHead::Follow(const QString& held) {
-    const std::size_t most = MostOf(box_), length = Length(Own());
-    const bool has_its_length = length <= 2 * most && (IsAll() || length >= most / 2);
+    const std::size_t length = Length(Own());
+    const bool has_its_length = length <= 2 * most_ && (IsAll() || length >= most_ / 2);
     const bool parts_break = Own().ends_with('\r') && Rest().starts_with('\n');
     if (has_its_length && !parts_break && Text() == held) return held;
-    rest_ = box_.Text().size() - Head(box_.Text(), most).size();
+    Cut(MostOf(box_));
+    if (most_ > kMostOfLine && HoldsLongerCharacter(Text())) Cut(kMostOfLine);
     return Text();
 }
 

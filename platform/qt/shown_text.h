@@ -30,7 +30,7 @@ QString BriefLines(std::string_view text, std::size_t most);              // the
 // twice its length or shrink to half of it, so that the text stays in place under the user's hands; then it is cut anew.
 class EditedHead {
 public:
-    explicit EditedHead(const TextHolder& box) : box_(box) {}
+    explicit EditedHead(const TextHolder& box);
 
     QString Text() const;                            // as a widget holds it
     QString Follow(const QString& held);             // the same, after the box's text may have changed; `held`: what the editor still holds
@@ -39,10 +39,12 @@ public:
     QString WordsOnRest() const;  // that there is more, and how much; empty if there is not
 
 private:
+    void Cut(std::size_t most);
     std::string_view Own() const;
     std::string_view Rest() const;
 
     const TextHolder& box_;
+    std::size_t most_;      // characters, when it was cut
     std::size_t rest_ = 0;  // bytes of the text behind the head
 };
 

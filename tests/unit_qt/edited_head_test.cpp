@@ -137,6 +137,18 @@ TEST_F(EditedHeadTest, APasteThatMakesItLongerIsKeptWholeAndTheHeadIsCutAnew) {
     EXPECT_TRUE(frmMain.Text4.Text() == "hhhhhx" + pasted + std::string(kMost - 5, 'h') + rest);
 }
 
+TEST_F(EditedHeadTest, OfATextWithThousandsOfMarksOnALetterLessIsHeld) {
+    std::string text = "e";
+    for (int mark = 0; mark < kMost; ++mark) text += "\u0301";
+    Set(text);
+    EXPECT_EQ(Held().size(), kMostOfName);
+    PutCaret(0);
+    Note().insertPlainText("x");
+    EXPECT_TRUE(frmMain.Text4.Text() == "x" + text);
+    Set(Letters(kMost + 1));
+    EXPECT_EQ(Held().size(), kMost);
+}
+
 TEST_F(EditedHeadTest, APasteTakesThePlaceOfWhatIsSelected) {
     Set("one two");
     QTextCursor caret = Note().textCursor();
