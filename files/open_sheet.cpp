@@ -145,9 +145,17 @@ void ReadRest(CellReader& cells) {
     ReadNotes(cells);
 }
 
+// A character that takes one byte in a file may take three in memory, where a text has several copies: what is too large for a file is too
+// large for a text.
+std::string ReadText(const std::string& path) {
+    std::string text = DecodeFile(services.files->ReadAll(path));
+    if (text.size() > kLargestFile) throw Failure(kFileError);
+    return text;
+}
+
 // false: a key index repeats, and the session has started afresh.
 bool ReadFile(const std::string& path, ProgressBar& bar) {
-    CellReader cells(DecodeFile(services.files->ReadAll(path)));
+    CellReader cells(ReadText(path));
     CloseDiagram();
     SheetPath = path;
     bar.SetVisible(true);

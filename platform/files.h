@@ -23,7 +23,7 @@ public:
     virtual void Replace(std::string_view bytes) = 0;
 };
 
-constexpr std::size_t kLargestFile = 64 << 20;  // bytes, far beyond any sheet: what is larger, or never ends, is not read
+constexpr std::size_t kLargestFile = 16 << 20;  // bytes, far beyond any sheet: what is larger, or never ends, is not read
 
 // Files that the program keeps for itself: each is under its name whole, on the disk, or not at all. Nothing is raised.
 class WholeFiles {

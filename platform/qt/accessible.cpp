@@ -9,6 +9,7 @@
 #include "platform/qt/box_views.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
+#include "platform/qt/shown_text.h"
 #include "platform/user.h"
 
 namespace {
@@ -22,7 +23,7 @@ AccessibleWindow::AccessibleWindow(WindowWidget& window)
     : AccessibleNode(window, IsDialog(window.window()) ? QAccessible::Dialog : QAccessible::Window, window) {}
 
 QString AccessibleWindow::text(QAccessible::Text kind) const {
-    return kind == QAccessible::Name ? ToQt(Around().window().Title()) : QString();
+    return kind == QAccessible::Name ? Brief(Around().window().Title()) : QString();
 }
 
 // It has the keyboard itself while the keys are for the program alone.
@@ -66,7 +67,7 @@ QAccessible::Role AccessibleMenuItem::role() const {
 }
 
 QString AccessibleMenuItem::text(QAccessible::Text kind) const {
-    if (kind == QAccessible::Name) return ToQt(SpokenName(item_));
+    if (kind == QAccessible::Name) return Brief(SpokenName(item_));
     return {};
 }
 

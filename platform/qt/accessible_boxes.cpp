@@ -6,6 +6,7 @@
 
 #include "platform/qt/box_views.h"
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/text_editors.h"
 #include "platform/services.h"
 #include "platform/text.h"
@@ -47,13 +48,26 @@ QStringList AccessibleText::actionNames() const {
 void* AccessibleText::interface_cast(QAccessible::InterfaceType type) {
     if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
     if (type == QAccessible::EditableTextInterface) return static_cast<QAccessibleEditableTextInterface*>(this);
-    if (type == QAccessible::ValueInterface && box_.kind() == Kind::TextBox && AsNumber(box_.Text()))
+    if (type == QAccessible::ValueInterface && box_.kind() == Kind::TextBox && Number())
         return static_cast<QAccessibleValueInterface*>(this);
     return AccessibleControl::interface_cast(type);
 }
 
+const EditedHead& AccessibleText::Held() const {
+    return dynamic_cast<const BoxEditor&>(*widget()).Held();
+}
+
+QString AccessibleText::text(QAccessible::Text kind) const {
+    return kind == QAccessible::Description ? TipOf(box_, Held()) : AccessibleControl::text(kind);
+}
+
 QString AccessibleText::ValueText() const {
-    return Shown(box_.Text());
+    return Held().Text();
+}
+
+// A text that is not shown to its end is no number.
+std::optional<double> AccessibleText::Number() const {
+    return Held().IsAll() ? AsNumber(box_.Text()) : std::nullopt;
 }
 
 // ---- Reading ----
@@ -102,7 +116,7 @@ QString AccessibleText::attributes(int, int* start, int* end) const {
 }
 
 QVariant AccessibleText::currentValue() const {
-    return AsNumber(box_.Text()).value_or(0);
+    return Number().value_or(0);
 }
 
 // ---- Editing ----
@@ -146,12 +160,12 @@ void AccessibleText::insertText(int offset, const QString& text) {
 // Into the text as it is when the edit is done, the caret behind what was put in. A double quotation mark would break the row of a sheet,
 // and there is no key press here that the guard of the boxes could refuse.
 void AccessibleText::replaceText(int start, int end, const QString& text) {
-    RunForReader(Around(), [&box = box_, start, end, text] {
+    RunForReader(Around(), [&box = box_, &head = Held(), start, end, text] {
         if (text.contains(u'"')) return services.sounds->Beep();
         FocusForReader(box);
-        const QString shown = Shown(box.Text());
+        const QString shown = head.Text();
         const QString edited = shown.left(start) + text + shown.mid(end);
-        EnterText(box, Unshown(edited), CharactersBefore(edited, static_cast<int>(shown.left(start).size() + text.size())));
+        EnterText(box, head.Whole(edited), CharactersBefore(edited, static_cast<int>(shown.left(start).size() + text.size())));
     });
 }
 
@@ -223,7 +237,7 @@ QList<QAccessibleInterface*> AccessibleComboBox::Children() const {
 }
 
 QString AccessibleComboBox::ValueText() const {
-    return ToQt(box_.Text());
+    return View().Held().Text();
 }
 
 void AccessibleComboBox::doAction(const QString& action) {

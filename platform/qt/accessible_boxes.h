@@ -1,11 +1,13 @@
 // Text boxes and combo boxes as a screen reader finds them: their editors, the list of a combo box and its lines.
 #pragma once
 #include <QHash>
+#include <optional>
 
 #include "platform/qt/accessible_control.h"
+#include "platform/qt/shown_text.h"
 
-// A text box, or the editor in a combo box. One that holds a number has it as its value: a reader that listens hears each count. Offsets
-// are in the units of the widget, as the toolkit has them.
+// A text box, or the editor in a combo box: of a long text what the editor holds, and in its description that there is more. One that holds
+// a number has it as its value: a reader that listens hears each count. Offsets are in the units of the widget, as the toolkit has them.
 class AccessibleText : public AccessibleControl,
                        public QAccessibleTextInterface,
                        public QAccessibleEditableTextInterface,
@@ -18,7 +20,7 @@ public:
     QStringList actionNames() const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
-    using AccessibleControl::text;
+    QString text(QAccessible::Text kind) const override;
     QString text(int start, int end) const override;
     int characterCount() const override;
     int cursorPosition() const override;
@@ -48,6 +50,9 @@ protected:
     QString ValueText() const override;
 
 private:
+    const EditedHead& Held() const;
+    std::optional<double> Number() const;
+
     TextHolder& box_;
 };
 

@@ -5,6 +5,7 @@
 
 #include "platform/control.h"
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 #include "platform/user.h"
 
 int AccessibleNode::indexOfChild(const QAccessibleInterface* child) const {
@@ -117,9 +118,9 @@ QList<QAccessibleInterface*> AccessibleControl::Children() const {
 QString AccessibleControl::text(QAccessible::Text kind) const {
     switch (kind) {
         case QAccessible::Name:
-            return ToQt(SpokenName(control_));
+            return Brief(SpokenName(control_));
         case QAccessible::Description:
-            return ToQt(control_.ToolTip());
+            return Brief(control_.ToolTip());
         case QAccessible::Value:
             return ValueText();
         default:

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/tab_view.h"
 #include "platform/user.h"
 
@@ -42,7 +43,7 @@ QList<QAccessibleInterface*> AccessibleTabs::Children() const {
 
 QString AccessibleTabs::ValueText() const {
     const auto tab = static_cast<std::size_t>(tabs_.Tab());
-    return tab < tabs_.TabCaptions().size() ? ToQt(tabs_.TabCaptions()[tab]) : QString();
+    return tab < tabs_.TabCaptions().size() ? Brief(tabs_.TabCaptions()[tab]) : QString();
 }
 
 QVariant AccessibleTabs::maximumValue() const {
@@ -62,7 +63,7 @@ QAccessibleInterface* AccessibleTab::parent() const {
 }
 
 QString AccessibleTab::text(QAccessible::Text kind) const {
-    return kind == QAccessible::Name ? ToQt(tabs_.TabCaptions()[static_cast<std::size_t>(tab_)]) : QString();
+    return kind == QAccessible::Name ? Brief(tabs_.TabCaptions()[static_cast<std::size_t>(tab_)]) : QString();
 }
 
 // A tab is there to be seen though its page may be hidden.

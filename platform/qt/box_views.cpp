@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/views.h"
 #include "platform/user.h"
 
@@ -33,6 +34,7 @@ private:
         editor_->Sync(Font(), Factor());
         MouseWidget()->update();
     }
+    QString Tip() const override { return TipOf(box_, editor_->Held()); }
     bool PassesMouse() const override { return HoldsFocus(box_); }
     bool UseKey(QKeyEvent& key) override {
         QCoreApplication::sendEvent(editor_, &key);
@@ -63,7 +65,7 @@ public:
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : count_; }
     QVariant data(const QModelIndex& index, int role) const override {
         if (role != Qt::DisplayRole || index.row() >= box_.ListCount()) return {};
-        return ToQt(box_.List()[static_cast<std::size_t>(index.row())]);
+        return Brief(box_.List()[static_cast<std::size_t>(index.row())]);
     }
     void Refresh() {
         beginResetModel();
@@ -105,7 +107,7 @@ void ComboList::SelectShown() {
 int ComboList::LineWidth() const {
     const QFontMetrics metrics(font());
     int widest = 0;
-    for (const std::string& item : box_.List()) widest = std::max(widest, metrics.horizontalAdvance(ToQt(item)));
+    for (const std::string& item : box_.List()) widest = std::max(widest, metrics.horizontalAdvance(Brief(item)));
     return widest + metrics.height();
 }
 

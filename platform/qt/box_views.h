@@ -40,10 +40,12 @@ public:
     QWidget* MouseWidget() override { return line_; }
     bool UseKey(QKeyEvent& key) override;  // the arrow keys up and down and F4 open the list, all else is typed
     ComboList& OpenList();
+    const EditedHead& Held() const { return line_->Held(); }
     ComboList* List() const { return list_; }  // nullptr: it has never been open
 
 private:
     void ShowContent(Changes changes) override;
+    QString Tip() const override { return TipOf(box_, Held()); }
     void Press(const Mouse& mouse, QPointF at) override;
     bool PassesMouse() const override { return HoldsFocus(box_); }
     void PaintArrow(QPainter& painter);

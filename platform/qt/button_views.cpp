@@ -5,6 +5,7 @@
 
 #include "platform/qt/fitted_text.h"
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/views.h"
 
 namespace {
@@ -39,7 +40,7 @@ private:
         PaintOutline(painter, box, in_focus ? kAccent : kOutline, in_focus ? 2 : 1, radius);
         painter.setPen(button_->isDown() ? QColor(Qt::white) : button_->isEnabled() ? ToQt(model_.ForeColor()) : kRestingWords);
         const double margin = 60 * Factor();
-        fitted_.Paint(painter, box.adjusted(margin, 1, -margin, -1), ToQt(model_.Caption()), Font(), Qt::AlignCenter, kMostLinesOfButton);
+        fitted_.Paint(painter, box.adjusted(margin, 1, -margin, -1), Brief(model_.Caption()), Font(), Qt::AlignCenter, kMostLinesOfButton);
     }
 
     Button& model_;
@@ -113,7 +114,7 @@ private:
             PaintTick(painter, mark, on);
         painter.setPen(button_->isEnabled() ? ToQt(model_.ForeColor()) : kRestingWords);
         const QRectF words = box.adjusted(size + 75 * Factor(), 0, 0, 0);
-        fitted_.Paint(painter, words, ToQt(model_.Caption()), Font(), Qt::AlignLeft | Qt::AlignVCenter, kMostLines);
+        fitted_.Paint(painter, words, Brief(model_.Caption()), Font(), Qt::AlignLeft | Qt::AlignVCenter, kMostLines);
     }
 
     Model& model_;

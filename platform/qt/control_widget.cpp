@@ -5,6 +5,7 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/mouse.h"
+#include "platform/qt/shown_text.h"
 #include "platform/user.h"
 #include "platform/window.h"
 
@@ -104,10 +105,14 @@ void ControlWidget::Apply(Changes changes) {
         widget_->setGeometry(Scaled(control_.State().box, Factor()).translated(-origin));
     }
     if (changes.Has(Property::Enabled)) widget_->setEnabled(control_.Enabled());
-    if (changes.Has(Property::ToolTip)) widget_->setToolTip(ToQt(control_.ToolTip()));
     ShowContent(changes);
+    if (changes.Has(Property::ToolTip) || changes.Has(Property::Text)) widget_->setToolTip(Tip());
     Repaint(changes);
     if (changes.Has(Property::Visible)) widget_->setVisible(control_.Visible());
+}
+
+QString ControlWidget::Tip() const {
+    return Brief(control_.ToolTip());
 }
 
 Mouse ControlWidget::MouseAt(MouseButton button, QPointF at) const {

@@ -96,6 +96,7 @@ protected:
     QFont Font() const;
     void Show(Changes changes) override;
     virtual void ShowContent(Changes changes) = 0;
+    virtual QString Tip() const;
     virtual void Repaint(Changes /*changes*/) { widget_->update(); }
 
     // What the kind does at a press, besides its events; at the widget's own coordinates.

@@ -9,18 +9,19 @@ constexpr double kLeast = 0.7;        // of the font, before they are broken whe
 constexpr double kSmall = 0.55;       // of the font, before words are
 constexpr int kNarrow[] = {85, 70};   // percent of their width, for letters that would else be too small
 constexpr int kSmallestPixels = 6;    // smaller letters cannot be read
-constexpr int kBeyondAnyLine = 500;   // characters
+constexpr int kBeyondAnyLine = 400;   // characters, in a script whose letters have a width
 constexpr double kTight = 0.9;        // several lines stand closer than single ones where they must
 
-// How many characters go in a line; a long text is not measured beyond it.
+// How many characters go in a line; a long text is not measured beyond it. Measuring thousands of marks without a width takes long.
 qsizetype CharactersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
     const auto fit = [&](qsizetype count) { return metrics.horizontalAdvance(text.left(count)) <= width; };
+    const qsizetype most = std::min<qsizetype>(text.size(), kBeyondAnyLine);
     qsizetype fits = 0, beyond = 16;
-    while (beyond <= text.size() && fit(beyond)) {
+    while (beyond <= most && fit(beyond)) {
         fits = beyond;
         beyond *= 2;
     }
-    beyond = std::min(beyond, text.size() + 1);
+    beyond = std::min(beyond, most + 1);
     while (beyond - fits > 1) {
         const qsizetype middle = (fits + beyond) / 2;
         (fit(middle) ? fits : beyond) = middle;

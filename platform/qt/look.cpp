@@ -155,7 +155,7 @@ QColor ToQt(Colour colour) {
     return {colour.red, colour.green, colour.blue};
 }
 
-QString ToQt(const std::string& utf8) {
+QString ToQt(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 

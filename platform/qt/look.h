@@ -7,6 +7,7 @@
 #include <QSize>
 #include <QString>
 #include <string>
+#include <string_view>
 
 #include "platform/control.h"
 
@@ -26,7 +27,7 @@ inline constexpr const char* kScaledRange = "scaled range";  // the name of slid
 void ApplyLook(QApplication& application);
 
 QColor ToQt(Colour colour);
-QString ToQt(const std::string& utf8);
+QString ToQt(std::string_view utf8);
 std::string FromQt(const QString& text);
 
 // The font of a control in a window of so many pixels a twip: a point is 20 twips.

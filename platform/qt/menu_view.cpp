@@ -5,6 +5,7 @@
 #include <QMenu>
 
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 #include "platform/user.h"
 
 // One item: its action, and the menu that it opens if it has items of its own.
@@ -28,7 +29,7 @@ private:
     void Show(Changes) override {
         const bool is_separator = item_.Caption() == "-";
         action_->setSeparator(is_separator);
-        if (!is_separator) action_->setText(ToQt(item_.Caption()).trimmed() + Chord());
+        if (!is_separator) action_->setText(Brief(item_.Caption()).trimmed() + Chord());
         action_->setCheckable(item_.Checked());
         action_->setChecked(item_.Checked());
         action_->setEnabled(item_.Enabled());

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 
 namespace {
 constexpr double kPixelsPerPoint = static_cast<double>(kTwipsPerPoint) / kTwipsPerPixel;
@@ -140,7 +141,7 @@ private:
     void Text(const DrawOperation& text) {
         UseFont(text.size * kPixelsPerPoint * scale_.pixel, false);
         UsePen(text.rim);
-        const QString words = ToQt(text.text);
+        const QString words = Brief(text.text);
         const QFontMetrics metrics = painter_.fontMetrics();
         const double spare = scale_.size.width() - metrics.horizontalAdvance(words) - 1;
         painter_.drawText(QPointF(std::min(X(text.x1), spare), Y(text.y1) + metrics.ascent()), words);  // never cut off at the right
@@ -153,7 +154,7 @@ private:
         painter_.translate(name.x1 * scale_.pixel * scale_.spread, name.y1 * scale_.pixel);
         painter_.rotate(-90);
         painter_.scale(std::min(1.0, kNameWidth * scale_.pixel / QFontMetricsF(painter_.font()).averageCharWidth()), 1);
-        painter_.drawText(QPointF(0, painter_.fontMetrics().ascent()), ToQt(name.text));
+        painter_.drawText(QPointF(0, painter_.fontMetrics().ascent()), Brief(name.text));
         painter_.restore();
     }
 

@@ -8,6 +8,7 @@
 #include "platform/qt/look.h"
 #include "platform/qt/picture_painter.h"
 #include "platform/qt/qt_files.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/views.h"
 #include "platform/services.h"
 
@@ -26,7 +27,7 @@ private:
     void ShowContent(Changes changes) override {
         if (changes.Has(Property::Colours)) ground_image_ = {};
         if (changes.Has(Property::ToolTip) && canvas_->underMouse())  // it follows the pointer from column to column
-            QToolTip::showText(QCursor::pos(), ToQt(picture_.ToolTip()), canvas_);
+            QToolTip::showText(QCursor::pos(), Brief(picture_.ToolTip()), canvas_);
     }
 
     bool GivesDragAway() const override { return true; }  // a line that is dragged off the picture is dropped there

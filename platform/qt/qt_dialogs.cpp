@@ -16,6 +16,7 @@
 #include "platform/qt/look.h"
 #include "platform/qt/qt_files.h"
 #include "platform/qt/renderer.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/window_widget.h"
 
 BoxOpens::BoxOpens(Renderer& renderer) {
@@ -101,9 +102,9 @@ Answer QtMessageBoxes::Show(const Message& message) {
     const BoxOpens opens(renderer_);
     QuestionBox box(opens.Parent());
     box.setFont(opens.Font());
-    box.setWindowTitle(ToQt(message.title));
+    box.setWindowTitle(Brief(message.title));
     box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(message.text));
+    box.setText(Brief(message.text, kMostAtRest));
     box.setIcon(IconOf(message.icon));
     box.setStandardButtons(ButtonsOf(message.buttons));
     if (message.loses_work) box.setDefaultButton(QMessageBox::No);

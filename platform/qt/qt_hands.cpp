@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QPixmap>
+#include <algorithm>
 
 #include "events/program.h"
 #include "platform/control.h"
@@ -15,10 +16,12 @@
 #include "platform/qt/menu_view.h"
 #include "platform/qt/mouse.h"
 #include "platform/qt/renderer.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/tab_view.h"
 #include "platform/qt/text_editors.h"
 #include "platform/qt/virtual_key.h"
 #include "platform/qt/window_widget.h"
+#include "platform/text.h"
 #include "platform/user.h"
 
 namespace {
@@ -35,6 +38,11 @@ void SelectAll(QWidget* editor) {
 void SendKey(QWidget& widget, QEvent::Type type, int code, const QString& text, KeyActs acts) {
     QKeyEvent event = MadeKeyEvent(type, code, text, acts);
     QApplication::sendEvent(&widget, &event);
+}
+
+// What an editor would not hold whole goes straight to the program, as it does without windows.
+bool GoesIn(const TextHolder& box, std::size_t characters) {
+    return characters <= MostOf(box);
 }
 
 // Opens the menus on the way to an item, each from the one before. false: one of them does not open.
@@ -83,13 +91,25 @@ public:
     void SetBox(Control& box, const std::string& text) override {
         FocusBox(box);
         ControlWidget* const widget = ViewOf(box);
-        if (!widget || EditorInFocus() != widget->FocusWidget()) return;
-        SelectAll(widget->FocusWidget());
-        PasteInto(widget->FocusWidget(), Shown(text));
+        TextHolder* const holder = box.AsTextHolder();
+        if (!widget || !holder || EditorInFocus() != widget->FocusWidget()) return;
+        if (GoesIn(*holder, std::max(Length(holder->Text()), Length(text)))) {
+            SelectAll(widget->FocusWidget());
+            PasteInto(widget->FocusWidget(), Shown(text));
+        } else {
+            renderer_.Run([&] {
+                holder->Select(0, static_cast<int>(Length(holder->Text())));
+                InsertText(box, text);
+            });
+        }
         Rest();
     }
     void Paste(const std::string& text) override {
-        PasteInto(EditorInFocus(), Shown(text));
+        TextHolder* const holder = BoxInFocus();
+        if (!holder || GoesIn(*holder, Length(holder->Text()) + Length(text)))
+            PasteInto(EditorInFocus(), Shown(text));
+        else
+            renderer_.Run([&] { InsertText(*holder, text); });
         Rest();
     }
 
@@ -189,6 +209,10 @@ private:
     ControlWidget* ViewOf(const Control& control) const {
         WindowWidget* const window = renderer_.WidgetOf(*control.window);
         return window ? window->Find(control) : nullptr;
+    }
+    TextHolder* BoxInFocus() const {
+        Control* const focus = ActiveWindow() ? ActiveWindow()->Focus() : nullptr;
+        return focus && CanReach(*focus) ? focus->AsTextHolder() : nullptr;
     }
     QWidget* EditorInFocus() const {
         Control* const focus = ActiveWindow() ? ActiveWindow()->Focus() : nullptr;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/views.h"
 #include "platform/user.h"
 #include "platform/window.h"
@@ -93,7 +94,7 @@ private:
         painter.fillRect(QRectF(place.right() - 1, place.top(), 1, place.height()), kOutline);
         if (front) painter.fillRect(QRectF(place.left(), place.top(), place.width(), std::max(3.0, 40 * Factor())), kAccent);
         painter.setPen(ToQt(tabs_.ForeColor()));
-        const QString caption = ToQt(tabs_.TabCaptions()[static_cast<std::size_t>(tab)]);
+        const QString caption = Brief(tabs_.TabCaptions()[static_cast<std::size_t>(tab)]);
         painter.drawText(place, Qt::AlignCenter,
                          painter.fontMetrics().elidedText(caption, Qt::ElideRight, static_cast<int>(place.width()) - 4));
     }

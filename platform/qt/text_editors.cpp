@@ -1,5 +1,6 @@
 #include "platform/qt/text_editors.h"
 
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QTextBoundaryFinder>
@@ -11,41 +12,12 @@
 #include "platform/window.h"
 
 namespace {
-int CharactersOf(QChar unit) {
-    if (unit == u'\n') return 2;
-    return unit.isLowSurrogate() ? 0 : 1;
-}
-}  // namespace
-
-QString Shown(const std::string& text) {
-    return ToQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
-}
-
-std::string Unshown(const QString& shown) {
-    return FromQt(QString(shown).replace(QLatin1String("\n"), QLatin1String("\r\n")));
-}
-
-int CharactersBefore(const QString& shown, int unit) {
-    int characters = 0;
-    for (int i = 0; i < std::min<int>(unit, static_cast<int>(shown.size())); ++i) characters += CharactersOf(shown[i]);
-    return characters;
-}
-
-int UnitAfter(const QString& shown, int characters) {
-    int unit = 0;
-    while (unit < shown.size() && (characters > 0 || shown[unit].isLowSurrogate())) characters -= CharactersOf(shown[unit++]);
-    return unit;
-}
-
-// ---- Editors ----
-
-namespace {
 constexpr double kMarginTwips = 40;
 }  // namespace
 
-void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret) {
+void TellText(TextHolder& box, ModelView& view, const EditedHead& head, const QString& held, int caret) {
     view.Changed(Property::Text);  // a procedure may have refused it
-    view.Events().Run([&] { EnterText(box, Unshown(shown), CharactersBefore(shown, caret)); });
+    view.Events().Run([&] { EnterText(box, head.Whole(held), CharactersBefore(held, caret)); });
 }
 
 void TellSelection(TextHolder& box, const QString& shown, int start, int length) {
@@ -83,7 +55,13 @@ void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, c
     const Qt::Alignment across = box.IsCentred() ? Qt::AlignHCenter : Qt::AlignLeft;
     const Qt::Alignment down = one_line ? Qt::AlignVCenter : Qt::AlignTop;
     const int above = one_line ? 1 : margin;
-    fitted.Paint(painter, room.adjusted(margin, above, -margin, -above), Shown(box.Text()), font, across | down, most_lines);
+    const QString words = BriefLines(box.Text(), one_line ? kMostOfCaption : kMostAtRest);
+    fitted.Paint(painter, room.adjusted(margin, above, -margin, -above), words, font, across | down, most_lines);
+}
+
+QString TipOf(const TextHolder& box, const EditedHead& held) {
+    const QString tip = Brief(box.ToolTip()), words = held.WordsOnRest();
+    return tip.isEmpty() || words.isEmpty() ? tip + words : tip + u'\n' + words;
 }
 
 void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus) {
@@ -95,14 +73,14 @@ constexpr int kMostLines = 2;
 constexpr int kOwnMargin = 2;  // of a line edit
 }  // namespace
 
-TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdit(parent), box_(box) {
+TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdit(parent), BoxEditor(box), box_(box) {
     PrepareEditor(*this, box);
     setFrame(false);
     setDragEnabled(false);
     if (box.IsCentred()) setAlignment(Qt::AlignCenter);
     connect(this, &QLineEdit::textEdited, this, [this, &view](const QString& text) {
         comes_in_ = false;
-        TellText(box_, view, text, cursorPosition());
+        TellText(box_, view, head_, text, cursorPosition());
     });
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextLine::TellCaret);
     connect(this, &QLineEdit::selectionChanged, this, &TextLine::TellCaret);
@@ -118,7 +96,7 @@ void TextLine::Sync(const QFont& font, double factor) {
     const QSignalBlocker blocker(this);
     font_ = font;
     factor_ = factor;
-    if (const QString wanted = Shown(box_.Text()); text() != wanted) setText(wanted);
+    if (const QString wanted = head_.Follow(text()); text() != wanted) setText(wanted);
     SyncCaret();
     if (hasFocus()) SyncForEditing();
 }
@@ -138,7 +116,7 @@ void TextLine::SyncForEditing() {
     setFont(font_);
     setPalette(EditorPalette(box_));
     const int margin = std::max(0, BoxMargin(factor_) - kOwnMargin);
-    setTextMargins(margin, 0, margin, 0);
+    setTextMargins(margin, 0, head_.IsAll() ? margin : margin + fontMetrics().horizontalAdvance(kDots), 0);
 }
 
 void TextLine::focusInEvent(QFocusEvent* event) {
@@ -165,6 +143,8 @@ void TextLine::paintEvent(QPaintEvent* event) {
         QLineEdit::paintEvent(event);
         QPainter painter(this);
         PaintBoxOutline(painter, rect(), true);
+        painter.setPen(kAccent);
+        if (!head_.IsAll()) painter.drawText(rect().adjusted(0, 0, -BoxMargin(factor_), 0), Qt::AlignRight | Qt::AlignVCenter, kDots);
     } else {
         QPainter painter(this);
         PaintAtRest(painter, rect(), box_, font_, factor_, fitted_, kMostLines);
@@ -183,15 +163,18 @@ bool HoldsLongerWord(const QString& text) {
 }
 }  // namespace
 
-TextArea::TextArea(QWidget* parent, TextBox& box, ModelView& view) : QPlainTextEdit(parent), box_(box) {
+TextArea::TextArea(QWidget* parent, TextBox& box, ModelView& view) : QPlainTextEdit(parent), BoxEditor(box), box_(box), view_(view) {
     PrepareEditor(*this, box);
+    strip_ = new Painted<QWidget>(this, [this](QPainter& painter) { PaintStrip(painter); });
+    strip_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    strip_->hide();
     setFrameShape(QFrame::NoFrame);
     setUndoRedoEnabled(false);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(document(), &QTextDocument::contentsChange, this, &TextArea::ChooseWrapping);
-    connect(this, &QPlainTextEdit::textChanged, this, [this, &view] {
-        if (const QString text = toPlainText(); text != Shown(box_.Text())) TellText(box_, view, text, textCursor().position());
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (const QString text = toPlainText(); text != head_.Text()) TellText(box_, view_, head_, text, textCursor().position());
     });
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextArea::TellCaret);
     connect(this, &QPlainTextEdit::selectionChanged, this, &TextArea::TellCaret);
@@ -212,11 +195,12 @@ void TextArea::Sync(const QFont& font, double factor) {
     const QSignalBlocker blocker(this);
     font_ = font;
     factor_ = factor;
-    if (const QString wanted = Shown(box_.Text()); toPlainText() != wanted) {
+    if (const QString held = toPlainText(), wanted = head_.Follow(held); held != wanted) {
         QTextCursor whole(document());
         whole.select(QTextCursor::Document);
         whole.insertText(wanted);  // setPlainText would lay it out before the document tells of it
     }
+    SyncStrip();
     SyncCaret();
     if (hasFocus()) SyncForEditing();
 }
@@ -258,4 +242,35 @@ void TextArea::focusOutEvent(QFocusEvent* event) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QPlainTextEdit::focusOutEvent(event);
     viewport()->update();
+}
+
+// What does not go in is told to the program alone: laying it out would take long, and most of it would be cut off again.
+void TextArea::insertFromMimeData(const QMimeData* source) {
+    QString text = toPlainText();
+    const QString pasted = Shown(FromQt(source->text()));
+    if (text.size() + pasted.size() <= static_cast<qsizetype>(MostOf(box_))) return QPlainTextEdit::insertFromMimeData(source);
+    const QTextCursor cursor = textCursor();
+    text.replace(cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart(), pasted);
+    TellText(box_, view_, head_, text, cursor.selectionStart() + static_cast<int>(pasted.size()));
+}
+
+void TextArea::resizeEvent(QResizeEvent* event) {
+    QPlainTextEdit::resizeEvent(event);
+    const QRect text = viewport()->geometry();
+    strip_->setGeometry(text.left(), text.bottom() + 1, text.width(), viewportMargins().bottom());
+}
+
+void TextArea::SyncStrip() {
+    const int height = head_.IsAll() ? 0 : QFontMetrics(font_).height();
+    if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
+    strip_->setVisible(height > 0);
+    strip_->update();
+}
+
+void TextArea::PaintStrip(QPainter& painter) {
+    painter.fillRect(strip_->rect(), kRestingBox);
+    painter.setPen(ToQt(kBlack));
+    const int margin = BoxMargin(factor_);
+    fitted_strip_.Paint(painter, strip_->rect().adjusted(margin, 0, -margin, 0), head_.WordsOnRest(), font_,
+                        Qt::AlignLeft | Qt::AlignVCenter, 1);
 }

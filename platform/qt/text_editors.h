@@ -6,35 +6,41 @@
 #include <QPlainTextEdit>
 #include <QString>
 #include <QWidget>
-#include <string>
 
 #include "platform/controls.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/fitted_text.h"
+#include "platform/qt/shown_text.h"
 
-// Texts and carets between the program and the widgets. The program counts characters and breaks lines with CR LF, two characters;
-// a widget counts UTF-16 units and breaks lines with one LF.
-QString Shown(const std::string& text);                // a program's text as a widget holds it
-std::string Unshown(const QString& shown);             // and back
-int CharactersBefore(const QString& shown, int unit);  // the program's count of what stands before a widget's place
-int UnitAfter(const QString& shown, int characters);   // the widget's place behind so many of the program's characters
-
-// The user has changed the text: the program hears it as a whole, with the caret (in units of `shown`). The view shows what became of it.
-void TellText(TextHolder& box, ModelView& view, const QString& shown, int caret);
+// The user has changed what the editor holds: the program hears the whole text, with the caret (in units of `held`). The view shows what
+// became of it.
+void TellText(TextHolder& box, ModelView& view, const EditedHead& head, const QString& held, int caret);
 void TellSelection(TextHolder& box, const QString& shown, int start, int length);  // in units of `shown`
 
-int BoxMargin(double factor);  // pixels left and right of the text
+QString TipOf(const TextHolder& box, const EditedHead& held);  // of the box, and that there is more of its text
+int BoxMargin(double factor);                                  // pixels left and right of the text
 void PrepareEditor(QWidget& editor, const TextHolder& box);
 QPalette EditorPalette(const TextHolder& box);
 
-// A box that does not hold the keyboard shows its whole text.
+// A box that does not hold the keyboard shows all of its text that goes in.
 void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
                  int most_lines);
 void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus);
 
-// The editor of one line in a text box or combo box. While it holds the keyboard it is a line edit like any other; at rest it paints
-// its text so that all of it can be read.
-class TextLine : public QLineEdit {
+// An editor holds the head of its box's text.
+class BoxEditor {
+public:
+    const EditedHead& Held() const { return head_; }
+
+protected:
+    explicit BoxEditor(const TextHolder& box) : head_(box) {}
+    ~BoxEditor() = default;
+    EditedHead head_;
+};
+
+// The editor of one line in a text box or combo box. While it holds the keyboard it is a line edit like any other, with dots behind it if
+// there is more of the text; at rest it paints its text so that all of it can be read.
+class TextLine : public QLineEdit, public BoxEditor {
 public:
     TextLine(QWidget* parent, TextHolder& box, ModelView& view);
     void Sync(const QFont& font, double factor);  // with the box
@@ -59,8 +65,9 @@ private:
 };
 
 // The editor of several lines in a text box; like TextLine, it paints its text itself while it does not hold the keyboard.
-// A line ends between words, unless the text holds a word too long to be laid out in time: then it may end anywhere.
-class TextArea : public QPlainTextEdit {
+// A line ends between words, unless the text holds a word too long to be laid out in time: then it may end anywhere. A strip below it tells
+// that there is more of the text.
+class TextArea : public QPlainTextEdit, public BoxEditor {
 public:
     TextArea(QWidget* parent, TextBox& box, ModelView& view);
     void Sync(const QFont& font, double factor);
@@ -69,15 +76,21 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
     void ChooseWrapping();
+    void SyncStrip();
+    void PaintStrip(QPainter& painter);
     void TellCaret();
     void SyncCaret();       // and about what is selected
     void SyncForEditing();  // what only matters while it holds the keyboard
 
     TextBox& box_;
+    ModelView& view_;
+    QWidget* strip_;
     QFont font_;
     double factor_ = 0;
-    FittedText fitted_;
+    FittedText fitted_, fitted_strip_;
 };

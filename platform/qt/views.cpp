@@ -7,6 +7,7 @@
 
 #include "platform/qt/fitted_text.h"
 #include "platform/qt/look.h"
+#include "platform/qt/shown_text.h"
 
 namespace {
 class ViewMaker : public ControlVisitor {
@@ -65,7 +66,7 @@ private:
         if (label_.BackColor() != kFormColour) painter.fillRect(box, ToQt(label_.BackColor()));
         painter.setPen(label_.Enabled() ? ToQt(label_.ForeColor()) : kRestingWords);
         const Qt::Alignment across = label_.centred ? Qt::AlignHCenter : label_.right_aligned ? Qt::AlignRight : Qt::AlignLeft;
-        fitted_.Paint(painter, box, ToQt(label_.Caption()), Font(), across | Qt::AlignVCenter, kMostLines);
+        fitted_.Paint(painter, box, Brief(label_.Caption()), Font(), across | Qt::AlignVCenter, kMostLines);
     }
 
     Label& label_;
@@ -94,7 +95,7 @@ private:
         painter.fillRect(box, ToQt(frame_.BackColor()));
         if (!frame_.Border()) return;
         const double radius = 45 * Factor();
-        const QString caption = ToQt(frame_.Caption()).trimmed();
+        const QString caption = Brief(frame_.Caption()).trimmed();
         if (caption.isEmpty()) return PaintOutline(painter, box, kOutline, 1, radius);
         const QFont font = Font();
         const QFontMetricsF metrics(font);

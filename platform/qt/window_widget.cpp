@@ -11,6 +11,7 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
+#include "platform/qt/shown_text.h"
 #include "platform/qt/views.h"
 #include "platform/qt/window_system.h"
 #include "platform/user.h"
@@ -91,7 +92,7 @@ void WindowWidget::NoteChange(WindowProperty property) {
 }
 
 void WindowWidget::Sync() {
-    if (std::exchange(title_changed_, false)) setWindowTitle(ToQt(window_.Title()));
+    if (std::exchange(title_changed_, false)) setWindowTitle(Brief(window_.Title()));
     if (std::exchange(size_changed_, false)) ChooseSize();
     if (window_.Enabled() && !veil_->isHidden()) NoteUserSize();  // while it took no input it took no size either
     veil_->setVisible(!window_.Enabled());

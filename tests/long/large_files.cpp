@@ -1,4 +1,4 @@
-// Files that no microscopist wrote, of six and of sixty megabytes, nearly the largest that are read: opening one takes time and memory in
+// Files that no microscopist wrote, of 1.6 and of 16 megabytes, nearly the largest that are read: opening one takes time and memory in
 // proportion to its size, ends with the sheet open if the file holds one, and leaves a program that counts on.
 //     large_files                        status 0: all was so
 //     large_files PATH                   opens this file and tells what it took
@@ -28,9 +28,9 @@
 #endif
 
 namespace {
-constexpr std::size_t kMegabyte = 1000000;
-constexpr std::size_t kSmall = 6, kLarge = 60;  // megabytes
-static_assert((kLarge + 1) * kMegabyte < kLargestFile, "a file that is refused unread costs nothing");
+constexpr double kMegabyte = 1e6;
+constexpr std::size_t kSmall = 1'600'000, kLarge = 16'000'000;  // bytes, beside those of an ordinary sheet
+static_assert(kLarge + 500'000 < kLargestFile, "a file that is refused unread costs nothing");
 
 enum Outcome { kOpened, kReadInVain, kRefused, kStuck };
 constexpr const char* kOutcomes[] = {"opened", "read in vain", "refused unread", "counts no more"};
@@ -75,6 +75,9 @@ const Shape kShapes[] = {
     {"a note of the letter beta", kOpened,
      [](std::size_t bytes) { return WithCell(kNoteRow, 5, "\"" + Repeated("\xCE\xB2", bytes) + "\""); }},
     {"a note that never ends", kOpened, [](std::size_t bytes) { return WithCell(kNoteRow, 4, "\"" + std::string(bytes, 'x')); }},
+    {"a note of short lines", kOpened, [](std::size_t bytes) { return WithCell(kNoteRow, 4, "\"" + Repeated("a\r\n", bytes) + "\""); }},
+    {"a note that never ends, of accents", kOpened,
+     [](std::size_t bytes) { return WithCell(kNoteRow, 4, "\"" + std::string(bytes / 2, '\xE9')); }},
     {"a sheet with a long tail", kOpened, [](std::size_t bytes) { return Joined(DataSheet(2)) + Repeated("1,2,3\r\n", bytes); }},
 };
 
@@ -164,13 +167,13 @@ bool IsInProportion(const Shape& shape, const std::string& folder) {
     constexpr double kMostTime = 30;    // times as long for ten times the bytes
     constexpr double kMostMemory = 12;  // bytes for each byte of the file
     constexpr double kProgram = 60;     // megabytes
-    const Cost small = CostOf(shape, folder, kSmall * kMegabyte);
-    const Cost large = CostOf(shape, folder, kLarge * kMegabyte);
-    std::printf("%-28s %zu MB: %6.2f s %5.0f MB, %s   %zu MB: %6.2f s %5.0f MB, %s\n", shape.name, kSmall, small.seconds, small.megabytes,
-                kOutcomes[small.outcome], kLarge, large.seconds, large.megabytes, kOutcomes[large.outcome]);
+    const Cost small = CostOf(shape, folder, kSmall);
+    const Cost large = CostOf(shape, folder, kLarge);
+    std::printf("%-28s %.1f MB: %6.2f s %5.0f MB, %s   %.1f MB: %6.2f s %5.0f MB, %s\n", shape.name, kSmall / kMegabyte, small.seconds,
+                small.megabytes, kOutcomes[small.outcome], kLarge / kMegabyte, large.seconds, large.megabytes, kOutcomes[large.outcome]);
     std::fflush(stdout);
     return small.outcome == shape.outcome && large.outcome == shape.outcome && large.seconds < kMostTime * small.seconds &&
-           large.megabytes < kLarge * kMostMemory + kProgram;
+           large.megabytes < kLarge / kMegabyte * kMostMemory + kProgram;
 }
 }  // namespace
 

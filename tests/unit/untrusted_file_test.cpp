@@ -176,4 +176,16 @@ TEST_F(UntrustedFileTest, ALongTextIsHeldAndWrittenLikeAShortOne) {
         EXPECT_TRUE(row == 0 || files_.bytes[kPath].find(text) != std::string::npos) << row << ", " << cell;
     }
 }
+
+TEST_F(UntrustedFileTest, ATextThatIsLargerThanAnyFileIsNotOpened) {
+    const auto sheet_of_euros = [](std::size_t bytes) {  // each is three bytes in memory
+        Rows rows = DataSheet(1);
+        rows[kNoteRow][4] = Quoted(std::string(bytes, '\x80'));
+        return Joined(rows);
+    };
+    ASSERT_TRUE(Open(sheet_of_euros(kLargestFile / 3 - 10'000)));
+    EXPECT_FALSE(Open(sheet_of_euros(kLargestFile / 3), "/sheets/larger.csv"));
+    EXPECT_EQ(SheetPath, kPath) << "the sheet stays as it was";
+    EXPECT_EQ(MessageCount(), 0u);
+}
 }  // namespace

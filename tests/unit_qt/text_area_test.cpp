@@ -48,7 +48,7 @@ TEST_F(TextAreaTest, AWordOfAMillionLettersIsShownWithAndWithoutTheFocus) {
         Set("Note: " + Word(letters));
         ASSERT_TRUE(EndsLinesAnywhere());
         Note().clearFocus();
-        Set(Word(letters) + "\r\nand more");
+        Set("A line\r\n" + Word(letters));
         ASSERT_TRUE(EndsLinesAnywhere());
         EXPECT_EQ(Note().blockCount(), 2);
         Note().setFocus();

@@ -1,4 +1,4 @@
-#include "platform/qt/text_editors.h"
+#include "platform/qt/shown_text.h"
 
 #include <gtest/gtest.h>
 
