@@ -18,12 +18,16 @@ PROMISED = 2                    # seconds: what was counted longer ago is in the
 A_SECOND = 10                   # keys
 
 
-def counts_in(path):
-    """The counts of the first sample by slot, those that are not 0; empty if there is no file."""
-    if not path.exists():
-        return {}
-    rows = [line.split(b",") for line in path.read_bytes().split(b"\r\n")[2:137]]
+def counts_of(sheet):
+    """The counts of the first sample by slot, those that are not 0; none if its rows are not all there."""
+    lines = sheet.split(b"\r\n")
+    rows = [line.split(b",") for line in lines[2:137]] if len(lines) > 137 else []
     return {int(row[0]): int(row[4]) for row in rows if int(row[4]) != 0}
+
+
+def counts_in(path):
+    """Those of a file; none if there is no file."""
+    return counts_of(path.read_bytes()) if path.exists() else {}
 
 
 class RescueTest(unittest.TestCase):
