@@ -44,7 +44,9 @@ void FlushFolderOf([[maybe_unused]] const std::filesystem::path& file) {
 class QtOutputFile : public OutputFile {
 public:
     explicit QtOutputFile(const QString& path) : file_(path) {
+        const bool is_new = !file_.exists();
         if (!file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) throw Failure(kFileError);
+        if (is_new) FlushFolderOf(QFileInfo(file_).filesystemFilePath());
     }
 
     void Replace(std::string_view bytes) override {
