@@ -15,14 +15,21 @@ Stages::Time Now() {
     return std::chrono::steady_clock::now();
 }
 
-void ReportStage(const char* stage, const std::vector<Stages::Time>& ends) {
+// Of the acts from `first` to before `end`.
+void ReportStage(const char* stage, const std::vector<Stages::Time>& ends, std::size_t first, std::size_t end) {
     std::vector<double> milliseconds;
-    for (std::size_t i = 0; i < std::min(ends.size(), stages.sent.size()); ++i)
+    for (std::size_t i = first; i < std::min({end, ends.size(), stages.sent.size()}); ++i)
         milliseconds.push_back(std::chrono::duration<double, std::milli>(ends[i] - stages.sent[i]).count());
     if (milliseconds.empty()) return;
     std::sort(milliseconds.begin(), milliseconds.end());
     const auto at = [&](double share) { return milliseconds[static_cast<std::size_t>(share * (milliseconds.size() - 1))]; };
     std::printf("  to %-8s median %6.2f ms   99 %% within %6.2f ms   longest %6.2f ms\n", stage, at(0.5), at(0.99), at(1));
+}
+
+void ReportStages(std::size_t first, std::size_t end) {
+    ReportStage("model", stages.reached, first, end);
+    ReportStage("sound", stages.sounded, first, end);
+    ReportStage("picture", stages.painted, first, end);
 }
 }  // namespace
 
@@ -31,9 +38,14 @@ void Stages::Expect(std::size_t acts) {
 }
 
 void Stages::Report() const {
-    ReportStage("model", reached);
-    ReportStage("sound", sounded);
-    ReportStage("picture", painted);
+    ReportStages(0, sent.size());
+}
+
+void Stages::ReportEnds(std::size_t acts) const {
+    std::printf(" the first %zu\n", acts);
+    ReportStages(0, acts);
+    std::printf(" the last %zu\n", acts);
+    ReportStages(sent.size() - std::min(acts, sent.size()), sent.size());
 }
 
 void TimedSounds::Play(const Wave& wave) {

@@ -12,6 +12,7 @@ struct Stages {
 
     void Expect(std::size_t acts);  // makes room, so that no entry waits for memory
     void Report() const;
+    void ReportEnds(std::size_t acts) const;  // of the first and of the last so many
 };
 extern Stages stages;
 

@@ -4,6 +4,8 @@
 //     window_bench diagram [KEYS]    the same, 40 a second, beside a diagram of 135 taxa by 250 samples of 1600 by 1000 pixels
 //     window_bench fresh [KEYS]      as diagram, in a sample just begun: each key is a large percentage and moves the columns
 //     window_bench tree [KEYS]       as diagram, with the cluster tree
+//     window_bench session [KEYS]    as diagram, 100 a second; 32,000, a long day, if no number is given. Tells of the first and the last
+//                                    thousand keys, and what the program holds before and after them
 //     window_bench drag [MOVES]      the line of the selected sample dragged over that diagram
 //     window_bench memory [SAMPLES]  what the program holds with such a sheet open, then with its diagram, then with the tree
 //
@@ -62,7 +64,8 @@ struct Task {
     int acts = 10000;  // of memory: samples
     bool HasDiagram() const { return name != "plain"; }
     bool Drags() const { return name == "drag"; }
-    std::chrono::milliseconds Pause() const { return std::chrono::milliseconds(HasDiagram() ? 25 : 5); }
+    bool IsSession() const { return name == "session"; }
+    std::chrono::milliseconds Pause() const { return std::chrono::milliseconds(IsSession() ? 10 : HasDiagram() ? 25 : 5); }
 };
 
 void BeginSample(Renderer& renderer) {
@@ -151,6 +154,14 @@ double ResidentMegabytes() {
     return 0;
 }
 
+long OpenDescriptors() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+}
+
+void ReportHeld(const char* when) {
+    std::printf("  held %-6s %6.1f MB, %ld descriptors\n", when, ResidentMegabytes(), OpenDescriptors());
+}
+
 void ReportMemory(Renderer& renderer, const std::filesystem::path& folder, const Task& task) {
     const auto report = [](const char* with) {
         QApplication::processEvents();
@@ -180,6 +191,7 @@ std::thread Begin(const Renderer& renderer, const Task& task) {
 int main(int argc, char** argv) {
     Task task;
     if (argc > 1) task.name = argv[1];
+    if (task.IsSession()) task.acts = 32000;
     if (argc > 2) task.acts = std::atoi(argv[2]);
     stages.Expect(task.acts);
     const std::filesystem::path folder = std::filesystem::temp_directory_path() / "marlbrook-bench";
@@ -204,17 +216,22 @@ int main(int argc, char** argv) {
     if (task.HasDiagram()) OpenSheet(renderer, folder, LargeSheet(task));
     if (task.HasDiagram()) OpenDiagram(renderer, task);
     const int counted_before = Counted();
+    if (task.IsSession()) ReportHeld("before");
 
     std::thread user;
     QTimer::singleShot(1000, [&] { renderer.Run([&] { BringToFront(task.Drags() ? static_cast<Window&>(frmDiagram) : frmMain); }); });
     QTimer::singleShot(2500, [&] { user = Begin(renderer, task); });
     QApplication::exec();
     user.join();
+    if (task.IsSession()) ReportHeld("after");
     std::filesystem::remove_all(folder);
 
     const int counted = Counted() - counted_before;
     std::printf("%s: %d sent, %d %s\n", task.name.c_str(), task.acts, task.Drags() ? static_cast<int>(stages.reached.size()) : counted,
                 task.Drags() ? "arrived" : "counted");
-    stages.Report();
+    if (task.IsSession())
+        stages.ReportEnds(1000);
+    else
+        stages.Report();
     return task.Drags() || counted == task.acts ? 0 : 1;
 }

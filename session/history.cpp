@@ -10,6 +10,12 @@ namespace {
 std::string TimeInBrackets() {
     return "(" + Right(services.clock->TimeText(), 8) + ")";
 }
+
+// Date and time of one moment: midnight may come between the two.
+std::string Stamp(const char* between) {
+    const std::string date = services.clock->DateText(), time = TimeInBrackets(), date_after = services.clock->DateText();
+    return date_after + between + (date_after == date ? time : TimeInBrackets());
+}
 }  // namespace
 
 void AddHistoryLine(const std::string& line) {
@@ -28,11 +34,11 @@ std::string SlotAndName(int slot) {
 }
 
 std::string NoteStamp() {
-    return services.clock->DateText() + " " + TimeInBrackets();
+    return Stamp(" ");
 }
 
 std::string FileStamp() {
-    return services.clock->DateText() + "_" + TimeInBrackets();
+    return Stamp("_");
 }
 
 std::string FreshNote() {

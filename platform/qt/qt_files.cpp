@@ -27,10 +27,26 @@ bool FlushToDisk(const QFile& file) {
 #endif
 }
 
+std::filesystem::path SystemFile(const std::string& path) {
+    return QFileInfo(SystemPath(path)).filesystemFilePath();
+}
+
+// A new name is on the disk when its folder is.
+void FlushFolderOf([[maybe_unused]] const std::filesystem::path& file) {
+#ifndef Q_OS_WIN
+    const int folder = open(file.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0) return;
+    fsync(folder);
+    close(folder);
+#endif
+}
+
 class QtOutputFile : public OutputFile {
 public:
     explicit QtOutputFile(const QString& path) : file_(path) {
+        const bool is_new = !file_.exists();
         if (!file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) throw Failure(kFileError);
+        if (is_new) FlushFolderOf(QFileInfo(file_).filesystemFilePath());
     }
 
     void Replace(std::string_view bytes) override {
@@ -77,20 +93,6 @@ std::unique_ptr<OutputFile> QtFiles::OpenForWriting(const std::string& path) {
 // ---- Files of the program itself ----
 
 namespace {
-std::filesystem::path SystemFile(const std::string& path) {
-    return QFileInfo(SystemPath(path)).filesystemFilePath();
-}
-
-// A new name is on the disk when its folder is.
-void FlushFolderOf([[maybe_unused]] const std::filesystem::path& file) {
-#ifndef Q_OS_WIN
-    const int folder = open(file.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0) return;
-    fsync(folder);
-    close(folder);
-#endif
-}
-
 bool WriteAndFlush(const QString& path, const std::string& bytes) {
     QFile file(path);
     const auto size = static_cast<qint64>(bytes.size());

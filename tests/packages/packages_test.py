@@ -17,7 +17,7 @@ TOP = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(TOP / "tests/windows"))
 from count_test import STAMP, expected_sheet  # noqa: E402
 from desk import START, StartedProgram  # noqa: E402
-from keyboard import ENTER, NAMED_KEY_CODES, NAMED_KEYS, PAD, SHIFT_1, SHIFT_2, UNDO  # noqa: E402
+from keyboard import ENTER, NAMED_KEY_CODES, NAMED_KEYS, PAD, SHIFT_1, SHIFT_2, TAB, UNDO  # noqa: E402
 from spoken import wait_for  # noqa: E402
 from x11_desk import X11Desk  # noqa: E402
 
@@ -41,6 +41,17 @@ class Packages(unittest.TestCase):
         cls.addClassCleanup(cls.desk.close)
         cls.root = CleanRoot(BUILD / "clean_root", cls.work)
         cls.root.apt_get("install", cls.deb)
+
+    @staticmethod
+    def version(package):
+        return run("dpkg-deb", "--field", package, "Version").strip()
+
+    def package_of_version(self, version):
+        """The same program under another number."""
+        folder = self.work / version
+        run("cpack", "-G", "DEB", "-B", folder, "-D", f"CPACK_PACKAGE_VERSION={version}", cwd=BUILD)
+        package, = folder.glob("*.deb")
+        return package
 
     def new_user(self):
         """Her name and her home."""
@@ -154,6 +165,48 @@ class Packages(unittest.TestCase):
         self.assert_same_files(self.files(own), hers, "after the package was removed")
         self.root.apt_get("install", self.deb)
         start_again("the package was installed anew")
+
+    def test_an_upgrade_a_downgrade_and_a_purge_leave_the_users_files_alone(self):
+        user, home = self.new_user()
+        program = self.start(user, home)
+        self.make_keyboard_known(program)
+        program.begin("12.5")
+        program.press(*PAD[:30])
+        sheet = home / "core.csv"
+        program.save_as(sheet)
+        program.press(*PAD[:3])  # in the rescue alone
+        wait_for("the rescue", (home / ".local/share/marlbrook/References/Back up files/Rescue.csv").exists)
+        program.stop()
+        newer = self.package_of_version(self.version(self.deb) + ".1")
+
+        def install(package):
+            self.root.apt_get("install", "--allow-downgrades", package)
+            self.assertEqual(self.root.run("dpkg-query", "--show", "--showformat", "${Version}", "marlbrook"), self.version(package))
+
+        def open_and_save():
+            program.start()
+            self.desk.window(START)
+            program.press(TAB, ENTER)  # Open data file or template
+            program.answer_file_dialog("Open", sheet)
+            self.desk.window(r"Marlbrook 2\.7\.5 - \[core\]")
+            program.press(PAD[0])
+            program.save_again(sheet)
+            program.stop()
+
+        self.addCleanup(self.root.apt_get, "install", "--allow-downgrades", self.deb)
+        steps = {"an upgrade": lambda: install(newer), "a downgrade": lambda: install(self.deb),
+                 "a purge": lambda: self.root.apt_get("purge", "marlbrook")}
+        for count, (step, do) in enumerate(steps.items(), 1):
+            hers = self.files(home)
+            self.assertIn(".local/share/marlbrook/References/KeySetting.csv", hers)
+            do()
+            self.assert_same_files(self.files(home), hers, "after " + step)
+            if step == "a purge":
+                install(self.deb)
+                self.assert_same_files(self.files(home), hers, "after the package was installed anew")
+            open_and_save()
+            counts = {slot: 1 for slot in range(2, 31)} | {1: 1 + count}
+            self.assertEqual(STAMP.sub(b"STAMP", sheet.read_bytes()).decode(), expected_sheet(sheet, counts).decode())
 
     def test_the_driver_plays_the_demonstration(self):
         user, home = self.new_user()

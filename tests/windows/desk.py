@@ -110,9 +110,9 @@ class StartedProgram:
 
 class Program(StartedProgram):
     """The program in a folder of its own, as after its first run, its sounds written to a file. Its controls are found by the names that a
-    screen reader says, in the window whose title matches a pattern."""
+    screen reader says, in the window whose title matches a pattern. `through` is a command that ends by running the words behind its own."""
 
-    def __init__(self, desk, first_run=False, environment=()):
+    def __init__(self, desk, first_run=False, environment=(), through=()):
         self.work = pathlib.Path(tempfile.mkdtemp(prefix="marlbrook-window-"))
         self.folder = self.work / "program"
         shutil.copytree(BIN.parent / "tree", self.folder)
@@ -122,7 +122,7 @@ class Program(StartedProgram):
         self.sound = self.work / "sound.raw"
         own_places = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": str(self.sound), "HOME": str(self.work)}
         self.env = {**desk.env, **spoken.environment(), **own_places, **dict(environment)}
-        super().__init__(desk, [str(self.folder / "marlbrook")], env=self.env, cwd=self.work)
+        super().__init__(desk, [*through, str(self.folder / "marlbrook")], env=self.env, cwd=self.work)
 
     def start(self):
         self._tree = None
