@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "diagram/diversity_curve.h"
 #include "diagram/open_diagram.h"
@@ -147,7 +148,8 @@ void ReadRest(CellReader& cells) {
 
 // false: a key index repeats, and the session has started afresh.
 bool ReadFile(const std::string& path, ProgressBar& bar) {
-    CellReader cells(DecodeFile(services.files->ReadAll(path)));
+    std::string bytes = services.files->ReadAll(path);
+    CellReader cells(IsAscii(bytes) ? std::move(bytes) : DecodeFile(bytes));  // nearly all are, and need not be copied
     CloseDiagram();
     SheetPath = path;
     bar.SetVisible(true);

@@ -126,6 +126,10 @@ std::size_t CellWriter::Size() const {
     return EncodeFile(text_).size();
 }
 
+// Nearly all sheets are ASCII: their text is the bytes of the file, and need not be copied.
 void CellWriter::Close() {
-    file_.Replace(EncodeFile(text_));
+    if (IsAscii(text_))
+        file_.Replace(text_);
+    else
+        file_.Replace(EncodeFile(text_));
 }
