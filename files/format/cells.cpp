@@ -92,6 +92,11 @@ void CellReader::PassSeparator() {
     if (at_ < text_.size() && IsSeparator(text_[at_])) ++at_;
 }
 
+CellWriter::CellWriter(OutputFile& file) : file_(file) {
+    constexpr std::size_t kLargeSheet = 256 << 10;  // bytes: nearly every file is shorter, and its text then never moves
+    text_.reserve(kLargeSheet);
+}
+
 void CellWriter::BeginCell() {
     if (row_begun_) text_ += ',';
     row_begun_ = true;

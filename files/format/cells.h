@@ -47,7 +47,7 @@ private:
 // parts cells, CR LF ends a row. The text is gathered in memory and handed over in one write when the writer is closed.
 class CellWriter {
 public:
-    explicit CellWriter(OutputFile& file) : file_(file) {}  // the file must outlive the writer
+    explicit CellWriter(OutputFile& file);  // the file must outlive the writer
     void Write(const Any& cell);
     void WriteCounts(std::span<const std::int32_t> counts);  // the same as Write of each, for the thousands of them
     void EndRow();
