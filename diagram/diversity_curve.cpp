@@ -64,12 +64,27 @@ int FirstPoint() {
     return first;
 }
 
+// Of the totals `begin` .. `end` - 1.
+std::vector<PicturePoint> PointsOf(int begin, int end) {
+    std::vector<PicturePoint> points;
+    points.reserve(static_cast<std::size_t>(end - begin));
+    for (int n = begin; n < end; ++n) points.push_back({10.0 * n, static_cast<double>(DiversityCurve[n])});
+    return points;
+}
+
+// A gap in the record is a gap in the curve.
+void DrawStretches(PictureBox& picture) {
+    for (int n = FirstPoint(); n <= DiversityLength; ++n) {
+        const int begin = n;
+        while (n <= DiversityLength && DiversityCurve[n] != 0) ++n;
+        if (n - begin > 1) picture.Curve(PointsOf(begin, n), kCurve);
+    }
+}
+
 void DrawCurve(PictureBox& picture, const std::string& total) {
     picture.Clear();
     if (total == "1") DiversityCurve[1] = 10;
-    for (int n = FirstPoint() + 1; n <= DiversityLength; ++n)
-        if (DiversityCurve[n] != 0 && DiversityCurve[n - 1] != 0)
-            picture.Line(10.0 * (n - 1), DiversityCurve[n - 1], 10.0 * n, DiversityCurve[n], kCurve);
+    DrawStretches(picture);
     picture.Line(0, 0, 10.0 * DiversityLength, 0, kAxis);
     picture.Line(0, 0, 0, 10.0 * TaxaSeen, kAxis);
     DrawLabels(picture);

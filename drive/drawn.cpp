@@ -59,9 +59,33 @@ std::vector<Field> FieldsOf(const PictureBox& picture, const DrawOperation& draw
         case Shape::Text:
             return {x(drawn.x1), y(drawn.y1), drawn.size, Quotable{drawn.text}};
         case Shape::Name:
+        case Shape::Curve:
             break;
     }
     return {drawn.x1, drawn.y1, std::string(drawn.italic ? "italic" : "upright"), Quotable{drawn.text}};
+}
+
+// A curve is seen as the lines that it is made of.
+template <class Visit>
+void VisitDrawn(const DrawOperation& drawn, Visit visit) {
+    if (drawn.shape != Shape::Curve) return visit(drawn);
+    DrawOperation line;
+    line.rim = drawn.rim;
+    for (std::size_t i = 1; i < drawn.points.size(); ++i) {
+        line.x1 = drawn.points[i - 1].x;
+        line.y1 = drawn.points[i - 1].y;
+        line.x2 = drawn.points[i].x;
+        line.y2 = drawn.points[i].y;
+        visit(line);
+    }
+}
+
+template <class Is>
+int CountWhere(const PictureBox& picture, Is is) {
+    int count = 0;
+    for (const DrawOperation& drawn : picture.Operations())
+        VisitDrawn(drawn, [&](const DrawOperation& each) { count += is(each) ? 1 : 0; });
+    return count;
 }
 
 // Six decimals: what lies beyond is the rounding of the scale.
@@ -112,6 +136,12 @@ bool IsDrawnAs(const std::vector<std::string>& words, const std::vector<Field>& 
     return same;
 }
 
+std::string LineOf(const PictureBox& picture, const DrawOperation& drawn) {
+    std::string line = KindName(drawn.shape);
+    for (const Field& field : FieldsOf(picture, drawn)) line.append(" ").append(FieldText(field));
+    return line;
+}
+
 }  // namespace
 
 std::vector<std::string> PictureLines(const PictureBox& picture) {
@@ -120,9 +150,7 @@ std::vector<std::string> PictureLines(const PictureBox& picture) {
     for (std::size_t place = 0; place <= operations.size(); ++place) {
         if (picture.IsPersistent() && place == picture.PersistentCount()) lines.push_back("persist");
         if (place == operations.size()) break;
-        std::string line = KindName(operations[place].shape);
-        for (const Field& field : FieldsOf(picture, operations[place])) line.append(" ").append(FieldText(field));
-        lines.push_back(std::move(line));
+        VisitDrawn(operations[place], [&](const DrawOperation& drawn) { lines.push_back(LineOf(picture, drawn)); });
     }
     return lines;
 }
@@ -136,17 +164,17 @@ int CountDrawn(const PictureBox& picture, const std::string& line) {
     DrawOperation any;
     any.shape = kind.shape;
     IsDrawnAs(words, FieldsOf(picture, any));  // finds a faulty word even if nothing is drawn
-    const auto& operations = picture.Operations();
-    return static_cast<int>(std::count_if(operations.begin(), operations.end(), [&](const DrawOperation& drawn) {
-        return drawn.shape == kind.shape && IsDrawnAs(words, FieldsOf(picture, drawn));
-    }));
+    return CountWhere(picture,
+                      [&](const DrawOperation& drawn) { return drawn.shape == kind.shape && IsDrawnAs(words, FieldsOf(picture, drawn)); });
 }
 
 int CountKind(const PictureBox& picture, const std::string& kind) {
     const Shape shape = KindNamed(kind).shape;
-    const auto& operations = picture.Operations();
-    return static_cast<int>(
-        std::count_if(operations.begin(), operations.end(), [&](const DrawOperation& drawn) { return drawn.shape == shape; }));
+    return CountWhere(picture, [shape](const DrawOperation& drawn) { return drawn.shape == shape; });
+}
+
+int CountAll(const PictureBox& picture) {
+    return CountWhere(picture, [](const DrawOperation&) { return true; });
 }
 
 bool ScaleIs(const PictureBox& picture, const std::vector<std::string>& left_top_width_height) {

@@ -8,7 +8,8 @@
 //     name 12 80 italic "Pinus"
 //     persist
 //
-// Coordinates are in the scale of the moment, of a name in pixels. What stands before "persist" is the persistent image.
+// A curve stands as the lines that it is made of. Coordinates are in the scale of the moment, of a name in pixels. What stands before
+// "persist" is the persistent image.
 #pragma once
 #include <string>
 #include <vector>
@@ -23,6 +24,7 @@ std::vector<std::string> PictureLines(const PictureBox& picture);
 // of no known form.
 int CountDrawn(const PictureBox& picture, const std::string& line);
 
+int CountAll(const PictureBox& picture);
 int CountKind(const PictureBox& picture, const std::string& kind);                               // "line", "rect" ...; ScriptFault
 bool ScaleIs(const PictureBox& picture, const std::vector<std::string>& left_top_width_height);  // ScriptFault for what is no number
 std::string ScaleText(const PictureBox& picture);                                                // the four numbers

@@ -79,7 +79,7 @@ const PictureBox& PictureNamed(const std::string& name) {
 }
 
 std::string HowMany(const PictureBox& picture) {
-    return "(not among " + std::to_string(picture.Operations().size()) + " operations)";
+    return "(not among " + std::to_string(CountAll(picture)) + " operations)";
 }
 
 }  // namespace

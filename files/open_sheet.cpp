@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "diagram/diversity_curve.h"
 #include "diagram/open_diagram.h"
@@ -148,7 +149,9 @@ void ReadRest(CellReader& cells) {
 // A character that takes one byte in a file may take three in memory, where a text has several copies: what is too large for a file is too
 // large for a text.
 std::string ReadText(const std::string& path) {
-    std::string text = DecodeFile(services.files->ReadAll(path));
+    std::string bytes = services.files->ReadAll(path);
+    if (IsAscii(bytes)) return bytes;  // nearly all are, and need not be copied
+    std::string text = DecodeFile(bytes);
     if (text.size() > kLargestFile) throw Failure(kFileError);
     return text;
 }

@@ -32,18 +32,41 @@ bool IsPlainSave(std::int16_t mode) {
 }
 
 // The sums of each sample: [0] all, [1] subtotal 1, [2] subtotal 2; of 16 bits each.
-using SubtotalSums = std::array<std::vector<std::int16_t>, 3>;
+using Sums = std::vector<std::int16_t>;  // [sample]; [0] unused
+using SubtotalSums = std::array<Sums, 3>;
+
+// The loop has one way out and no number wider than a count, so that the compiler can take several samples at once. A sum that wraps round
+// in 32 bits is beyond 16 bits as well.
+void AddCounts(int slot, Sums& sums) {
+    bool fits = true;
+    for (std::size_t sample = 1; sample < sums.size(); ++sample) {
+        const auto sum =
+            static_cast<std::int32_t>(static_cast<std::uint32_t>(sums[sample]) + static_cast<std::uint32_t>(Counts[slot][sample]));
+        sums[sample] = static_cast<std::int16_t>(sum);
+        fits &= sums[sample] == sum;
+    }
+    if (!fits) throw Failure(kOverflow);
+}
+
+void AddWeightedCounts(int slot, double weight, Sums& sums) {
+    for (std::size_t sample = 1; sample < sums.size(); ++sample) sums[sample] = ToInt16(sums[sample] + Counts[slot][sample] * weight);
+}
+
+// A flag is 0 or 1 unless a file brings another.
+void AddFlaggedCounts(int slot, double flag, Sums& sums) {
+    if (flag == 1)
+        AddCounts(slot, sums);
+    else if (flag != 0)
+        AddWeightedCounts(slot, flag, sums);
+}
 
 SubtotalSums SumSamples() {
     SubtotalSums sums;
     for (auto& row : sums) row.resize(SampleCount + 1);
     for (int slot = 1; slot <= kSlots; ++slot) {
-        const double weights[3] = {1, TaxonTable[slot][kTaxonSubtotal1].Number(), TaxonTable[slot][kTaxonSubtotal2].Number()};
-        for (int which = 0; which < 3; ++which) {
-            if (weights[which] == 0) continue;
-            for (int sample = 1; sample <= SampleCount; ++sample)
-                sums[which][sample] = ToInt16(sums[which][sample] + Counts[slot][sample] * weights[which]);
-        }
+        AddCounts(slot, sums[0]);
+        for (int subtotal = 1; subtotal <= kSubtotals; ++subtotal)
+            AddFlaggedCounts(slot, TaxonTable[slot][kSubtotalFlags[subtotal - 1]].Number(), sums[subtotal]);
     }
     return sums;
 }

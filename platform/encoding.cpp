@@ -96,6 +96,10 @@ void AppendCharacter(std::string& utf8, unsigned char byte) {
 
 }  // namespace
 
+bool IsAscii(std::string_view text) {
+    return AsciiHead(text) == text.size();
+}
+
 std::string EncodeFile(std::string_view utf8) {
     std::string_view rest = utf8;
     std::string bytes(TakeAscii(rest));

@@ -7,6 +7,8 @@
 // a mark, so that nothing typed is lost. So does the rare text whose bytes DecodeFile would take for UTF-8.
 std::string EncodeFile(std::string_view utf8);
 
+bool IsAscii(std::string_view text);  // then EncodeFile and DecodeFile leave it as it is
+
 // Bytes that are valid UTF-8 with at least one character beyond ASCII are UTF-8, all else is Windows-1252. A mark (EF BB BF) at
 // the head is passed over. The five bytes that Windows-1252 leaves undefined come back as the control characters of the same value.
 std::string DecodeFile(std::string_view bytes);

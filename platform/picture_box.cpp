@@ -1,7 +1,9 @@
 #include "platform/picture_box.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
+#include <utility>
 
 namespace {
 // Whether two edges in fractions have the whole picture between them, but for the rounding of the scale.
@@ -17,7 +19,7 @@ void PictureBox::SetImageBytes(std::string bytes) {
     Tell(Property::Drawing);
 }
 
-// In place: a curve of thousands of lines is drawn anew at each key.
+// In place: a diagram of thousands of lines is drawn anew at each key.
 DrawOperation& PictureBox::Add(DrawOperation::Shape shape) {
     DrawOperation& operation = operations_.emplace_back();
     operation.shape = shape;
@@ -32,6 +34,14 @@ void PictureBox::Line(double x1, double y1, double x2, double y2, Colour colour)
     line.x2 = FractionX(x2);
     line.y2 = FractionY(y2);
     line.rim = colour;
+}
+
+void PictureBox::Curve(std::vector<PicturePoint> points, Colour colour) {
+    assert(points.size() >= 2);
+    for (PicturePoint& point : points) point = {FractionX(point.x), FractionY(point.y)};
+    DrawOperation& curve = Add(DrawOperation::Shape::Curve);
+    curve.points = std::move(points);
+    curve.rim = colour;
 }
 
 void PictureBox::FilledRectangle(double x1, double y1, double x2, double y2, Colour fill) {

@@ -1,24 +1,31 @@
-// A picture as a display list: lines, filled rectangles, circles and texts in a scale that the program sets. What has been made
+// A picture as a display list: lines, curves, filled rectangles, circles and texts in a scale that the program sets. What has been made
 // persistent stays while overlays come and go. Tests read the list; a platform paints it at the resolution of the screen.
 #pragma once
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "platform/control.h"
 
+struct PicturePoint {
+    double x = 0, y = 0;
+    bool operator==(const PicturePoint&) const = default;
+};
+
 struct DrawOperation {
-    enum class Shape { Line, Rectangle, Circle, Text, Name };
+    enum class Shape : std::uint8_t { Line, Rectangle, Circle, Text, Name, Curve };
     Shape shape = Shape::Line;
+    bool italic = false;  // Name: reads upward, as the names of taxa do
+    Colour rim;           // the colour of a line, a curve, a circle's rim, a text
+    Colour fill;          // Rectangle and Circle alone
     // Fractions of the picture's width and height, from its upper left corner, so that what is drawn stays where it is when the scale
     // changes. Of a Name: pixels.
     double x1 = 0, y1 = 0;
     double x2 = 0, y2 = 0;  // Line and Rectangle alone
     double radius = 0;      // Circle: a fraction of the width; round on the screen
     double size = 0;        // Text: points
-    bool italic = false;    // Name: reads upward, as the names of taxa do
-    Colour rim;             // the colour of a line, a circle's rim, a text
-    Colour fill;            // Rectangle and Circle alone
     std::string text;
+    std::vector<PicturePoint> points;  // Curve alone, and instead of the others
     bool operator==(const DrawOperation&) const = default;
 };
 
@@ -44,6 +51,7 @@ public:
 
     // All in the scale of the moment.
     void Line(double x1, double y1, double x2, double y2, Colour colour);           // both end points belong to it
+    void Curve(std::vector<PicturePoint> points, Colour colour);                    // from point to point, of which there are two at least
     void FilledRectangle(double x1, double y1, double x2, double y2, Colour fill);  // over the whole scale area: drops what lies under it
     void Circle(double x, double y, double radius, Colour rim, Colour fill);  // the radius in units of x; as far up and down on the screen
     void Print(double x, double y, double points, const std::string& text, Colour colour);  // (x, y): its upper left corner

@@ -44,8 +44,8 @@ void OfferSaving() {
 void SnapshotSheet() {
     if (SampleCount == 0) return;
     CountsAtOpen.resize(SampleCount + 1);
-    for (int sample = 0; sample <= SampleCount; ++sample)
-        for (int slot = 0; slot <= kSlots; ++slot) CountsAtOpen[sample][slot] = Counts[slot][sample];
+    for (int slot = 0; slot <= kSlots; ++slot)  // row by row of Counts: its columns lie too far apart to be read in turn
+        for (int sample = 0; sample <= SampleCount; ++sample) CountsAtOpen[sample][slot] = Counts[slot][sample];
     for (int slot = 0; slot <= kSlots; ++slot)
         for (int field = kTaxonKey; field <= kTaxonName; ++field) TaxonTableAtOpen[slot][field] = TaxonTable[slot][field];
     SnapshotParams();

@@ -19,6 +19,9 @@ bool IsLineEnd(char c) {
 bool IsSeparator(char c) {
     return c == ',' || IsLineEnd(c);
 }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 std::size_t LengthOfBareCell(std::string_view rest) {
     std::size_t length = 0;
@@ -39,23 +42,28 @@ Any CellReader::Next() {
     return cell.text;
 }
 
-std::int32_t CellReader::NextCount() {
-    const auto digits = TakeDigits();
-    return digits ? *digits : ToInt32(Next().Number());
+std::size_t CellReader::NextCounts(std::span<std::int32_t> counts) {
+    if (const std::size_t taken = TakeDigits(counts); taken > 0) return taken;
+    counts[0] = ToInt32(Next().Number());
+    return 1;
 }
 
-// Nearly all cells of a sheet are like this: some digits from the first character to the comma.
-std::optional<std::int32_t> CellReader::TakeDigits() {
-    constexpr std::size_t kSurelyFit = 9;  // digits of 32 bits
-    const std::string_view rest = std::string_view(text_).substr(at_, kSurelyFit + 1);
-    std::size_t length = 0;
-    std::int32_t number = 0;
-    for (const std::size_t end = std::min(rest.size(), kSurelyFit); length < end && rest[length] >= '0' && rest[length] <= '9'; ++length)
-        number = number * 10 + (rest[length] - '0');
-    if (length == 0 || length == rest.size() || rest[length] != ',') return std::nullopt;
-    at_ += length + 1;
-    after_comma_ = true;
-    return number;
+// Nearly all cells of a sheet are like this: some digits from the first character to the separator. The NUL that ends the text is none.
+std::size_t CellReader::TakeDigits(std::span<std::int32_t> counts) {
+    constexpr std::ptrdiff_t kSurelyFit = 9;  // digits of 32 bits
+    const char* cell = text_.data() + at_;
+    std::size_t taken = 0;
+    for (; taken < counts.size(); ++taken) {
+        const char* end = cell;
+        std::uint32_t number = 0;
+        while (IsDigit(*end)) number = number * 10 + static_cast<std::uint32_t>(*end++ - '0');
+        if (end == cell || end - cell > kSurelyFit || !IsSeparator(*end)) break;
+        counts[taken] = static_cast<std::int32_t>(number);
+        after_comma_ = *end == ',';
+        cell = end + 1;
+    }
+    at_ = static_cast<std::size_t>(cell - text_.data());
+    return taken;
 }
 
 std::string CellReader::NextText() {
@@ -82,6 +90,11 @@ void CellReader::PassSeparator() {
     while (at_ < text_.size() && IsBlank(text_[at_])) ++at_;
     after_comma_ = at_ < text_.size() && text_[at_] == ',';
     if (at_ < text_.size() && IsSeparator(text_[at_])) ++at_;
+}
+
+CellWriter::CellWriter(OutputFile& file) : file_(file) {
+    constexpr std::size_t kLargeSheet = 256 << 10;  // bytes: nearly every file is shorter, and its text then never moves
+    text_.reserve(kLargeSheet);
 }
 
 void CellWriter::BeginCell() {
@@ -118,6 +131,10 @@ std::size_t CellWriter::Size() const {
     return EncodeFile(text_).size();
 }
 
+// Nearly all sheets are ASCII: their text is the bytes of the file, and need not be copied.
 void CellWriter::Close() {
-    file_.Replace(EncodeFile(text_));
+    if (IsAscii(text_))
+        file_.Replace(text_);
+    else
+        file_.Replace(EncodeFile(text_));
 }

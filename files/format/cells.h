@@ -5,7 +5,6 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,9 +22,11 @@ class CellReader {
 public:
     explicit CellReader(std::string text) : text_(std::move(text)) {}  // UTF-8, as DecodeFile gives it
     bool AtEnd();                                                      // no cell is left
-    Any Next();                // quoted: a text. Bare: a number if it is wholly one, else a text. Raises "Input past end of file"
-    std::int32_t NextCount();  // the cell as a whole number, 0 of a text that begins with none. Raises the same, and "Overflow"
-    std::string NextText();    // the cell as a text, quoted or bare, just as it stands in the file. Raises the same
+    Any Next();              // quoted: a text. Bare: a number if it is wholly one, else a text. Raises "Input past end of file"
+    std::string NextText();  // the cell as a text, quoted or bare, just as it stands in the file. Raises the same
+    // The next cells as whole numbers, 0 of a text that begins with none, into `counts` from its front. Returns how many it took: one at
+    // least, and no cell after it that may fail. Raises the same, and "Overflow". `counts` is not empty.
+    std::size_t NextCounts(std::span<std::int32_t> counts);
 
 private:
     struct Cell {
@@ -33,7 +34,7 @@ private:
         bool quoted;
     };
     Cell Take();
-    std::optional<std::int32_t> TakeDigits();  // nothing is taken if the cell is any other
+    std::size_t TakeDigits(std::span<std::int32_t> counts);  // up to the first cell that is any other
     void SkipToCell();
     void PassSeparator();
 
@@ -46,7 +47,7 @@ private:
 // parts cells, CR LF ends a row. The text is gathered in memory and handed over in one write when the writer is closed.
 class CellWriter {
 public:
-    explicit CellWriter(OutputFile& file) : file_(file) {}  // the file must outlive the writer
+    explicit CellWriter(OutputFile& file);  // the file must outlive the writer
     void Write(const Any& cell);
     void WriteCounts(std::span<const std::int32_t> counts);  // the same as Write of each, for the thousands of them
     void EndRow();

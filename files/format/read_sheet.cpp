@@ -1,6 +1,7 @@
 #include "files/format/read_sheet.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -63,9 +64,10 @@ int ReadTaxonLabels(CellReader& cells, std::int16_t row) {
 
 void ReadCounts(CellReader& cells, int slot, GridRead& read) {
     while (read.counts < SampleCount) {
-        const std::int32_t count = cells.NextCount();
-        Counts[slot][++read.counts] = count;
-        if (count != 0) read.has_count.set(read.rows);
+        const std::span rest(&Counts[slot][read.counts + 1], static_cast<std::size_t>(SampleCount - read.counts));
+        const auto taken = rest.first(cells.NextCounts(rest));
+        if (std::any_of(taken.begin(), taken.end(), [](std::int32_t count) { return count != 0; })) read.has_count.set(read.rows);
+        read.counts += static_cast<int>(taken.size());
     }
 }
 

@@ -12,7 +12,6 @@
 #include "platform/qt/key_filter.h"
 #include "platform/qt/qt_files.h"
 #include "platform/qt/qt_host.h"
-#include "platform/qt/renderer.h"
 #include "platform/qt/unasked_end.h"
 #include "platform/qt/window_system.h"
 #include "platform/qt/window_widget.h"
@@ -39,10 +38,6 @@ void QtClipboard::PutImage(const PictureBox& picture) {
     WindowWidget* const window = renderer_.WidgetOf(*picture.window);
     QWidget* const shown = window ? window->WidgetOf(picture) : nullptr;
     if (shown) QGuiApplication::clipboard()->setPixmap(shown->grab());
-}
-
-void QtPopups::Open(MenuItem& menu) {
-    renderer_.OpenPopupAfterEvent(menu);
 }
 
 // ---- The run ----

@@ -5,9 +5,8 @@
 #include "platform/qt/qt_files.h"
 #include "platform/qt/qt_keyboard.h"
 #include "platform/qt/qt_sounds.h"
+#include "platform/qt/renderer.h"
 #include "platform/services.h"
-
-class Renderer;
 
 // Without the toolkit, whose dates are empty while a process ends that has lost its display.
 class SystemClock : public Clock {
@@ -25,11 +24,12 @@ private:
     Renderer& renderer_;
 };
 
-// A popup opens under the mouse when the event that asks for it is over.
+// A popup opens under the mouse when the event that asks for it is over. All of it stands here, so that a program that has popups alone is
+// linked without the sounds.
 class QtPopups : public Popups {
 public:
     explicit QtPopups(Renderer& renderer) : renderer_(renderer) {}
-    void Open(MenuItem& menu) override;
+    void Open(MenuItem& menu) override { renderer_.OpenPopupAfterEvent(menu); }
 
 private:
     Renderer& renderer_;

@@ -39,13 +39,15 @@ public:
     void PassOver() { follows_line_ = false; }
 
     void Paint(const DrawOperation& operation) {
-        if (operation.shape != DrawOperation::Shape::Line) {
+        if (operation.shape != DrawOperation::Shape::Line && operation.shape != DrawOperation::Shape::Curve) {
             follows_line_ = false;
             PaintBars();
         }
         switch (operation.shape) {
             case DrawOperation::Shape::Line:
-                return Line(operation);
+                return Line({operation.x1, operation.y1}, {operation.x2, operation.y2}, operation.rim);
+            case DrawOperation::Shape::Curve:
+                return Curve(operation);
             case DrawOperation::Shape::Rectangle:
                 return Rectangle(operation);
             case DrawOperation::Shape::Circle:
@@ -69,14 +71,18 @@ private:
     }
 
     // A line of an axis direction is a bar of whole pixels around the place; with its far end, so that lines that meet join.
-    void Line(const DrawOperation& line) {
-        const double x1 = X(line.x1), y1 = Y(line.y1), x2 = X(line.x2), y2 = Y(line.y2);
-        if (IsCovered(QPointF(x1, y1), QPointF(x2, y2), line.rim)) return;
-        if (std::abs(x1 - x2) < 0.5 || std::abs(y1 - y2) < 0.5) return Bar(x1, y1, x2, y2, line.rim);
+    void Line(PicturePoint from, PicturePoint to, Colour colour) {
+        const double x1 = X(from.x), y1 = Y(from.y), x2 = X(to.x), y2 = Y(to.y);
+        if (IsCovered(QPointF(x1, y1), QPointF(x2, y2), colour)) return;
+        if (std::abs(x1 - x2) < 0.5 || std::abs(y1 - y2) < 0.5) return Bar(x1, y1, x2, y2, colour);
         PaintBars();
         painter_.setRenderHint(QPainter::Antialiasing, true);
-        UsePen(line.rim);
+        UsePen(colour);
         painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+    }
+
+    void Curve(const DrawOperation& curve) {
+        for (std::size_t i = 1; i < curve.points.size(); ++i) Line(curve.points[i - 1], curve.points[i], curve.rim);
     }
 
     void Bar(double x1, double y1, double x2, double y2, Colour colour) {
@@ -213,11 +219,14 @@ QRectF Reach(const DrawOperation& operation, const PictureScale& scale) {
     if (operation.shape == Shape::Text || operation.shape == Shape::Name) return {QPointF(), scale.size};
     const bool is_circle = operation.shape == Shape::Circle;
     const double margin = Thickness(scale) + 2 + (is_circle ? std::min(operation.radius * scale.size.width(), kLargestDot) : 0);
-    const auto [left, right] = std::minmax({operation.x1, is_circle ? operation.x1 : operation.x2});
-    const auto [top, bottom] = std::minmax({operation.y1, is_circle ? operation.y1 : operation.y2});
+    const PicturePoint from{operation.x1, operation.y1}, to{operation.x2, operation.y2};
+    const PicturePoint ends[] = {from, is_circle ? from : to};
+    const std::span<const PicturePoint> points = operation.shape == Shape::Curve ? std::span(operation.points) : std::span(ends);
+    const auto [left, right] = std::ranges::minmax_element(points, {}, &PicturePoint::x);
+    const auto [top, bottom] = std::ranges::minmax_element(points, {}, &PicturePoint::y);
     const auto pixel = [](double place, double length) { return std::clamp(place * length, -kFarOut, kFarOut); };
-    return {QPointF(pixel(left, scale.size.width()) - margin, pixel(top, scale.size.height()) - margin),
-            QPointF(pixel(right, scale.size.width()) + margin, pixel(bottom, scale.size.height()) + margin)};
+    return {QPointF(pixel(left->x, scale.size.width()) - margin, pixel(top->y, scale.size.height()) - margin),
+            QPointF(pixel(right->x, scale.size.width()) + margin, pixel(bottom->y, scale.size.height()) + margin)};
 }
 
 // Of the thousands of operations a counted grain changes those of one sample, and their order stays.

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <cstdint>
 #include <random>
 #include <vector>
 
@@ -183,10 +183,23 @@ TEST(CellReaderTest, AnyTextHasTheCellsFoundByteByByte) {
     }
 }
 
-// A count as text, or what the failure says.
-std::string CountOrFailure(const std::function<std::int32_t()>& next) {
+// The next counts as texts, up to so many, or what the failure says.
+Texts NextCounts(CellReader& reader, std::size_t most) {
+    std::vector<std::int32_t> counts(most);
     try {
-        return std::to_string(next());
+        counts.resize(reader.NextCounts(counts));
+    } catch (const Failure& failure) {
+        return {failure.what()};
+    }
+    Texts texts;
+    for (const std::int32_t count : counts) texts.push_back(std::to_string(count));
+    return texts;
+}
+
+// The same of one cell, in the plainest way.
+std::string NextRounded(CellReader& reader) {
+    try {
+        return std::to_string(ToInt32(reader.Next().Number()));
     } catch (const Failure& failure) {
         return failure.what();
     }
@@ -199,15 +212,30 @@ TEST(CellReaderTest, ACountIsTheCellRoundedToAWholeNumber) {
             std::string text;
             for (std::size_t length = random() % 40; length > 0; --length) text += "0123456789-,,,,. +e\"\r\n"[random() % 22];
             CellReader counts(text), cells(text);
-            while (!cells.AtEnd()) {
-                const std::string expected = CountOrFailure([&] { return ToInt32(cells.Next().Number()); });
-                ASSERT_EQ(CountOrFailure([&] { return counts.NextCount(); }), expected)
-                    << testing::PrintToString(text) << " of seed " << seed;
+            while (!counts.AtEnd()) {
+                const Texts taken = NextCounts(counts, 1 + random() % 5);
+                ASSERT_FALSE(taken.empty());
+                for (const std::string& count : taken)
+                    ASSERT_EQ(count, NextRounded(cells)) << testing::PrintToString(text) << " of seed " << seed;
             }
-            EXPECT_TRUE(counts.AtEnd());
+            EXPECT_TRUE(cells.AtEnd());
         }
     }
     CellReader reader("2147483647,2147483648,-2147483648,12.5,013,-0,\"7\",x,");
     for (const char* count : {"2147483647", "Overflow", "-2147483648", "12", "13", "0", "7", "0", "0", "Input past end of file"})
-        EXPECT_EQ(CountOrFailure([&] { return reader.NextCount(); }), count);
+        EXPECT_EQ(NextCounts(reader, 1), Texts{count});
+}
+
+TEST(CellReaderTest, CountsBeforeOneThatFailsAreTaken) {
+    CellReader reader("1,22,9999999999,3");
+    EXPECT_EQ(NextCounts(reader, 9), (Texts{"1", "22"}));
+    EXPECT_EQ(NextCounts(reader, 9), Texts{"Overflow"});
+    EXPECT_EQ(NextCounts(reader, 9), Texts{"3"});
+}
+
+TEST(CellReaderTest, NoMoreCountsAreTakenThanThereIsRoomFor) {
+    CellReader reader("1,2,3\r\n4");
+    EXPECT_EQ(NextCounts(reader, 2), (Texts{"1", "2"}));
+    EXPECT_EQ(NextCounts(reader, 1), Texts{"3"});
+    EXPECT_EQ(reader.NextText(), "4");
 }

@@ -1,5 +1,6 @@
 #include "diagram/diversity_curve.h"
 
+#include <cmath>
 #include <vector>
 
 #include "platform/user.h"
@@ -25,6 +26,16 @@ protected:
         for (const DrawOperation& operation : frmMain.Picture2.Operations())
             if (operation.shape == shape && operation.rim == colour) drawn.push_back(operation);
         return drawn;
+    }
+    // The stretches of the curve, in its scale.
+    using Stretches = std::vector<std::vector<PicturePoint>>;
+    static Stretches Curves() {
+        Stretches curves;
+        for (const DrawOperation& curve : Drawn(Shape::Curve, kRed)) {
+            curves.emplace_back();
+            for (const PicturePoint& point : curve.points) curves.back().push_back({std::round(X(point.x)), std::round(Y(point.y))});
+        }
+        return curves;
     }
     static void ExpectLine(const DrawOperation& line, double x1, double y1, double x2, double y2) {
         EXPECT_NEAR(X(line.x1), x1, 1e-9);
@@ -57,10 +68,7 @@ TEST_F(DiversityCurveTest, TheScaleLeavesRoomForTheLabels) {
 
 TEST_F(DiversityCurveTest, LinesJoinThePointsInRedAndTheAxesAreGrey) {
     for (const int key : {1, 2, 2}) KeyNumber(key);
-    const auto curve = Drawn(Shape::Line, kRed);
-    ASSERT_EQ(curve.size(), 2u);
-    ExpectLine(curve[0], 10, 10, 20, 20);
-    ExpectLine(curve[1], 20, 20, 30, 20);
+    EXPECT_EQ(Curves(), Stretches({{{10, 10}, {20, 20}, {30, 20}}}));
     const auto axes = Drawn(Shape::Line, kGrey);
     ASSERT_EQ(axes.size(), 2u);
     ExpectLine(axes[0], 0, 0, 30, 0);
@@ -86,7 +94,7 @@ TEST_F(DiversityCurveTest, FourLabelsStandAtTheEndsOfTheAxes) {
 TEST_F(DiversityCurveTest, OneGrainOfOneTaxonIsAPointAndOnlyTheAxesShow) {
     KeyNumber(1);
     EXPECT_EQ(DiversityCurve[1], 10) << "set although the first count has not passed the old-sample test";
-    EXPECT_TRUE(Drawn(Shape::Line, kRed).empty());
+    EXPECT_TRUE(Curves().empty());
     EXPECT_EQ(Drawn(Shape::Line, kGrey).size(), 2u);
 }
 
@@ -95,9 +103,17 @@ TEST_F(DiversityCurveTest, TheFirstCountAfterAChangeOfSampleLeavesAGap) {
     ShowSample(1);
     for (const int key : {1, 1, 1}) KeyNumber(key);
     EXPECT_EQ(DiversityCurve, (std::vector<std::int16_t>{0, 0, 0, 0, 0, 30, 30}));
-    const auto curve = Drawn(Shape::Line, kRed);
-    ASSERT_EQ(curve.size(), 1u);
-    ExpectLine(curve[0], 50, 30, 60, 30);
+    EXPECT_EQ(Curves(), Stretches({{{50, 30}, {60, 30}}}));
+}
+
+TEST_F(DiversityCurveTest, AGapInTheRecordPartsTheCurve) {
+    for (const int key : {1, 2, 3, 1, 1, 1, 2}) KeyNumber(key);
+    DiversityCurve[4] = 0;
+    DrawDiversityCurve();
+    EXPECT_EQ(Curves(), Stretches({{{10, 10}, {20, 20}, {30, 30}}, {{50, 30}, {60, 30}, {70, 30}}}));
+    DiversityCurve[6] = 0;
+    DrawDiversityCurve();
+    EXPECT_EQ(Curves(), Stretches({{{10, 10}, {20, 20}, {30, 30}}})) << "a point alone shows nothing";
 }
 
 TEST_F(DiversityCurveTest, UndoShortensItAndCountingUpWritesItAnew) {
@@ -130,7 +146,7 @@ TEST_F(DiversityCurveTest, ATotalBelow0DisturbsNothing) {
     PressKey(kUndo);
     KeyNumber(1, 3);
     EXPECT_EQ(Counts[1][1], -1);
-    EXPECT_TRUE(Drawn(Shape::Line, kRed).empty());
+    EXPECT_TRUE(Curves().empty());
     KeyNumber(2, 2);
     ReleaseKey(kUndo);
     KeyNumber(1, 5);

@@ -4,6 +4,7 @@
 
 #include "drive/script.h"
 
+using drive::CountAll;
 using drive::CountDrawn;
 using drive::CountKind;
 using drive::PictureLines;
@@ -34,6 +35,18 @@ TEST_F(DriveDrawnTest, APictureIsAListOfLines) {
     EXPECT_EQ(PictureLines(picture_), (std::vector<std::string>{"scale 0 9.5 500 21", "rect 0 9.5 500 30.5 255,255,255",
                                                                 "line 5 10 45 16.666667 0,128,0", "circle 45 10 1.5 0,128,0 255,255,255",
                                                                 "persist", R"(text 3 10 7 "a \"b\"")", R"(name 12 80 italic "Pinus")"}));
+}
+
+TEST_F(DriveDrawnTest, ACurveIsTheLinesThatItIsMadeOf) {
+    picture_.Curve({{5, 10}, {45, 10}, {45, 20}}, kGreen);
+    picture_.Persist();
+    picture_.Circle(45, 10, 1.5, kGreen, kWhite);
+    EXPECT_EQ(PictureLines(picture_), (std::vector<std::string>{"scale 0 9.5 500 21", "line 5 10 45 10 0,128,0", "line 45 10 45 20 0,128,0",
+                                                                "persist", "circle 45 10 1.5 0,128,0 255,255,255"}));
+    EXPECT_EQ(CountDrawn(picture_, "line 45 10 45 20 0,128,0"), 1);
+    EXPECT_EQ(CountDrawn(picture_, "line 5 10 45 20 0,128,0"), 0);
+    EXPECT_EQ(CountKind(picture_, "line"), 2);
+    EXPECT_EQ(CountAll(picture_), 3);
 }
 
 TEST_F(DriveDrawnTest, NothingPersistsInAnEmptyPicture) {

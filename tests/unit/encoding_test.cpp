@@ -37,6 +37,8 @@ TEST(EncodingTest, AsciiIsTheSameInBoth) {
     EXPECT_EQ(EncodeFile(ascii), ascii);
     EXPECT_EQ(DecodeFile(ascii), ascii);
     EXPECT_EQ(EncodeFile(""), "");
+    EXPECT_TRUE(IsAscii(ascii));
+    EXPECT_TRUE(IsAscii(""));
     EXPECT_EQ(DecodeFile(""), "");
 }
 
@@ -54,6 +56,7 @@ TEST(EncodingTest, EveryByteOfWindows1252HasItsCharacter) {
         const std::string bytes(1, static_cast<char>(byte));
         EXPECT_EQ(DecodeFile(bytes), Utf8(character)) << Hex(bytes);
         EXPECT_EQ(EncodeFile(Utf8(character)), bytes) << Hex(bytes);
+        EXPECT_EQ(IsAscii("Pinus " + bytes), character < 0x80) << Hex(bytes);
     }
 }
 

@@ -32,6 +32,14 @@ TEST_F(PictureBoxTest, ALineIsKeptInFractionsOfThePicture) {
     EXPECT_EQ(Last().rim, kRed);
 }
 
+TEST_F(PictureBoxTest, ACurveIsKeptInFractionsOfThePicture) {
+    SetScale(-10, 50, 40, 200);
+    picture_.Curve({{-10, 50}, {10, 50}, {30, 250}}, kRed);
+    EXPECT_EQ(Last().shape, Shape::Curve);
+    EXPECT_EQ(Last().points, (std::vector<PicturePoint>{{0, 0}, {0.5, 0}, {1, 1}}));
+    EXPECT_EQ(Last().rim, kRed);
+}
+
 TEST_F(PictureBoxTest, ANegativeHeightTurnsYUpward) {
     SetScale(0, 11.7, 12, -14);
     picture_.Line(6, 11.7, 6, -2.3, kRed);

@@ -1,5 +1,7 @@
 #include "files/save_sheet.h"
 
+#include <limits>
+
 #include "platform/failure.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
@@ -186,13 +188,24 @@ TEST_F(SaveSheetTest, ASumBeyondItStopsTheRunBeforeAnythingIsAskedOrWritten) {
     Begin("10");
     SaveAs(kPath);
     const std::string before = files_.bytes[kPath];
-    for (const int sum : {32768, -32769}) {
+    for (const int sum : {32768, -32769, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
         Counts[1][1] = sum;
         EXPECT_THROW(SaveSheet(kSave), Failure) << sum;
         EXPECT_THROW(SaveSheet(kSaveAs), Failure) << sum;
         EXPECT_EQ(files_.bytes[kPath], before) << sum;
         EXPECT_EQ(MessageCount(), 0u) << sum;
         EXPECT_EQ(services_.dialogs.asked.size(), 1u) << sum;
+    }
+}
+
+TEST_F(SaveSheetTest, ASumBeyond32BitsStopsTheRunAsWell) {
+    Begin("10");
+    for (const int sign : {1, -1}) {
+        Counts[1][1] = 32767 * sign;
+        for (const int count : {sign * std::numeric_limits<int>::max(), sign * std::numeric_limits<int>::max() - 32766 * sign}) {
+            Counts[2][1] = count;
+            EXPECT_THROW(SaveSheet(kSaveAs), Failure) << count;
+        }
     }
 }
 
@@ -203,5 +216,28 @@ TEST_F(SaveSheetTest, ASubtotalBeyondItStopsTheRunAsWell) {
     Counts[3][1] = -20000;
     TaxonTable[1][kTaxonSubtotal2] = TaxonTable[2][kTaxonSubtotal2] = 1;
     EXPECT_THROW(SaveSheet(kSaveAs), Failure);
+}
+
+TEST_F(SaveSheetTest, AFlagOfAnyValueWeighsTheCountsOfItsTaxon) {
+    Begin("10");
+    const double flags[] = {1, 0, 2, -1, 0.5, 0.5};
+    const int counts[] = {10, 7, 3, 4, 5, 3};  // 10, 10, 16, 12, 14.5 and with it 14, 15.5 and with it 16
+    for (int slot = 1; slot <= 6; ++slot) {
+        KeyNumber(slot, counts[slot - 1]);
+        TaxonTable[slot][kTaxonSubtotal1] = flags[slot - 1];
+    }
+    SaveAs(kPath);
+    EXPECT_TRUE(
+        files_.bytes[kPath].ends_with("\"Subtotal-1\",16\r\n\"---\",\"---\",\"---\",\"Subtotal-2\",0\r\n"
+                                      "\"---\",\"---\",\"---\",\"All total\",32\r\n"));
+}
+
+TEST_F(SaveSheetTest, AWeightedSumBeyondItStopsTheRunAsWell) {
+    Begin("10");
+    TaxonTable[1][kTaxonSubtotal1] = 2;
+    for (const int count : {16384, -16385}) {
+        Counts[1][1] = count;
+        EXPECT_THROW(SaveSheet(kSaveAs), Failure) << count;
+    }
 }
 }  // namespace

@@ -64,6 +64,15 @@ TEST_F(PicturePainterTest, LinesThatMeetLeaveNoHole) {
     EXPECT_EQ(image.pixelColor(40, 50), Qt::black);
 }
 
+TEST_F(PicturePainterTest, ACurveLooksLikeItsLines) {
+    const std::vector<PicturePoint> points = {{10, 20}, {10.1, 20}, {10.2, 20.1}, {40, 20}, {40, 50}, {41, 52.5}, {90, 3}};
+    for (std::size_t i = 1; i < points.size(); ++i) picture_.Line(points[i - 1].x, points[i - 1].y, points[i].x, points[i].y, kBlack);
+    const QImage lines = Painted(2);
+    picture_.Clear();
+    picture_.Curve(points, kBlack);
+    EXPECT_EQ(Painted(2), lines);
+}
+
 TEST_F(PicturePainterTest, NamesSpreadWithTheColumnsBelowThem) {
     picture_.Name(20, 50, false, "Pinus");
     const int plain = FirstInk(Painted(1));

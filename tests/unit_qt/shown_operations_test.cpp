@@ -18,7 +18,7 @@ protected:
 
     DrawOperation AnyOperation() {
         DrawOperation operation;
-        operation.shape = static_cast<DrawOperation::Shape>(Any(0, 99) < 90 ? Any(0, 2) : Any(3, 4));
+        operation.shape = static_cast<DrawOperation::Shape>(Any(0, 99) < 90 ? Any(0, 2) : Any(3, 5));
         const bool is_name = operation.shape == DrawOperation::Shape::Name;
         operation.x1 = is_name ? Any(0, 150) : AnyPlace();
         operation.y1 = is_name ? Any(40, 110) : AnyPlace();
@@ -30,6 +30,8 @@ protected:
         operation.rim = Any(0, 1) == 0 ? kBlack : Colour{0, 128, 0};
         operation.fill = kFormColour;
         operation.text = "Pinus";
+        if (operation.shape == DrawOperation::Shape::Curve)
+            operation.points = {{operation.x1, operation.y1}, {operation.x2, operation.y2}, {AnyPlace(), AnyPlace()}};
         return operation;
     }
 
