@@ -4,7 +4,7 @@ include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
 include(CheckLinkerFlag)
 
-foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard -fPIE)
+foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard)
   string(MAKE_C_IDENTIFIER "COMPILER_HAS${flag}" has)
   check_cxx_compiler_flag(${flag} ${has})
   if(${has})
@@ -12,13 +12,21 @@ foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -
   endif()
 endforeach()
 
-foreach(flag -pie -Wl,-z,relro -Wl,-z,now)
+foreach(flag -Wl,-z,relro -Wl,-z,now)
   string(MAKE_C_IDENTIFIER "LINKER_HAS${flag}" has)
   check_linker_flag(CXX ${flag} ${has})
   if(${has})
     add_link_options(${flag})
   endif()
 endforeach()
+
+# Programs, and what is linked into them, lie at another place at each start.
+check_cxx_compiler_flag(-fPIE COMPILER_HAS_PIE)
+check_linker_flag(CXX -pie LINKER_HAS_PIE)
+if(COMPILER_HAS_PIE AND LINKER_HAS_PIE)
+  add_compile_options($<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:TYPE>,MODULE_LIBRARY>>:-fPIE>)
+  add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
+endif()
 
 # The bounds of what the library copies and prints: at level 3 as far as they are known at run time. An older library warns of that level.
 set(CMAKE_REQUIRED_FLAGS "-O2 -Werror -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3")
