@@ -154,8 +154,10 @@ void Rescue::Keep() {
         const std::string copy = BytesOfCopy();
         const std::string sheet = SheetOf(copy);
         if (sheet == kept_ || (kept_.empty() && sheet == *safe_)) return;
-        ChooseName();
+        if (path_.empty()) ChooseName();
+        if (path_.empty()) throw Failure(kFileError);
         kept_ = sheet;
+        has_copy_ = true;
         disk_.Write(path_, copy, [this](bool done) {
             if (done) return;
             kept_.clear();
@@ -179,23 +181,24 @@ void Rescue::EndByUser() {
     disk_.Finish();
 }
 
+// While the disk is waited for anyway: no key then waits for it before the first copy.
 void Rescue::ChooseName() {
-    for (int number = 1; path_.empty(); ++number) {
-        if (number > kNames) throw Failure(kFileError);
+    disk_.Finish();
+    for (int number = 1; path_.empty() && number <= kNames; ++number)
         if (const std::string path = PathOf(NameOfCopy(number)); !disk_.IsThere(path)) path_ = path;
-    }
 }
 
-// Its user has chosen the copy itself for a file: then it is no copy any longer.
+// If its user has chosen the copy itself for a file, it is no copy any longer; nor is one to be where that file comes.
 void Rescue::LeaveFileAlone(const std::string& path) {
     disk_.Finish();
-    if (path_.empty() || !disk_.AreSame(path_, path)) return;
+    if (has_copy_ && !disk_.AreSame(path_, path)) return;
+    has_copy_ = false;
     path_.clear();
     kept_.clear();
 }
 
 void Rescue::Forget() {
-    if (!path_.empty()) Remove(path_);
+    if (std::exchange(has_copy_, false)) Remove(path_);
     path_.clear();
     kept_.clear();
 }
@@ -207,6 +210,7 @@ void Rescue::Remove(const std::string& path) {
 
 void Rescue::SheetIsSafe() {
     Forget();
+    ChooseName();
     last_save_failed_ = false;
     safe_ = SheetOf(BytesOfCopy());
 }
@@ -219,7 +223,7 @@ void Rescue::HearOfSave() {
 // What the sheet has gone back to may be in no file either.
 void Rescue::HearOfReset() {
     if (safe_ && SheetOf(BytesOfCopy()) == *safe_)
-        Forget();
+        SheetIsSafe();
     else
         Keep();
 }

@@ -37,7 +37,8 @@ private:
     std::function<void()> try_again_;
     std::optional<std::string> safe_;  // the sheet as it was when nothing of it could be lost; before the main window is there, none
     std::string kept_;                 // the sheet as the copy has it; empty: it has none
-    std::string path_;                 // of the copy; empty before it is written
+    std::string path_;                 // of the copy, or where it is to be; empty: no name has been free
+    bool has_copy_ = false;            // it has been written there, or is being written
     std::string told_;                 // path of the copy that the start face tells of; empty: of none
     bool last_save_failed_ = false;
 };

@@ -22,6 +22,7 @@ public:
     explicit LateFiles(MemoryFiles& files) : files_(files) {}
     bool is_full = false;
     int written = 0;
+    int waited_for = 0;
 
     void Tell() {
         for (; !told_.empty(); told_.pop_front()) told_.front()();
@@ -38,9 +39,13 @@ public:
         jobs_.push_back([this, path] { files_.bytes.erase(path); });
     }
     void Finish() override {
+        ++waited_for;
         for (; !jobs_.empty(); jobs_.pop_front()) jobs_.front()();
     }
-    bool IsThere(const std::string& path) override { return files_.bytes.count(path) > 0; }
+    bool IsThere(const std::string& path) override {
+        ++waited_for;
+        return files_.bytes.count(path) > 0;
+    }
     bool AreSame(const std::string& path, const std::string& other) override { return path == other; }
 
 private:
@@ -89,6 +94,28 @@ TEST_F(RescueTest, NothingIsWrittenBeforeAnythingIsDone) {
     Start();
     rescue_.KeepNow();
     EXPECT_EQ(disk_.written, 0);
+}
+
+TEST_F(RescueTest, NoKeyWaitsForTheDiskAtTheFirstCopy) {
+    LeaveCopy(kRescue);
+    Begin("10");
+    for (const char* sheet : {"/sheets/one.csv", "/sheets/two.csv"}) {
+        KeyNumber(1);
+        disk_.waited_for = 0;
+        rescue_.Keep();
+        EXPECT_EQ(disk_.waited_for, 0);
+        EXPECT_EQ(CountIn(kSecond), Counts[1][1] == 1 ? "1" : "2") << sheet;
+        SaveAs(sheet);
+    }
+}
+
+TEST_F(RescueTest, NoCopyComesWhereItsUserSavesASheet) {
+    Begin("10");
+    SaveAs(kRescue);
+    KeyNumber(1);
+    Keep();
+    EXPECT_EQ(CountIn(kRescue), "0");
+    EXPECT_EQ(CountIn(kSecond), "1");
 }
 
 TEST_F(RescueTest, ItHoldsTheSheetAsItStandsAndOpens) {

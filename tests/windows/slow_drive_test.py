@@ -49,6 +49,13 @@ class SlowDriveTest(unittest.TestCase):
             self.assertEqual(counts_in(self.rescue), self.expected(12))
         self.wait_for_rescue()
 
+    def test_keys_are_answered_though_the_drive_goes_before_the_first_copy(self):
+        with self.disk.trouble():
+            self.press(1)
+            self.disk.wait_for_trouble("Rescue.csv.new")
+            self.count(30)
+        self.wait_for_rescue()
+
     def test_a_copy_that_the_drive_refuses_is_tried_again_until_it_is_back(self):
         for call in ("open", "write", "flush", "rename"):
             with self.disk.trouble(call, errno.EIO):
