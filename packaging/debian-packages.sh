@@ -6,6 +6,7 @@
 #     packaging/debian-packages.sh fuzz           what the fuzzers take
 #     packaging/debian-packages.sh format         what the check of the format takes
 #     packaging/debian-packages.sh lint           the compiler and the checkers of tests/lint.sh
+#     packaging/debian-packages.sh windows        what a build for Windows takes, and what runs it
 #     packaging/debian-packages.sh bench          the programs that the benchmarks compare with
 # or several of these words.
 set -euo pipefail
@@ -34,6 +35,12 @@ for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)
 for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)
 for_fuzz=(clang libclang-rt-dev libgtest-dev libsdl2-mixer-dev)
 for_format=(clang-format)
+for_windows=(
+    g++-mingw-w64-x86-64-posix cmake ninja-build ccache dpkg-dev
+    qt6-base-dev qt6-svg-dev libsdl2-mixer-dev  # the toolkit's tools, and the licences
+    wine64 nsis zip googletest python3-markdown
+    xvfb openbox xdotool imagemagick
+)
 for_lint=(clang clang-tidy cppcheck)
 
 Fail() {
@@ -62,11 +69,12 @@ for purpose in "$@"; do
         bench) wanted+=("${for_bench[@]}") ;;
         fuzz) wanted+=("${for_fuzz[@]}") ;;
         format) wanted+=("${for_format[@]}") ;;
+        windows) wanted+=("${for_windows[@]}") ;;
         lint) wanted+=("${for_lint[@]}") ;;
         *) wanted=() && break ;;
     esac
 done
-[ "${#wanted[@]}" -gt 0 ] || Fail "say build, test, spreadsheet, fuzz, format, lint or bench"
+[ "${#wanted[@]}" -gt 0 ] || Fail "say build, test, spreadsheet, fuzz, format, lint, windows or bench"
 
 if ! command -v apt-get >/dev/null; then
     echo "debian-packages.sh: no apt-get here, so nothing is installed; needed are: ${wanted[*]}" >&2

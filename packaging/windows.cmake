@@ -1,21 +1,41 @@
-# The libraries lie beside the program. The tree does not: what users change is then in folders of their own, which no update touches.
-file(CONFIGURE OUTPUT marlbrook.rc CONTENT "1 ICON \"@ICONS@/marlbrook.ico\"\n" @ONLY)
+# The program with the libraries that it takes, which lie beside it:
+#     cmake --install      bin and share/marlbrook, which windows/setup.nsi makes a setup of: what users change is then in folders of
+#                          their own, which no update touches
+#     cpack -G ZIP         a folder for any place of the user's: the program beside References and Sound files, which it then uses
+configure_file("${HERE}/windows/marlbrook.rc.in" marlbrook.rc @ONLY)
+configure_file("${HERE}/windows/marlbrook.manifest" marlbrook.manifest COPYONLY)
 target_sources(marlbrook PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/marlbrook.rc")
 
-install(TARGETS marlbrook
-  RUNTIME_DEPENDENCIES
-    PRE_EXCLUDE_REGEXES "^api-ms-" "^ext-ms-"
-    POST_EXCLUDE_REGEXES "[/\\\\][Ss]ystem32[/\\\\]"
-    DIRECTORIES $ENV{PATH}
-  RUNTIME DESTINATION bin)
-find_program(DEPLOY_QT windeployqt)
-install(CODE "execute_process(COMMAND \"${DEPLOY_QT}\" \"\${CMAKE_INSTALL_PREFIX}/bin/marlbrook.exe\" COMMAND_ERROR_IS_FATAL ANY)")
+# CompilersLibrary(NAME): writes it without its symbols, which are most of it, into a folder of the build, and adds it to COMPILERS_LIBRARIES.
+set(STRIPPED "${CMAKE_CURRENT_BINARY_DIR}/libraries")
+file(MAKE_DIRECTORY "${STRIPPED}")
+macro(CompilersLibrary name)
+  execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${name} OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  execute_process(COMMAND "${CMAKE_STRIP}" -o "${STRIPPED}/${name}" "${file}" COMMAND_ERROR_IS_FATAL ANY)
+  list(APPEND COMPILERS_LIBRARIES "${STRIPPED}/${name}")
+endmacro()
+CompilersLibrary(libgcc_s_seh-1.dll)
+CompilersLibrary(libstdc++-6.dll)
+CompilersLibrary(libwinpthread-1.dll)
 
-set(CPACK_GENERATOR NSIS)
-set(CPACK_NSIS_DISPLAY_NAME Marlbrook)
-set(CPACK_NSIS_PACKAGE_NAME Marlbrook)
-set(CPACK_NSIS_MUI_ICON "${ICONS}/marlbrook.ico")
-set(CPACK_NSIS_MUI_UNIICON "${ICONS}/marlbrook.ico")
-set(CPACK_NSIS_INSTALLED_ICON_NAME bin/marlbrook.exe)
-set(CPACK_PACKAGE_EXECUTABLES marlbrook Marlbrook)
-set(CPACK_NSIS_ENABLE_UNINSTALL_BEFORE_INSTALL ON)
+# LayProgram(FOLDER WHAT...): the program, its libraries with their licences, and the toolkit's plug-ins, in this folder of what is installed.
+function(LayProgram folder)
+  install(TARGETS marlbrook RUNTIME DESTINATION "${folder}" ${ARGN})
+  install(FILES $<TARGET_RUNTIME_DLLS:marlbrook> ${COMPILERS_LIBRARIES} DESTINATION "${folder}" ${ARGN})
+  foreach(plugin platforms/qwindows styles/qwindowsvistastyle imageformats/qjpeg imageformats/qsvg iconengines/qsvgicon)
+    get_filename_component(kind ${plugin} DIRECTORY)
+    install(FILES "${MARLBROOK_WINDOWS_SDK}/plugins/${plugin}.dll" DESTINATION "${folder}/${kind}" ${ARGN})
+  endforeach()
+  foreach(package qt6-base-dev qt6-svg-dev libsdl2-2.0-0 libsdl2-mixer-2.0-0 gcc-mingw-w64-base mingw-w64-x86-64-dev)
+    install(FILES "/usr/share/doc/${package}/copyright" DESTINATION "${folder}/licences" RENAME "${package}.txt" ${ARGN})
+  endforeach()
+  foreach(licence LGPL-3 GPL-2 GPL-3)
+    install(FILES "/usr/share/common-licenses/${licence}" DESTINATION "${folder}/licences" ${ARGN})
+  endforeach()
+endfunction()
+LayProgram(bin)
+LayProgram(. COMPONENT folder EXCLUDE_FROM_ALL)
+install(DIRECTORY "${MARLBROOK_TREE}/" DESTINATION . COMPONENT folder EXCLUDE_FROM_ALL)
+
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_FILE_NAME "Marlbrook-${PROJECT_VERSION}-windows")

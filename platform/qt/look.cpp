@@ -135,6 +135,16 @@ QIcon ProgramIcon() {
     return icon;
 }
 
+// Where Windows lacks its own letters the next ones of any kind would be taken, slabs and all.
+void PreferSans() {
+#ifdef Q_OS_WIN
+    QFont font = QApplication::font();
+    font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Tahoma"), QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
+                      QStringLiteral("DejaVu Sans")});
+    QApplication::setFont(font);
+#endif
+}
+
 QFont FontOfSize(double points, double factor) {
     QFont font = QApplication::font();
     font.setPixelSize(std::max(1, static_cast<int>(points * kTwipsPerPoint * factor + 0.25)));
@@ -146,6 +156,7 @@ void ApplyLook(QApplication& application) {
     application.setStyle(new Look);
     application.setPalette(LightPalette());
     application.setWindowIcon(ProgramIcon());
+    PreferSans();
     const QFont plain = PlainFont(CommonFactor(*QGuiApplication::primaryScreen()));
     QApplication::setFont(plain);
     QToolTip::setFont(plain);

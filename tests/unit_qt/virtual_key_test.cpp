@@ -4,6 +4,8 @@
 
 #include <set>
 
+#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
+
 namespace {
 // One key of a layout under X11 or Wayland: its place, the symbol it types and the key that Qt makes of it.
 struct Key {
@@ -19,8 +21,6 @@ int CodeOf(const Key& key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
 
 constexpr quint32 kUnicode = 0x01000000;
 }  // namespace
-
-#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
 
 TEST(VirtualKeyTest, LettersGoByWhatTheyType) {
     for (const Key& key :

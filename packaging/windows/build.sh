@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Builds Marlbrook for Windows (x86_64) on Debian 12: the program, the driver and their tests in build/windows, and two packages beside them,
+# Marlbrook-VERSION-setup.exe and Marlbrook-VERSION-windows.zip.
+# The libraries are those in the folder that MARLBROOK_WINDOWS_SDK names, or in build/windows-sdk, where ../shared/windows/sdk.tar.xz is
+# unpacked if it is there; else libraries.sh makes them, which takes most of an hour.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/../.."
+
+Fail() {
+    echo "packaging/windows/build.sh: $*" >&2
+    exit 1
+}
+
+packaging/debian-packages.sh windows
+export MARLBROOK_WINDOWS_SDK=${MARLBROOK_WINDOWS_SDK:-$PWD/build/windows-sdk}
+if ! [ -e "$MARLBROOK_WINDOWS_SDK/bin/Qt6Core.dll" ]; then
+    mkdir -p "$MARLBROOK_WINDOWS_SDK"
+    if [ -e ../shared/windows/sdk.tar.xz ]; then
+        tar xf ../shared/windows/sdk.tar.xz -C "$MARLBROOK_WINDOWS_SDK"
+    else
+        packaging/windows/libraries.sh "$MARLBROOK_WINDOWS_SDK"
+    fi
+fi
+
+packaging/build.sh windows
+installed=$(mktemp -d)
+trap 'rm -rf "$installed"' EXIT
+cd build/windows
+cmake --install . --prefix "$installed" --strip >/dev/null
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' CMakeCache.txt)
+makensis -V2 -DVERSION="$version" -DFOLDER="$installed" -DICON="$PWD/../../install/icons/marlbrook.ico" \
+    -DOUTPUT="$PWD/Marlbrook-$version-setup.exe" ../../packaging/windows/setup.nsi || Fail "the setup could not be made"
+cpack -G ZIP >/dev/null || Fail "the folder could not be packed"
+ls -l "Marlbrook-$version-setup.exe" "Marlbrook-$version-windows.zip"

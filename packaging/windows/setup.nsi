@@ -1,0 +1,89 @@
+; The setup, for one user and without an administrator:
+;     makensis -DVERSION=2.7.5 -DFOLDER=what-is-installed -DICON=file.ico -DOUTPUT=setup.exe setup.nsi
+; What its user keeps, settings, back-ups and sounds, lies in %LOCALAPPDATA%\Marlbrook, where setup and uninstaller do nothing.
+Target amd64-unicode
+!include MUI2.nsh
+!include FileFunc.nsh
+
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Marlbrook"
+
+Name "Marlbrook"
+OutFile "${OUTPUT}"
+InstallDir "$LOCALAPPDATA\Programs\Marlbrook"
+InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
+RequestExecutionLevel user
+ManifestDPIAware true
+SetCompressor /SOLID lzma
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey ProductName "Marlbrook"
+VIAddVersionKey FileDescription "Setup of Marlbrook, tally counter for the microscope"
+VIAddVersionKey FileVersion "${VERSION}"
+VIAddVersionKey ProductVersion "${VERSION}"
+VIAddVersionKey CompanyName "The Marlbrook maintainers"
+VIAddVersionKey LegalCopyright "The Marlbrook maintainers"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_FINISHPAGE_RUN "$INSTDIR\bin\marlbrook.exe"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "English"
+
+; The files of the version before, and nothing else that may lie there.
+!macro RemoveFiles
+  RMDir /r "$INSTDIR\bin"
+  RMDir /r "$INSTDIR\share\marlbrook"
+  RMDir /r "$INSTDIR\share\doc\marlbrook"
+  RMDir "$INSTDIR\share\doc"
+  RMDir "$INSTDIR\share"
+!macroend
+
+; A program that runs holds its file: Windows then lets nobody open it for writing.
+!macro RefuseWhileItRuns un
+  Function ${un}RefuseWhileItRuns
+    IfFileExists "$INSTDIR\bin\marlbrook.exe" 0 free
+    ClearErrors
+    FileOpen $0 "$INSTDIR\bin\marlbrook.exe" a
+    IfErrors 0 close
+    MessageBox MB_OK|MB_ICONEXCLAMATION "Marlbrook is running. Save your sheet, end Marlbrook, and try again." /SD IDOK
+    SetErrorLevel 2
+    Abort
+  close:
+    FileClose $0
+  free:
+  FunctionEnd
+!macroend
+!insertmacro RefuseWhileItRuns ""
+!insertmacro RefuseWhileItRuns "un."
+
+Section "Marlbrook"
+  Call RefuseWhileItRuns
+  !insertmacro RemoveFiles
+  SetOutPath "$INSTDIR"
+  File /r "${FOLDER}/*"
+  WriteUninstaller "$INSTDIR\uninstall.exe"
+  CreateShortcut "$SMPROGRAMS\Marlbrook.lnk" "$INSTDIR\bin\marlbrook.exe"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "Marlbrook"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\bin\marlbrook.exe"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "The Marlbrook maintainers"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
+  ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
+SectionEnd
+
+Section "Uninstall"
+  Call un.RefuseWhileItRuns
+  !insertmacro RemoveFiles
+  Delete "$SMPROGRAMS\Marlbrook.lnk"
+  DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  Delete "$INSTDIR\uninstall.exe"
+  RMDir "$INSTDIR"
+SectionEnd
