@@ -136,7 +136,7 @@ void EnterCountBox(const TextBox& box) {
 }
 
 void LeaveCountBox(int slot, const TextBox& box) {
-    const std::string count = box.Text();
+    const std::string& count = box.Text();
     if (!AmendMode || count == EditedValue) return;
     MarkSheetEdited();
     RecountTotals(CurrentSample);

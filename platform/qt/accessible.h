@@ -29,7 +29,7 @@ public:
     QAccessibleInterface* parent() const override;
     QAccessibleInterface* child(int place) const override;
     int childCount() const override;
-    int indexOfChild(const QAccessibleInterface* child) const override;
+    int indexOfChild(const QAccessibleInterface* inner) const override;
     QAccessible::Role role() const override;
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;
