@@ -95,14 +95,17 @@ TEST(WaveFormatTest, AFormatHasSixteenBytesOrMore) {
         EXPECT_TRUE(IsPlayableWave(WaveOf(WaveChunk("fmt ", content + std::string(more, '\0')) + Data()))) << more;
 }
 
+void ExpectPlayableAround(const std::string& other) {
+    const std::string format = FormatChunk({});
+    EXPECT_TRUE(IsPlayableWave(WaveOf(other + format + Data()))) << other.size();
+    EXPECT_TRUE(IsPlayableWave(WaveOf(format + other + other + Data()))) << other.size();
+    EXPECT_TRUE(IsPlayableWave(WaveOf(format + Data() + other))) << other.size();
+}
+
 TEST(WaveFormatTest, OtherChunksMayStandAnywhere) {
     const std::string format = FormatChunk({});
-    for (const std::size_t size : {0, 1, 2, 7, 1000}) {  // odd ones have a byte more behind them
-        const std::string other = WaveChunk("LIST", std::string(size, 'x'));
-        EXPECT_TRUE(IsPlayableWave(WaveOf(other + format + Data()))) << size;
-        EXPECT_TRUE(IsPlayableWave(WaveOf(format + other + other + Data()))) << size;
-        EXPECT_TRUE(IsPlayableWave(WaveOf(format + Data() + other))) << size;
-    }
+    for (const std::size_t size : {0, 1, 2, 7, 1000})  // odd ones have a byte more behind them
+        ExpectPlayableAround(WaveChunk("LIST", std::string(size, 'x')));
     EXPECT_FALSE(IsPlayableWave(WaveOf(format + "LIST" + LowFirst(3, 4) + "abc" + Data()))) << "without its byte more";
     EXPECT_TRUE(IsPlayableWave(WaveOf(format + Data() + "LIST" + LowFirst(0xffffffff, 4)))) << "behind the samples nothing matters";
 }
