@@ -7,10 +7,12 @@
 #include "files/back_up.h"
 #include "files/format/cells.h"
 #include "files/format/read_sheet.h"
+#include "files/rescue.h"
 #include "files/save_sheet.h"
 #include "files/sheet_on_screen.h"
 #include "platform/encoding.h"
 #include "session/state/sheet_state.h"
+#include "windows/main_window.h"
 
 namespace {
 // The cells alone, each as the value that it is.
@@ -52,6 +54,24 @@ void BackUp(benchmark::State& state) {
     for (auto _ : state) BackUpSheet();
 }
 
+class NoDisk : public WholeFiles {
+public:
+    void Write(const std::string&, const std::string&, std::function<void(bool)>) override {}
+    void Remove(const std::string&) override {}
+    void Finish() override {}
+    bool IsThere(const std::string&) override { return false; }
+    bool AreSame(const std::string&, const std::string&) override { return false; }
+};
+
+// What a key may wait for once a second: the copy for a session that ends by itself, which the disk takes on a thread of its own.
+void Copy(benchmark::State& state) {
+    NoDisk disk;
+    Rescue rescue(disk, [] {});
+    TheProgram().Open(SheetOf(Samples(state)));
+    frmMain.SampleNote.SetText("not saved");
+    for (auto _ : state) rescue.KeepNow();
+}
+
 void Percentages(benchmark::State& state) {
     TheProgram().Open(SheetOf(Samples(state)));
     for (auto _ : state) AllSamplePercentages();
@@ -71,6 +91,7 @@ BENCHMARK(ReadSheet)->Apply(Growing);
 BENCHMARK(Open)->Apply(Growing);
 BENCHMARK(Save)->Apply(Growing);
 BENCHMARK(BackUp)->Apply(Growing);
+BENCHMARK(Copy)->Apply(Growing);
 BENCHMARK(Percentages)->Apply(Growing);
 BENCHMARK(SavePercentages)->Apply(Growing);
 }  // namespace
