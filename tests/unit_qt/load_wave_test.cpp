@@ -61,13 +61,17 @@ TEST_F(LoadWaveTest, MutantsOfTheInstalledWavesEndNothing) {
 
 TEST_F(LoadWaveTest, WhatIsOddInAWaveAndYetRightIsHeardWhole) {
     const std::string format = FormatChunk({});
-    const std::string data = WaveChunk("data", std::string(2 * kRate, '\0'));
+    const std::string data = WaveChunk("data", std::string(std::size_t{2} * kRate, '\0'));
     const std::string other = WaveChunk("LIST", "odd");
-    for (const std::string& chunks :
-         {format + data, LongFormatChunk({}) + data, other + format + data, format + other + data, format + data + other,
-          format + data + data, LongFormatChunk({.channels = 2, .bits = 8}) + data, format + data + "LIST" + LowFirst(0xffffffff, 4)}) {
-        EXPECT_EQ(Loaded(WaveOf(chunks)), Uint32{kRate * kFrame}) << chunks.substr(0, 100);
-    }
+    const std::string waves[] = {format + data,
+                                 LongFormatChunk({}) + data,
+                                 other + format + data,
+                                 format + other + data,
+                                 format + data + other,
+                                 format + data + data,
+                                 LongFormatChunk({.channels = 2, .bits = 8}) + data,
+                                 format + data + "LIST" + LowFirst(0xffffffff, 4)};
+    for (const std::string& chunks : waves) EXPECT_EQ(Loaded(WaveOf(chunks)), Uint32{kRate * kFrame}) << chunks.substr(0, 100);
     std::string from_a_pipe = WaveOf(format + data);
     EXPECT_EQ(Loaded(from_a_pipe.replace(4, 4, LowFirst(0, 4))), Uint32{kRate * kFrame});
 }
