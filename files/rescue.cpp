@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "files/back_up.h"
-#include "files/format/cells.h"
 #include "files/sheet_on_screen.h"
 #include "platform/encoding.h"
 #include "platform/failure.h"
@@ -87,14 +86,15 @@ std::string SheetOf(const std::string& copy) {
 }
 
 // When the session that left this file wrote it: "14/11/2026 (10:11:12)". Nothing if it is no such copy, but a sheet that a user has saved
-// under its name.
+// under its name. The label is looked for from the end of the line: the path before it may hold quotation marks.
 std::optional<std::string> TimeOfCopy(const std::string& path) {
     try {
-        CellReader cells(DecodeFile(services.files->ReadAll(path)));
-        cells.NextText();
-        if (cells.NextText() != kBackUpLabel) return std::nullopt;
-        std::string stamp = cells.NextText();
-        if (stamp.size() != kTimeLength) return std::nullopt;
+        const std::string text = DecodeFile(services.files->ReadAll(path));
+        const std::string label = std::string("\"") + kBackUpLabel + "\",\"";
+        const std::size_t found = text.rfind(label, text.find("\r\n"));
+        if (found == std::string::npos) return std::nullopt;
+        std::string stamp = text.substr(found + label.size(), kTimeLength);
+        if (stamp.size() != kTimeLength || stamp.find('"') != std::string::npos) return std::nullopt;
         std::replace(stamp.begin(), stamp.end(), '_', ' ');
         return stamp;
     } catch (const Failure&) {
@@ -125,11 +125,11 @@ std::vector<Left> LeftCopies() {
 Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk), try_again_(std::move(try_again)) {
     SaveBegins.Calls([this](const std::string& path) { LeaveFileAlone(path); });
     SheetSaved.Calls([this] { HearOfSave(); });
-    SaveFailed.Calls([this] {
-        last_save_failed_ = true;
-        Keep();
+    SaveFailed.Calls([this] { HearOfFailedSave(); });
+    SheetReplaced.Calls([this] {
+        TakeOpenedCopy();
+        SheetIsSafe();
     });
-    SheetReplaced.Calls([this] { SheetIsSafe(); });
     SheetReset.Calls([this] { HearOfReset(); });
 }
 
@@ -153,7 +153,7 @@ void Rescue::Keep() {
     try {
         const std::string copy = BytesOfCopy();
         const std::string sheet = SheetOf(copy);
-        if (sheet == kept_ || (kept_.empty() && sheet == *safe_)) return;
+        if (sheet == kept_ || (!has_copy_ && sheet == *safe_)) return;
         if (path_.empty()) ChooseName();
         if (path_.empty()) throw Failure(kFileError);
         kept_ = sheet;
@@ -213,6 +213,20 @@ void Rescue::SheetIsSafe() {
     ChooseName();
     last_save_failed_ = false;
     safe_ = SheetOf(BytesOfCopy());
+}
+
+// The file that the sheet had may be cut, even if the sheet is what was saved there before.
+void Rescue::HearOfFailedSave() {
+    last_save_failed_ = true;
+    if (safe_) safe_ = "";
+    Keep();
+}
+
+// A copy that is opened is the one that the next save makes superfluous, whichever the start face has told of.
+void Rescue::TakeOpenedCopy() {
+    if (SheetPath.find("Rescue") == std::string::npos) return;
+    for (int number = 1; number <= kNames; ++number)
+        if (const std::string copy = PathOf(NameOfCopy(number)); disk_.AreSame(copy, SheetPath)) told_ = copy;
 }
 
 void Rescue::HearOfSave() {

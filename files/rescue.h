@@ -27,6 +27,8 @@ public:
 private:
     void SheetIsSafe();
     void HearOfSave();
+    void HearOfFailedSave();
+    void TakeOpenedCopy();
     void HearOfReset();
     void LeaveFileAlone(const std::string& path);
     void ChooseName();
@@ -35,10 +37,11 @@ private:
 
     WholeFiles& disk_;
     std::function<void()> try_again_;
-    std::optional<std::string> safe_;  // the sheet as it was when nothing of it could be lost; before the main window is there, none
+    std::optional<std::string> safe_;  // the sheet as it was when nothing of it could be lost, empty after a failed save; before the
+                                       // main window is there, none
     std::string kept_;                 // the sheet as the copy has it; empty: it has none
     std::string path_;                 // of the copy, or where it is to be; empty: no name has been free
     bool has_copy_ = false;            // it has been written there, or is being written
-    std::string told_;                 // path of the copy that the start face tells of; empty: of none
+    std::string told_;                 // path of the copy that the start face tells of, or that is opened; empty: of none
     bool last_save_failed_ = false;
 };

@@ -2,11 +2,13 @@
 
 #include <deque>
 
+#include "files/exports.h"
 #include "files/new_sheet.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "platform/user.h"
 #include "session/leaving.h"
+#include "session/undo.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -429,5 +431,65 @@ TEST_F(RescueTest, ASheetSavedUnderItsNameIsNoneThatASessionLeft) {
     Start();
     rescue_.Offer();
     EXPECT_EQ(frmNext.StartLine.Caption().find("ended by itself"), std::string::npos);
+}
+
+TEST_F(RescueTest, AFailedSaveOfWhatHasJustBeenSavedLeavesACopy) {
+    Begin("10");
+    KeyNumber(1);
+    SaveAs("/sheets/Mere.csv");
+    files_.locked.insert("/sheets/Mere.csv");
+    SaveSheet(kSave);
+    EXPECT_EQ(CountIn(kRescue), "1");
+}
+
+TEST_F(RescueTest, AGrainThatIsTakenBackIsTakenBackInTheCopyToo) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    for (const bool at_once : {false, true}) {
+        KeyNumber(1);
+        Keep();
+        ASSERT_EQ(CountIn(kRescue), "1");
+        Undo();
+        if (at_once)
+            rescue_.KeepNow();
+        else
+            Keep();
+        EXPECT_EQ(CountIn(kRescue), "0") << at_once;
+    }
+}
+
+TEST_F(RescueTest, OfTwoCopiesTheOneThatIsOpenedGoesWithTheSave) {
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    files_.bytes[kSecond] = files_.bytes[kRescue];
+    Rescue next(disk_, [] {});  // of the session that comes after both
+    next.Offer();
+    AnswerNext(Answer::Yes);
+    AnswerDialog(kSecond);
+    OpenSheet();
+    SaveAs("/sheets/Mere.csv");
+    EXPECT_TRUE(IsThere(kRescue));
+    EXPECT_FALSE(IsThere(kSecond));
+}
+
+TEST_F(RescueTest, ACopyFromAFolderWithAQuotationMarkInItsNameIsToldOf) {
+    files_.bytes[kRescue] = "\"/5\" cores/core.csv\",\"Backed up (dd/mm/yyyy):\",\"13/11/2026_(09:08:07)\",\"Serial No.\",1\r\n";
+    Start();
+    rescue_.Offer();
+    EXPECT_EQ(frmNext.StartLine.Caption(), "A session of 13/11/2026 (09:08:07) ended by itself: Rescue.csv in Back up files holds it");
+}
+
+TEST_F(RescueTest, WhatIsExportedOverTheCopyStays) {
+    Begin("10");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    AnswerDialog(kRescue);
+    SaveHistory();
+    const std::string history = files_.bytes[kRescue];
+    KeyNumber(1);
+    Keep();
+    EXPECT_EQ(files_.bytes[kRescue], history);
+    EXPECT_EQ(CountIn(kSecond), "2");
 }
 }  // namespace
