@@ -174,28 +174,33 @@ TextArea::TextArea(QWidget* parent, TextBox& box, ModelView& view) : QPlainTextE
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(document(), &QTextDocument::contentsChange, this, &TextArea::ChooseWrapping);
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
-        if (const QString text = toPlainText(); text != head_.Text()) TellText(box_, view_, head_, text, textCursor().position());
+        if (const QString text = HeldText(); text != head_.Text()) TellText(box_, view_, head_, text, textCursor().position());
     });
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextArea::TellCaret);
     connect(this, &QPlainTextEdit::selectionChanged, this, &TextArea::TellCaret);
 }
 
+// Character by character: toPlainText makes blanks of those that keep a number with its unit.
+QString TextArea::HeldText() const {
+    return document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+}
+
 // Laying out a word takes a time that grows with the square of its length, unless its lines may end anywhere. The document tells of a
 // change, whoever made it, before it lays out what has changed.
 void TextArea::ChooseWrapping() {
-    setWordWrapMode(HoldsLongerWord(toPlainText()) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setWordWrapMode(HoldsLongerWord(HeldText()) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 void TextArea::TellCaret() {
     const QTextCursor cursor = textCursor();
-    if (HoldsFocus(box_)) TellSelection(box_, toPlainText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
+    if (HoldsFocus(box_)) TellSelection(box_, HeldText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
 }
 
 void TextArea::Sync(const QFont& font, double factor) {
     const QSignalBlocker blocker(this);
     font_ = font;
     factor_ = factor;
-    if (const QString held = toPlainText(), wanted = head_.Follow(held); held != wanted) {
+    if (const QString held = HeldText(), wanted = head_.Follow(held); held != wanted) {
         QTextCursor whole(document());
         whole.select(QTextCursor::Document);
         whole.insertText(wanted);  // setPlainText would lay it out before the document tells of it
@@ -206,7 +211,7 @@ void TextArea::Sync(const QFont& font, double factor) {
 }
 
 void TextArea::SyncCaret() {
-    const QString text = toPlainText();
+    const QString text = HeldText();
     const int start = UnitAfter(text, box_.SelStart());
     const int end = UnitAfter(text, box_.SelStart() + box_.SelLength());
     QTextCursor cursor = textCursor();
@@ -246,7 +251,7 @@ void TextArea::focusOutEvent(QFocusEvent* event) {
 
 // What does not go in is told to the program alone: laying it out would take long, and most of it would be cut off again.
 void TextArea::insertFromMimeData(const QMimeData* source) {
-    QString text = toPlainText();
+    QString text = HeldText();
     const QString pasted = Shown(FromQt(source->text()));
     if (text.size() + pasted.size() <= static_cast<qsizetype>(MostOf(box_))) return QPlainTextEdit::insertFromMimeData(source);
     const QTextCursor cursor = textCursor();

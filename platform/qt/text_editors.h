@@ -80,6 +80,7 @@ protected:
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    QString HeldText() const;
     void ChooseWrapping();
     void SyncStrip();
     void PaintStrip(QPainter& painter);

@@ -127,4 +127,13 @@ TEST_F(TextAreaTest, SoItDoesInABoxOfOneLine) {
     line.selectAll();
     EXPECT_EQ(frmMain.Text1[3].SelLength(), 7);
 }
+
+TEST_F(TextAreaTest, ALetterThatIsTypedChangesNoOtherCharacter) {
+    const std::string note = "12\u00a0\u00b0C, \u2028 and\r\nmore";
+    Set(note);
+    Note().moveCursor(QTextCursor::End);
+    Do([] { InsertText(frmMain.Text4, "!"); });
+    Note().insertPlainText("?");
+    EXPECT_EQ(frmMain.Text4.Text().substr(0, note.size()), note);
+}
 }  // namespace
