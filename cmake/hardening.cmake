@@ -4,7 +4,12 @@ include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
 include(CheckLinkerFlag)
 
-foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard)
+set(FLAGS -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard)
+if(MINGW)
+  list(REMOVE_ITEM FLAGS -fstack-clash-protection)  # g++ 12 for Windows breaks down at it in procedures with large arrays
+  add_link_options(-fstack-protector-strong)        # what it and the checked calls need is a library of its own there
+endif()
+foreach(flag ${FLAGS})
   string(MAKE_C_IDENTIFIER "COMPILER_HAS${flag}" has)
   check_cxx_compiler_flag(${flag} ${has})
   if(${has})

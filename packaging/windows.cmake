@@ -15,6 +15,7 @@ macro(CompilersLibrary name)
   list(APPEND COMPILERS_LIBRARIES "${STRIPPED}/${name}")
 endmacro()
 CompilersLibrary(libgcc_s_seh-1.dll)
+CompilersLibrary(libssp-0.dll)
 CompilersLibrary(libstdc++-6.dll)
 CompilersLibrary(libwinpthread-1.dll)
 
