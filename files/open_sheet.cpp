@@ -84,7 +84,6 @@ void StartAfresh(int key_index) {
     services.messages->Show(
         {"Error", "Same key index (" + std::to_string(key_index) + ") is being used more than once.", Icon::Exclamation, Buttons::Ok});
     InitialiseSheet();
-    RecountTotals(CurrentSample);
 }
 
 void ForgetUndos() {
