@@ -46,6 +46,15 @@ TEST_F(SnapshotAndRestoreTest, RestoreBringsBackCountsNamesFlagsAndAdditionalInf
     EXPECT_FALSE(frmMain.Text1[2].Bold());
 }
 
+TEST_F(SnapshotAndRestoreTest, RestoreReachesTheLastTaxon) {
+    Counts[kSlots][1] = 7;
+    SnapshotSheet();
+    Counts[kSlots][1] = 9;
+    RestoreSheet();
+    EXPECT_EQ(Counts[kSlots][1], 7);
+    EXPECT_EQ(frmMain.Text2[kSlots].Text(), "7");
+}
+
 TEST_F(SnapshotAndRestoreTest, RestoreReachesTheSamplesThatAreNotOnShow) {
     KeyNumber(1);
     NextSample("20");
