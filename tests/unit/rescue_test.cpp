@@ -492,4 +492,24 @@ TEST_F(RescueTest, WhatIsExportedOverTheCopyStays) {
     EXPECT_EQ(files_.bytes[kRescue], history);
     EXPECT_EQ(CountIn(kSecond), "2");
 }
+
+TEST_F(RescueTest, AnyPlainSaveTakesTheCopyAway) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    for (const std::int16_t mode : {kSave, kSaveClean}) {
+        KeyNumber(1);
+        Keep();
+        ASSERT_TRUE(IsThere(kRescue));
+        SaveSheet(mode);
+        EXPECT_FALSE(IsThere(kRescue)) << mode;
+    }
+}
+
+TEST_F(RescueTest, TheLatestIsLaterByItsMonthToo) {
+    LeaveCopy(kRescue, "30/09/2026_(09:08:07)");
+    LeaveCopy(kSecond, "01/10/2026_(09:08:07)");
+    Start();
+    rescue_.Offer();
+    EXPECT_TRUE(frmNext.StartLine.Caption().starts_with("A session of 01/10/2026 (09:08:07)")) << frmNext.StartLine.Caption();
+}
 }  // namespace
