@@ -86,6 +86,7 @@ TEST_F(DrawDiagramTest, ATickNeedsAColumnMoreThanFiveWider) {
     Open(frmMain.mnuBar);
     const auto tick = [](double percent) { return "line " + std::to_string(5 + percent) + " 9.5 * 9.668 0,0,0"; };
     for (const int percent : {0, 10, 20, 30, 40}) EXPECT_EQ(Drawn(frmDiagram.Picture1, tick(percent)), 1) << percent;
+    EXPECT_EQ(Drawn(frmDiagram.Picture1, "line 5 30.248 * 30.5 0,0,0"), 1) << "along the lower edge";
     struct {
         float width;
         int ticks;

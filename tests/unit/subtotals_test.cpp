@@ -52,6 +52,13 @@ TEST_F(SubtotalsTest, ATaxonCanBeInBothSubtotalsOrInNone) {
     EXPECT_FALSE(frmSubtotal.Filling);
 }
 
+TEST_F(SubtotalsTest, AllTaxaAtOnceCanBeSavedToo) {
+    Open();
+    frmMain.mnuSave.SetEnabled(false);
+    SetAllFlags(1);
+    EXPECT_TRUE(frmMain.mnuSave.Enabled());
+}
+
 TEST_F(SubtotalsTest, CancelBringsBackEvenAFlagThatIsNoneOfOurs) {
     TaxonTable[7][kTaxonSubtotal1] = 300;
     TaxonTable[8][kTaxonSubtotal2] = -1;
