@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 
 namespace {
 constexpr std::uint64_t kFileHead = 12;
@@ -35,7 +36,7 @@ bool IsPcm(std::string_view format) {
     return coding == kPcm || (coding == kInLongFormat && IsLongPcm(format));
 }
 
-// `format`: the content of the chunk "fmt ", empty if there was none; `size`: of the samples, in bytes.
+// `format`: the content of the chunk "fmt "; `size`: of the samples, in bytes.
 bool ArePlayable(std::string_view format, std::uint64_t size) {
     if (format.size() < kFormatSize || !IsPcm(format)) return false;
     const std::uint32_t channels = NumberAt(format, 2, 2);
@@ -58,14 +59,14 @@ std::uint64_t EndOfChunks(std::string_view bytes) {
 bool IsPlayableWave(std::string_view bytes) {
     if (bytes.size() < kFileHead || !bytes.starts_with("RIFF") || bytes.substr(8, 4) != "WAVE") return false;
     const std::uint64_t end = EndOfChunks(bytes);
-    std::string_view format;
+    std::optional<std::string_view> format;
     for (std::uint64_t place = kFileHead; place + kChunkHead <= end;) {
         const auto head = static_cast<std::size_t>(place);
         const std::string_view name = bytes.substr(head, 4);
         const std::uint64_t size = NumberAt(bytes, head + 4, 4);
         const std::string_view content = bytes.substr(head + kChunkHead, size);  // less if the file ends
-        if (name == "data") return content.size() == size && ArePlayable(format, size);
-        if (name == "fmt " && !format.empty()) return false;
+        if (name == "data") return format && content.size() == size && ArePlayable(*format, size);
+        if (name == "fmt " && format) return false;
         if (name == "fmt ") format = content;
         place += kChunkHead + size + size % 2;
     }

@@ -113,6 +113,7 @@ TEST(WaveFormatTest, OtherChunksMayStandAnywhere) {
 TEST(WaveFormatTest, ThereIsOneFormatAndItComesBeforeTheSamples) {
     const std::string format = FormatChunk({});
     EXPECT_TRUE(IsPlayableWave(WaveOf(format + Data())));
+    EXPECT_FALSE(IsPlayableWave(WaveOf(WaveChunk("fmt ", "") + format + Data())));
     EXPECT_FALSE(IsPlayableWave(WaveOf(Data() + format)));
     EXPECT_FALSE(IsPlayableWave(WaveOf(Data())));
     EXPECT_FALSE(IsPlayableWave(WaveOf(format)));
