@@ -2,8 +2,8 @@
 //
 // It is written whole beside its old content and takes its name only then. It goes when its sheet is saved, given up, or the user ends
 // the program, unless the last save has failed. What an earlier session has left stays until its user has been told of it and has saved a
-// sheet; the copy of this one then has a name of its own, Rescue_(2).csv and so on. A file that its user has put in the place of a copy is
-// left alone. Writing the copy changes nothing in the sheet.
+// sheet; the copy of this one then has a name of its own, Rescue_(2).csv and so on. What its user saves
+// under the name of the copy is left alone. Writing the copy changes nothing in the sheet.
 #pragma once
 #include <functional>
 #include <optional>
