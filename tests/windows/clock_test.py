@@ -38,9 +38,8 @@ class ClockTest(unittest.TestCase):
         os.replace(self.notes / "new", self.notes / "shift")
 
     def count(self, keys):
-        for _ in range(keys):
-            self.program.press(PAD[self.counted % len(PAD)])
-            self.counted += 1
+        self.program.press_in_turn(self.counted, keys)
+        self.counted += keys
         self.program.wait_total(self.counted)
 
     def expected(self):

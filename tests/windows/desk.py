@@ -10,7 +10,7 @@ import tempfile
 import time
 
 import spoken
-from keyboard import ENTER, NAMED_KEY_CODES, SAVE, chord, down_and_up, typing
+from keyboard import ENTER, NAMED_KEY_CODES, PAD, SAVE, chord, down_and_up, typing
 from spoken import wait_for
 from wayland_desk import WaylandDesk
 from x11_desk import X11Desk
@@ -46,6 +46,11 @@ class StartedProgram:
     def press(self, *codes):
         """Each key pressed and released, one after the other."""
         self.desk.send(down_and_up(*codes))
+
+    def press_in_turn(self, before, keys):
+        """So many counter keys, one after the other round the pad, that many having been pressed before."""
+        for number in range(before, before + keys):
+            self.press(PAD[number % len(PAD)])
 
     def chord(self, *codes):
         self.desk.send(chord(*codes))

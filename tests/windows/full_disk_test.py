@@ -62,9 +62,8 @@ class FullDiskTest(unittest.TestCase):
             file.write(bytes((found.f_bavail - pages) * found.f_bsize))
 
     def count(self, keys):
-        for _ in range(keys):
-            self.program.press(PAD[self.counted % len(PAD)])
-            self.counted += 1
+        self.program.press_in_turn(self.counted, keys)
+        self.counted += keys
         self.program.wait_total(self.counted)
 
     def expected(self):
