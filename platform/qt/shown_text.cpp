@@ -1,7 +1,6 @@
 #include "platform/qt/shown_text.h"
 
 #include <QLocale>
-#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <utility>
 
@@ -55,15 +54,15 @@ std::size_t MostOf(const TextHolder& box) {
     return box.BreaksLines() ? kMostOfArea : kMostOfLine;
 }
 
-namespace {
-constexpr qsizetype kMostOnALetter = 100;  // units: marks, or signs joined to one
-
-bool HoldsLongerCharacter(const QString& text) {
-    QTextBoundaryFinder places(QTextBoundaryFinder::Grapheme, text);
+bool HoldsLongerPart(const QString& text, QTextBoundaryFinder::BoundaryType ends, qsizetype most) {
+    QTextBoundaryFinder places(ends, text);
     for (qsizetype start = 0, end = places.toNextBoundary(); end >= 0; start = std::exchange(end, places.toNextBoundary()))
-        if (end - start > kMostOnALetter) return true;
+        if (end - start > most) return true;
     return false;
 }
+
+namespace {
+constexpr qsizetype kMostOnALetter = 100;  // units: marks, or signs joined to one
 }  // namespace
 
 EditedHead::EditedHead(const TextHolder& box) : box_(box), most_(MostOf(box)) {}
@@ -95,7 +94,7 @@ QString EditedHead::Follow(const QString& held) {
     const bool parts_break = Own().ends_with('\r') && Rest().starts_with('\n');
     if (has_its_length && !parts_break && Text() == held) return held;
     Cut(MostOf(box_));
-    if (most_ > kMostOfLine && HoldsLongerCharacter(Text())) Cut(kMostOfLine);
+    if (most_ > kMostOfLine && HoldsLongerPart(Text(), QTextBoundaryFinder::Grapheme, kMostOnALetter)) Cut(kMostOfLine);
     return Text();
 }
 

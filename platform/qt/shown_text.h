@@ -2,6 +2,7 @@
 // two characters; a widget counts UTF-16 units and breaks lines with one LF.
 #pragma once
 #include <QString>
+#include <QTextBoundaryFinder>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -49,3 +50,6 @@ private:
 };
 
 std::size_t MostOf(const TextHolder& box);  // characters that its editor is handed
+
+// Whether from one of these ends to the next there are more units than `most`.
+bool HoldsLongerPart(const QString& text, QTextBoundaryFinder::BoundaryType ends, qsizetype most);

@@ -3,7 +3,6 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QSignalBlocker>
-#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <utility>
 
@@ -154,13 +153,6 @@ void TextLine::paintEvent(QPaintEvent* event) {
 namespace {
 constexpr int kMostLinesOfArea = 99;
 constexpr qsizetype kLongestWord = 1000;  // units from one place where a line can end to the next
-
-bool HoldsLongerWord(const QString& text) {
-    QTextBoundaryFinder places(QTextBoundaryFinder::Line, text);
-    for (qsizetype start = 0, end = places.toNextBoundary(); end >= 0; start = std::exchange(end, places.toNextBoundary()))
-        if (end - start > kLongestWord) return true;
-    return false;
-}
 }  // namespace
 
 TextArea::TextArea(QWidget* parent, TextBox& box, ModelView& view) : QPlainTextEdit(parent), BoxEditor(box), box_(box), view_(view) {
@@ -188,7 +180,8 @@ QString TextArea::HeldText() const {
 // Laying out a word takes a time that grows with the square of its length, unless its lines may end anywhere. The document tells of a
 // change, whoever made it, before it lays out what has changed.
 void TextArea::ChooseWrapping() {
-    setWordWrapMode(HoldsLongerWord(HeldText()) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setWordWrapMode(HoldsLongerPart(HeldText(), QTextBoundaryFinder::Line, kLongestWord) ? QTextOption::WrapAnywhere
+                                                                                         : QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 void TextArea::TellCaret() {
