@@ -292,6 +292,17 @@ TEST_F(DiagramWindowTest, ChosenOnceMoreABasisDrawsButDoesNotClusterAnew) {
     EXPECT_NE(MergeHeight, merges);
 }
 
+TEST_F(DiagramWindowTest, ANewSampleIsInTheOpenTree) {
+    Open(frmMain.mnuBar);
+    ClickControl(frmDiagram.nmuConiss);
+    ASSERT_EQ(MergeHeight.size(), 4U);
+    BringToFront(frmMain);
+    KeyNumber(1);
+    NextSample("50");
+    EXPECT_EQ(frmDiagram.Slider1.Max(), 4);
+    EXPECT_EQ(MergeHeight.size(), 5U);
+}
+
 TEST_F(DiagramWindowTest, ClosingItTakesThePointerOffTheLine) {
     Open(frmMain.mnuBar);
     MousePointer = kPointerSize;

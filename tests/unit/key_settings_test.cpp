@@ -1,7 +1,9 @@
 #include "keys/settings/key_settings.h"
 
+#include "files/open_sheet.h"
 #include "platform/failure.h"
 #include "session/start_up.h"
+#include "unit/sheet_file.h"
 #include "unit/sheet_test.h"
 #include "windows/key_windows.h"
 #include "windows/main_window.h"
@@ -89,6 +91,21 @@ TEST_F(KeySettingsTest, AFileOf40LinesIsTreatedAsMissing) {
               "Marlbrook could not find reference file(s). Please use installer package to installe Marlbrook in your computer.");
     EXPECT_FALSE(KeySettingsLoaded);
     EXPECT_TRUE(frmInitial.Visible());
+}
+
+TEST_F(KeySettingsTest, TheCellsThatACutFileNamesMoveWhenASheetIsOpened) {
+    Rewrite("\"q\",81,1", "\"q\",81,2");
+    Rewrite("\"w\",87,2", "\"w\",87,1");
+    KeepLines(3);
+    InitialiseSheet();
+    ASSERT_FALSE(KeySettingsLoaded);
+    EXPECT_TRUE(CellLiesAt(1, 1) && CellLiesAt(2, 2));
+    files_.bytes["/sheets/mere.csv"] = Joined(DataSheet(1));
+    AnswerDialog("/sheets/mere.csv");
+    OpenSheet();
+    EXPECT_EQ(HistoryLog.back(), "(Open) /sheets/mere.csv");
+    EXPECT_TRUE(CellLiesAt(1, 2) && CellLiesAt(2, 1));
+    EXPECT_TRUE(CellLiesAt(3, 3)) << "as the start has read it";
 }
 
 TEST_F(KeySettingsTest, TheKeyboardIsUnknownWhileANamedKeyHasCode0Or999) {

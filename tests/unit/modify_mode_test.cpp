@@ -51,6 +51,14 @@ TEST_F(ModifyModeTest, TheChosenSlotNumberIsNoLongerBoldAfterIt) {
     EXPECT_FALSE(frmMain.Label1[7].Bold());
 }
 
+TEST_F(ModifyModeTest, ANameThatWasEditedInItIsItalicAfterIt) {
+    Modify();
+    frmMain.Text1[5].SetText("Alnus");
+    EXPECT_FALSE(frmMain.Text1[5].Italic());
+    Resume();
+    EXPECT_TRUE(frmMain.Text1[5].Italic());
+}
+
 TEST_F(ModifyModeTest, AnyNumberBut0LeavesIt) {
     for (const std::int16_t mode : {1, -1, 2, 99, 32767, -32768}) {
         AmendingOnOff(0);
