@@ -190,7 +190,6 @@ void CountKeyPress(int code) {
     frmMain.CountChannel.SetText(slot_text);  // its change applies the count
     DropTypedText();
     const int new_slot = static_cast<int>(Val(slot_text));
-    if (UndoList[0][kUndoSlot] != 0) PaintCell(new_slot, kWhite);
     if (!IsShiftKey(code)) PushOnUndoList(new_slot);
     const int slot = std::abs(UndoList[0][kUndoSlot]);
     if (slot == 0 || SampleUntouched || IsShiftOrUndoKey(code)) return;
