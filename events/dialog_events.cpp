@@ -1,8 +1,11 @@
+#include <filesystem>
+
 #include "events/join.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
 #include "platform/control.h"
+#include "platform/services.h"
 #include "session/focus.h"
 #include "session/sound.h"
 #include "session/state/sheet_state.h"
@@ -100,6 +103,8 @@ void JoinSubtotalEvents(SubtotalWindow& window) {
 void JoinAboutEvents(AboutProgramWindow& program, AboutKeypadWindow& keypad) {
     JoinAbout(program);
     JoinAbout(keypad);
+    program.Loaded.Calls(
+        [&program] { program.FolderBox.SetText(std::filesystem::path(services.host->Folder()).make_preferred().string()); });
 }
 
 void JoinNoteEvents(NoteWindow& window) {

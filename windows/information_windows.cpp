@@ -14,9 +14,10 @@ constexpr Style kProgramTitle{.points = 18, .bold = true, .fore = kDarkBlue};
 constexpr Style kCredit{.points = 10, .fore = kDarkGreen};
 constexpr Style kKeypadTitle{.points = 13, .bold = true};
 constexpr Style kSentence{.points = 10};
+constexpr Style kToRead{.back = kFormColour, .enabled = false};
 }  // namespace
 
-AboutProgramWindow::AboutProgramWindow() : Window("frmAboutMB1", "Marlbrook 2.7", 6900, 3160) {
+AboutProgramWindow::AboutProgramWindow() : Window("frmAboutMB1", "Marlbrook 2.7", 6900, 4000) {
     Lay({
         {Picture1, "Picture1", nullptr, {240, 280, 2000, 2000}, "", kDrawing, "A pollen grain"},
         {Label1, "Label1", nullptr, {2600, 260, 4060, 480}, "Marlbrook 2.7", kProgramTitle},
@@ -24,9 +25,12 @@ AboutProgramWindow::AboutProgramWindow() : Window("frmAboutMB1", "Marlbrook 2.7"
         {Label3[0], {"Label3", 0}, nullptr, {2600, 1260, 4060, 280}, "The Marlbrook maintainers,", kCredit},
         {Label3[1], {"Label3", 1}, nullptr, {2600, 1560, 4060, 280}, "for everyone who counts under a microscope", kCredit},
         {Label4, "Label4", nullptr, {2600, 1980, 4060, 280}, "www.marlbrook.example"},
-        {Command1, "Command1", nullptr, {5380, 2560, 1280, 420}, "OK"},
+        {Label5, "Label5", nullptr, {240, 2440, 6420, 280}, "Key settings, sounds and back-ups lie in"},
+        {Text1, "Text1", nullptr, {240, 2740, 6420, 500}, "", kToRead, "Folder of key settings, sounds and back-ups"},
+        {Command1, "Command1", nullptr, {5380, 3400, 1280, 420}, "OK"},
     });
     Picture1.image = "logo";
+    Text1.multiline = true;
     FirstFocus(Command1);
     confirm = dismiss = &Command1;
     KeepDesign();
@@ -50,7 +54,6 @@ NoteWindow frmNote;
 
 namespace {
 constexpr Style kTitle{.points = 11, .bold = true};
-constexpr Style kToRead{.back = kFormColour, .enabled = false};
 constexpr const char* kTexts[kNotes] = {
     "Marlbrook accepts assignments of any keys for Shift-1 and \r\nShift-2. However, combinations of more than two functional keys\r\n"
     "are sometimes refused by (or may have special meaning for)\r\nWindows.  \r\n",

@@ -16,6 +16,9 @@ struct AboutProgramWindow : Window {
     Label Label3[2];
     Label (&Credits)[2] = Label3;
     Label Label4;  // web address
+    Label Label5;
+    TextBox Text1;  // the folder of the program's own files, as the system writes it
+    TextBox& FolderBox = Text1;
     Button Command1;
     Button& OkButton = Command1;
 };

@@ -118,6 +118,13 @@ TEST_F(AccessoriesTest, TheAboutBoxIsInThreeColours) {
     for (const Label& credit : frmAboutMB1.Label3) EXPECT_EQ(credit.ForeColor(), (Colour{0, 100, 0}));
 }
 
+TEST_F(AccessoriesTest, TheAboutBoxTellsWhereTheProgramKeepsItsThings) {
+    Begin("10");
+    ClickControl(frmMain.mnuAboutMB1);
+    EXPECT_EQ(frmAboutMB1.Text1.Text(), "/program");
+    EXPECT_FALSE(frmAboutMB1.Text1.Enabled());
+}
+
 TEST_F(AccessoriesTest, ADialogThatIsClosedByItsFrameGivesTheMainWindowBack) {
     Begin("10");
     const struct {
