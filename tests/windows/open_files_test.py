@@ -46,6 +46,7 @@ class OpenFilesTest(unittest.TestCase):
     def test_with_fewer_a_message_tells_it_and_nothing_begins(self):
         self.start_under(16, 40)
         self.program.control("Marlbrook", r"Marlbrook needs 64 open files at a time\. The system allows it 40: .*")
+        self.program.window("Marlbrook")
         self.assertEqual(self.desk.titles(), ["Marlbrook"])
         self.program.click("Marlbrook", "OK")
         wait_for("the end of the program", lambda: self.program.process.poll() is not None)
