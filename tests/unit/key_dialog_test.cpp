@@ -60,6 +60,21 @@ TEST_F(KeyDialogTest, AKeyWithANameShowsItInBrackets) {
     }
 }
 
+TEST_F(KeyDialogTest, TheFunctionalKeysShowTheirDefinitions) {
+    Open();
+    const char* definitions[] = {";", "p", "[BkSp]", "="};
+    for (int box = 0; box < kFunctionalKeys; ++box) EXPECT_EQ(frmKeyCode.Text4[box].Text(), definitions[box]) << box;
+}
+
+TEST_F(KeyDialogTest, TheKeyF1GivesNineKeysTheirCodes) {
+    Open();
+    ShowTab(1);
+    ClickControl(frmKeyCode.Text4[4]);
+    Press(200, "");
+    int code = 200;
+    for (const int key : {28, 29, 30, 34, 35, 36, 40, 41, 42}) EXPECT_EQ(frmKeyCode.Text2[key].Text(), std::to_string(code++)) << key;
+}
+
 TEST_F(KeyDialogTest, ABoxThatGetsTheFocusForgetsTheLastKey) {
     Open();
     ClickControl(frmKeyCode.Text1[1]);

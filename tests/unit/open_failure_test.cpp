@@ -295,6 +295,16 @@ TEST_F(OpenFailureTest, ARowThatBreaksOffShowsItsLastCountAsThatOfTheLastSample)
     EXPECT_EQ(frmMain.Text2[12].Text(), "15") << "of the sheet before";
 }
 
+TEST_F(OpenFailureTest, ARowThatBreaksOffBeforeItsCountsShowsThatOfTheSheetBefore) {
+    Rows rows = DataSheet(3);
+    rows.resize(kTaxonRow + 10);
+    rows.back().resize(4);
+    rows.back()[3] = "\"Betula\"";
+    FailToOpen(rows);
+    EXPECT_EQ(frmMain.Text1[10].Text(), "Betula");
+    EXPECT_EQ(frmMain.Text2[10].Text(), "13");
+}
+
 TEST_F(OpenFailureTest, BoldGoesByTheRowsThatWereRead) {
     Rows rows = DataSheet(2);
     for (int slot = 1; slot <= kSlots; ++slot) rows[kTaxonRow + slot - 1][4] = rows[kTaxonRow + slot - 1][5] = "0";
