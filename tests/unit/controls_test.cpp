@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <vector>
+
+#include "platform/picture_box.h"
 #include "platform/text.h"
 #include "unit/test_window.h"
 
@@ -21,6 +25,68 @@ protected:
 private:
     int raised_ = 0;
 };
+
+class KindsMet : private ControlVisitor {
+public:
+    void Meet(Control& control) { control.Accept(*this); }
+    std::vector<Kind> kinds;
+
+private:
+    void Visit(TextBox&) override { kinds.push_back(Kind::TextBox); }
+    void Visit(Label&) override { kinds.push_back(Kind::Label); }
+    void Visit(Button&) override { kinds.push_back(Kind::Button); }
+    void Visit(OptionButton&) override { kinds.push_back(Kind::OptionButton); }
+    void Visit(CheckBox&) override { kinds.push_back(Kind::CheckBox); }
+    void Visit(ComboBox&) override { kinds.push_back(Kind::ComboBox); }
+    void Visit(Frame&) override { kinds.push_back(Kind::Frame); }
+    void Visit(TabControl&) override { kinds.push_back(Kind::TabControl); }
+    void Visit(PictureBox&) override { kinds.push_back(Kind::PictureBox); }
+    void Visit(ProgressBar&) override { kinds.push_back(Kind::ProgressBar); }
+    void Visit(Slider&) override { kinds.push_back(Kind::Slider); }
+    void Visit(ScrollBar&) override { kinds.push_back(Kind::ScrollBar); }
+    void Visit(UpDown&) override { kinds.push_back(Kind::UpDown); }
+    void Visit(StatusBar&) override { kinds.push_back(Kind::StatusBar); }
+    void Visit(MenuItem&) override { kinds.push_back(Kind::MenuItem); }
+};
+
+TEST_F(ControlsTest, AVisitorMeetsEachControlAsWhatItIs) {
+    TextBox text;
+    Label label;
+    Button button;
+    OptionButton option;
+    CheckBox check;
+    ComboBox combo;
+    Frame frame;
+    TabControl tabs;
+    PictureBox picture;
+    ProgressBar progress;
+    Slider slider;
+    ScrollBar scroll;
+    UpDown arrows;
+    StatusBar status;
+    MenuItem item;
+    for (Control* control : std::initializer_list<Control*>{&text, &label, &button, &option, &check, &combo, &frame, &tabs, &picture,
+                                                            &progress, &slider, &scroll, &arrows, &status, &item}) {
+        KindsMet met;
+        met.Meet(*control);
+        EXPECT_EQ(met.kinds, std::vector{control->kind()});
+        EXPECT_EQ(control->IsPageInFront(7), control != &tabs) << "only tabs have pages";
+    }
+}
+
+TEST_F(ControlsTest, ABoxTellsWhatIsTypedIntoIt) {
+    TextBox box;
+    ComboBox list;
+    for (const TextHolder* holder : std::initializer_list<TextHolder*>{&box, &list}) {
+        EXPECT_TRUE(holder->TakesText());
+        EXPECT_FALSE(holder->TakesKeysAsInput() || holder->BreaksLines() || holder->IsCentred() || holder->IsTypedOver());
+    }
+    box.multiline = box.centred = box.takes_keys = box.marks_all = true;
+    box.takes_text = false;
+    box.SetText("Pinus");
+    EXPECT_FALSE(box.TakesText());
+    EXPECT_TRUE(box.TakesKeysAsInput() && box.BreaksLines() && box.IsCentred() && box.IsTypedOver());
+}
 
 TEST_F(ControlsTest, EveryPropertyIsToldOfOnceAndOnlyWhenItChanges) {
     Button button;
