@@ -29,6 +29,8 @@ struct DrawOperation {
     bool operator==(const DrawOperation&) const = default;
 };
 
+constexpr int kNamedWidth = 7425;  // in twips: of a picture whose names stand where they say; in a wider one they spread with its columns
+
 class PictureBox : public Control {
 public:
     PictureBox() : Control(Kind::PictureBox) { now_.back = kWhite; }

@@ -77,7 +77,7 @@ public:
 class Clipboard {
 public:
     virtual ~Clipboard() = default;
-    virtual void PutImage(const PictureBox& picture) = 0;  // the picture as it stands on the screen, overlays included
+    virtual void PutImage(const PictureBox& picture) = 0;  // the picture as it stands, overlays included
 };
 
 class Popups {

@@ -3,13 +3,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QPixmap>
 #include <QTimer>
 #include <ctime>
 
 #include "events/program.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/key_filter.h"
+#include "platform/qt/picture_painter.h"
 #include "platform/qt/qt_files.h"
 #include "platform/qt/qt_host.h"
 #include "platform/qt/unasked_end.h"
@@ -34,10 +34,7 @@ std::string SystemClock::TimeText() {
 }
 
 void QtClipboard::PutImage(const PictureBox& picture) {
-    renderer_.Sync();  // the picture is to be as it stands now, in the middle of the event
-    WindowWidget* const window = renderer_.WidgetOf(*picture.window);
-    QWidget* const shown = window ? window->WidgetOf(picture) : nullptr;
-    if (shown) QGuiApplication::clipboard()->setPixmap(shown->grab());
+    QGuiApplication::clipboard()->setImage(CopyOf(picture));
 }
 
 // ---- The run ----

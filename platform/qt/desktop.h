@@ -17,11 +17,7 @@ public:
 
 class QtClipboard : public Clipboard {
 public:
-    explicit QtClipboard(Renderer& renderer) : renderer_(renderer) {}
     void PutImage(const PictureBox& picture) override;
-
-private:
-    Renderer& renderer_;
 };
 
 // A popup opens under the mouse when the event that asks for it is over. All of it stands here, so that a program that has popups alone is
@@ -47,7 +43,7 @@ struct DesktopServices {
     QtKeyboard keyboard;
 
     // Puts them all into `services`, with `host`; they must live as long as the program uses them.
-    DesktopServices(ProgramHost& host, Renderer& renderer) : messages(renderer), dialogs(renderer), clipboard(renderer), popups(renderer) {
+    DesktopServices(ProgramHost& host, Renderer& renderer) : messages(renderer), dialogs(renderer), popups(renderer) {
         services = {&messages, &dialogs, &sounds, &clock, &clipboard, &popups, &files, &host, &keyboard};
     }
 };

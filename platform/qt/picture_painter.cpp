@@ -15,11 +15,8 @@ constexpr double kPixelsPerPoint = static_cast<double>(kTwipsPerPoint) / kTwipsP
 constexpr double kFarOut = 100'000;  // pixels: nothing beyond is on any screen
 constexpr double kLargestDot = 100;  // pixels
 constexpr double kNameWidth = 5;     // of a letter on the average, in pixels of the program
+constexpr double kAboveName = 2;     // pixels of the program between a long name and the upper edge
 constexpr double kNameSize = 10.5;   // pixels of the program: letters that stand in a row 12 high
-
-double Thickness(const PictureScale& scale) {
-    return std::max(1.0, std::round(scale.pixel));
-}
 
 // QRectF::intersects allows for rectangles of negative size, and took a quarter of the time of a repaint.
 bool Meets(const QRectF& reach, const QRect& part) {
@@ -65,7 +62,7 @@ private:
 
     void UsePen(Colour colour) {
         if (pen_is_set_ && colour == pen_) return;
-        painter_.setPen(QPen(ToQt(colour), Thickness(scale_), Qt::SolidLine, Qt::FlatCap));
+        painter_.setPen(QPen(ToQt(colour), scale_.line, Qt::SolidLine, Qt::FlatCap));
         pen_ = colour;
         pen_is_set_ = true;
     }
@@ -87,7 +84,7 @@ private:
 
     void Bar(double x1, double y1, double x2, double y2, Colour colour) {
         const auto pixel = [](double place) { return static_cast<int>(std::floor(std::clamp(place, -kFarOut, kFarOut))); };
-        const int thick = static_cast<int>(Thickness(scale_)), half = thick / 2;
+        const int thick = scale_.line, half = thick / 2;
         const QPoint from(pixel(std::min(x1, x2)) - half, pixel(std::min(y1, y2)) - half);
         const QPoint to(pixel(std::max(x1, x2)) - half + thick, pixel(std::max(y1, y2)) - half + thick);
         if (colour != bar_colour_) PaintBars();
@@ -134,12 +131,12 @@ private:
     void MakeDot(const DrawOperation& circle) {
         dot_of_ = circle;
         const double radius = std::min(X(circle.radius), kLargestDot);
-        const int half = static_cast<int>(std::ceil(radius + Thickness(scale_)));
+        const int half = static_cast<int>(std::ceil(radius + scale_.line));
         dot_ = QImage(2 * half + 1, 2 * half + 1, QImage::Format_ARGB32_Premultiplied);
         dot_.fill(Qt::transparent);
         QPainter painter(&dot_);
         painter.setRenderHint(QPainter::Antialiasing, true);
-        painter.setPen(QPen(ToQt(circle.rim), Thickness(scale_)));
+        painter.setPen(QPen(ToQt(circle.rim), scale_.line));
         painter.setBrush(ToQt(circle.fill));
         painter.drawEllipse(QPointF(half + 0.5, half + 0.5), radius, radius);
     }
@@ -153,14 +150,19 @@ private:
         painter_.drawText(QPointF(std::min(X(text.x1), spare), Y(text.y1) + metrics.ascent()), words);  // never cut off at the right
     }
 
+    // As narrow as the program's letters are, and narrower where a name is longer than the way to the upper edge.
     void Name(const DrawOperation& name) {
         UseFont(kNameSize * scale_.pixel, name.italic);
         UsePen(name.rim);
+        const QFontMetricsF metrics(painter_.font());
+        const QString words = Brief(name.text);
+        const double room = (name.y1 - kAboveName) * scale_.pixel;
+        const double narrow = std::min(kNameWidth * scale_.pixel / metrics.averageCharWidth(), room / metrics.horizontalAdvance(words));
         painter_.save();
         painter_.translate(name.x1 * scale_.pixel * scale_.spread, name.y1 * scale_.pixel);
         painter_.rotate(-90);
-        painter_.scale(std::min(1.0, kNameWidth * scale_.pixel / QFontMetricsF(painter_.font()).averageCharWidth()), 1);
-        painter_.drawText(QPointF(0, painter_.fontMetrics().ascent()), Brief(name.text));
+        painter_.scale(std::clamp(narrow, 0.0, 1.0), 1);
+        painter_.drawText(QPointF(0, painter_.fontMetrics().ascent()), words);
         painter_.restore();
     }
 
@@ -198,6 +200,18 @@ void PaintOperations(QPainter& painter, std::span<const DrawOperation> operation
     for (const DrawOperation& operation : operations) one.Paint(operation);
 }
 
+QImage CopyOf(const PictureBox& picture) {
+    constexpr double kTimes = 3, kAcross = 1600;
+    const QSizeF of_program = QSizeF(picture.Width(), picture.Height()) / kTwipsPerPixel;
+    const double times = std::max(kTimes, kAcross / of_program.width());
+    QImage copy((of_program * times).toSize(), QImage::Format_RGB32);
+    copy.fill(ToQt(picture.BackColor()));
+    QPainter painter(&copy);
+    PaintOperations(painter, picture.Operations(),
+                    {QSizeF(copy.size()), times, static_cast<double>(picture.Width()) / kNamedWidth, qRound(times)});
+    return copy;
+}
+
 // A slanted line that ends beyond the part is painted whole and then cut, for a painter that clips it gives its edges another shade.
 void RepaintPart(QPixmap& picture, const QRect& part, Colour ground, std::span<const DrawOperation> operations, const PictureScale& scale) {
     if (part.isEmpty()) return;
@@ -218,7 +232,7 @@ QRectF Reach(const DrawOperation& operation, const PictureScale& scale) {
     using Shape = DrawOperation::Shape;
     if (operation.shape == Shape::Text || operation.shape == Shape::Name) return {QPointF(), scale.size};
     const bool is_circle = operation.shape == Shape::Circle;
-    const double margin = Thickness(scale) + 2 + (is_circle ? std::min(operation.radius * scale.size.width(), kLargestDot) : 0);
+    const double margin = scale.line + 2 + (is_circle ? std::min(operation.radius * scale.size.width(), kLargestDot) : 0);
     const PicturePoint from{operation.x1, operation.y1}, to{operation.x2, operation.y2};
     const PicturePoint ends[] = {from, is_circle ? from : to};
     const std::span<const PicturePoint> points = operation.shape == Shape::Curve ? std::span(operation.points) : std::span(ends);

@@ -1,5 +1,6 @@
 // Paints the display list of a picture, pixel by pixel of the screen: lines of the axis directions are crisp at every density.
 #pragma once
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <span>
@@ -10,8 +11,13 @@
 struct PictureScale {
     QSizeF size;        // of the picture, in pixels of the painter
     double pixel = 1;   // a pixel of the program (15 twips) in pixels of the painter
-    double spread = 1;  // how much wider the picture is than its design: names stay over the columns that spread below them
+    double spread = 1;  // how much wider the picture is than kNamedWidth: names stay over the columns that spread below them
+    int line = 1;       // thickness of a line, in pixels of the painter
 };
+
+// What another program gets: the whole picture with its overlays, in at least three times the pixels of the program and 1600 across,
+// letters and lines in proportion.
+QImage CopyOf(const PictureBox& picture);
 
 void PaintOperations(QPainter& painter, std::span<const DrawOperation> operations, const PictureScale& scale);
 

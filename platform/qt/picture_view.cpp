@@ -55,7 +55,7 @@ private:
 
     PictureScale Scale() const {
         return {QSizeF(canvas_->size()) * Density(), kTwipsPerPixel * Factor() * Density(),
-                static_cast<double>(picture_.Width()) / picture_.DesignBox().width};
+                static_cast<double>(picture_.Width()) / kNamedWidth};
     }
 
     // To the last pixel of the screen that the picture has a part of.

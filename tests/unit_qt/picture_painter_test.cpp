@@ -8,6 +8,7 @@
 namespace {
 constexpr int kWidth = 100;
 constexpr int kHeight = 60;
+constexpr Colour kRed{255, 0, 0};
 
 class PicturePainterTest : public testing::Test {
 protected:
@@ -41,7 +42,7 @@ protected:
     PictureBox picture_;
 };
 
-TEST_F(PicturePainterTest, AnUprightLineIsACrispBarAtEveryDensity) {
+TEST_F(PicturePainterTest, AnUprightLineIsOnePixelWideAtEveryDensity) {
     picture_.Line(50, 0, 50, kHeight, kBlack);
     for (const int density : {1, 2, 3}) {
         const QImage image = Painted(density);
@@ -51,7 +52,7 @@ TEST_F(PicturePainterTest, AnUprightLineIsACrispBarAtEveryDensity) {
             EXPECT_TRUE(colour == Qt::black || colour == Qt::white) << "a blurred edge at density " << density;
             inked += colour == Qt::black;
         }
-        EXPECT_EQ(inked, density);
+        EXPECT_EQ(inked, 1);
     }
 }
 
@@ -78,6 +79,39 @@ TEST_F(PicturePainterTest, NamesSpreadWithTheColumnsBelowThem) {
     const int plain = FirstInk(Painted(1));
     EXPECT_NEAR(plain, 20, 4);
     EXPECT_EQ(FirstInk(Painted(1, 2)) - plain, 20) << "in a picture twice as wide as its design";
+}
+
+TEST_F(PicturePainterTest, ANameThatIsLongerThanTheStripIsCondensed) {
+    for (const char* name : {"Chenopodiaceae/Amaranthaceae", "WWWWWWWWWWWWWWWWWWWWWWWWW"}) {
+        picture_.Clear();
+        picture_.Name(20, 55, true, name);
+        const QImage image = Painted(2);
+        bool inked = false;
+        for (int column = 0; column < image.width(); ++column) {
+            for (int y = 0; y < 2; ++y) EXPECT_EQ(image.pixelColor(column, y), Qt::white) << name;
+            for (int y = 4; y < 16; ++y) inked = inked || image.pixelColor(column, y) != Qt::white;
+        }
+        EXPECT_TRUE(inked) << name << " ends right below the edge";
+    }
+}
+
+TEST_F(PicturePainterTest, ACopyIsThreeTimesAsLargeAndWideEnoughToPrint) {
+    for (const auto& [width, times] : {std::pair{60, 1600 / 60.0}, {600, 3.0}}) {
+        picture_.SetWidth(width * 15);
+        picture_.SetHeight(40 * 15);
+        picture_.Clear();
+        picture_.SetBackColor(kWhite);
+        picture_.Line(50, 0, 50, kHeight, kBlack);
+        picture_.Persist();
+        picture_.Line(0, 30, kWidth, 30, kRed);
+        const QImage copy = CopyOf(picture_);
+        EXPECT_EQ(copy.size(), (QSizeF(width, 40) * times).toSize());
+        int inked = 0;
+        for (int column = 0; column < copy.width(); ++column) inked += copy.pixelColor(column, copy.height() / 4) == Qt::black;
+        EXPECT_EQ(inked, qRound(times)) << "lines in proportion";
+        EXPECT_EQ(copy.pixelColor(1, copy.height() / 2), Qt::red) << "the overlay too";
+        EXPECT_EQ(copy.pixelColor(1, 1), Qt::white);
+    }
 }
 
 TEST_F(PicturePainterTest, ANameReadsUpward) {
