@@ -1,6 +1,7 @@
 #include "diagram/layout.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "diagram/cluster_tree.h"
 #include "diagram/data/percentages.h"
@@ -9,6 +10,7 @@
 #include "diagram/taxon_names.h"
 #include "platform/number.h"
 #include "platform/services.h"
+#include "platform/text.h"
 #include "session/state/sheet_state.h"
 #include "windows/diagram_window.h"
 
@@ -45,6 +47,13 @@ void PlacePictures() {
     tree.SetHeight(diagram.Height());
 }
 
+// The two boxes stand before the button that shows them.
+void PlaceLastMove() {
+    const int moved = frmDiagram.Width() - kDiagramRightEdge - frmDiagram.LastMoveButton.Width() - frmDiagram.LastMoveButton.Left();
+    for (Control* part : std::initializer_list<Control*>{&frmDiagram.LastMoveButton, &frmDiagram.MovedFrom, &frmDiagram.MovedTo})
+        part->SetLeft(part->Left() + moved);
+}
+
 void PlaceBars() {
     frmDiagram.ColumnScroll.SetTop(frmDiagram.Height() - frmDiagram.ScrollMargin);
     frmDiagram.ColumnScroll.SetWidth(frmDiagram.Diagram.Width());
@@ -61,6 +70,20 @@ void SetScrollRangeOfPicture() {
     frmDiagram.ColumnScroll.SetEnabled(end > 0);
 }
 }  // namespace
+
+// The pictures below give what a long name takes, up to half of their height.
+void FitNameStrip() {
+    constexpr int kLetter = 6 * kTwipsPerPixel, kAround = 10 * kTwipsPerPixel;
+    std::size_t letters = 0;
+    for (int slot = 1; slot <= kSlots; ++slot) letters = std::max(letters, Length(TaxonTable[slot][kTaxonName].Text()));
+    const int wanted = static_cast<int>(std::min<std::size_t>(letters, kSlots)) * kLetter + kAround;
+    const int more = std::clamp(wanted - kNamesHeight, 0, frmDiagram.Diagram.Height() / 2);
+    frmDiagram.NameStrip.SetHeight(kNamesHeight + more);
+    for (Control* below : std::initializer_list<Control*>{&frmDiagram.Diagram, &frmDiagram.ClusterTree, &frmDiagram.SampleSlider}) {
+        below->SetTop(below->Top() + more);
+        below->SetHeight(below->Height() - more);
+    }
+}
 
 void MeasureMargins() {
     frmDiagram.WidthMargin = ToInt16(frmDiagram.Width() - frmDiagram.Diagram.Width());
@@ -89,6 +112,7 @@ void SetDiagramScale() {
 void LayOutDiagram() {
     PlacePictures();
     PlaceBars();
+    PlaceLastMove();
     frmDiagram.Selector.SetLeft(frmDiagram.Width() - frmDiagram.FrameMargin - WidthOfTree());
     frmDiagram.SampleArrows.SetLeft(frmDiagram.Selector.Left() - frmDiagram.SampleArrows.Width());
 }

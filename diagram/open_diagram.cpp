@@ -64,6 +64,7 @@ void DrawInStyle(const DiagramStyle& style) {
 
 void LoadDiagramWindow() {
     NameBasisItems();
+    FitNameStrip();
     MeasureMargins();
     TakeUpSamples();
 }

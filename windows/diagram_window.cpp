@@ -5,19 +5,18 @@
 DiagramWindow frmDiagram;
 
 namespace {
+constexpr int kTreeWidth = 2000;
+constexpr int kTreeLeft = kDiagramWidth - kDiagramRightEdge - kTreeWidth;
+constexpr int kSelectorWidth = 1080;
+constexpr int kSelectorLeft = kDiagramWidth - kDiagramRightEdge - kSelectorWidth;
+constexpr int kArrowsWidth = 240;
+constexpr int kArrowsLeft = kSelectorLeft - kArrowsWidth;
 constexpr int kPictureLeft = 420;
-constexpr int kPictureWidth = 7425;  // names stand 0.99 pixels a unit: 495 pixels bring them over their columns
+constexpr int kPictureWidth = kArrowsLeft - 30 - kPictureLeft;
 constexpr int kNamesTop = 350;
-constexpr int kNamesHeight = 2105;  // room for 25 letters
 constexpr int kPictureTop = kNamesTop + kNamesHeight;
 constexpr int kPictureHeight = 4560;
 constexpr int kBelow = kPictureTop + kPictureHeight;
-constexpr int kTreeWidth = 2000;
-constexpr int kTreeLeft = kDiagramWidth - kDiagramRightEdge - kTreeWidth;
-constexpr int kSelectorLeft = 8115;
-constexpr int kSelectorWidth = kDiagramWidth - kDiagramRightEdge - kSelectorLeft;
-constexpr int kArrowsWidth = 240;
-constexpr int kArrowsLeft = kSelectorLeft - kArrowsWidth;
 constexpr int kStatusHeight = 180;
 
 constexpr Style kDrawn{.tab_stop = false};
@@ -38,10 +37,11 @@ DiagramWindow::DiagramWindow() : Window("frmDiagram", "Diagram", kDiagramWidth, 
 void DiagramWindow::LayControls() {
     // The list and the arrows are centred on the line of the sample, 420 below the frame's top.
     Lay({
-        {Slider2, "Slider2", nullptr, {kPictureLeft, 10, 2400, 330}, "", kPlain, "Horizontal scale"},
-        {Command1, "Command1", nullptr, {2940, 25, 960, 300}, "Last move"},
-        {Text1, "Text1", nullptr, {3960, 25, 480, 300}, "", kHidden, "Moved from"},
-        {Text2, "Text2", nullptr, {4500, 25, 480, 300}, "", kHidden, "Moved to"},
+        {Label1, "Label1", nullptr, {kPictureLeft, 55, 1440, 240}, "Horizontal scale"},
+        {Slider2, "Slider2", nullptr, {1920, 10, 1860, 330}, "", kPlain, "Horizontal scale"},
+        {Command1, "Command1", nullptr, {kDiagramWidth - kDiagramRightEdge - 960, 25, 960, 300}, "Last move"},
+        {Text1, "Text1", nullptr, {kDiagramWidth - kDiagramRightEdge - 2040, 25, 480, 300}, "", kHidden, "Moved from"},
+        {Text2, "Text2", nullptr, {kDiagramWidth - kDiagramRightEdge - 1500, 25, 480, 300}, "", kHidden, "Moved to"},
 
         {Picture4, "Picture4", nullptr, {kPictureLeft, kNamesTop, kPictureWidth, kNamesHeight}, "", kDrawnOnGround, "Taxa names"},
         {Picture1, "Picture1", nullptr, {kPictureLeft, kPictureTop, kPictureWidth, kPictureHeight}, "", kDrawn, "Diagram"},
@@ -59,7 +59,6 @@ void DiagramWindow::LayControls() {
     Slider2.SetRange(0, 10);
     Slider2.SetSteps(1, 1);
     Slider2.SetValue(5);
-    Slider2.SetToolTip("Horizontal scale");
     Text1.centred = Text2.centred = true;
     HScroll1.SetRange(0, 0);
     Slider1.vertical = true;

@@ -9,6 +9,7 @@
 struct DiagramWindow : Window {
     DiagramWindow();
 
+    Label Label1;
     Slider Slider2;
     Slider& HorizontalScale = Slider2;  // 0..10; 5 is the plain one, 0 is refused
     Button Command1;
@@ -93,6 +94,7 @@ private:
     void ForgetMembers() override;
 };
 
+constexpr int kNamesHeight = 2105;   // of the strip of names, in twips; more if a name takes it
 constexpr int kDiagramWidth = 9735;  // of the window at its first opening, in twips
 constexpr int kDiagramHeight = 7545;
 constexpr int kDiagramRightEdge = 60;  // free at the right, in twips

@@ -75,7 +75,7 @@ TEST_F(DiagramWindowTest, TheSizeOfTheUserIsKeptForTheNextOpening) {
     Open(frmMain.mnuBar);
     EXPECT_EQ(frmDiagram.Width(), 11000);
     EXPECT_EQ(frmDiagram.Height(), 8000);
-    EXPECT_EQ(frmDiagram.Picture1.Width(), 7425 + 11000 - 9735);
+    EXPECT_EQ(frmDiagram.Picture1.Width(), frmDiagram.Picture1.DesignBox().width + 11000 - 9735);
 }
 
 TEST_F(DiagramWindowTest, ControlsKeepTheirDistanceFromTheEdges) {
@@ -114,6 +114,34 @@ TEST_F(DiagramWindowTest, NoControlOverlapsAnotherNorLeavesTheWindow) {
     }
 }
 
+TEST_F(DiagramWindowTest, LastMoveStandsAtTheRightEdge) {
+    Open(frmMain.mnuBar);
+    for (const int width : {9735, 12000, 5000}) {
+        ResizeWindow(frmDiagram, width, 7545);
+        EXPECT_EQ(frmDiagram.Command1.Left() + frmDiagram.Command1.Width(), width - 60);
+        EXPECT_GT(frmDiagram.Command1.Left(), frmDiagram.Slider2.Left() + frmDiagram.Slider2.Width()) << width;
+        EXPECT_LT(frmDiagram.Text1.Left() + frmDiagram.Text1.Width(), frmDiagram.Text2.Left());
+        EXPECT_LT(frmDiagram.Text2.Left() + frmDiagram.Text2.Width(), frmDiagram.Command1.Left());
+    }
+}
+
+TEST_F(DiagramWindowTest, TheStripOfNamesIsAsHighAsTheLongestTakes) {
+    TaxonTable[3][kTaxonName] = "Chenopodiaceae/Amar.";
+    Open(frmMain.mnuBar);
+    EXPECT_EQ(frmDiagram.Picture4.Height(), 2105);
+    CloseWindow(frmDiagram);
+    TaxonTable[3][kTaxonName] = "Chenopodiaceae/Amaranthaceae-type";
+    Open(frmMain.mnuBar);
+    EXPECT_EQ(frmDiagram.Picture4.Height(), 33 * 90 + 150);
+    EXPECT_EQ(frmDiagram.Picture1.Top(), frmDiagram.Picture4.Top() + frmDiagram.Picture4.Height());
+    EXPECT_EQ(frmDiagram.Slider1.Top(), frmDiagram.Picture1.Top());
+    EXPECT_EQ(frmDiagram.Picture1.Top() + frmDiagram.Picture1.Height() + 20, frmDiagram.HScroll1.Top());
+    CloseWindow(frmDiagram);
+    TaxonTable[3][kTaxonName] = std::string(1000, 'x');
+    Open(frmMain.mnuBar);
+    EXPECT_EQ(frmDiagram.Picture1.Height(), frmDiagram.Picture1.DesignBox().height / 2);
+}
+
 TEST_F(DiagramWindowTest, TheTreeTakesItsWidthFromTheDiagram) {
     Open(frmMain.mnuBar);
     const int width = frmDiagram.Picture1.Width(), frame_left = frmDiagram.Frame3.Left(), tree = frmDiagram.Picture2.Width();
@@ -135,10 +163,10 @@ TEST_F(DiagramWindowTest, TheTreeTakesItsWidthFromTheDiagram) {
 
 TEST_F(DiagramWindowTest, AWindowThatWasTooSmallIsMadeLargerWithAMessage) {
     Open(frmMain.mnuBar);
-    ResizeWindow(frmDiagram, 2700, 7545);
+    ResizeWindow(frmDiagram, 2300, 7545);
     EXPECT_LT(frmDiagram.Picture1.Width(), 500);
     EXPECT_EQ(MessageCount(), 0U);
-    ResizeWindow(frmDiagram, 2600, 7545);
+    ResizeWindow(frmDiagram, 2200, 7545);
     ASSERT_EQ(MessageCount(), 1U);
     EXPECT_EQ(LastMessage().title, "Error");
     EXPECT_EQ(LastMessage().text, "Frame too small");
