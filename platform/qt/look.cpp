@@ -65,6 +65,7 @@ public:
         switch (hint) {
             case SH_MenuBar_AltKeyNavigation:  // Alt can be a counter key
             case SH_DialogButtonBox_ButtonsHaveIcons:
+            case SH_EtchDisabledText:  // a second, light word behind each that rests
                 return 0;
             case SH_ToolTip_WakeUpDelay:
                 return 400;
@@ -99,7 +100,7 @@ private:
 };
 
 QPalette LightPalette() {
-    QPalette palette;
+    QPalette palette(ToQt(kFormColour));  // edges and shades too: those of a dark desktop would be ghosts behind the words
     const auto set = [&palette](QPalette::ColorRole role, QColor colour) { palette.setColor(role, colour); };
     set(QPalette::Window, ToQt(kFormColour));
     set(QPalette::WindowText, Qt::black);

@@ -17,7 +17,8 @@ class QRectF;
 class QScreen;
 
 constexpr QColor kAccent{0x1c, 0x6e, 0x8c};   // what is chosen, pressed, in focus
-constexpr QColor kOutline{0xb4, 0xbc, 0xc4};  // around boxes, buttons and frames
+constexpr QColor kOutline{0xb4, 0xbc, 0xc4};  // around buttons, frames and boxes that take no text
+constexpr QColor kBoxEdge{0x7b, 0x85, 0x8f};  // around boxes that take text
 constexpr QColor kButtonFace{0xfb, 0xfc, 0xfd};
 constexpr QColor kRestingBox{0xe4, 0xe8, 0xeb};    // a white box that takes no text now
 constexpr QColor kRestingWords{0x6c, 0x74, 0x7c};  // captions of what cannot be used now

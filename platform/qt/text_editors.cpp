@@ -47,7 +47,7 @@ QPalette EditorPalette(const TextHolder& box) {
 void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
                  int most_lines) {
     painter.fillRect(room, BoxGround(box.State()));
-    PaintBoxOutline(painter, room, false);
+    PaintOutline(painter, room, box.Enabled() && box.TakesText() ? kBoxEdge : kOutline, 1, 0);
     painter.setPen(ToQt(box.ForeColor()));
     const int margin = BoxMargin(factor);
     const bool one_line = most_lines <= 2;
@@ -63,8 +63,8 @@ QString TipOf(const TextHolder& box, const EditedHead& held) {
     return tip.isEmpty() || words.isEmpty() ? tip + words : tip + u'\n' + words;
 }
 
-void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus) {
-    PaintOutline(painter, room, in_focus ? kAccent : kOutline, in_focus ? 2 : 1, 0);
+void PaintEdgeInFocus(QPainter& painter, const QRectF& room) {
+    PaintOutline(painter, room, kAccent, 2, 0);
 }
 
 namespace {
@@ -141,7 +141,7 @@ void TextLine::paintEvent(QPaintEvent* event) {
     if (hasFocus()) {
         QLineEdit::paintEvent(event);
         QPainter painter(this);
-        PaintBoxOutline(painter, rect(), true);
+        PaintEdgeInFocus(painter, rect());
         painter.setPen(kAccent);
         if (!head_.IsAll()) painter.drawText(rect().adjusted(0, 0, -BoxMargin(factor_), 0), Qt::AlignRight | Qt::AlignVCenter, kDots);
     } else {
@@ -224,7 +224,7 @@ void TextArea::paintEvent(QPaintEvent* event) {
     if (hasFocus()) QPlainTextEdit::paintEvent(event);
     QPainter painter(viewport());
     if (hasFocus())
-        PaintBoxOutline(painter, viewport()->rect(), true);
+        PaintEdgeInFocus(painter, viewport()->rect());
     else
         PaintAtRest(painter, viewport()->rect(), box_, font_, factor_, fitted_, kMostLinesOfArea);
 }

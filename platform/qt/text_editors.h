@@ -25,7 +25,7 @@ QPalette EditorPalette(const TextHolder& box);
 // A box that does not hold the keyboard shows all of its text that goes in.
 void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
                  int most_lines);
-void PaintBoxOutline(QPainter& painter, const QRectF& room, bool in_focus);
+void PaintEdgeInFocus(QPainter& painter, const QRectF& room);
 
 // An editor holds the head of its box's text.
 class BoxEditor {
