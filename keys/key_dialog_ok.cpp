@@ -103,6 +103,7 @@ void AcceptKeySettings() {
         return;
     }
     Store();
+    ShowKeysInTips();
     PlaceKeyCellsIfKnown();
     PutProgressAway();
     CloseDialog(frmKeyCode);

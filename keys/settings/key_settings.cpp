@@ -33,6 +33,7 @@ void ReadKeySettings() {
     for (int place = 1; place <= kKeys; ++place)
         for (const int slot : {place, place + kKeys, place + 2 * kKeys}) frmMain.SlotNumbers[slot].SetCaption(std::to_string(slot));
     PlaceKeyCells();
+    ShowKeysInTips();
     KeyboardKnown = AreNamedKeysKnown() ? 1 : 0;
 }
 
@@ -60,6 +61,18 @@ void PlaceKeyCellsIfKnown() {
         PlaceKeyCells();
     } catch (const Failure&) {
         // Settings that could not be read: the session goes on by the built-in keys, its cells where they are.
+    }
+}
+
+void ShowKeysInTips() {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        const int key = (slot - 1) % kKeys + 1;
+        std::string tip = "taxon " + std::to_string(slot) + ", key " + KeySettings[key][kKeyDefinition].Text();
+        if (slot <= kKeys)
+            tip += ", Shift-1: " + std::to_string(slot + kKeys) + ", both shifts: " + std::to_string(slot + 2 * kKeys);
+        else
+            tip += slot <= 2 * kKeys ? " with Shift-1 or Shift-2" : " with Shift-1 and Shift-2";
+        for (TextBox* box : frmMain.Cell(slot)) box->SetToolTip(tip);
     }
 }
 

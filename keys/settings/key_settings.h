@@ -23,6 +23,8 @@ void WriteKeySettings();  // all rows as held; raises "File error"
 void PlaceKeyCells();
 void PlaceKeyCellsIfKnown();  // the same; a number that is none leaves the cells behind it where they are
 
+void ShowKeysInTips();  // of the cells: which keys count in them
+
 bool AreNamedKeysKnown();  // no code of the last twelve rows is 0 or 999
 
 int KeyNumber(const Any& field);  // the counter key that a key number means, rounded; 0 for one outside 1..45

@@ -2,6 +2,7 @@
 
 #include "files/open_sheet.h"
 #include "platform/failure.h"
+#include "platform/user.h"
 #include "session/start_up.h"
 #include "unit/sheet_file.h"
 #include "unit/sheet_test.h"
@@ -122,6 +123,19 @@ TEST_F(KeySettingsTest, TheKeyboardIsUnknownWhileANamedKeyHasCode0Or999) {
             ReadKeySettings();
             EXPECT_EQ(KeyboardKnown, each.known) << changed;
         }
+}
+
+TEST_F(KeySettingsTest, ACellTellsWhichKeysCountInIt) {
+    EXPECT_EQ(frmMain.Text1[5].ToolTip(), "taxon 5, key s, Shift-1: 50, both shifts: 95");
+    EXPECT_EQ(frmMain.Text2[50].ToolTip(), "taxon 50, key s with Shift-1 or Shift-2");
+    EXPECT_EQ(frmMain.Text2[95].ToolTip(), "taxon 95, key s with Shift-1 and Shift-2");
+    ClickControl(frmMain.mnuKeyCodeReader);
+    ClickControl(frmKeyCode.Text1[5]);
+    PressKey(226);
+    InsertText(frmKeyCode.Text1[5], "<");
+    ReleaseKey(226);
+    ClickControl(frmKeyCode.Command4);
+    EXPECT_EQ(frmMain.Text1[50].ToolTip(), "taxon 50, key < with Shift-1 or Shift-2");
 }
 
 TEST_F(KeySettingsTest, OtherRowsMayHoldThoseCodes) {
