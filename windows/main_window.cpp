@@ -24,6 +24,8 @@ constexpr Style kSlotNumber{.points = 7, .visible = false};
 constexpr Style kTotal{.points = 16};
 constexpr int kColumnTop = 4800;  // the four columns below the pad
 constexpr int kColumnHeight = 2660;
+constexpr int kHeadingTop = 60;  // of a column, in it
+constexpr int kHeadingHeight = 260;
 constexpr int kCommandTop = 7520;
 }  // namespace
 
@@ -35,6 +37,7 @@ MainWindow::MainWindow() : Window("frmMain", "Marlbrook 2.7.5", 11400, 7980) {
     LayMenuBar();
     LayPopups();
     LayLetters();
+    LayTips();
     FirstFocus(Text99);
     KeepDesign();
 }
@@ -76,16 +79,17 @@ void MainWindow::LaySlot(int slot) {
 void MainWindow::LayColumns() {
     Lay({
         {Frame1, "Frame1", nullptr, {60, kColumnTop, 2560, kColumnHeight}, "", kPlain, "Sample"},
-        {Label1[0], {"Label1", 0}, &Frame1, {80, 90, 1140, 270}, "Sample name: ", kSmallQuiet},
-        {Text1[0], {"Text1", 0}, &Frame1, {1240, 70, 1240, 300}, "-9999", {.bold = true}, "", &Label1[0]},
+        {Label11, "Label11", &Frame1, {80, kHeadingTop, 2400, kHeadingHeight}, "Sample", kQuiet},
+        {Label1[0], {"Label1", 0}, &Frame1, {80, 360, 1140, 270}, "Sample name: ", kSmallQuiet},
+        {Text1[0], {"Text1", 0}, &Frame1, {1240, 340, 1240, 300}, "-9999", kPlain, "", &Label1[0]},
         // Not by Tab: a letter typed there renames the sample.
-        {Combo2, "Combo2", &Frame1, {1240, 420, 1240, 300}, "-9999", {.tab_stop = false}, "Sample on show"},
-        {Label3, "Label3", &Frame1, {80, 800, 1140, 270}, "Serial No.:", kSmallQuiet},
-        {Label4, "Label4", &Frame1, {1240, 800, 1240, 270}, "1/1", kPlain, "Serial No."},
-        {Text4, "Text4", &Frame1, {80, 1140, 2400, 1440}, kEmpty, kSmall, "Note"},
+        {Combo2, "Combo2", &Frame1, {1240, 680, 1240, 300}, "-9999", {.tab_stop = false}, "Sample on show"},
+        {Label3, "Label3", &Frame1, {80, 1020, 1140, 270}, "Serial No.:", kSmallQuiet},
+        {Label4, "Label4", &Frame1, {1240, 1020, 1240, 270}, "1/1", kPlain, "Serial No."},
+        {Text4, "Text4", &Frame1, {80, 1320, 2400, 1260}, kEmpty, kSmall, "Note"},
 
         {Frame2, "Frame2", nullptr, {2680, kColumnTop, 2900, kColumnHeight}, "", kPlain, "Totals"},
-        {Label6, "Label6", &Frame2, {80, 80, 2740, 260}, "Set alarm and % basis", kQuiet},
+        {Label6, "Label6", &Frame2, {80, kHeadingTop, 2740, kHeadingHeight}, "Set alarm and % basis", kQuiet},
         {Label2[0], {"Label2", 0}, &Frame2, {80, 450, 880, 400}, "All total:"},
         {Text3[0], {"Text3", 0}, &Frame2, {980, 400, 760, 480}, "0", kTotal, "", &Label2[0]},
         {Option1[0], {"Option1", 0}, &Frame2, {1780, 490, 1060, 300}, "Set alarm", kSmall, "", &Label2[0]},
@@ -98,28 +102,28 @@ void MainWindow::LayColumns() {
         {ProgressBar1, "ProgressBar1", &Frame2, {80, 2300, 2740, 220}, "", kHidden, "Progress"},
 
         {Frame4, "Frame4", nullptr, {5640, kColumnTop, 3420, kColumnHeight}, "", kPlain, "Additional info"},
+        {Label12, "Label12", &Frame4, {80, kHeadingTop, 3260, kHeadingHeight}, "Additional info", kQuiet},
     });
     Text4.multiline = true;
-    Label6.right_aligned = true;
     for (TextBox& total : Text3) total.centred = true;
     Option1[0].SetValue(true);
     for (int p = 1; p <= kParams; ++p) LayParam(p);
     Lay({
-        {Label8, "Label8", &Frame4, {1580, 2370, 1780, 220}, "", {.points = 7, .fore = kQuietWords}},
+        {Label8, "Label8", &Frame4, {1580, 2420, 1780, 200}, "", {.points = 7, .fore = kQuietWords}},
 
         {Frame5, "Frame5", nullptr, {9120, kColumnTop, 2220, kColumnHeight}, "", kPlain, "Taxa curve"},
-        {Label9, "Label9", &Frame5, {80, 60, 2060, 260}, "Diversity", kQuiet},
+        {Label9, "Label9", &Frame5, {80, kHeadingTop, 2060, kHeadingHeight}, "Diversity", kQuiet},
         {Picture2, "Picture2", &Frame5, {80, 340, 2060, 2240}, "", kPlain, "Taxa diversity vs. total count"},
     });
 }
 
 void MainWindow::LayParam(int p) {
-    const int top = 70 + 380 * (p - 1);
+    const int top = 330 + 345 * (p - 1);
     const std::string name = "Additional info-" + std::to_string(p);
     Lay({
-        {Label10[p], {"Label10", p}, &Frame4, {80, top + 20, 1480, 280}, name + ":", kSmallQuiet},
-        {Text5[p], {"Text5", p}, &Frame4, {1580, top, 1080, 320}, kEmpty, {.enabled = false}, "", &Label10[p]},
-        {Command7[p], {"Command7", p}, &Frame4, {2700, top, 660, 320}, "Rename", kSmall, "", &Label10[p]},
+        {Label10[p], {"Label10", p}, &Frame4, {80, top + 30, 1480, 260}, name + ":", kSmallQuiet},
+        {Text5[p], {"Text5", p}, &Frame4, {1580, top, 1080, 315}, kEmpty, {.enabled = false}, "", &Label10[p]},
+        {Command7[p], {"Command7", p}, &Frame4, {2700, top, 660, 315}, "Rename", kSmall, "", &Label10[p]},
     });
     Text5[p].SetToolTip(name);
 }
@@ -134,9 +138,17 @@ void MainWindow::LayCommands() {
         {Command2[0], {"Command2", 0}, nullptr, {5260, kCommandTop, 860, 400}, "Reset"},
         {Command6, "Command6", nullptr, {6260, kCommandTop, 560, 400}, "%", kPlain, "Percentages while it is held"},
         {Command1, "Command1", nullptr, {0, kCommandTop, 0, 400}, "", kHidden},
-        {Label5, "Label5", nullptr, {6960, kCommandTop + 80, 760, 280}, "History:", kQuiet},
+        {Label5, "Label5", nullptr, {6960, kCommandTop + 60, 760, 280}, "History:", kQuiet},
         {Combo1, "Combo1", nullptr, {7740, kCommandTop + 20, 3600, 360}, "", {.tab_stop = false}, "", &Label5},
     });
+}
+
+void MainWindow::LayTips() {
+    for (OptionButton& option : Option1) option.SetToolTip("The alarm sounds at each full hundred of this total, and percentages go by it");
+    Command3[0].SetToolTip("Opens names, counts and notes for typing; no key counts until Resume");
+    Command3[1].SetToolTip("Back to counting");
+    Command2[0].SetToolTip("Takes back all since the sheet was opened or saved, or got its last sample");
+    Command6.SetToolTip("Shows percentages in place of counts as long as it is held");
 }
 
 void MainWindow::LayMenuBar() {

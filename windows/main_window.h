@@ -86,6 +86,7 @@ struct MainWindow : Window {
     Frame Frame5;
     Frame& CurveFrame = Frame5;
     Label Label9;
+    Label Label11, Label12;  // headings of the columns with the sample and with its Additional info
     PictureBox Picture2;
     PictureBox& DiversityPicture = Picture2;  // taxa seen against grains counted
 
@@ -161,6 +162,7 @@ private:
     void LayColumns();
     void LayParam(int p);
     void LayCommands();
+    void LayTips();
     void LayMenuBar();
     void LayPopups();
     void LayMoves(int i);
