@@ -49,6 +49,8 @@ public:
     std::string Folder() override { return folder_; }
     Box ScreenSize() override { return {}; }
     bool CanShow(const std::string&) override { return false; }
+    bool HasManual() override { return false; }
+    void ShowManual() override {}
     void End() override { QCoreApplication::exit(0); }
     void Fail(const char* word) override {
         std::fprintf(stderr, "window_bench: %s\n", word);

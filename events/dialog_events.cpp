@@ -52,6 +52,7 @@ void JoinNextEvents(NextWindow& window) {
     window.FrameClosed.Calls(CloseNextByFrame);
     window.CreateButton.Click.Calls(ShowSampleFields);
     window.OpenButton.Click.Calls(OpenSheet);
+    window.ManualButton.Click.Calls([] { services.host->ShowManual(); });
     window.OkButton.Click.Calls(AcceptSample);
     window.CancelButton.Click.Calls(CancelSample);
     JoinNote(window.SampleNote);

@@ -81,6 +81,7 @@ void ShowStartFace() {
     frmNext.SampleFace.SetVisible(false);
     frmNext.SampleNameCaption.SetCaption("Name of the first sample: ");
     frmNext.OpenButton.SetVisible(true);
+    frmNext.ManualButton.SetVisible(services.host->HasManual());
     frmNext.CancelButton.SetVisible(false);
     frmNext.unfolds_to = kBothFacesHeight;
     frmNext.SetSize(kNextWidth, kStartFaceHeight);
@@ -151,6 +152,7 @@ void BringNextToFront() {
 void ShowSampleFields() {
     frmNext.SetSize(kNextWidth, kBothFacesHeight);
     frmNext.CreateButton.SetVisible(false);
+    frmNext.OpenButton.SetTop((frmNext.CreateButton.Top() + frmNext.OpenButton.Top()) / 2);  // in the middle of the room of both
     frmNext.SampleFace.SetVisible(true);
     frmNext.SampleName.SetFocus();
 }

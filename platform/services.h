@@ -92,6 +92,8 @@ public:
     virtual std::string Folder() = 0;  // the program's own folder, where References and Sound files lie; no separator at its end
     virtual Box ScreenSize() = 0;      // of the screen that windows come up on, in twips
     virtual bool CanShow(const std::string& picture) = 0;  // the bytes of a file: a picture of a kind that the platform can draw
+    virtual bool HasManual() = 0;                          // it was installed with the program
+    virtual void ShowManual() = 0;                         // in the browser of the system
     virtual void End() = 0;                                // the program ends when the event that runs is over
     virtual void Fail(const char* word) = 0;               // shows the word of a failure that nothing caught, then ends the program
 };

@@ -22,10 +22,11 @@ NextWindow::NextWindow() : Window("frmNext", "Marlbrook 2.7", kNextWidth, kStart
     Lay({
         {Frame2, "Frame2", nullptr, {0, 0, kNextWidth, kStartFaceHeight}, "", kPlain, "Start"},
         {Picture1, "Picture1", &Frame2, {240, 280, 2000, 2000}, "", kDrawing, "A pollen grain"},
-        {Label5[0], {"Label5", 0}, &Frame2, {2600, 220, 4300, 460}, "Marlbrook 2.7", kTitle},
+        {Label5[0], {"Label5", 0}, &Frame2, {2600, 220, 3300, 460}, "Marlbrook 2.7", kTitle},
         {Label5[1], {"Label5", 1}, &Frame2, {2600, 700, 4300, kLine}, kPurpose, kQuiet},
         {Command4, "Command4", &Frame2, {2600, 1160, 4300, 520}, "Create new data file"},
         {Command2, "Command2", &Frame2, {2600, 1800, 4300, 520}, "Open data file or template"},
+        {Command6, "Command6", &Frame2, {6000, 260, 900, 360}, "Manual", kHidden},
 
         {Frame1, "Frame1", nullptr, {120, kStartFaceHeight, kNextWidth - 240, kSampleFaceHeight}, " Create new data file", kHidden},
         {Label1, "Label1", &Frame1, {200, 350, 2600, 280}, "Name of the first sample: "},

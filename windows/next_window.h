@@ -20,6 +20,8 @@ struct NextWindow : Window {
     Button& CreateButton = Command4;
     Button Command2;
     Button& OpenButton = Command2;
+    Button Command6;
+    Button& ManualButton = Command6;  // where the manual is installed
 
     Frame Frame1;
     Frame& SampleFace = Frame1;

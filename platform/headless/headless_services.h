@@ -58,10 +58,14 @@ public:
     std::string folder;   // what the program takes for its own
     bool ended = false;   // by the program itself or by a failure
     std::string failure;  // the word of the first failure that nothing caught; empty: none
+    bool has_manual = false;
+    int manuals_shown = 0;
 
     std::string Folder() override { return folder; }
     Box ScreenSize() override { return {0, 0, 1024 * kTwipsPerPixel, 768 * kTwipsPerPixel}; }
     bool CanShow(const std::string& picture) override;  // goes by its first bytes
+    bool HasManual() override { return has_manual; }
+    void ShowManual() override { ++manuals_shown; }
     void End() override { ended = true; }
     void Fail(const char* word) override {
         if (failure.empty()) failure = word;

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_host.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -11,6 +12,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+#include <QUrl>
 
 #include "platform/qt/look.h"
 #include "platform/qt/qt_files.h"
@@ -40,6 +42,24 @@ Box QtHost::ScreenSize() {
 
 bool QtHost::CanShow(const std::string& picture) {
     return IsPicture(picture);
+}
+
+namespace {
+// Its first page, as it is installed, in a folder of its own, and in the folder of the build; empty: nowhere.
+QString ManualPage() {
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const char* folder : {"/../share/doc/marlbrook/manual", "/manual", "/../docs/manual"})
+        if (const QString page = QDir::cleanPath(program + folder + "/index.html"); QFileInfo(page).isFile()) return page;
+    return {};
+}
+}  // namespace
+
+bool QtHost::HasManual() {
+    return !ManualPage().isEmpty();
+}
+
+void QtHost::ShowManual() {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(ManualPage()));
 }
 
 void QtHost::End() {

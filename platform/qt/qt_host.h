@@ -18,6 +18,8 @@ public:
     std::string Folder() override { return folder_; }
     Box ScreenSize() override;
     bool CanShow(const std::string& picture) override;
+    bool HasManual() override;
+    void ShowManual() override;
     void End() override;
     void Fail(const char* word) override;
 

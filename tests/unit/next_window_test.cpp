@@ -23,6 +23,26 @@ TEST_F(NextWindowTest, TheStartFaceOffersToCreateAndToOpen) {
     EXPECT_EQ(frmNext.Command2.Caption(), "Open data file or template");
 }
 
+TEST_F(NextWindowTest, TheStartFaceLeadsToTheManualWhereItIsInstalled) {
+    services_.host.has_manual = true;
+    Start();
+    ASSERT_TRUE(IsShown(frmNext.Command6));
+    ClickControl(frmNext.Command6);
+    EXPECT_EQ(services_.host.manuals_shown, 1);
+    EXPECT_EQ(ActiveWindow(), &frmNext);
+    frmNext.Unload();
+    services_.host.has_manual = false;
+    frmNext.Load();
+    EXPECT_FALSE(frmNext.Command6.Visible());
+}
+
+TEST_F(NextWindowTest, OpenStandsInTheMiddleOnceThereIsNothingElseToPress) {
+    Start();
+    const int create = frmNext.Command4.Top(), open = frmNext.Command2.Top();
+    ClickControl(frmNext.Command4);
+    EXPECT_EQ(frmNext.Command2.Top(), (create + open) / 2);
+}
+
 TEST_F(NextWindowTest, CreateUnfoldsTheFieldsOfTheFirstSample) {
     Start();
     ClickControl(frmNext.Command4);
