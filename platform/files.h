@@ -41,8 +41,9 @@ public:
 class Files {
 public:
     virtual ~Files() = default;
-    // Paths are UTF-8, `/` separates folders. Reading raises "File error" if the file
-    // cannot be opened, is no ordinary file, or is larger than kLargestFile; opening makes a file that is not there, or raises the same.
-    virtual std::string ReadAll(const std::string& path) = 0;
+    // Paths are UTF-8, `/` separates folders. Reading raises "File error" if the file cannot be opened or is no ordinary file; opening
+    // makes a file that is not there, or raises the same.
+    virtual std::string ReadHead(const std::string& path, std::size_t most) = 0;  // its first `most` bytes; all of them if it has no more
+    std::string ReadAll(const std::string& path);                                 // raises the same if it is larger than kLargestFile
     virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;
 };

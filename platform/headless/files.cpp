@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <fstream>
-#include <iterator>
 
 #include "platform/failure.h"
 
@@ -54,13 +53,16 @@ private:
 
 }  // namespace
 
-std::string DiskFiles::ReadAll(const std::string& path) {
+std::string DiskFiles::ReadHead(const std::string& path, std::size_t most) {
     const std::filesystem::path file = DiskPath(path);
     std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error) || std::filesystem::file_size(file, error) > kLargestFile) throw Failure(kFileError);
+    if (!std::filesystem::is_regular_file(file, error)) throw Failure(kFileError);
     std::ifstream stream(file, std::ios::binary);  // only now: opening a pipe would wait
     if (!stream) throw Failure(kFileError);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    std::string bytes(static_cast<std::size_t>(std::min<std::uintmax_t>(std::filesystem::file_size(file, error), most)), '\0');
+    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(stream.gcount()));
+    return bytes;
 }
 
 std::unique_ptr<OutputFile> DiskFiles::OpenForWriting(const std::string& path) {
@@ -98,9 +100,9 @@ void ScriptedFiles::FailIfLocked(const std::string& path) const {
     if (locked_.contains(Normal(path))) throw Failure(kFileError);
 }
 
-std::string ScriptedFiles::ReadAll(const std::string& path) {
+std::string ScriptedFiles::ReadHead(const std::string& path, std::size_t most) {
     FailIfLocked(path);
-    return beneath_.ReadAll(path);
+    return beneath_.ReadHead(path, most);
 }
 
 std::unique_ptr<OutputFile> ScriptedFiles::OpenForWriting(const std::string& path) {

@@ -11,7 +11,7 @@
 
 class DiskFiles : public Files {
 public:
-    std::string ReadAll(const std::string& path) override;
+    std::string ReadHead(const std::string& path, std::size_t most) override;
     std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
 };
 
@@ -32,7 +32,7 @@ public:
     void Limit(const std::string& path, std::size_t bytes);
     void LiftLimit(const std::string& path);
 
-    std::string ReadAll(const std::string& path) override;
+    std::string ReadHead(const std::string& path, std::size_t most) override;
     std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
 
 private:

@@ -76,12 +76,11 @@ QString SystemPath(const std::string& path) {
     return QDir::fromNativeSeparators(ToQt(path));  // elsewhere than on Windows a `\` is a character like any other
 }
 
-std::string QtFiles::ReadAll(const std::string& path) {
+std::string QtFiles::ReadHead(const std::string& path, std::size_t most) {
     const QFileInfo info(SystemPath(path));
     QFile file(info.filePath());
-    const bool is_sheet_like = info.isFile() && info.size() <= static_cast<qint64>(kLargestFile);
-    if (!is_sheet_like || !file.open(QIODevice::ReadOnly)) throw Failure(kFileError);
-    const QByteArray bytes = file.readAll();
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) throw Failure(kFileError);
+    const QByteArray bytes = file.read(static_cast<qint64>(most));
     if (file.error() != QFileDevice::NoError) throw Failure(kFileError);
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }

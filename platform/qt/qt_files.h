@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <condition_variable>
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -15,7 +16,7 @@
 
 class QtFiles : public Files {
 public:
-    std::string ReadAll(const std::string& path) override;
+    std::string ReadHead(const std::string& path, std::size_t most) override;
     std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
 };
 

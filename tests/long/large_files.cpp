@@ -85,8 +85,8 @@ const Shape kShapes[] = {
 class WatchedFiles : public Files {
 public:
     explicit WatchedFiles(Files& beneath) : beneath_(beneath) {}
-    std::string ReadAll(const std::string& path) override {
-        std::string bytes = beneath_.ReadAll(path);
+    std::string ReadHead(const std::string& path, std::size_t most) override {
+        std::string bytes = beneath_.ReadHead(path, most);
         read.insert(path);
         return bytes;
     }

@@ -22,9 +22,9 @@ class ReadRecorder : public Files {
 public:
     explicit ReadRecorder(Files& beneath) : beneath_(beneath) {}
     Texts read;
-    std::string ReadAll(const std::string& path) override {
+    std::string ReadHead(const std::string& path, std::size_t most) override {
         read.push_back(path);
-        return beneath_.ReadAll(path);
+        return beneath_.ReadHead(path, most);
     }
     std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override { return beneath_.OpenForWriting(path); }
 

@@ -79,6 +79,14 @@ TEST_F(QtFilesTest, ReplaceLeavesJustTheNewBytes) {
     EXPECT_EQ(files_.ReadAll(Path("a.csv")), std::string("new\0\r\n", 6));
 }
 
+TEST_F(QtFilesTest, TheHeadOfAFileIsItsFirstBytesAndAllOfAShorterOne) {
+    files_.OpenForWriting(Path("a.csv"))->Replace("counts");
+    EXPECT_EQ(files_.ReadHead(Path("a.csv"), 5), "count");
+    EXPECT_EQ(files_.ReadHead(Path("a.csv"), 6), "counts");
+    EXPECT_EQ(files_.ReadHead(Path("a.csv"), kLargestFile), "counts");
+    EXPECT_THROW(files_.ReadHead(Path("none.csv"), 5), Failure);
+}
+
 TEST_F(QtFilesTest, PathsBearAccents) {
     files_.OpenForWriting(Path("p\xC3\xA9riode.csv"))->Replace("x");
     EXPECT_EQ(files_.ReadAll(Path("p\xC3\xA9riode.csv")), "x");
