@@ -57,7 +57,7 @@ std::uint64_t EndOfChunks(std::string_view bytes) {
 }  // namespace
 
 bool IsPlayableWave(std::string_view bytes) {
-    if (bytes.size() < kFileHead || !bytes.starts_with("RIFF") || bytes.substr(8, 4) != "WAVE") return false;
+    if (bytes.size() < kFileHead || bytes.size() > kLargestWave || !bytes.starts_with("RIFF") || bytes.substr(8, 4) != "WAVE") return false;
     const std::uint64_t end = EndOfChunks(bytes);
     std::optional<std::string_view> format;
     for (std::uint64_t place = kFileHead; place + kChunkHead <= end;) {

@@ -4,6 +4,7 @@
 
 #include "keys/settings/key_settings.h"
 #include "platform/failure.h"
+#include "platform/wave_format.h"
 #include "session/history.h"
 #include "session/saved_state.h"
 #include "session/state/sheet_state.h"
@@ -122,10 +123,12 @@ const WaveFile kWaveFiles[] = {
     {"Undo.wav", &WaveUndo},  {"Save.wav", &WaveSave},  {"Alarm.wav", &WaveAlarm}, {"Error.wav", &WaveError},
 };
 
-// Returns false if a wave is missing: there is no sound at all then.
+// Returns false if a wave is missing: there is no sound at all then. Of one that is too large so much is read that it counts as broken,
+// and is silent alone.
 bool LoadWaves() {
     try {
-        for (const WaveFile& file : kWaveFiles) file.wave->bytes = services.files->ReadAll(ProgramFile("Sound files/") + file.name);
+        for (const WaveFile& file : kWaveFiles)
+            file.wave->bytes = services.files->ReadHead(ProgramFile("Sound files/") + file.name, kLargestWave + 1);
         return true;
     } catch (const Failure&) {
         SoundOn = false;

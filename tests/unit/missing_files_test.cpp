@@ -1,7 +1,9 @@
 // What the start does without the files of its installation, and what a second fresh sheet keeps of the first.
 #include "platform/user.h"
+#include "platform/wave_format.h"
 #include "session/start_up.h"
 #include "unit/sheet_test.h"
+#include "unit/wave_bytes.h"
 #include "windows/key_windows.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -54,6 +56,25 @@ TEST_F(MissingFilesTest, AnyMissingWaveMeansOneMessageAndNoSoundAtAll) {
         EXPECT_EQ(KeySettings[1][kKeyCode].Number(), 81) << wave;
         files_.bytes[path] = bytes;
     }
+}
+
+TEST_F(MissingFilesTest, TheLongestWaveIsReadWhole) {
+    std::string& wave = files_.bytes["/program/Sound files/Save.wav"];
+    wave = SilentWave(kLongestWave * kHighestWaveRate, {.channels = 2, .rate = kHighestWaveRate});
+    Start();
+    EXPECT_EQ(MessageCount(), 0u);
+    EXPECT_TRUE(WaveSave.bytes == wave);
+}
+
+TEST_F(MissingFilesTest, AWaveThatIsTooLargeIsBrokenAndNotMissing) {
+    std::string& wave = files_.bytes["/program/Sound files/Save.wav"];
+    wave = SilentWave(100);
+    wave.resize(100'000'000);
+    Start();
+    EXPECT_EQ(MessageCount(), 0u);
+    EXPECT_TRUE(SoundOn);
+    EXPECT_FALSE(IsPlayableWave(WaveSave.bytes));
+    EXPECT_LT(WaveSave.bytes.size(), 30'000'000u) << "the memory is not filled with what is not played";
 }
 
 TEST_F(MissingFilesTest, AMissingWaveOnAnUnknownKeyboardAsksForTheKeyboardToo) {

@@ -56,6 +56,16 @@ TEST(WaveFormatTest, FromOneFrameToThirtySeconds) {
     EXPECT_TRUE(IsPlayableWave(WaveOf(FormatChunk({.channels = 2}) + Data(7)))) << "a frame, and a part of one";
 }
 
+TEST(WaveFormatTest, TheLongestOfTheHighestRateAnd24MegabytesWithAllElse) {
+    const std::string longest = SilentWave(30 * 192000, {.channels = 2, .rate = 192000});
+    EXPECT_TRUE(IsPlayableWave(longest));
+    constexpr std::size_t kMost = 24 << 20, kChunkHead = 8;
+    const std::string largest = longest + WaveChunk("LIST", std::string(kMost - longest.size() - kChunkHead, 'x'));
+    ASSERT_EQ(largest.size(), kMost);
+    EXPECT_TRUE(IsPlayableWave(largest));
+    EXPECT_FALSE(IsPlayableWave(largest + "x"));
+}
+
 TEST(WaveFormatTest, OnlyPcm) {
     for (const int coding : {0, 2, 3, 6, 7, 0x11, 0x31, 0x55, 0xfffe, 0xffff}) {
         EXPECT_FALSE(IsPlayable({.coding = coding})) << coding;
