@@ -8,7 +8,9 @@
 #include <QFileInfo>
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QRegularExpressionValidator>
 #include <QScreen>
 #include <QStandardPaths>
 
@@ -124,6 +126,8 @@ Answer QtMessageBoxes::Show(const Message& message) {
 
 namespace {
 constexpr QSize kSizeInLines(46, 28);
+constexpr const char* kQuotationMark =
+    "A file with a quotation mark (\") in its name or in that of a folder cannot be used. Please choose another one.";
 
 // "DataFile(*.csv)|*.csv": what is said, then the pattern; Qt takes the pattern from the brackets.
 QString NameFilter(const std::string& filter) {
@@ -133,6 +137,31 @@ QString NameFilter(const std::string& filter) {
 QString Suffix(const std::string& filter) {
     return ToQt(filter).section(QLatin1String("*."), -1);
 }
+
+// Refuses paths with quotation marks: the toolkit takes what stands between two of them for the name of a file, and a sheet, which holds
+// its own path, could not be read again.
+class FileBox : public QFileDialog {
+public:
+    FileBox(QWidget* parent, const QString& title, const QString& folder)
+        : QFileDialog(parent, title, folder), line_(findChild<QLineEdit*>("fileNameEdit")) {
+        if (!line_) return;
+        line_->setValidator(new QRegularExpressionValidator(QRegularExpression("[^\"]*"), line_));
+        connect(line_, &QLineEdit::inputRejected, this, &FileBox::Refuse);
+    }
+
+protected:
+    void accept() override {
+        const QString name = line_ ? line_->text() : selectedFiles().value(0);
+        if (!(directory().path() + name).contains(u'"')) return QFileDialog::accept();
+        Refuse();
+        if (!line_) reject();
+    }
+
+private:
+    void Refuse() { QuestionBox(QMessageBox::Warning, windowTitle(), QString::fromUtf8(kQuotationMark), QMessageBox::Ok, this).exec(); }
+
+    QLineEdit* line_;  // nullptr: the desktop shows a dialog of its own, which is gone when a file has been chosen
+};
 }  // namespace
 
 std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
@@ -144,7 +173,7 @@ std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
     const bool has_folder = proposed.isAbsolute() && proposed.dir().exists();
     const QString first = QFileInfo(SystemPath(question.first_folder)).isDir() ? SystemPath(question.first_folder) : folder_;
 
-    QFileDialog dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), has_folder ? proposed.path() : first);
+    FileBox dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), has_folder ? proposed.path() : first);
     dialog.setFont(opens.Font());
     dialog.resize(kSizeInLines * QFontMetrics(opens.Font()).height());
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
