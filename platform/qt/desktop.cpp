@@ -16,21 +16,18 @@
 #include "platform/qt/window_system.h"
 #include "platform/qt/window_widget.h"
 
-namespace {
-std::string LocalTime(const char* format) {
-    const std::time_t now = std::time(nullptr);
-    char text[sizeof "14/11/2026"];
-    std::strftime(text, sizeof text, format, std::localtime(&now));
-    return text;
+std::string LocalTime(std::time_t moment, const char* format) {
+    const std::tm* const parts = std::localtime(&moment);
+    char text[64];
+    return parts ? std::string(text, std::strftime(text, sizeof text, format, parts)) : "";
 }
-}  // namespace
 
 std::string SystemClock::DateText() {
-    return LocalTime("%d/%m/%Y");
+    return LocalTime(std::time(nullptr), "%d/%m/%Y");
 }
 
 std::string SystemClock::TimeText() {
-    return LocalTime("%H:%M:%S");
+    return LocalTime(std::time(nullptr), "%H:%M:%S");
 }
 
 void QtClipboard::PutImage(const PictureBox& picture) {

@@ -1,5 +1,8 @@
 // The program on the desktop: the services that it has there, and its run.
 #pragma once
+#include <ctime>
+#include <string>
+
 #include "platform/qt/look.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_files.h"
@@ -14,6 +17,9 @@ public:
     std::string DateText() override;
     std::string TimeText() override;
 };
+
+// Of a moment, in the words of strftime, 63 bytes at most; empty where the calendar of the system does not reach.
+std::string LocalTime(std::time_t moment, const char* format);
 
 class QtClipboard : public Clipboard {
 public:
