@@ -64,20 +64,12 @@ int FirstPoint() {
     return first;
 }
 
-// Of the totals `begin` .. `end` - 1.
-std::vector<PicturePoint> PointsOf(int begin, int end) {
-    std::vector<PicturePoint> points;
-    points.reserve(static_cast<std::size_t>(end - begin));
-    for (int n = begin; n < end; ++n) points.push_back({10.0 * n, static_cast<double>(DiversityCurve[n])});
-    return points;
-}
-
 // A gap in the record is a gap in the curve.
 void DrawStretches(PictureBox& picture) {
     for (int n = FirstPoint(); n <= DiversityLength; ++n) {
         const int begin = n;
         while (n <= DiversityLength && DiversityCurve[n] != 0) ++n;
-        if (n - begin > 1) picture.Curve(PointsOf(begin, n), kCurve);
+        if (n - begin > 1) picture.Curve(10.0 * begin, 10, {DiversityCurve.data() + begin, DiversityCurve.data() + n}, kCurve);
     }
 }
 

@@ -71,11 +71,12 @@ void VisitDrawn(const DrawOperation& drawn, Visit visit) {
     if (drawn.shape != Shape::Curve) return visit(drawn);
     DrawOperation line;
     line.rim = drawn.rim;
-    for (std::size_t i = 1; i < drawn.points.size(); ++i) {
-        line.x1 = drawn.points[i - 1].x;
-        line.y1 = drawn.points[i - 1].y;
-        line.x2 = drawn.points[i].x;
-        line.y2 = drawn.points[i].y;
+    for (std::size_t i = 1; i < drawn.heights.size(); ++i) {
+        const PicturePoint from = drawn.PointOf(i - 1), to = drawn.PointOf(i);
+        line.x1 = from.x;
+        line.y1 = from.y;
+        line.x2 = to.x;
+        line.y2 = to.y;
         visit(line);
     }
 }

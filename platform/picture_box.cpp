@@ -36,11 +36,15 @@ void PictureBox::Line(double x1, double y1, double x2, double y2, Colour colour)
     line.rim = colour;
 }
 
-void PictureBox::Curve(std::vector<PicturePoint> points, Colour colour) {
-    assert(points.size() >= 2);
-    for (PicturePoint& point : points) point = {FractionX(point.x), FractionY(point.y)};
+// The heights as they are: a curve has as many as the sample has grains, and is drawn anew in another scale at each key.
+void PictureBox::Curve(double x, double step, std::vector<std::int16_t> heights, Colour colour) {
+    assert(heights.size() >= 2);
     DrawOperation& curve = Add(DrawOperation::Shape::Curve);
-    curve.points = std::move(points);
+    curve.x1 = FractionX(x);
+    curve.y1 = FractionY(0);
+    curve.x2 = step / Span(scale_width_);
+    curve.y2 = 1 / Span(scale_height_);
+    curve.heights = std::move(heights);
     curve.rim = colour;
 }
 

@@ -1,6 +1,7 @@
 // A picture as a display list: lines, curves, filled rectangles, circles and texts in a scale that the program sets. What has been made
 // persistent stays while overlays come and go. Tests read the list; a platform paints it at the resolution of the screen.
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,12 +21,13 @@ struct DrawOperation {
     Colour fill;          // Rectangle and Circle alone
     // Fractions of the picture's width and height, from its upper left corner, so that what is drawn stays where it is when the scale
     // changes. Of a Name: pixels.
-    double x1 = 0, y1 = 0;
-    double x2 = 0, y2 = 0;  // Line and Rectangle alone
+    double x1 = 0, y1 = 0;  // Curve: where it begins, at the height 0
+    double x2 = 0, y2 = 0;  // Line and Rectangle; Curve: from point to point, and from one height to the next
     double radius = 0;      // Circle: a fraction of the width; round on the screen
     double size = 0;        // Text: points
     std::string text;
-    std::vector<PicturePoint> points;  // Curve alone, and instead of the others
+    std::vector<std::int16_t> heights;  // Curve alone: of its points
+    PicturePoint PointOf(std::size_t i) const { return {x1 + static_cast<double>(i) * x2, y1 + heights[i] * y2}; }  // of a Curve
     bool operator==(const DrawOperation&) const = default;
 };
 
@@ -52,8 +54,8 @@ public:
     void SetScaleHeight(double height) { scale_height_ = height; }
 
     // All in the scale of the moment.
-    void Line(double x1, double y1, double x2, double y2, Colour colour);           // both end points belong to it
-    void Curve(std::vector<PicturePoint> points, Colour colour);                    // from point to point, of which there are two at least
+    void Line(double x1, double y1, double x2, double y2, Colour colour);                 // both end points belong to it
+    void Curve(double x, double step, std::vector<std::int16_t> heights, Colour colour);  // a point a step, of which there are two at least
     void FilledRectangle(double x1, double y1, double x2, double y2, Colour fill);  // over the whole scale area: drops what lies under it
     void Circle(double x, double y, double radius, Colour rim, Colour fill);  // the radius in units of x; as far up and down on the screen
     void Print(double x, double y, double points, const std::string& text, Colour colour);  // (x, y): its upper left corner

@@ -5,6 +5,8 @@
 #include <QImage>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "platform/qt/look.h"
@@ -78,8 +80,15 @@ private:
         painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
     }
 
+    // A level stretch is one line.
     void Curve(const DrawOperation& curve) {
-        for (std::size_t i = 1; i < curve.points.size(); ++i) Line(curve.points[i - 1], curve.points[i], curve.rim);
+        const auto& heights = curve.heights;
+        for (auto from = heights.begin(); from + 1 < heights.end();) {
+            const auto level_end = std::find_if(from + 1, heights.end(), [height = *from](std::int16_t other) { return other != height; });
+            const auto to = std::max(level_end - 1, from + 1);
+            Line(curve.PointOf(from - heights.begin()), curve.PointOf(to - heights.begin()), curve.rim);
+            from = to;
+        }
     }
 
     void Bar(double x1, double y1, double x2, double y2, Colour colour) {
@@ -228,19 +237,28 @@ void RepaintPart(QPixmap& picture, const QRect& part, Colour ground, std::span<c
     picture.setDevicePixelRatio(density);
 }
 
+namespace {
+// Opposite ones of the box in which the lines of it lie, or the middle of a circle.
+std::pair<PicturePoint, PicturePoint> CornersOf(const DrawOperation& operation) {
+    const PicturePoint from{operation.x1, operation.y1};
+    if (operation.shape == DrawOperation::Shape::Circle) return {from, from};
+    if (operation.shape != DrawOperation::Shape::Curve) return {from, {operation.x2, operation.y2}};
+    const auto [low, high] = std::ranges::minmax(operation.heights);
+    return {{from.x, from.y + low * operation.y2}, {operation.PointOf(operation.heights.size() - 1).x, from.y + high * operation.y2}};
+}
+}  // namespace
+
 QRectF Reach(const DrawOperation& operation, const PictureScale& scale) {
     using Shape = DrawOperation::Shape;
     if (operation.shape == Shape::Text || operation.shape == Shape::Name) return {QPointF(), scale.size};
     const bool is_circle = operation.shape == Shape::Circle;
     const double margin = scale.line + 2 + (is_circle ? std::min(operation.radius * scale.size.width(), kLargestDot) : 0);
-    const PicturePoint from{operation.x1, operation.y1}, to{operation.x2, operation.y2};
-    const PicturePoint ends[] = {from, is_circle ? from : to};
-    const std::span<const PicturePoint> points = operation.shape == Shape::Curve ? std::span(operation.points) : std::span(ends);
-    const auto [left, right] = std::ranges::minmax_element(points, {}, &PicturePoint::x);
-    const auto [top, bottom] = std::ranges::minmax_element(points, {}, &PicturePoint::y);
+    const auto [from, to] = CornersOf(operation);
+    const auto [left, right] = std::minmax(from.x, to.x);
+    const auto [top, bottom] = std::minmax(from.y, to.y);
     const auto pixel = [](double place, double length) { return std::clamp(place * length, -kFarOut, kFarOut); };
-    return {QPointF(pixel(left->x, scale.size.width()) - margin, pixel(top->y, scale.size.height()) - margin),
-            QPointF(pixel(right->x, scale.size.width()) + margin, pixel(bottom->y, scale.size.height()) + margin)};
+    return {QPointF(pixel(left, scale.size.width()) - margin, pixel(top, scale.size.height()) - margin),
+            QPointF(pixel(right, scale.size.width()) + margin, pixel(bottom, scale.size.height()) + margin)};
 }
 
 // Of the thousands of operations a counted grain changes those of one sample, and their order stays.

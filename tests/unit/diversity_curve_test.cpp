@@ -33,7 +33,8 @@ protected:
         Stretches curves;
         for (const DrawOperation& curve : Drawn(Shape::Curve, kRed)) {
             curves.emplace_back();
-            for (const PicturePoint& point : curve.points) curves.back().push_back({std::round(X(point.x)), std::round(Y(point.y))});
+            for (std::size_t i = 0; i < curve.heights.size(); ++i)
+                curves.back().push_back({std::round(X(curve.PointOf(i).x)), std::round(Y(curve.PointOf(i).y))});
         }
         return curves;
     }

@@ -38,13 +38,13 @@ TEST_F(DriveDrawnTest, APictureIsAListOfLines) {
 }
 
 TEST_F(DriveDrawnTest, ACurveIsTheLinesThatItIsMadeOf) {
-    picture_.Curve({{5, 10}, {45, 10}, {45, 20}}, kGreen);
+    picture_.Curve(5, 40, {10, 10, 20}, kGreen);
     picture_.Persist();
     picture_.Circle(45, 10, 1.5, kGreen, kWhite);
-    EXPECT_EQ(PictureLines(picture_), (std::vector<std::string>{"scale 0 9.5 500 21", "line 5 10 45 10 0,128,0", "line 45 10 45 20 0,128,0",
+    EXPECT_EQ(PictureLines(picture_), (std::vector<std::string>{"scale 0 9.5 500 21", "line 5 10 45 10 0,128,0", "line 45 10 85 20 0,128,0",
                                                                 "persist", "circle 45 10 1.5 0,128,0 255,255,255"}));
-    EXPECT_EQ(CountDrawn(picture_, "line 45 10 45 20 0,128,0"), 1);
-    EXPECT_EQ(CountDrawn(picture_, "line 5 10 45 20 0,128,0"), 0);
+    EXPECT_EQ(CountDrawn(picture_, "line 45 10 85 20 0,128,0"), 1);
+    EXPECT_EQ(CountDrawn(picture_, "line 5 10 85 20 0,128,0"), 0);
     EXPECT_EQ(CountKind(picture_, "line"), 2);
     EXPECT_EQ(CountAll(picture_), 3);
 }

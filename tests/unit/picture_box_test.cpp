@@ -34,9 +34,12 @@ TEST_F(PictureBoxTest, ALineIsKeptInFractionsOfThePicture) {
 
 TEST_F(PictureBoxTest, ACurveIsKeptInFractionsOfThePicture) {
     SetScale(-10, 50, 40, 200);
-    picture_.Curve({{-10, 50}, {10, 50}, {30, 250}}, kRed);
+    picture_.Curve(-10, 20, {50, 50, 250}, kRed);
+    SetScale(0, 0, 1, 1);
     EXPECT_EQ(Last().shape, Shape::Curve);
-    EXPECT_EQ(Last().points, (std::vector<PicturePoint>{{0, 0}, {0.5, 0}, {1, 1}}));
+    const PicturePoint expected[] = {{0, 0}, {0.5, 0}, {1, 1}};
+    ASSERT_EQ(Last().heights.size(), std::size(expected));
+    for (std::size_t i = 0; i < std::size(expected); ++i) EXPECT_EQ(Last().PointOf(i), expected[i]) << i;
     EXPECT_EQ(Last().rim, kRed);
 }
 

@@ -25,7 +25,7 @@ protected:
 // Its line in the history, twice, and its point of the curve, twice: what is drawn and what is on the screen.
 TEST_F(MemoryTest, AKeyTakesUpALineOfTheHistoryAndAPointOfTheCurve) {
     constexpr int kFirst = 1100, kMore = 1900;  // with the first fonts and layouts are made, and all the files of the back-ups
-    constexpr double kMostOfAKey = 140;         // bytes, with the room that growing lists keep
+    constexpr double kMostOfAKey = 105;         // bytes, with the room that growing lists keep
     Count(kFirst);
     const std::size_t before = BytesInUse();
     Count(kMore);

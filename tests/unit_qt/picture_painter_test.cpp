@@ -4,6 +4,9 @@
 
 #include <QApplication>
 #include <QImage>
+#include <cstdint>
+#include <random>
+#include <vector>
 
 namespace {
 constexpr int kWidth = 100;
@@ -66,12 +69,24 @@ TEST_F(PicturePainterTest, LinesThatMeetLeaveNoHole) {
 }
 
 TEST_F(PicturePainterTest, ACurveLooksLikeItsLines) {
-    const std::vector<PicturePoint> points = {{10, 20}, {10.1, 20}, {10.2, 20.1}, {40, 20}, {40, 50}, {41, 52.5}, {90, 3}};
-    for (std::size_t i = 1; i < points.size(); ++i) picture_.Line(points[i - 1].x, points[i - 1].y, points[i].x, points[i].y, kBlack);
-    const QImage lines = Painted(2);
-    picture_.Clear();
-    picture_.Curve(points, kBlack);
-    EXPECT_EQ(Painted(2), lines);
+    constexpr double kStart = 10.0137;  // no point lies between two pixels, where rounding alone would decide
+    picture_.SetScaleTop(-0.31);
+    std::mt19937 random(20261122);
+    for (const double step : {0.0013, 0.031, 0.43, 5.1}) {  // many points a pixel, and many pixels a point
+        std::vector<std::int16_t> heights;
+        while (static_cast<double>(heights.size()) * step < 80) {
+            const auto height = static_cast<std::int16_t>(random() % 50);
+            heights.insert(heights.end(), random() % 4 == 0 ? 1 : random() % 300 + 1, height);
+        }
+        picture_.Clear();
+        for (std::size_t i = 1; i < heights.size(); ++i)
+            picture_.Line(kStart + static_cast<double>(i - 1) * step, heights[i - 1], kStart + static_cast<double>(i) * step, heights[i],
+                          kBlack);
+        const QImage lines = Painted(2);
+        picture_.Clear();
+        picture_.Curve(kStart, step, heights, kBlack);
+        EXPECT_EQ(Painted(2), lines) << step;
+    }
 }
 
 TEST_F(PicturePainterTest, NamesSpreadWithTheColumnsBelowThem) {

@@ -30,8 +30,11 @@ protected:
         operation.rim = Any(0, 1) == 0 ? kBlack : Colour{0, 128, 0};
         operation.fill = kFormColour;
         operation.text = "Pinus";
-        if (operation.shape == DrawOperation::Shape::Curve)
-            operation.points = {{operation.x1, operation.y1}, {operation.x2, operation.y2}, {AnyPlace(), AnyPlace()}};
+        if (operation.shape == DrawOperation::Shape::Curve) {
+            operation.x2 = Any(1, 40) / 100.0;
+            operation.y2 = Any(-9, 9) / 100.0;
+            for (int points = Any(2, 9); points > 0; --points) operation.heights.push_back(static_cast<std::int16_t>(Any(-2, 2)));
+        }
         return operation;
     }
 
