@@ -117,7 +117,7 @@ KeyFilter::~KeyFilter() {
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride) return false;
-    if (passing_ || !watched->isWidgetType()) return false;
+    if (event == passing_ || !watched->isWidgetType()) return false;
     auto& key = *static_cast<QKeyEvent*>(event);
     if (QApplication::activeModalWidget()) return IsAnswer(key) && IsRepeat(key);
     auto* const top = static_cast<QWidget*>(watched)->window();
@@ -190,6 +190,13 @@ void KeyFilter::Dispatch(QKeyEvent& key) {
     if (focus) Finish(key, *focus);
 }
 
+// The widget may tell of a text that a message refuses, and other keys come meanwhile.
+void KeyFilter::Pass(QKeyEvent& key, Control& focus) {
+    const QEvent* const outer = std::exchange(passing_, &key);
+    if (ControlWidget* const widget = renderer_.WidgetOf(*focus.window)->Find(focus)) widget->UseKey(key);
+    passing_ = outer;
+}
+
 // A window that hears the keys first has its buttons for the mouse: a counter key is never also a click, nor does it move the focus to a
 // box where the next one would be typed.
 void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
@@ -197,7 +204,5 @@ void KeyFilter::Finish(QKeyEvent& key, Control& focus) {
     if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) return;  // the program knows nothing of them
     if (!TakesText(focus) && focus.window->key_preview) return;
     if (!IsRepeat(key) && PressFocused(renderer_, focus, key)) return;
-    passing_ = true;
-    if (ControlWidget* const widget = renderer_.WidgetOf(*focus.window)->Find(focus)) widget->UseKey(key);
-    passing_ = false;
+    Pass(key, focus);
 }

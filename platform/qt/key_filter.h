@@ -8,6 +8,7 @@
 #include "platform/qt/held_keys.h"
 #include "platform/window.h"
 
+class QEvent;
 class QKeyEvent;
 class QWidget;
 class Renderer;
@@ -29,9 +30,10 @@ private:
     void Release(const QKeyEvent& key);
     bool OpensMenu(const QKeyEvent& key);
     void Finish(QKeyEvent& key, Control& focus);
+    void Pass(QKeyEvent& key, Control& focus);
 
     Renderer& renderer_;
     HeldKeys held_;
     std::vector<std::unique_ptr<QKeyEvent>> late_;  // in their order
-    bool passing_ = false;                          // a key is on its way to a widget
+    const QEvent* passing_ = nullptr;               // the key that is on its way to a widget
 };

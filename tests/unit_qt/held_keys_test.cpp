@@ -155,6 +155,26 @@ TEST_F(HeldKeysTest, KeysOnTheirWayToAClosedMessageCountWhenItsEventIsOver) {
     EXPECT_EQ(Counts[1][1], 4);
 }
 
+TEST_F(HeldKeysTest, KeysOnTheirWayToTheMessageThatRefusesATextAreTyped) {
+    constexpr quint32 kPlaceOf2 = 11;
+    QtMessageBoxes messages(renderer_);
+    services.messages = &messages;
+    BeginCounting();
+    Do([] { ClickControl(frmMain.Command3[0]); });  // Modify mode
+    Do([] { frmMain.Text1[5].SetFocus(); });
+    QTimer::singleShot(0, [this] {
+        QWidget* const box = QApplication::activeModalWidget();
+        ASSERT_TRUE(box);
+        box->close();
+        PressQ(*box);
+        ReleaseQ(*box);
+    });
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_At, Qt::ShiftModifier, kPlaceOf2, 0, 0, "@");
+    QApplication::sendEvent(renderer_.WidgetOf(frmMain)->windowHandle(), &event);
+    EXPECT_EQ(frmMain.Text1[5].Text(), "q---");
+    services.messages = &services_.messages;
+}
+
 // A desktop may send the first key to a window before it calls that active.
 TEST_F(HeldKeysTest, AKeyBringsTheWindowThatHasItToTheFront) {
     BeginFirstSample();
