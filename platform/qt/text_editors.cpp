@@ -1,5 +1,7 @@
 #include "platform/qt/text_editors.h"
 
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QSignalBlocker>
@@ -17,6 +19,11 @@ constexpr double kMarginTwips = 40;
 void TellText(TextHolder& box, ModelView& view, const EditedHead& head, const QString& held, int caret) {
     view.Changed(Property::Text);  // a procedure may have refused it
     view.Events().Run([&] { EnterText(box, head.Whole(held), CharactersBefore(held, caret)); });
+}
+
+void TellPaste(TextHolder& box, ModelView& view, const EditedHead& head, QString held, int start, int length, const QString& pasted) {
+    held.replace(start, length, pasted);
+    TellText(box, view, head, held, start + static_cast<int>(pasted.size()));
 }
 
 void TellSelection(TextHolder& box, const QString& shown, int start, int length) {
@@ -72,14 +79,14 @@ constexpr int kMostLines = 2;
 constexpr int kOwnMargin = 2;  // of a line edit
 }  // namespace
 
-TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdit(parent), BoxEditor(box), box_(box) {
+TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdit(parent), BoxEditor(box), box_(box), view_(view) {
     PrepareEditor(*this, box);
     setFrame(false);
     setDragEnabled(false);
     if (box.IsCentred()) setAlignment(Qt::AlignCenter);
-    connect(this, &QLineEdit::textEdited, this, [this, &view](const QString& text) {
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
         comes_in_ = false;
-        TellText(box_, view, head_, text, cursorPosition());
+        TellText(box_, view_, head_, text, cursorPosition());
     });
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextLine::TellCaret);
     connect(this, &QLineEdit::selectionChanged, this, &TextLine::TellCaret);
@@ -135,6 +142,26 @@ void TextLine::mousePressEvent(QMouseEvent* event) {
 
 void TextLine::mouseMoveEvent(QMouseEvent* event) {
     if (!marks_) QLineEdit::mouseMoveEvent(event);
+}
+
+// The selection of the desktop is pasted by the middle button, or by this chord.
+void TextLine::keyPressEvent(QKeyEvent* event) {
+    const bool of_selection = event->key() == Qt::Key_Insert && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    const bool pastes = event->matches(QKeySequence::Paste);
+    if (!pastes || !PastesPast(of_selection ? QClipboard::Selection : QClipboard::Clipboard)) QLineEdit::keyPressEvent(event);
+}
+
+void TextLine::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::MiddleButton || !PastesPast(QClipboard::Selection)) QLineEdit::mouseReleaseEvent(event);
+}
+
+// What does not go in is told to the program alone: a line edit drops what lies behind 32767 units, and laying it out would take long.
+bool TextLine::PastesPast(QClipboard::Mode clipboard) {
+    const QString pasted = Shown(FromQt(QGuiApplication::clipboard()->text(clipboard)));
+    if (text().size() + pasted.size() <= static_cast<qsizetype>(MostOf(box_))) return false;
+    comes_in_ = false;
+    TellPaste(box_, view_, head_, text(), hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength(), pasted);
+    return true;
 }
 
 void TextLine::paintEvent(QPaintEvent* event) {
@@ -244,12 +271,10 @@ void TextArea::focusOutEvent(QFocusEvent* event) {
 
 // What does not go in is told to the program alone: laying it out would take long, and most of it would be cut off again.
 void TextArea::insertFromMimeData(const QMimeData* source) {
-    QString text = HeldText();
-    const QString pasted = Shown(FromQt(source->text()));
+    const QString text = HeldText(), pasted = Shown(FromQt(source->text()));
     if (text.size() + pasted.size() <= static_cast<qsizetype>(MostOf(box_))) return QPlainTextEdit::insertFromMimeData(source);
     const QTextCursor cursor = textCursor();
-    text.replace(cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart(), pasted);
-    TellText(box_, view_, head_, text, cursor.selectionStart() + static_cast<int>(pasted.size()));
+    TellPaste(box_, view_, head_, text, cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart(), pasted);
 }
 
 void TextArea::resizeEvent(QResizeEvent* event) {

@@ -1,5 +1,6 @@
 // What the editors of text boxes and combo boxes have in common: how they tell the program, and how they look.
 #pragma once
+#include <QClipboard>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPalette>
@@ -15,6 +16,8 @@
 // The user has changed what the editor holds: the program hears the whole text, with the caret (in units of `held`). The view shows what
 // became of it.
 void TellText(TextHolder& box, ModelView& view, const EditedHead& head, const QString& held, int caret);
+// The same where the user puts a text in place of `length` units behind `start`, and the editor is not to lay it out.
+void TellPaste(TextHolder& box, ModelView& view, const EditedHead& head, QString held, int start, int length, const QString& pasted);
 void TellSelection(TextHolder& box, const QString& shown, int start, int length);  // in units of `shown`
 
 QString TipOf(const TextHolder& box, const EditedHead& held);  // of the box, and that there is more of its text
@@ -48,15 +51,19 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    bool PastesPast(QClipboard::Mode clipboard);  // false: what is there goes in as it would anywhere
     void TellCaret();
     void SyncCaret();       // and about what is selected
     void SyncForEditing();  // what only matters while it holds the keyboard
 
     TextHolder& box_;
+    ModelView& view_;
     QFont font_;
     double factor_ = 0;
     bool comes_in_ = false;  // the keyboard has come here, and nothing has been typed or clicked since

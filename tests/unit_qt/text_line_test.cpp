@@ -1,4 +1,6 @@
 // What a hand at the mouse or at Tab marks in a cell, as the widget shows it.
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -24,7 +26,7 @@ protected:
         renderer_.Run([] { ClickControl(frmMain.Command3[1]); });
     }
 
-    QLineEdit& Line(const Control& box) { return *qobject_cast<QLineEdit*>(Shown(box).Widget()); }
+    QLineEdit& Line(const Control& box) { return *qobject_cast<QLineEdit*>(Shown(box).FocusWidget()); }
     void Hand(const Control& box, QEvent::Type type, QPointF at) {
         const bool is_move = type == QEvent::MouseMove, is_release = type == QEvent::MouseButtonRelease;
         QMouseEvent event(type, at, Line(box).mapToGlobal(at), is_move ? Qt::NoButton : Qt::LeftButton,
@@ -110,6 +112,18 @@ TEST_F(TextLineTest, ADoubleClickOnTheDashesLeavesModifyMode) {
     Hand(frmMain.Text1[5], QEvent::MouseButtonDblClick, QRectF(Line(frmMain.Text1[5]).rect()).center());
     EXPECT_FALSE(AmendMode);
     EXPECT_EQ(TaxonTable[5][kTaxonName], "---");
+}
+
+TEST_F(TextLineTest, APastedMegabyteIsAllThere) {
+    const std::string text = "Lake " + std::string(1'000'000, 'x');
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    for (TextHolder* box : std::initializer_list<TextHolder*>{&frmMain.Text1[5], &frmMain.Combo2}) {
+        Do([box] { box->SetFocus(); });
+        Press(*box, Qt::Key_A, "", Qt::ControlModifier);
+        Press(*box, Qt::Key_V, "", Qt::ControlModifier);
+        EXPECT_TRUE(box->Text() == text) << box->Text().size();
+    }
+    QGuiApplication::clipboard()->clear();
 }
 
 TEST_F(TextLineTest, AStepWithTabShowsWhatItMarks) {
