@@ -1,6 +1,7 @@
 #include "platform/qt/text_editors.h"
 
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -9,6 +10,7 @@
 #include <utility>
 
 #include "platform/qt/look.h"
+#include "platform/services.h"
 #include "platform/user.h"
 #include "platform/window.h"
 
@@ -69,6 +71,17 @@ QString TipOf(const TextHolder& box, const EditedHead& held) {
     const QString tip = Brief(box.ToolTip()), words = held.WordsOnRest();
     return tip.isEmpty() || words.isEmpty() ? tip + words : tip + u'\n' + words;
 }
+
+namespace {
+// The double quotation mark would break the row of a sheet, and what dead keys and input methods make is no key press that the guard of the
+// boxes could refuse.
+void TakeMarksOut(QInputMethodEvent& event) {
+    QString made = event.commitString();
+    if (!made.contains(u'"')) return;
+    services.sounds->Beep();
+    event.setCommitString(made.remove(u'"'), event.replacementStart(), event.replacementLength());
+}
+}  // namespace
 
 void PaintEdgeInFocus(QPainter& painter, const QRectF& room) {
     PaintOutline(painter, room, kAccent, 2, 0);
@@ -142,6 +155,11 @@ void TextLine::mousePressEvent(QMouseEvent* event) {
 
 void TextLine::mouseMoveEvent(QMouseEvent* event) {
     if (!marks_) QLineEdit::mouseMoveEvent(event);
+}
+
+void TextLine::inputMethodEvent(QInputMethodEvent* event) {
+    TakeMarksOut(*event);
+    QLineEdit::inputMethodEvent(event);
 }
 
 // The selection of the desktop is pasted by the middle button, or by this chord.
@@ -267,6 +285,11 @@ void TextArea::focusOutEvent(QFocusEvent* event) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QPlainTextEdit::focusOutEvent(event);
     viewport()->update();
+}
+
+void TextArea::inputMethodEvent(QInputMethodEvent* event) {
+    TakeMarksOut(*event);
+    QPlainTextEdit::inputMethodEvent(event);
 }
 
 // What does not go in is told to the program alone: laying it out would take long, and most of it would be cut off again.

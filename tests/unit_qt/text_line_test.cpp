@@ -1,9 +1,14 @@
 // What a hand at the mouse or at Tab marks in a cell, as the widget shows it.
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/qt/key_filter.h"
 #include "platform/qt/mouse.h"
@@ -124,6 +129,28 @@ TEST_F(TextLineTest, APastedMegabyteIsAllThere) {
         EXPECT_TRUE(box->Text() == text) << box->Text().size();
     }
     QGuiApplication::clipboard()->clear();
+}
+
+// A dead key and the space bar make the mark on many keyboards; no guard hears of them as keys.
+TEST_F(TextLineTest, WhatDeadKeysMakeGoesInButForTheQuotationMark) {
+    QPlainTextEdit& note = *dynamic_cast<QPlainTextEdit*>(Shown(frmMain.Text4).FocusWidget());
+    for (auto [box, editor] : {std::pair<TextHolder*, QWidget*>{&frmMain.Text1[5], &Line(frmMain.Text1[5])},
+                               {&frmMain.Combo2, &Line(frmMain.Combo2)},
+                               {&frmMain.Text4, &note}}) {
+        Do([box] { box->Enter("", 0); });
+        Do([box] { box->SetFocus(); });
+        services_.sounds.played.clear();
+        for (const char* made : {"\u00FC", "\"", "a \"b\"", "c"}) {
+            QInputMethodEvent event;
+            event.setCommitString(made);
+            QApplication::sendEvent(editor, &event);
+        }
+        EXPECT_EQ(box->Text(),
+                  "\u00FC"
+                  "a bc")
+            << box->name;
+        EXPECT_EQ(services_.sounds.played, (std::vector<std::string>{"Beep", "Beep"})) << box->name;
+    }
 }
 
 TEST_F(TextLineTest, AStepWithTabShowsWhatItMarks) {
