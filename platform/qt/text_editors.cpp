@@ -292,6 +292,14 @@ void TextArea::inputMethodEvent(QInputMethodEvent* event) {
     QPlainTextEdit::inputMethodEvent(event);
 }
 
+// A press on what is marked would begin a drag of it, and dropped in another program it would be gone from here.
+void TextArea::mousePressEvent(QMouseEvent* event) {
+    QTextCursor cursor = textCursor();
+    cursor.clearSelection();
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) setTextCursor(cursor);
+    QPlainTextEdit::mousePressEvent(event);
+}
+
 // What does not go in is told to the program alone: laying it out would take long, and most of it would be cut off again.
 void TextArea::insertFromMimeData(const QMimeData* source) {
     const QString text = HeldText(), pasted = Shown(FromQt(source->text()));

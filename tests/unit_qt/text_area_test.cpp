@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 
 #include "platform/user.h"
@@ -53,6 +54,21 @@ TEST_F(TextAreaTest, AWordOfAMillionLettersIsShownWithAndWithoutTheFocus) {
         EXPECT_EQ(Note().blockCount(), 2);
         Note().setFocus();
     }
+}
+
+TEST_F(TextAreaTest, APressOnWhatIsMarkedSetsTheCaretAndDragsNothingOut) {
+    Set("Pinus");
+    Note().selectAll();
+    const QPointF on_text = QRectF(Note().cursorRect(QTextCursor(Note().document()))).center() + QPointF(8, 0);
+    QMouseEvent press(QEvent::MouseButtonPress, on_text, Note().viewport()->mapToGlobal(on_text), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(Note().viewport(), &press);
+    EXPECT_FALSE(Note().textCursor().hasSelection());
+    EXPECT_EQ(frmMain.Text4.SelLength(), 0);
+    QMouseEvent release(QEvent::MouseButtonRelease, on_text, Note().viewport()->mapToGlobal(on_text), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QApplication::sendEvent(Note().viewport(), &release);
+    EXPECT_EQ(frmMain.Text4.Text(), "Pinus");
 }
 
 TEST_F(TextAreaTest, LinesEndBetweenWordsAgainOnceTheLongOneHasGone) {
