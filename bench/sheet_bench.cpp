@@ -56,18 +56,18 @@ void BackUp(benchmark::State& state) {
 
 class NoDisk : public WholeFiles {
 public:
-    void Write(const std::string&, const std::string&, std::function<void(bool)>) override {}
+    void Write(std::shared_ptr<OwnName>, const std::string&, std::function<void(bool)>) override {}
     void Remove(const std::string&) override {}
     void Finish() override {}
-    bool IsThere(const std::string&) override { return false; }
     bool AreSame(const std::string&, const std::string&) override { return false; }
 };
 
 // What a key may wait for once a second: the copy for a session that ends by itself, which the disk takes on a thread of its own.
 void Copy(benchmark::State& state) {
+    HeadlessProgram& program = TheProgram();
     NoDisk disk;
     Rescue rescue(disk, [] {});
-    TheProgram().Open(SheetOf(Samples(state)));
+    program.Open(SheetOf(Samples(state)));
     frmMain.SampleNote.SetText("not saved");
     for (auto _ : state) rescue.KeepNow();
 }

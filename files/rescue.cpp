@@ -28,6 +28,12 @@ std::string PathOf(const std::string& name) {
     return ProgramFile(std::string(kFolder) + "/" + name);
 }
 
+std::vector<std::string> PathsOfCopies() {
+    std::vector<std::string> paths;
+    for (int number = 1; number <= kNames; ++number) paths.push_back(PathOf(NameOfCopy(number)));
+    return paths;
+}
+
 template <class T, std::size_t n>
 void Copy(const T (&from)[n], T (&to)[n]) {
     if constexpr (std::is_array_v<T>)
@@ -123,6 +129,7 @@ std::vector<Left> LeftCopies() {
 }  // namespace
 
 Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk), try_again_(std::move(try_again)) {
+    BeginAnew();
     SaveBegins.Calls([this](const std::string& path) { LeaveFileAlone(path); });
     SheetSaved.Calls([this] { HearOfSave(); });
     SaveFailed.Calls([this] { HearOfFailedSave(); });
@@ -150,22 +157,16 @@ void Rescue::Offer() {
 
 void Rescue::Keep() {
     if (!safe_) return;
-    try {
-        const std::string copy = BytesOfCopy();
-        const std::string sheet = SheetOf(copy);
-        if (sheet == kept_ || (!has_copy_ && sheet == *safe_)) return;
-        if (path_.empty()) ChooseName();
-        if (path_.empty()) throw Failure(kFileError);
-        kept_ = sheet;
-        has_copy_ = true;
-        disk_.Write(path_, copy, [this](bool done) {
-            if (done) return;
-            kept_.clear();
-            try_again_();
-        });
-    } catch (const Failure&) {  // no name is free
+    const std::string copy = BytesOfCopy();
+    const std::string sheet = SheetOf(copy);
+    if (sheet == kept_ || (!has_copy_ && sheet == *safe_)) return;
+    kept_ = sheet;
+    has_copy_ = true;
+    disk_.Write(copy_, copy, [this](bool done) {
+        if (done) return;
+        kept_.clear();
         try_again_();
-    }
+    });
 }
 
 // What a write has failed to do may not have been told yet.
@@ -181,25 +182,21 @@ void Rescue::EndByUser() {
     disk_.Finish();
 }
 
-// While the disk is waited for anyway: no key then waits for it before the first copy.
-void Rescue::ChooseName() {
-    disk_.Finish();
-    for (int number = 1; path_.empty() && number <= kNames; ++number)
-        if (const std::string path = PathOf(NameOfCopy(number)); !disk_.IsThere(path)) path_ = path;
-}
-
-// If its user has chosen the copy itself for a file, it is no copy any longer; nor is one to be where that file comes.
+// If its user has chosen the copy itself for a file, it is no copy any longer.
 void Rescue::LeaveFileAlone(const std::string& path) {
     disk_.Finish();
-    if (has_copy_ && !disk_.AreSame(path_, path)) return;
-    has_copy_ = false;
-    path_.clear();
-    kept_.clear();
+    if (disk_.AreSame(copy_->path, path)) BeginAnew();
 }
 
 void Rescue::Forget() {
-    if (std::exchange(has_copy_, false)) Remove(path_);
-    path_.clear();
+    disk_.Finish();
+    if (!copy_->path.empty()) Remove(copy_->path);
+    BeginAnew();
+}
+
+void Rescue::BeginAnew() {
+    copy_ = std::make_shared<OwnName>(OwnName{PathsOfCopies(), ""});
+    has_copy_ = false;
     kept_.clear();
 }
 
@@ -210,7 +207,6 @@ void Rescue::Remove(const std::string& path) {
 
 void Rescue::SheetIsSafe() {
     Forget();
-    ChooseName();
     last_save_failed_ = false;
     safe_ = SheetOf(BytesOfCopy());
 }

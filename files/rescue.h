@@ -2,10 +2,11 @@
 //
 // It is written whole beside its old content and takes its name only then. It goes when its sheet is saved, given up, or the user ends
 // the program, unless the last save has failed. What an earlier session has left stays until its user has been told of it and has saved a
-// sheet; the copy of this one then has a name of its own, Rescue_(2).csv and so on. What its user saves
+// sheet; the copy of this one then has a name of its own, Rescue_(2).csv and so on. What its user saves, or lays down,
 // under the name of the copy is left alone. Writing the copy changes nothing in the sheet.
 #pragma once
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -31,8 +32,8 @@ private:
     void TakeOpenedCopy();
     void HearOfReset();
     void LeaveFileAlone(const std::string& path);
-    void ChooseName();
     void Forget();  // the copy of this session
+    void BeginAnew();
     void Remove(const std::string& path);
 
     WholeFiles& disk_;
@@ -40,8 +41,8 @@ private:
     std::optional<std::string> safe_;  // the sheet as it was when nothing of it could be lost, empty after a failed save; before the
                                        // main window is there, none
     std::string kept_;                 // the sheet as the copy has it; empty: it has none
-    std::string path_;                 // of the copy, or where it is to be; empty: no name has been free
-    bool has_copy_ = false;            // it has been written there, or is being written
-    std::string told_;                 // path of the copy that the start face tells of, or that is opened; empty: of none
+    std::shared_ptr<OwnName> copy_;
+    bool has_copy_ = false;  // it has been written, or is being written
+    std::string told_;       // path of the copy that the start face tells of, or that is opened; empty: of none
     bool last_save_failed_ = false;
 };

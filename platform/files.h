@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/failure.h"
 
@@ -25,16 +26,22 @@ public:
 
 constexpr std::size_t kLargestFile = 16 << 20;  // bytes, far beyond any sheet: what is larger, or never ends, is not read
 
+// The name of a file that the program keeps for itself. The first write takes the first of `paths` that is free, so that no file of
+// anybody else's is written over; the later ones replace what the first one wrote.
+struct OwnName {
+    std::vector<std::string> paths;
+    std::string path;  // that it has; empty before the first write. Not to be read while one may be on its way
+};
+
 // Files that the program keeps for itself: each is under its name whole, on the disk, or not at all. Nothing is raised.
 class WholeFiles {
 public:
     virtual ~WholeFiles() = default;
     // Both may return before it is done; one is done after the other. `done` is called between events, with whether it was.
-    virtual void Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) = 0;
+    virtual void Write(std::shared_ptr<OwnName> name, const std::string& bytes, std::function<void(bool)> done) = 0;
     virtual void Remove(const std::string& path) = 0;
     virtual void Finish() = 0;  // returns when all of it is done
 
-    virtual bool IsThere(const std::string& path) = 0;
     virtual bool AreSame(const std::string& path, const std::string& other) = 0;  // two names of one file that is there
 };
 

@@ -6,7 +6,10 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QMetaObject>
+#include <cerrno>
+#include <cstdio>
 #include <filesystem>
+#include <system_error>
 
 #include "platform/failure.h"
 #include "platform/qt/look.h"
@@ -92,24 +95,60 @@ std::unique_ptr<OutputFile> QtFiles::OpenForWriting(const std::string& path) {
 // ---- Files of the program itself ----
 
 namespace {
-bool WriteAndFlush(const QString& path, const std::string& bytes) {
+bool WriteAndFlush(const std::filesystem::path& path, const std::string& bytes) {
     QFile file(path);
     const auto size = static_cast<qint64>(bytes.size());
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) && file.write(bytes.data(), size) == size &&
            FlushToDisk(file);
 }
 
-// Its old content stays under the name until the new one is on the disk.
-bool WriteWhole(const std::string& path, const std::string& bytes) {
-    const std::string beside = path + ".new";
-    if (!WriteAndFlush(SystemPath(beside), bytes)) {
-        QFile::remove(SystemPath(beside));
-        return false;
-    }
+// Where the file system cannot rename to a free name alone: an empty file takes the name, and at once the new one is renamed over it.
+[[maybe_unused]] std::error_code RenameOverEmpty(const std::filesystem::path& from, const std::filesystem::path& to) {
+    QFile empty(to);
+    if (!empty.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return std::make_error_code(std::errc::file_exists);
+    empty.close();
     std::error_code error;
-    std::filesystem::rename(SystemFile(beside), SystemFile(path), error);
-    if (error) QFile::remove(SystemPath(beside));
-    FlushFolderOf(SystemFile(path));
+    std::filesystem::rename(from, to, error);
+    if (error) empty.remove();
+    return error;
+}
+
+// std::errc::file_exists if the name is taken.
+std::error_code RenameToFree(const std::filesystem::path& from, const std::filesystem::path& to) {
+#if defined(Q_OS_WIN)
+    const bool is_done = _wrename(from.c_str(), to.c_str()) == 0;
+#elif defined(RENAME_NOREPLACE)
+    const bool is_done = renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0;
+    if (!is_done && (errno == EINVAL || errno == ENOSYS)) return RenameOverEmpty(from, to);
+#else
+    return RenameOverEmpty(from, to);
+#endif
+    return is_done ? std::error_code() : std::error_code(errno, std::generic_category());
+}
+
+std::error_code TakeName(const std::filesystem::path& from, OwnName& name) {
+    std::error_code error;
+    for (const std::string& path : name.paths) {
+        error = RenameToFree(from, SystemFile(path));
+        if (error == std::errc::file_exists) continue;
+        if (!error) name.path = path;
+        break;
+    }
+    return error;
+}
+
+// Its old content stays under the name until the new one is on the disk.
+bool WriteWhole(OwnName& name, const std::string& bytes) {
+    const std::filesystem::path beside = SystemFile(name.paths.front() + ".new");
+    std::error_code error;
+    if (!WriteAndFlush(beside, bytes))
+        error = std::make_error_code(std::errc::io_error);
+    else if (name.path.empty())
+        error = TakeName(beside, name);
+    else
+        std::filesystem::rename(beside, SystemFile(name.path), error);
+    if (error) QFile(beside).remove();
+    FlushFolderOf(beside);
     return !error;
 }
 }  // namespace
@@ -127,31 +166,27 @@ QtWholeFiles::~QtWholeFiles() {
 }
 
 // On a disk that is slow the newest content is all that counts.
-void QtWholeFiles::Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) {
-    const auto write = [this, path, bytes, done = std::move(done)] {
-        const bool is_done = WriteWhole(path, bytes);
+void QtWholeFiles::Write(std::shared_ptr<OwnName> name, const std::string& bytes, std::function<void(bool)> done) {
+    const auto write = [this, name, bytes, done = std::move(done)] {
+        const bool is_done = WriteWhole(*name, bytes);
         QMetaObject::invokeMethod(
             this, [done, is_done] { done(is_done); }, Qt::QueuedConnection);
     };
     const std::lock_guard lock(mutex_);
-    if (jobs_.size() > 1 && jobs_.back().writes == path) jobs_.pop_back();
-    jobs_.push_back({path, write});
+    if (jobs_.size() > 1 && jobs_.back().writes == name) jobs_.pop_back();
+    jobs_.push_back({name, write});
     changed_.notify_all();
 }
 
 void QtWholeFiles::Remove(const std::string& path) {
     const std::lock_guard lock(mutex_);
-    jobs_.push_back({"", [path] { QFile::remove(SystemPath(path)); }});
+    jobs_.push_back({nullptr, [path] { QFile::remove(SystemPath(path)); }});
     changed_.notify_all();
 }
 
 void QtWholeFiles::Finish() {
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [this] { return jobs_.empty(); });
-}
-
-bool QtWholeFiles::IsThere(const std::string& path) {
-    return QFileInfo::exists(SystemPath(path));
 }
 
 bool QtWholeFiles::AreSame(const std::string& path, const std::string& other) {

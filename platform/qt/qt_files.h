@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -26,15 +27,14 @@ public:
     QtWholeFiles();
     ~QtWholeFiles() override;  // does first what is still to be done
 
-    void Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) override;
+    void Write(std::shared_ptr<OwnName> name, const std::string& bytes, std::function<void(bool)> done) override;
     void Remove(const std::string& path) override;
     void Finish() override;
-    bool IsThere(const std::string& path) override;
     bool AreSame(const std::string& path, const std::string& other) override;
 
 private:
     struct Job {
-        std::string writes;  // the path that it writes; empty if it removes one
+        std::shared_ptr<OwnName> writes;  // null if it removes
         std::function<void()> procedure;
     };
     void Work();

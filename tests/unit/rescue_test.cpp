@@ -18,7 +18,8 @@ const std::string kBackUps = "/program/References/Back up files/";
 const std::string kRescue = kBackUps + "Rescue.csv";
 const std::string kSecond = kBackUps + "Rescue_(2).csv";
 
-// Takes a file, or refuses it, when it is asked to finish, and tells so when it is asked to tell.
+// Takes a file, or refuses it, when it is asked to finish, and tells so when it is asked to tell. No file is written over that it has not
+// taken.
 class LateFiles : public WholeFiles {
 public:
     explicit LateFiles(MemoryFiles& files) : files_(files) {}
@@ -30,11 +31,12 @@ public:
         for (; !told_.empty(); told_.pop_front()) told_.front()();
     }
 
-    void Write(const std::string& path, const std::string& bytes, std::function<void(bool)> done) override {
-        jobs_.push_back([this, path, bytes, done = std::move(done)] {
-            if (!is_full) files_.bytes[path] = bytes;
-            ++written;
-            told_.push_back([done, taken = !is_full] { done(taken); });
+    void Write(std::shared_ptr<OwnName> name, const std::string& bytes, std::function<void(bool)> done) override {
+        jobs_.push_back([this, name, bytes, done = std::move(done)] {
+            const bool is_taken = !is_full && HasName(*name);
+            if (is_taken) files_.bytes[name->path] = bytes;
+            written += is_taken;
+            told_.push_back([done, is_taken] { done(is_taken); });
         });
     }
     void Remove(const std::string& path) override {
@@ -44,13 +46,16 @@ public:
         ++waited_for;
         for (; !jobs_.empty(); jobs_.pop_front()) jobs_.front()();
     }
-    bool IsThere(const std::string& path) override {
-        ++waited_for;
-        return files_.bytes.count(path) > 0;
-    }
     bool AreSame(const std::string& path, const std::string& other) override { return path == other; }
 
 private:
+    // Takes one if it has none.
+    bool HasName(OwnName& name) {
+        for (const std::string& path : name.paths)
+            if (name.path.empty() && files_.bytes.count(path) == 0) name.path = path;
+        return !name.path.empty();
+    }
+
     MemoryFiles& files_;
     std::deque<std::function<void()>> jobs_;
     std::deque<std::function<void()>> told_;
@@ -299,8 +304,24 @@ TEST_F(RescueTest, NoFileIsWrittenOverWhereAllNamesAreTaken) {
     Begin("10");
     KeyNumber(1);
     rescue_.KeepNow();
-    EXPECT_EQ(disk_.written, 0);
+    EXPECT_EQ(files_.bytes, before);
+    disk_.Tell();
     EXPECT_EQ(tries_, 1);
+}
+
+TEST_F(RescueTest, AFileThatItsUserLaysThereBeforeTheFirstCopyStays) {
+    Begin("10");
+    KeyNumber(1);
+    files_.bytes[kRescue] = "a file of the user's";
+    Keep();
+    EXPECT_EQ(files_.bytes[kRescue], "a file of the user's");
+    EXPECT_EQ(CountIn(kSecond), "1");
+    KeyNumber(1);
+    rescue_.KeepNow();
+    EXPECT_EQ(CountIn(kSecond), "2");
+    SaveAs("/sheets/Mere.csv");
+    EXPECT_EQ(files_.bytes[kRescue], "a file of the user's");
+    EXPECT_FALSE(IsThere(kSecond));
 }
 
 TEST_F(RescueTest, AFileThatIsSavedOverItIsTheUsers) {

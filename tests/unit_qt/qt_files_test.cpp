@@ -165,8 +165,11 @@ protected:
     QtWholeFiles whole_;
     int taken_ = 0, refused_ = 0;
 
-    void Write(const char* name, const std::string& bytes) {
-        whole_.Write(Path(name), bytes, [this](bool done) { ++(done ? taken_ : refused_); });
+    std::shared_ptr<OwnName> Name(const char* first, const char* second) const {
+        return std::make_shared<OwnName>(OwnName{{Path(first), Path(second)}, ""});
+    }
+    void Write(const std::shared_ptr<OwnName>& name, const std::string& bytes) {
+        whole_.Write(name, bytes, [this](bool done) { ++(done ? taken_ : refused_); });
     }
     void Finish() {
         whole_.Finish();
@@ -176,7 +179,8 @@ protected:
 };
 
 TEST_F(QtWholeFilesTest, TheNewestContentIsThereAndNothingBesideIt) {
-    for (int time = 0; time <= 200; ++time) Write("a.csv", std::string(1000, 'x') + std::to_string(time));
+    const auto name = Name("a.csv", "b.csv");
+    for (int time = 0; time <= 200; ++time) Write(name, std::string(1000, 'x') + std::to_string(time));
     Finish();
     EXPECT_EQ(files_.ReadAll(Path("a.csv")), std::string(1000, 'x') + "200");
     EXPECT_EQ(Names(), QStringList{"a.csv"});
@@ -185,10 +189,10 @@ TEST_F(QtWholeFilesTest, TheNewestContentIsThereAndNothingBesideIt) {
 }
 
 TEST_F(QtWholeFilesTest, OneIsDoneAfterTheOther) {
-    Write("a.csv", "1");
+    Write(Name("a.csv", "c.csv"), "1");
     whole_.Remove(Path("a.csv"));
-    Write("b.csv", "2");
-    Write("a.csv", "3");
+    Write(Name("b.csv", "c.csv"), "2");
+    Write(Name("a.csv", "c.csv"), "3");
     whole_.Remove(Path("b.csv"));
     Finish();
     EXPECT_EQ(Names(), QStringList{"a.csv"});
@@ -196,28 +200,44 @@ TEST_F(QtWholeFilesTest, OneIsDoneAfterTheOther) {
 }
 
 TEST_F(QtWholeFilesTest, WhatCannotBeWrittenIsTold) {
-    Write("none/a.csv", "1");
+    Write(Name("none/a.csv", "none/b.csv"), "1");
     Finish();
     EXPECT_EQ(refused_, 1);
 }
 
+TEST_F(QtWholeFilesTest, NoFileIsWrittenOverThatItHasNotWritten) {
+    files_.OpenForWriting(Path("a.csv"))->Replace("somebody's");
+    const auto name = Name("a.csv", "b.csv");
+    for (const char* bytes : {"1", "2"}) {
+        Write(name, bytes);
+        Finish();
+        EXPECT_EQ(name->path, Path("b.csv"));
+        EXPECT_EQ(files_.ReadAll(Path("b.csv")), bytes);
+    }
+    Write(Name("a.csv", "b.csv"), "3");
+    Finish();
+    EXPECT_EQ(refused_, 1) << "no name is free";
+    EXPECT_EQ(files_.ReadAll(Path("a.csv")), "somebody's");
+    EXPECT_EQ(files_.ReadAll(Path("b.csv")), "2");
+    EXPECT_EQ(Names(), (QStringList{"a.csv", "b.csv"}));
+}
+
 TEST_F(QtWholeFilesTest, TwoNamesOfOneFileAreFound) {
-    Write("a.csv", "1");
+    Write(Name("a.csv", "c.csv"), "1");
     Finish();
     ASSERT_TRUE(QFile::link(folder_.path() + "/a.csv", folder_.path() + "/b.csv"));
-    EXPECT_TRUE(whole_.IsThere(Path("a.csv")));
-    EXPECT_FALSE(whole_.IsThere(Path("c.csv")));
     EXPECT_TRUE(whole_.AreSame(Path("a.csv"), Path("b.csv")));
     EXPECT_FALSE(whole_.AreSame(Path("a.csv"), Path("c.csv")));
 }
 
 #ifdef Q_OS_LINUX
 TEST_F(QtWholeFilesTest, OnAFullDiskTheOldContentStays) {
-    Write("a.csv", "old");
+    const auto name = Name("a.csv", "b.csv");
+    Write(name, "old");
     Finish();
     {
         const FileSizeLimit limit(10);
-        Write("a.csv", std::string(1000, 'x'));
+        Write(name, std::string(1000, 'x'));
         Finish();
     }
     EXPECT_EQ(refused_, 1);

@@ -66,6 +66,16 @@ class SlowDriveTest(unittest.TestCase):
             self.wait_for_rescue()
             self.assertFalse((self.back_ups / "Rescue.csv.new").exists())
 
+    def test_a_drive_that_cannot_rename_to_a_free_name_alone_keeps_what_its_user_lays_there(self):
+        with self.disk.trouble("rename-to-free", errno.EINVAL):
+            self.rescue.write_text("a file of the user's", encoding="ascii")
+            self.rescue = self.rescue.with_name("Rescue_(2).csv")
+            for _ in range(2):
+                self.count(12)
+                self.wait_for_rescue()
+        self.assertEqual(self.rescue.with_name("Rescue.csv").read_text(encoding="ascii"), "a file of the user's")
+        self.assertEqual({path.name for path in self.back_ups.glob("Rescue*")}, {"Rescue.csv", "Rescue_(2).csv"})
+
     def test_a_save_lasts_as_long_as_the_drive_and_keys_of_that_time_count_after_it(self):
         self.count(12)
         self.program.save_as(self.sheet)

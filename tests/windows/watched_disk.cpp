@@ -4,10 +4,11 @@
 // WATCHED_DISK names a folder outside HOME with two files:
 //     journal    written here, a note after each call: "NANOSECONDS KIND INODE NUMBER LENGTH PATH\n", then LENGTH bytes.
 //                new: a file that was not there; write: the bytes at the offset NUMBER; resize: to NUMBER bytes; flush: of a file or a
-//                folder; rename: the bytes are the new path; remove; waits, fails: a call that trouble has met, by its name in the bytes.
-//                The time is of the monotonic clock, the path that by which the file was opened.
-//     trouble    written by the test: "CALL ERROR". CALL is open, write, resize, flush, rename, remove, look, or any for all of them. ERROR
-//                is the errno with which they fail, or 0: they wait as long as this stands there.
+//                folder; rename: the bytes are the new path, taken or free; remove; waits, fails: a call that trouble has met, by its name
+//                in the bytes. The time is of the monotonic clock, the path that by which the file was opened.
+//     trouble    written by the test: "CALL ERROR". CALL is open, write, resize, flush, rename, rename-to-free, remove, look, or any for
+//     all
+//                of them. ERROR is the errno with which they fail, or 0: they wait as long as this stands there.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -35,6 +36,7 @@ int WatchedResize(int file, off_t size) __asm__("ftruncate");
 int WatchedResize64(int file, off_t size) __asm__("ftruncate64");
 int WatchedFlush(int file) __asm__("fsync");
 int WatchedRename(const char* from, const char* to) __asm__("rename");
+int WatchedRenameToFree(int folder, const char* from, int to_folder, const char* to, unsigned flags) __asm__("renameat2");
 int WatchedRemove(const char* path) __asm__("unlink");
 int WatchedAccess(const char* path, int mode) __asm__("access");
 int WatchedStat(const char* path, void* found) __asm__("stat");
@@ -166,6 +168,15 @@ int Resize(int file, off_t size) {
     if (!path.empty() && result == 0) TheDisk().Note("resize", InodeOf(file), size, path);
     return result;
 }
+
+template <class Call>
+int Rename(const char* name, const char* from, const char* to, Call call) {
+    const bool is_watched = TheDisk().Holds(from);
+    if (is_watched && !TheDisk().IsGranted(name, from)) return -1;
+    const int result = call();
+    if (is_watched && result == 0) TheDisk().Note("rename", 0, 0, from, to);
+    return result;
+}
 }  // namespace
 
 int WatchedOpen(const char* path, int flags, mode_t mode) {
@@ -208,11 +219,11 @@ int WatchedFlush(int file) {
 }
 
 int WatchedRename(const char* from, const char* to) {
-    const bool is_watched = TheDisk().Holds(from);
-    if (is_watched && !TheDisk().IsGranted("rename", from)) return -1;
-    const int result = Next<WatchedRename>("rename")(from, to);
-    if (is_watched && result == 0) TheDisk().Note("rename", 0, 0, from, to);
-    return result;
+    return Rename("rename", from, to, [from, to] { return Next<WatchedRename>("rename")(from, to); });
+}
+
+int WatchedRenameToFree(int folder, const char* from, int to_folder, const char* to, unsigned flags) {
+    return Rename("rename-to-free", from, to, [=] { return Next<WatchedRenameToFree>("renameat2")(folder, from, to_folder, to, flags); });
 }
 
 int WatchedRemove(const char* path) {
