@@ -182,12 +182,12 @@ void TellSaved() {
     frmMain.mnuSaveCopy.SetEnabled(true);
 }
 
-void TellFailed() {
+void TellFailed(std::int16_t mode) {
     services.sounds->Beep();
     SaveOutcome = 2;
     services.messages->Show(
         {"Error", "The file is being used by another software. Please close the file and try again.", Icon::Exclamation, Buttons::Ok});
-    SaveFailed.Raise();
+    if (IsPlainSave(mode)) SaveFailed.Raise();
 }
 }  // namespace
 
@@ -208,7 +208,7 @@ void SaveSheet(std::int16_t mode) {
         if (IsPlainSave(mode)) SheetSaved.Raise();
         if (mode == kSave) ReturnFocus();
     } catch (const Failure&) {
-        TellFailed();
+        TellFailed(mode);
     }
 }
 

@@ -11,7 +11,7 @@ extern Event<> CountsChanged;                 // by a key or a reset: an open di
 extern Event<> TotalChanged;                  // Text3[0] shows another total of all taxa
 extern Event<const std::string&> SaveBegins;  // to this path, whatever is to be written there
 extern Event<> SheetSaved;                    // by a plain save: its file holds all of it
-extern Event<> SaveFailed;                    // the user has been told
+extern Event<> SaveFailed;                    // a plain one; the user has been told
 extern Event<> SheetReplaced;                 // another one is on show, opened or begun anew
 extern Event<> SheetReset;                    // its user has given up what was counted since the snapshot
 extern Event<> BasisChosen;                   // Option1: the total that the alarm and all percentages go by

@@ -189,6 +189,21 @@ TEST_F(RescueTest, NoTableAndNoCopyOfTheSheetIsASave) {
     EXPECT_TRUE(IsThere(kRescue));
 }
 
+TEST_F(RescueTest, NoTableAndNoCopyThatFailsIsAFailedSave) {
+    Begin("10");
+    KeyNumber(1);
+    SaveAs("/sheets/Mere.csv");
+    files_.locked.insert("/sheets/other.csv");
+    for (const std::int16_t mode : {kSaveCopy, kSavePercentAll}) {
+        AnswerDialog("/sheets/other.csv");
+        SaveSheet(mode);
+        ASSERT_EQ(LastMessage().title, "Error");
+        rescue_.KeepNow();
+        rescue_.EndByUser();
+        EXPECT_FALSE(IsThere(kRescue)) << mode;
+    }
+}
+
 TEST_F(RescueTest, ASaveThatFailsKeepsItWhateverTheUserDoesThen) {
     Begin("10");
     KeyNumber(1);
