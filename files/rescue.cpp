@@ -133,6 +133,7 @@ Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk),
     SaveBegins.Calls([this](const std::string& path) { LeaveFileAlone(path); });
     SheetSaved.Calls([this] { HearOfSave(); });
     SaveFailed.Calls([this] { HearOfFailedSave(); });
+    SheetGivenUp.Calls([this] { HearOfGivingUp(); });
     SheetReplaced.Calls([this] {
         TakeOpenedCopy();
         SheetIsSafe();
@@ -142,7 +143,7 @@ Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk),
 
 Rescue::~Rescue() {
     SaveBegins.Calls({});
-    for (Event<>* told : {&SheetSaved, &SaveFailed, &SheetReplaced, &SheetReset}) told->Calls({});
+    for (Event<>* told : {&SheetSaved, &SaveFailed, &SheetGivenUp, &SheetReplaced, &SheetReset}) told->Calls({});
 }
 
 void Rescue::Offer() {
@@ -216,6 +217,11 @@ void Rescue::HearOfFailedSave() {
     last_save_failed_ = true;
     if (safe_) safe_ = "";
     Keep();
+}
+
+// The last moment to take in what was counted since the last copy.
+void Rescue::HearOfGivingUp() {
+    if (last_save_failed_) KeepNow();
 }
 
 // A copy that is opened is the one that the next save makes superfluous, whichever the start face has told of.

@@ -23,12 +23,13 @@ public:
     void Offer();      // the start face tells of what earlier sessions have left, and Open shows it first
     void Keep();       // writes the copy if the sheet holds anything that neither its file nor the copy has
     void KeepNow();    // the same, and it is on the disk when this returns
-    void EndByUser();  // whatever the user's answer was, there is nothing to rescue, but for a save that was wanted and failed
+    void EndByUser();  // after the sheet was given up. There is nothing to rescue, but for a save that was wanted and failed
 
 private:
     void SheetIsSafe();
     void HearOfSave();
     void HearOfFailedSave();
+    void HearOfGivingUp();
     void TakeOpenedCopy();
     void HearOfReset();
     void LeaveFileAlone(const std::string& path);

@@ -49,6 +49,7 @@ void AskAndEnd() {
         if (services.messages->Show(question) == Answer::Yes) SaveAsked.Raise();
     }
     if (SaveOutcome != 2) SoundOn = false;
+    SheetGivenUp.Raise();
     UnloadAll();
     services.host->End();
 }
@@ -71,7 +72,9 @@ void AbortCount() {
 }
 
 bool MayAbortData() {
-    return ConfirmLoss("This action will abort current data. Do you proceed?");
+    if (!ConfirmLoss("This action will abort current data. Do you proceed?")) return false;
+    SheetGivenUp.Raise();
+    return true;
 }
 
 void QuitProgram() {

@@ -7,6 +7,7 @@ Event<> TotalChanged;
 Event<const std::string&> SaveBegins;
 Event<> SheetSaved;
 Event<> SaveFailed;
+Event<> SheetGivenUp;
 Event<> SheetReplaced;
 Event<> SheetReset;
 Event<> BasisChosen;

@@ -12,6 +12,7 @@ extern Event<> TotalChanged;                  // Text3[0] shows another total of
 extern Event<const std::string&> SaveBegins;  // to this path, whatever is to be written there
 extern Event<> SheetSaved;                    // by a plain save: its file holds all of it
 extern Event<> SaveFailed;                    // a plain one; the user has been told
+extern Event<> SheetGivenUp;                  // its user lets go what no save has; it is all there still
 extern Event<> SheetReplaced;                 // another one is on show, opened or begun anew
 extern Event<> SheetReset;                    // its user has given up what was counted since the snapshot
 extern Event<> BasisChosen;                   // Option1: the total that the alarm and all percentages go by

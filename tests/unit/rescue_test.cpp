@@ -80,6 +80,13 @@ protected:
         const std::string line = FileLine(path, 2 + static_cast<std::size_t>(slot));
         return line.substr(line.rfind(',') + 1);
     }
+    // The first save of the sheet.
+    void FailToSave() {
+        files_.locked.insert("/sheets/Mere.csv");
+        AnswerDialog("/sheets/Mere.csv");
+        SaveSheet(kSaveAs);
+        ASSERT_EQ(LastMessage().title, "Error");
+    }
     // From a sheet that has nothing of it, as in the next session.
     void OpenCopy() {
         disk_.Finish();
@@ -207,13 +214,28 @@ TEST_F(RescueTest, NoTableAndNoCopyThatFailsIsAFailedSave) {
 TEST_F(RescueTest, ASaveThatFailsKeepsItWhateverTheUserDoesThen) {
     Begin("10");
     KeyNumber(1);
-    files_.locked.insert("/sheets/Mere.csv");
-    AnswerNext(Answer::Ok);
-    AnswerDialog("/sheets/Mere.csv");
-    SaveSheet(kSaveAs);
+    FailToSave();
     EXPECT_EQ(CountIn(kRescue), "1") << "at once";
     rescue_.EndByUser();
     EXPECT_TRUE(IsThere(kRescue));
+}
+
+TEST_F(RescueTest, AfterAFailedSaveTheLastKeyBeforeTheEndIsInIt) {
+    Begin("10");
+    KeyNumber(1);
+    FailToSave();
+    for (const Answer answer : {Answer::Cancel, Answer::No}) {
+        KeyNumber(1);
+        AnswerNext(answer);
+        CloseMainWindow();
+        rescue_.EndByUser();
+        EXPECT_EQ(CountIn(kRescue), std::to_string(Counts[1][1]));
+    }
+    KeyNumber(1);
+    AnswerNext(Answer::Yes);
+    QuitProgram();
+    rescue_.EndByUser();
+    EXPECT_EQ(CountIn(kRescue), "4");
 }
 
 TEST_F(RescueTest, AResetToWhatIsSavedRemovesIt) {
