@@ -130,7 +130,7 @@ std::vector<Left> LeftCopies() {
 
 Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk), try_again_(std::move(try_again)) {
     BeginAnew();
-    SaveBegins.Calls([this](const std::string& path) { LeaveFileAlone(path); });
+    SaveBegins.Calls([this](const std::string& path) { HearOfSaving(path); });
     SheetSaved.Calls([this] { HearOfSave(); });
     SaveFailed.Calls([this] { HearOfFailedSave(); });
     SheetGivenUp.Calls([this] { HearOfGivingUp(); });
@@ -179,14 +179,21 @@ void Rescue::KeepNow() {
 }
 
 void Rescue::EndByUser() {
-    if (!last_save_failed_) Forget();
+    if (!is_in_no_file_) Forget();
     disk_.Finish();
 }
 
-// If its user has chosen the copy itself for a file, it is no copy any longer.
-void Rescue::LeaveFileAlone(const std::string& path) {
+// If its user has chosen the copy itself for a file, it is no copy any longer. What is to be written over the sheet's own file may be a
+// table: only a save that is told of brings the sheet back there.
+void Rescue::HearOfSaving(const std::string& path) {
     disk_.Finish();
     if (disk_.AreSame(copy_->path, path)) BeginAnew();
+    if (disk_.AreSame(SheetPath, path)) MarkInNoFile();
+}
+
+void Rescue::MarkInNoFile() {
+    is_in_no_file_ = true;
+    if (safe_) safe_ = "";
 }
 
 void Rescue::Forget() {
@@ -208,20 +215,19 @@ void Rescue::Remove(const std::string& path) {
 
 void Rescue::SheetIsSafe() {
     Forget();
-    last_save_failed_ = false;
+    is_in_no_file_ = false;
     safe_ = SheetOf(BytesOfCopy());
 }
 
 // The file that the sheet had may be cut, even if the sheet is what was saved there before.
 void Rescue::HearOfFailedSave() {
-    last_save_failed_ = true;
-    if (safe_) safe_ = "";
+    MarkInNoFile();
     Keep();
 }
 
 // The last moment to take in what was counted since the last copy.
 void Rescue::HearOfGivingUp() {
-    if (last_save_failed_) KeepNow();
+    if (is_in_no_file_) KeepNow();
 }
 
 // A copy that is opened is the one that the next save makes superfluous, whichever the start face has told of.

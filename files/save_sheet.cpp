@@ -205,7 +205,7 @@ void SaveSheet(std::int16_t mode) {
     try {
         WriteFile(path, mode, sums, busy);
         TellSaved();
-        if (IsPlainSave(mode)) SheetSaved.Raise();
+        if (IsPlainSave(mode) || (mode == kSaveCopy && path == SheetPath)) SheetSaved.Raise();
         if (mode == kSave) ReturnFocus();
     } catch (const Failure&) {
         TellFailed(mode);

@@ -10,7 +10,7 @@ extern Event<> HundredReached;                // the alarm has sounded
 extern Event<> CountsChanged;                 // by a key or a reset: an open diagram is out of date
 extern Event<> TotalChanged;                  // Text3[0] shows another total of all taxa
 extern Event<const std::string&> SaveBegins;  // to this path, whatever is to be written there
-extern Event<> SheetSaved;                    // by a plain save: its file holds all of it
+extern Event<> SheetSaved;                    // by a plain save, or a copy over its file: a file holds all of it
 extern Event<> SaveFailed;                    // a plain one; the user has been told
 extern Event<> SheetGivenUp;                  // its user lets go what no save has; it is all there still
 extern Event<> SheetReplaced;                 // another one is on show, opened or begun anew

@@ -238,6 +238,43 @@ TEST_F(RescueTest, AfterAFailedSaveTheLastKeyBeforeTheEndIsInIt) {
     EXPECT_EQ(CountIn(kRescue), "4");
 }
 
+TEST_F(RescueTest, WhatIsSavedOverTheSheetsOwnFileLeavesTheSheetToTheCopy) {
+    Begin("10");
+    KeyNumber(1);
+    SaveAs("/sheets/Mere.csv");
+    const std::function<void()> ways[] = {CreateTemplate, SaveHistory, [] { SaveSheet(kSavePercentAll); }};
+    for (const auto& save : ways) {
+        AnswerDialog("/sheets/Mere.csv");
+        save();
+        Keep();
+        EXPECT_EQ(CountIn(kRescue), "1");
+        CloseMainWindow();
+        rescue_.EndByUser();
+        EXPECT_EQ(CountIn(kRescue), "1");
+        SaveSheet(kSave);
+        EXPECT_FALSE(IsThere(kRescue)) << "its file holds it again";
+    }
+}
+
+TEST_F(RescueTest, ACopyOfTheSheetOverItsOwnFileIsASave) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1);
+    Keep();
+    AnswerDialog("/sheets/Mere.csv");
+    SaveSheet(kSaveCopy);
+    EXPECT_FALSE(IsThere(kRescue));
+    KeyNumber(1);
+    Keep();
+    EXPECT_TRUE(IsThere(kRescue));
+    files_.room["/sheets/Mere.csv"] = 1000;
+    AnswerDialog("/sheets/Mere.csv");
+    SaveSheet(kSaveCopy);
+    ASSERT_EQ(LastMessage().title, "Error");
+    rescue_.EndByUser();
+    EXPECT_EQ(CountIn(kRescue), "2") << "the file is cut";
+}
+
 TEST_F(RescueTest, AResetToWhatIsSavedRemovesIt) {
     Begin("10");
     SaveAs("/sheets/Mere.csv");
