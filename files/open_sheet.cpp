@@ -35,7 +35,10 @@ constexpr std::size_t kLongTitleLength = 15;  // of "Marlbrook 2.7.5"; a shorter
 
 // false: the user keeps the sheet. "1/0" is no serial that a session shows, so a sheet that is not clean always asks.
 bool MayReplaceSheet() {
-    if (SheetClean) return true;
+    if (SheetClean) {
+        SheetGivenUp.Raise(false);
+        return true;
+    }
     if (frmMain.AllTotal.Number() > 0) PlayIfOn(WaveError);
     const bool has_sample = frmMain.SerialNumber.Caption() != "1/0";
     if (has_sample) PlayIfOn(WaveError);

@@ -10,6 +10,7 @@
 #include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/services.h"
+#include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
 #include "windows/main_window.h"
@@ -133,17 +134,16 @@ Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk),
     SaveBegins.Calls([this](const std::string& path) { HearOfSaving(path); });
     SheetSaved.Calls([this] { HearOfSave(); });
     SaveFailed.Calls([this] { HearOfFailedSave(); });
-    SheetGivenUp.Calls([this] { HearOfGivingUp(); });
-    SheetReplaced.Calls([this] {
-        TakeOpenedCopy();
-        SheetIsSafe();
-    });
+    SaveSwitchedOff.Calls([this] { is_save_off_ = true; });
+    SheetGivenUp.Calls([this](bool is_asked) { HearOfGivingUp(is_asked); });
+    SheetReplaced.Calls([this] { HearOfAnother(); });
     SheetReset.Calls([this] { HearOfReset(); });
 }
 
 Rescue::~Rescue() {
     SaveBegins.Calls({});
-    for (Event<>* told : {&SheetSaved, &SaveFailed, &SheetGivenUp, &SheetReplaced, &SheetReset}) told->Calls({});
+    SheetGivenUp.Calls({});
+    for (Event<>* told : {&SheetSaved, &SaveFailed, &SaveSwitchedOff, &SheetReplaced, &SheetReset}) told->Calls({});
 }
 
 void Rescue::Offer() {
@@ -179,7 +179,7 @@ void Rescue::KeepNow() {
 }
 
 void Rescue::EndByUser() {
-    if (!is_in_no_file_) Forget();
+    if (!Outlives()) Forget();
     disk_.Finish();
 }
 
@@ -215,7 +215,7 @@ void Rescue::Remove(const std::string& path) {
 
 void Rescue::SheetIsSafe() {
     Forget();
-    is_in_no_file_ = false;
+    is_in_no_file_ = is_save_off_ = is_unasked_ = false;
     safe_ = SheetOf(BytesOfCopy());
 }
 
@@ -225,9 +225,20 @@ void Rescue::HearOfFailedSave() {
     Keep();
 }
 
+bool Rescue::IsSafe() const {
+    return safe_ && SheetOf(BytesOfCopy()) == *safe_;
+}
+
 // The last moment to take in what was counted since the last copy.
-void Rescue::HearOfGivingUp() {
-    if (is_in_no_file_) KeepNow();
+void Rescue::HearOfGivingUp(bool is_asked) {
+    is_unasked_ = !is_asked && (is_save_off_ || IsSheetChanged()) && !IsSafe();
+    if (Outlives()) KeepNow();
+}
+
+void Rescue::HearOfAnother() {
+    if (Outlives()) BeginAnew();
+    TakeOpenedCopy();
+    SheetIsSafe();
 }
 
 // A copy that is opened is the one that the next save makes superfluous, whichever the start face has told of.
@@ -244,7 +255,8 @@ void Rescue::HearOfSave() {
 
 // What the sheet has gone back to may be in no file either.
 void Rescue::HearOfReset() {
-    if (safe_ && SheetOf(BytesOfCopy()) == *safe_)
+    is_save_off_ = false;
+    if (IsSafe())
         SheetIsSafe();
     else
         Keep();

@@ -1,9 +1,10 @@
 // What a session leaves behind that ends by itself: References/Back up files/Rescue.csv, the rows of a back-up, with all that no save has.
 //
 // It is written whole beside its old content and takes its name only then. It goes when its sheet is saved, given up, or the user ends
-// the program, unless the last save has failed or something else was saved over the sheet's own file. What an earlier session has left
-// stays until its user has been told of it and has saved a sheet; the copy of this one then has a name of its own, Rescue_(2).csv and so
-// on. What its user saves, or lays down, under the name of the copy is left alone. Writing the copy changes nothing in the sheet.
+// the program, unless the last save has failed, something else was saved over the sheet's own file, or nothing was asked. What an earlier
+// session has left stays until its user has been told of it and has saved a sheet; the copy of this one then has a name of its own,
+// Rescue_(2).csv and so on. What its user saves, or lays down, under the name of the copy is left alone. Writing the copy changes nothing
+// in the sheet.
 #pragma once
 #include <functional>
 #include <memory>
@@ -23,13 +24,16 @@ public:
     void Offer();      // the start face tells of what earlier sessions have left, and Open shows it first
     void Keep();       // writes the copy if the sheet holds anything that neither its file nor the copy has
     void KeepNow();    // the same, and it is on the disk when this returns
-    void EndByUser();  // after the sheet was given up. There is nothing to rescue, unless a save has failed or its file was written over
+    void EndByUser();  // after the sheet was given up. There is nothing to rescue, but for what its user may not know to be in no file
 
 private:
     void SheetIsSafe();
+    bool IsSafe() const;
+    bool Outlives() const { return is_in_no_file_ || is_unasked_; }  // the copy, its sheet and the program
+    void HearOfAnother();
     void HearOfSave();
     void HearOfFailedSave();
-    void HearOfGivingUp();
+    void HearOfGivingUp(bool is_asked);
     void TakeOpenedCopy();
     void HearOfReset();
     void HearOfSaving(const std::string& path);
@@ -46,5 +50,7 @@ private:
     std::shared_ptr<OwnName> copy_;
     bool has_copy_ = false;       // it has been written, or is being written
     std::string told_;            // path of the copy that the start face tells of, or that is opened; empty: of none
+    bool is_save_off_ = false;    // closing does not ask, though no file has what was changed
+    bool is_unasked_ = false;     // what no file has was given up and nothing asked
     bool is_in_no_file_ = false;  // a save was wanted and failed, or something else was saved over the file of the sheet
 };

@@ -44,12 +44,13 @@ void CloseForGood(Window& window) {
 // Cancel ends the program too, without a save (docs/quirks.md), and so does a save that failed.
 void AskAndEnd() {
     SaveOutcome = 1;
-    if (IsSheetChanged()) {
+    const bool is_changed = IsSheetChanged();
+    if (is_changed) {
         const Message question{"Marlbrook", ClosingQuestion(), Icon::None, Buttons::YesNoCancel};
         if (services.messages->Show(question) == Answer::Yes) SaveAsked.Raise();
     }
     if (SaveOutcome != 2) SoundOn = false;
-    SheetGivenUp.Raise();
+    SheetGivenUp.Raise(is_changed);
     UnloadAll();
     services.host->End();
 }
@@ -73,7 +74,7 @@ void AbortCount() {
 
 bool MayAbortData() {
     if (!ConfirmLoss("This action will abort current data. Do you proceed?")) return false;
-    SheetGivenUp.Raise();
+    SheetGivenUp.Raise(true);
     return true;
 }
 

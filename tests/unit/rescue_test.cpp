@@ -275,6 +275,93 @@ TEST_F(RescueTest, ACopyOfTheSheetOverItsOwnFileIsASave) {
     EXPECT_EQ(CountIn(kRescue), "2") << "the file is cut";
 }
 
+TEST_F(RescueTest, AfterAFailedSaveItOutlivesItsSheet) {
+    Begin("10");
+    KeyNumber(1);
+    FailToSave();
+    KeyNumber(1);
+    AnswerNext(Answer::Yes);
+    NewSheet();
+    EXPECT_EQ(CountIn(kRescue), "2");
+    frmMain.Text4.SetText("of the next sheet");
+    Keep();
+    EXPECT_TRUE(IsThere(kSecond));
+    rescue_.EndByUser();
+    EXPECT_TRUE(IsThere(kRescue));
+    EXPECT_FALSE(IsThere(kSecond));
+}
+
+// A percentage table switches Save off.
+TEST_F(RescueTest, CountsThatClosingAsksNothingAboutStayInIt) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1);
+    AnswerDialog("/sheets/percent.csv");
+    SaveSheet(kSavePercentAll);
+    const std::size_t messages = MessageCount();
+    CloseMainWindow();
+    rescue_.EndByUser();
+    EXPECT_EQ(MessageCount(), messages);
+    EXPECT_EQ(CountIn(kRescue), "1");
+}
+
+TEST_F(RescueTest, WhatClosingAsksAboutIsItsUsersChoiceAfterATableToo) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1);
+    AnswerDialog("/sheets/percent.csv");
+    SaveSheet(kSavePercentAll);
+    KeyNumber(1);
+    Keep();
+    AnswerNext(Answer::No);
+    CloseMainWindow();
+    rescue_.EndByUser();
+    EXPECT_FALSE(IsThere(kRescue));
+}
+
+TEST_F(RescueTest, ATableOfWhatIsSavedOrACopyLeavesNoneAtTheEnd) {
+    Begin("10");
+    KeyNumber(1);
+    SaveAs("/sheets/Mere.csv");
+    for (const std::int16_t mode : {kSavePercentAll, kSaveCopy}) {
+        AnswerDialog("/sheets/other.csv");
+        SaveSheet(mode);
+        Keep();
+        CloseMainWindow();
+        rescue_.EndByUser();
+        EXPECT_FALSE(IsThere(kRescue)) << mode;
+        KeyNumber(1);  // before the copy, which has it
+    }
+}
+
+// Open that was answered No does not ask again.
+TEST_F(RescueTest, CountsThatOpenAsksNothingAboutStayInIt) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1, 2);
+    AnswerNext(Answer::No);
+    OpenSheet();
+    const std::size_t messages = MessageCount();
+    AnswerDialog("/sheets/Mere.csv");
+    OpenSheet();
+    EXPECT_EQ(MessageCount(), messages);
+    EXPECT_EQ(Counts[1][1], 0);
+    EXPECT_EQ(CountIn(kRescue), "2");
+}
+
+TEST_F(RescueTest, ASheetOfWhichNothingWasChangedLeavesNoneWhenAnotherIsOpened) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    for (int time = 0; time < 2; ++time) {
+        Keep();
+        AnswerDialog("/sheets/Mere.csv");
+        AnswerNext(Answer::Yes);
+        OpenSheet();
+        services_.messages.answers.clear();
+    }
+    EXPECT_FALSE(IsThere(kRescue));
+}
+
 TEST_F(RescueTest, AResetToWhatIsSavedRemovesIt) {
     Begin("10");
     SaveAs("/sheets/Mere.csv");
