@@ -45,6 +45,7 @@ bool MayReplaceSheet() {
     if (!has_sample && AllTotal == 0) return true;
     if (!MayAbortData()) return false;
     RestoreSheet();
+    SheetCleared.Raise();
     CloseDiagram();
     return true;
 }

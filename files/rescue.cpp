@@ -136,6 +136,7 @@ Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk),
     SaveFailed.Calls([this] { HearOfFailedSave(); });
     SaveSwitchedOff.Calls([this] { is_save_off_ = true; });
     SheetGivenUp.Calls([this](bool is_asked) { HearOfGivingUp(is_asked); });
+    SheetCleared.Calls([this] { HearOfClearing(); });
     SheetReplaced.Calls([this] { HearOfAnother(); });
     SheetReset.Calls([this] { HearOfReset(); });
 }
@@ -143,7 +144,7 @@ Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk),
 Rescue::~Rescue() {
     SaveBegins.Calls({});
     SheetGivenUp.Calls({});
-    for (Event<>* told : {&SheetSaved, &SaveFailed, &SaveSwitchedOff, &SheetReplaced, &SheetReset}) told->Calls({});
+    for (Event<>* told : {&SheetSaved, &SaveFailed, &SaveSwitchedOff, &SheetCleared, &SheetReplaced, &SheetReset}) told->Calls({});
 }
 
 void Rescue::Offer() {
@@ -233,6 +234,11 @@ bool Rescue::IsSafe() const {
 void Rescue::HearOfGivingUp(bool is_asked) {
     is_unasked_ = !is_asked && (is_save_off_ || IsSheetChanged()) && !IsSafe();
     if (Outlives()) KeepNow();
+}
+
+// What was given up may have been so for the copy of it, which the dialog offers. So it stays in the copy until more is counted.
+void Rescue::HearOfClearing() {
+    if (!kept_.empty()) kept_ = SheetOf(BytesOfCopy());
 }
 
 void Rescue::HearOfAnother() {

@@ -34,6 +34,7 @@ private:
     void HearOfSave();
     void HearOfFailedSave();
     void HearOfGivingUp(bool is_asked);
+    void HearOfClearing();
     void TakeOpenedCopy();
     void HearOfReset();
     void HearOfSaving(const std::string& path);
@@ -46,7 +47,7 @@ private:
     std::function<void()> try_again_;
     std::optional<std::string> safe_;  // the sheet as it was when nothing of it could be lost, empty while it is in no file; before the
                                        // main window is there, none
-    std::string kept_;                 // the sheet as the copy has it; empty: it has none
+    std::string kept_;                 // the sheet as the copy has it, or as it is without what was given up; empty: it has none
     std::shared_ptr<OwnName> copy_;
     bool has_copy_ = false;       // it has been written, or is being written
     std::string told_;            // path of the copy that the start face tells of, or that is opened; empty: of none

@@ -9,6 +9,7 @@ Event<> SheetSaved;
 Event<> SaveFailed;
 Event<> SaveSwitchedOff;
 Event<bool> SheetGivenUp;
+Event<> SheetCleared;
 Event<> SheetReplaced;
 Event<> SheetReset;
 Event<> BasisChosen;

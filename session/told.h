@@ -14,6 +14,7 @@ extern Event<> SheetSaved;                    // by a plain save, or a copy over
 extern Event<> SaveFailed;                    // a plain one; the user has been told
 extern Event<> SaveSwitchedOff;               // by what is no save: what was changed is in no file, and closing does not ask
 extern Event<bool> SheetGivenUp;              // its user lets go what no save has; it is all there still. Whether the program has asked
+extern Event<> SheetCleared;                  // of what was given up, before a dialog asks for another one
 extern Event<> SheetReplaced;                 // another one is on show, opened or begun anew
 extern Event<> SheetReset;                    // its user has given up what was counted since the snapshot
 extern Event<> BasisChosen;                   // Option1: the total that the alarm and all percentages go by

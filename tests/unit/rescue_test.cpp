@@ -61,6 +61,20 @@ private:
     std::deque<std::function<void()>> told_;
 };
 
+// Its user chooses this file, after something else has happened.
+class LastingDialog : public FileDialogs {
+public:
+    LastingDialog(std::function<void()> meanwhile, std::string path) : meanwhile_(std::move(meanwhile)), path_(std::move(path)) {}
+    std::optional<std::string> Ask(const FileQuestion&) override {
+        meanwhile_();
+        return path_;
+    }
+
+private:
+    std::function<void()> meanwhile_;
+    std::string path_;
+};
+
 class RescueTest : public SheetTest {
 protected:
     LateFiles disk_{files_};
@@ -653,6 +667,35 @@ TEST_F(RescueTest, OfTwoCopiesTheOneThatIsOpenedGoesWithTheSave) {
     SaveAs("/sheets/Mere.csv");
     EXPECT_TRUE(IsThere(kRescue));
     EXPECT_FALSE(IsThere(kSecond));
+}
+
+TEST_F(RescueTest, TheCopyOfThisSessionOpensWithWhatWasGivenUpForIt) {
+    Begin("10");
+    KeyNumber(1, 3);
+    Keep();
+    AnswerNext(Answer::Yes);
+    LastingDialog dialog([this] { Keep(); }, kRescue);
+    services.dialogs = &dialog;
+    OpenSheet();
+    EXPECT_EQ(Counts[1][1], 3);
+    KeyNumber(1);
+    Keep();
+    EXPECT_EQ(CountIn(kRescue), "3");
+    EXPECT_EQ(CountIn(kSecond), "4");
+}
+
+TEST_F(RescueTest, WhatIsCountedAfterADialogThatWasCancelledIsInIt) {
+    Begin("10");
+    KeyNumber(1, 3);
+    Keep();
+    AnswerNext(Answer::Yes);
+    CancelDialog();
+    OpenSheet();
+    Keep();
+    EXPECT_EQ(CountIn(kRescue), "3");
+    KeyNumber(1);
+    Keep();
+    EXPECT_EQ(CountIn(kRescue), "1");
 }
 
 TEST_F(RescueTest, ACopyFromAFolderWithAQuotationMarkInItsNameIsToldOf) {
