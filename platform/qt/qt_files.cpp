@@ -1,11 +1,12 @@
 #include "platform/qt/qt_files.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QMetaObject>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -168,9 +169,7 @@ QtWholeFiles::~QtWholeFiles() {
 // On a disk that is slow the newest content is all that counts.
 void QtWholeFiles::Write(std::shared_ptr<OwnName> name, const std::string& bytes, std::function<void(bool)> done) {
     const auto write = [this, name, bytes, done = std::move(done)] {
-        const bool is_done = WriteWhole(*name, bytes);
-        QMetaObject::invokeMethod(
-            this, [done, is_done] { done(is_done); }, Qt::QueuedConnection);
+        TellLater([done, is_done = WriteWhole(*name, bytes)] { done(is_done); });
     };
     const std::lock_guard lock(mutex_);
     if (jobs_.size() > 1 && jobs_.back().writes == name) jobs_.pop_back();
@@ -192,6 +191,22 @@ void QtWholeFiles::Finish() {
 bool QtWholeFiles::AreSame(const std::string& path, const std::string& other) {
     std::error_code ignored;
     return std::filesystem::equivalent(SystemFile(path), SystemFile(other), ignored);
+}
+
+// All that goes from thread to thread goes by the one lock, the event too: the toolkit's own locks the thread sanitizer does not see.
+void QtWholeFiles::TellLater(std::function<void()> procedure) {
+    const std::lock_guard lock(mutex_);
+    told_.push_back(std::move(procedure));
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+}
+
+void QtWholeFiles::customEvent(QEvent*) {
+    std::deque<std::function<void()>> told;
+    {
+        const std::lock_guard lock(mutex_);
+        told.swap(told_);
+    }
+    for (const auto& procedure : told) procedure();
 }
 
 void QtWholeFiles::Work() {

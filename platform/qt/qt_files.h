@@ -38,10 +38,13 @@ private:
         std::function<void()> procedure;
     };
     void Work();
+    void TellLater(std::function<void()> procedure);
+    void customEvent(QEvent* event) override;
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<Job> jobs_;  // the first one is being done
+    std::deque<Job> jobs_;                    // the first one is being done
+    std::deque<std::function<void()>> told_;  // what has been done and is to be told between events
     bool ends_ = false;
     std::thread worker_;
 };
