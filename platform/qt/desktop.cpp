@@ -70,7 +70,8 @@ private:
     void KeepNow() {
         if (!HasEndedByUser()) rescue_.KeepNow();
     }
-    bool HasEndedByUser() const { return host_.HasEnded() && !host_.HasFailed(); }  // a failure leaves the sheet as it was then
+    // A failure leaves the sheet as it was then. The end of the desktop session closes a question, which is no answer.
+    bool HasEndedByUser() const { return host_.HasEnded() && !host_.HasFailed() && !last_act_.IsUnderWay(); }
 
     QtHost& host_;
     Renderer& renderer_;

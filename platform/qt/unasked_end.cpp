@@ -97,6 +97,7 @@ bool UnaskedEnd::eventFilter(QObject* watched, QEvent* event) {
 #ifndef Q_OS_MACOS  // where it is the user's own Quit
     if (watched == qGuiApp && event->type() == QEvent::Quit) {
         Act();
+        is_under_way_ = true;
         QCoreApplication::exit(0);
         return true;
     }

@@ -12,6 +12,7 @@ public:
     explicit UnaskedEnd(std::function<void()> last_act);
     ~UnaskedEnd() override;
 
+    bool IsUnderWay() const { return is_under_way_; }  // the event that is running finds no user to answer it
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -21,5 +22,6 @@ private:
 
     std::function<void()> last_act_;
     bool acts_ = false;
+    bool is_under_way_ = false;
     std::unique_ptr<QSocketNotifier> signals_;
 };
