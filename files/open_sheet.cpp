@@ -160,8 +160,7 @@ std::string ReadText(const std::string& path) {
 }
 
 // false: a key index repeats, and the session has started afresh.
-bool ReadFile(const std::string& path, ProgressBar& bar) {
-    CellReader cells(ReadText(path));
+bool ReadFile(const std::string& path, CellReader& cells, ProgressBar& bar) {
     CloseDiagram();
     SheetPath = path;
     bar.SetVisible(true);
@@ -191,12 +190,24 @@ void FinishOpening(ProgressBar& bar) {
     SheetReplaced.Raise();
 }
 
+// What was read before a fault has taken the place of the sheet.
+bool ReplaceSheet(const std::string& path, CellReader& cells, ProgressBar& bar) {
+    try {
+        if (!ReadFile(path, cells, bar)) return false;
+        FinishOpening(bar);
+        return true;
+    } catch (const Failure&) {
+        SheetReplaced.Raise();
+        return false;
+    }
+}
+
 // false: cancelled, or the file could not be read to its end.
 bool ReadChosenFile(CommonDialog& dialog, ProgressBar& bar) {
     try {
-        if (!dialog.AskForOpening() || !ReadFile(dialog.FileName, bar)) return false;
-        FinishOpening(bar);
-        return true;
+        if (!dialog.AskForOpening()) return false;
+        CellReader cells(ReadText(dialog.FileName));
+        return ReplaceSheet(dialog.FileName, cells, bar);
     } catch (const Failure&) {
         return false;
     }

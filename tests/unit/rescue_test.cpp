@@ -305,6 +305,25 @@ TEST_F(RescueTest, AfterAFailedSaveItOutlivesItsSheet) {
     EXPECT_FALSE(IsThere(kSecond));
 }
 
+TEST_F(RescueTest, AfterAFailedSaveItOutlivesAnOpenThatBreaksOff) {
+    Begin("10");
+    KeyNumber(1, 2);
+    NextSample("20");
+    KeyNumber(1);
+    FailToSave();
+    disk_.Finish();
+    const std::string copy = files_.bytes[kRescue];
+    files_.bytes["/sheets/cut.csv"] = "\"/sheets/cut.csv\",\"Last saved (dd/mm/yyyy):\"\r\n";
+    AnswerNext(Answer::Yes);
+    AnswerDialog("/sheets/cut.csv");
+    OpenSheet();
+    ASSERT_EQ(SheetPath, "/sheets/cut.csv");
+    ASSERT_EQ(Counts[1][1], 0);
+    Keep();
+    EXPECT_EQ(files_.bytes[kRescue], copy);
+    EXPECT_FALSE(IsThere(kSecond)) << "what was read is in its file";
+}
+
 // A percentage table switches Save off.
 TEST_F(RescueTest, CountsThatClosingAsksNothingAboutStayInIt) {
     Begin("10");
