@@ -338,6 +338,19 @@ TEST_F(RescueTest, CountsThatClosingAsksNothingAboutStayInIt) {
     EXPECT_EQ(CountIn(kRescue), "1");
 }
 
+TEST_F(RescueTest, CountsOfASavedCopyThatTheDiskCutStayInIt) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1);
+    files_.room["/sheets/copy.csv"] = 1000;
+    AnswerDialog("/sheets/copy.csv");
+    SaveSheet(kSaveCopy);
+    ASSERT_FALSE(frmMain.Command5[0].Enabled());
+    CloseMainWindow();
+    rescue_.EndByUser();
+    EXPECT_EQ(CountIn(kRescue), "1");
+}
+
 TEST_F(RescueTest, WhatClosingAsksAboutIsItsUsersChoiceAfterATableToo) {
     Begin("10");
     SaveAs("/sheets/Mere.csv");
