@@ -762,11 +762,26 @@ TEST_F(RescueTest, AnyPlainSaveTakesTheCopyAway) {
     }
 }
 
-TEST_F(RescueTest, TheLatestIsLaterByItsMonthToo) {
-    LeaveCopy(kRescue, "30/09/2026_(09:08:07)");
-    LeaveCopy(kSecond, "01/10/2026_(09:08:07)");
+TEST_F(RescueTest, TheLatestIsLaterByEachPartOfItsDate) {
+    for (const auto& [earlier, later] : {std::pair{"30/09/2026_(09:08:07)", "01/10/2026_(09:08:07)"},
+                                         {"31/12/2025_(09:08:07)", "01/01/2026_(09:08:07)"},
+                                         {"09/10/2026_(09:08:07)", "10/10/2026_(09:08:07)"},
+                                         {"10/10/2026_(09:08:07)", "10/10/2026_(10:00:00)"}}) {
+        LeaveCopy(kRescue, earlier);
+        LeaveCopy(kSecond, later);
+        Start();
+        rescue_.Offer();
+        const std::string told = frmNext.StartLine.Caption();
+        EXPECT_EQ(told.substr(std::string("A session of ").size(), 10), std::string(later).substr(0, 10)) << told;
+        EXPECT_NE(told.find("Rescue_(2).csv"), std::string::npos) << told;
+        frmNext.Unload();
+    }
+}
+
+TEST_F(RescueTest, TheCopyOfTheLastNameIsToldOfToo) {
+    LeaveCopy("/program/References/Back up files/Rescue_(99).csv");
     Start();
     rescue_.Offer();
-    EXPECT_TRUE(frmNext.StartLine.Caption().starts_with("A session of 01/10/2026 (09:08:07)")) << frmNext.StartLine.Caption();
+    EXPECT_NE(frmNext.StartLine.Caption().find("Rescue_(99).csv"), std::string::npos);
 }
 }  // namespace
