@@ -182,7 +182,7 @@ TEST_F(EditedHeadTest, ABoxOfOneLineHoldsLessAndKeepsItsRestToo) {
     const std::string rest(1'000'000, 'b');
     Do([&] { frmMain.Text1[3].SetText(Letters(kMostOfName) + rest); });
     EXPECT_TRUE(Name().text() == Letters(kMostOfName).c_str());
-    EXPECT_EQ(Told(frmMain.Text1[3]), "There is more, not shown here: 1,000,000 characters");
+    EXPECT_TRUE(Told(frmMain.Text1[3]).endsWith("\nThere is more, not shown here: 1,000,000 characters"));
     Name().insert("x");
     EXPECT_TRUE(frmMain.Text1[3].Text() == "x" + Letters(kMostOfName) + rest);
     EXPECT_TRUE(TaxonTable[3][kTaxonName] == "x" + Letters(kMostOfName) + rest);
