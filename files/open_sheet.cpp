@@ -1,6 +1,8 @@
 #include "files/open_sheet.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -202,19 +204,25 @@ bool ReplaceSheet(const std::string& path, CellReader& cells, ProgressBar& bar) 
     }
 }
 
+// Where the sheets of the work in hand lie, whatever was exported in between to elsewhere.
+std::string FolderOf(const std::string& path) {
+    return std::filesystem::path(path).parent_path().string();
+}
+
+using Choice = std::function<bool(CommonDialog&)>;  // leaves the file in FileName; false: cancelled
+
 // false: cancelled, or the file could not be read to its end.
-bool ReadChosenFile(CommonDialog& dialog, ProgressBar& bar) {
+bool ReadChosenFile(const Choice& choose, CommonDialog& dialog, ProgressBar& bar) {
     try {
-        if (!dialog.AskForOpening()) return false;
+        if (!choose(dialog)) return false;
         CellReader cells(ReadText(dialog.FileName));
         return ReplaceSheet(dialog.FileName, cells, bar);
     } catch (const Failure&) {
         return false;
     }
 }
-}  // namespace
 
-void OpenSheet() {
+void OpenChosenFile(const Choice& choose) {
     ProgressBar& bar = frmMain.Progress;
     if (!MayReplaceSheet()) {
         CancelOpen(bar);
@@ -222,7 +230,22 @@ void OpenSheet() {
     }
     SampleUntouched = true;
     bar.SetRange(0, kSlots);
-    if (!ReadChosenFile(frmMain.FileDialog, bar)) CancelOpen(bar);
+    if (!ReadChosenFile(choose, frmMain.FileDialog, bar)) CancelOpen(bar);
+}
+}  // namespace
+
+void OpenSheet() {
+    OpenChosenFile([](CommonDialog& dialog) {
+        if (dialog.first_folder.empty()) dialog.first_folder = FolderOf(SheetPath);
+        return dialog.AskForOpening();
+    });
+}
+
+void OpenSheetFile(const std::string& path) {
+    OpenChosenFile([&path](CommonDialog& dialog) {
+        dialog.FileName = path;
+        return true;
+    });
 }
 
 void OpenSheetFromButton() {

@@ -2,5 +2,8 @@
 // fails halfway leaves what was read. Anything but a good open ends in silence, with the sheet marked clean.
 #pragma once
 
-void OpenSheet();            // asks first if the sheet has changed; then shows the file dialog
-void OpenSheetFromButton();  // Command4[0]
+#include <string>
+
+void OpenSheet();                             // asks first if the sheet has changed; then shows the file dialog
+void OpenSheetFromButton();                   // Command4[0]
+void OpenSheetFile(const std::string& path);  // the same for a file that is chosen already: without the dialog

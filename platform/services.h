@@ -35,7 +35,7 @@ struct FileQuestion {
     std::string filter;         // "DataFile(*.csv)|*.csv"
     std::string proposed_name;  // may be empty
     bool ask_before_overwriting = false;
-    std::string first_folder = {};  // where to begin if no name is proposed; empty: where the platform would
+    std::string first_folder = {};  // where to begin; empty: where the proposed name lies, or the platform would
 };
 
 class FileDialogs {
@@ -126,7 +126,7 @@ std::string ProgramFile(const std::string& parts);
 class CommonDialog {
 public:
     std::string FileName;
-    std::string first_folder;  // of the first file to be opened; empty: the platform's own
+    std::string first_folder;  // of the next file to be opened; empty: that of the last file, or the platform's own
     bool AskForSaving();       // false: cancelled, and FileName is as it was
     bool AskForOpening();
 

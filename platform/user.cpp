@@ -228,6 +228,10 @@ void Spin(UpDown& arrows, bool up) {
     (up ? arrows.UpClick : arrows.DownClick).Raise();
 }
 
+void DropFile(Window& window, const std::string& path) {
+    if (window.Visible() && window.Enabled()) window.FileDropped.Raise(path);
+}
+
 void ResizeWindow(Window& window, int width, int height) {
     if (!window.Visible() || !window.Enabled()) return;
     constexpr int kLargest = 1'000'000;  // twips: no screen is as large

@@ -52,4 +52,5 @@ void PressTab(TabControl& tabs, int tab);
 void SlideTo(RangeControl& range, int value);
 void Spin(UpDown& arrows, bool up);
 void ResizeWindow(Window& window, int width, int height);
-void CloseWindow(Window& window);  // by its frame
+void DropFile(Window& window, const std::string& path);  // nothing if the window takes no input
+void CloseWindow(Window& window);                        // by its frame

@@ -34,10 +34,11 @@ public:
     bool resizable = false;      // the user's size is the window's own; otherwise a larger window is the same one, enlarged
     Event<> Loaded;              // raised once by Load
     Event<> Unloading;
-    Event<> Activated;    // it has become the active window
-    Event<> FocusGiven;   // by a screen reader, to a control that it does not press
-    Event<> FrameClosed;  // the user closes it by its frame; if nothing is joined, it is just unloaded
-    Event<> Resized;      // by the user, or by SetSize
+    Event<> Activated;                      // it has become the active window
+    Event<> FocusGiven;                     // by a screen reader, to a control that it does not press
+    Event<> FrameClosed;                    // the user closes it by its frame; if nothing is joined, it is just unloaded
+    Event<> Resized;                        // by the user, or by SetSize
+    Event<const std::string&> FileDropped;  // by the user onto it: the path. A window that joins nothing takes none
     Event<int> KeyDown;
     Event<int> KeyUp;
     Event<Mouse> MouseDown;

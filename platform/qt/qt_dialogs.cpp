@@ -171,9 +171,10 @@ std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
     if (folder_.isEmpty()) folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();
     const bool has_folder = proposed.isAbsolute() && proposed.dir().exists();
-    const QString first = QFileInfo(SystemPath(question.first_folder)).isDir() ? SystemPath(question.first_folder) : folder_;
+    const QString first = SystemPath(question.first_folder);
+    const QString folder = QFileInfo(first).isDir() ? first : has_folder ? proposed.path() : folder_;
 
-    FileBox dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), has_folder ? proposed.path() : first);
+    FileBox dialog(opens.Parent(), saves ? QStringLiteral("Save as") : QStringLiteral("Open"), folder);
     dialog.setFont(opens.Font());
     dialog.resize(kSizeInLines * QFontMetrics(opens.Font()).height());
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -181,7 +182,8 @@ std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
     dialog.setNameFilter(NameFilter(question.filter));
     dialog.setDefaultSuffix(Suffix(question.filter));
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.ask_before_overwriting);
-    if (!proposed.fileName().isEmpty() && (saves || proposed.exists())) dialog.selectFile(proposed.fileName());
+    const QString name = proposed.fileName();
+    if (!name.isEmpty() && (saves || QDir(folder).exists(name))) dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QString path = dialog.selectedFiles().constFirst();
     folder_ = QFileInfo(path).path();

@@ -2,8 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QMetaObject>
+#include <QMimeData>
 #include <QPainter>
 #include <QScreen>
+#include <QUrl>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
@@ -51,6 +55,7 @@ WindowWidget::WindowWidget(Window& window, UserEvents& events)
     : window_(window), events_(events), frame_(0, kTitleBar, 0, 0), ground_(new QWidget(this)), veil_(new Veil(this, window, events)) {
     menus_ = std::make_unique<MenuView>(window, *this, events);
     setContextMenuPolicy(Qt::PreventContextMenu);
+    setAcceptDrops(window_.FileDropped.IsJoined());
     ground_->setMouseTracking(true);
     ground_->installEventFilter(this);
     resize_soon_.setSingleShot(true);
@@ -300,6 +305,25 @@ bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
             MoveMouseOverWindow(window_, at);
     });
     return true;
+}
+
+namespace {
+// The one file of this computer that is dragged; empty: it is something else.
+QString FileDragged(const QMimeData& dragged) {
+    const QList<QUrl> urls = dragged.urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+}  // namespace
+
+void WindowWidget::dragEnterEvent(QDragEnterEvent* event) {
+    if (window_.Enabled() && !FileDragged(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+// When the drop is over: a question that comes up in it would hold up the program that the file comes from.
+void WindowWidget::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    const auto tell = [this, path = FromQt(FileDragged(*event->mimeData()))] { events_.Run([&] { DropFile(window_, path); }); };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void WindowWidget::paintEvent(QPaintEvent*) {

@@ -222,6 +222,32 @@ TEST_F(OpenSheetTest, ATotalBeyondTheCurveOpens) {
     EXPECT_GT(AllTotal, 2147400000);
 }
 
+TEST_F(OpenSheetTest, TheDialogBeginsInTheFolderOfTheSheet) {
+    ASSERT_TRUE(Open(Joined(DataSheet(1)), "/lake/mere.csv"));
+    EXPECT_EQ(services_.dialogs.asked.back().first_folder, "") << "no sheet had one";
+    AnswerDialog("/elsewhere/history.csv");
+    ClickControl(frmMain.mnuSaveHistory);
+    CancelDialog();
+    OpenSheet();
+    EXPECT_EQ(services_.dialogs.asked.back().first_folder, "/lake");
+}
+
+TEST_F(OpenSheetTest, AFileThatIsChosenAlreadyIsOpenedAsByTheDialog) {
+    ASSERT_TRUE(Open(DataSheet(1)));
+    KeyNumber(1);
+    files_.bytes["/bog/bog.csv"] = Joined(DataSheet(3));
+    const std::size_t asked = services_.dialogs.asked.size();
+    services_.messages.answers = {Answer::No};
+    OpenSheetFile("/bog/bog.csv");
+    EXPECT_EQ(SampleCount, 1);
+    SheetClean = false;
+    services_.messages.answers = {Answer::Yes};
+    OpenSheetFile("/bog/bog.csv");
+    EXPECT_EQ(SampleCount, 3);
+    EXPECT_EQ(HistoryLog.back(), "(Open) /bog/bog.csv");
+    EXPECT_EQ(services_.dialogs.asked.size(), asked);
+}
+
 TEST_F(OpenSheetTest, AnUnchangedSheetIsGivenUpWithoutAQuestion) {
     ASSERT_TRUE(Open(DataSheet(2)));
     ASSERT_TRUE(Open(DataSheet(1)));

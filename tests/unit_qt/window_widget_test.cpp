@@ -1,14 +1,18 @@
 // Where windows come up, and how large.
 #include "platform/qt/window_widget.h"
 
+#include <QDropEvent>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
+#include <QUrl>
 
 #include "diagram/open_diagram.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
+#include "unit/sheet_file.h"
 #include "unit_qt/on_screen_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
@@ -119,6 +123,38 @@ TEST_F(WindowWidgetTest, ADiagramTooLargeForTheScreenIsShownSmallerAndKeepsItsSi
     EXPECT_EQ(Pixels(frmDiagram, Widget(frmDiagram).Factor()), Widget(frmDiagram).Ground()->size());
     Do([] { ResizeWindow(frmDiagram, kDiagramWidth, kDiagramHeight); });
     EXPECT_EQ(Widget(frmDiagram).Factor(), usual);
+}
+
+TEST_F(WindowWidgetTest, ASheetThatIsDroppedIsOpened) {
+    files_.bytes["/sheets/mere.csv"] = Joined(DataSheet(2));
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile("/sheets/mere.csv")});
+    const auto drop = [&](Window& window) {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QApplication::sendEvent(&Widget(window), &enter);
+        if (!enter.isAccepted()) return false;
+        QDropEvent let_go(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&Widget(window), &let_go);
+        Do([] {});
+        return true;
+    };
+    EXPECT_FALSE(drop(frmMain)) << "the start face waits";
+    ASSERT_TRUE(drop(frmNext));
+    EXPECT_EQ(SheetPath, "/sheets/mere.csv");
+    EXPECT_EQ(SampleCount, 2);
+    files_.bytes["/sheets/bog.csv"] = Joined(DataSheet(3));
+    dragged.setUrls({QUrl::fromLocalFile("/sheets/bog.csv")});
+    ASSERT_TRUE(drop(frmMain));
+    EXPECT_EQ(SampleCount, 3);
+    Do([] { ClickControl(frmMain.Command3[0]); });
+    dragged.setUrls({QUrl::fromLocalFile("/sheets/mere.csv")});
+    drop(frmMain);
+    EXPECT_EQ(SampleCount, 3) << "Modify takes no other sheet, nor does its Open";
+    dragged.setUrls({QUrl("https://marlbrook.example/a.csv")});
+    EXPECT_FALSE(drop(frmMain));
+    dragged.setUrls({QUrl::fromLocalFile("/sheets/mere.csv"), QUrl::fromLocalFile("/sheets/bog.csv")});
+    EXPECT_FALSE(drop(frmMain));
 }
 
 TEST_F(WindowWidgetTest, TheStartFaceGrowsAroundItsMiddleAndStaysOnTheScreen) {
