@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <string>
 
 #include "events/join.h"
 #include "files/new_sheet.h"
@@ -33,6 +34,12 @@ void JoinParam(TextBox& value) {
     value.LostFocus.Calls([&value] { RestoreDashes(value); });
     JoinGuardedKeys(value);
     value.Change.Calls([&value] { RefuseQuotationMark(value); });
+}
+
+// With the separators of the system. By UTF-8, which is not what a program for Windows takes a plain string for.
+std::string AsSystemWritesIt(const std::string& path) {
+    const std::u8string native = std::filesystem::path(std::u8string(path.begin(), path.end())).make_preferred().u8string();
+    return {native.begin(), native.end()};
 }
 
 template <class AboutWindow>
@@ -107,8 +114,7 @@ void JoinSubtotalEvents(SubtotalWindow& window) {
 void JoinAboutEvents(AboutProgramWindow& program, AboutKeypadWindow& keypad) {
     JoinAbout(program);
     JoinAbout(keypad);
-    program.Loaded.Calls(
-        [&program] { program.FolderBox.SetText(std::filesystem::path(services.host->Folder()).make_preferred().string()); });
+    program.Loaded.Calls([&program] { program.FolderBox.SetText(AsSystemWritesIt(services.host->Folder())); });
 }
 
 void JoinNoteEvents(NoteWindow& window) {

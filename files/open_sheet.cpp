@@ -1,7 +1,6 @@
 #include "files/open_sheet.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -206,7 +205,8 @@ bool ReplaceSheet(const std::string& path, CellReader& cells, ProgressBar& bar) 
 
 // Where the sheets of the work in hand lie, whatever was exported in between to elsewhere.
 std::string FolderOf(const std::string& path) {
-    return std::filesystem::path(path).parent_path().string();
+    const std::size_t end = path.find_last_of("/\\");
+    return end == std::string::npos ? "" : path.substr(0, end);
 }
 
 using Choice = std::function<bool(CommonDialog&)>;  // leaves the file in FileName; false: cancelled

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QDropEvent>
 #include <QMetaObject>
 #include <QMimeData>
@@ -308,10 +309,10 @@ bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
 }
 
 namespace {
-// The one file of this computer that is dragged; empty: it is something else.
+// The one file of this computer that is dragged, as the system writes its path; empty: it is something else.
 QString FileDragged(const QMimeData& dragged) {
     const QList<QUrl> urls = dragged.urls();
-    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    return urls.size() == 1 ? QDir::toNativeSeparators(urls.front().toLocalFile()) : QString();
 }
 }  // namespace
 
