@@ -59,9 +59,7 @@ void JoinNextEvents(NextWindow& window) {
     window.FrameClosed.Calls(CloseNextByFrame);
     window.CreateButton.Click.Calls(ShowSampleFields);
     window.OpenButton.Click.Calls(OpenSheet);
-    window.FileDropped.Calls([&window](const std::string& path) {
-        if (window.OpenButton.IsUsable()) OpenSheetFile(path);
-    });
+    JoinDrop(window, window.OpenButton);
     window.ManualButton.Click.Calls([] { services.host->ShowManual(); });
     window.OkButton.Click.Calls(AcceptSample);
     window.CancelButton.Click.Calls(CancelSample);

@@ -22,4 +22,5 @@ void JoinNoteEvents(NoteWindow& window);
 void JoinPictureEvents(PictureWindow& window);
 void JoinDiagramEvents(DiagramWindow& window);
 
-void JoinGuardedKeys(TextBox& box);  // its keys are noted for the guard against quotation marks
+void JoinGuardedKeys(TextBox& box);                 // its keys are noted for the guard against quotation marks
+void JoinDrop(Window& window, const Button& open);  // a sheet that is dropped onto it is opened, where the button could be pressed

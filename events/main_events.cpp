@@ -166,9 +166,7 @@ void JoinCommands(MainWindow& window) {
     window.mnuFinishAmend.Click.Calls(LeaveModifyMode);
     window.mnuNew.Click.Calls(NewSheet);
     window.mnuOpen.Click.Calls(OpenSheet);
-    window.FileDropped.Calls([&window](const std::string& path) {
-        if (window.OpenButton.IsUsable()) OpenSheetFile(path);
-    });
+    JoinDrop(window, window.OpenButton);
     window.mnuTemplate.Click.Calls(CreateTemplate);
     window.mnuSaveHistory.Click.Calls(SaveHistory);
     window.ResetButton.Click.Calls(AbortCount);
