@@ -11,6 +11,9 @@
 #include "platform/qt/open_files.h"
 #include "platform/qt/qt_hands.h"
 #endif
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -47,8 +50,14 @@ int Complain(const std::string& sentence) {
 // Beside the folder of the driver, whether that is installed or lies where it was built.
 fs::path InstallationTree(const char* program) {
     std::error_code ignored;
+#ifdef _WIN32
+    wchar_t name[MAX_PATH];
+    const bool is_told = GetModuleFileNameW(nullptr, name, MAX_PATH) < MAX_PATH;
+    const fs::path driver = is_told ? name : fs::absolute(program, ignored);
+#else
     fs::path driver = fs::canonical("/proc/self/exe", ignored);
     if (driver.empty()) driver = fs::absolute(program, ignored);
+#endif
     const fs::path above = driver.parent_path().parent_path();
     const fs::path installed = above / "share" / "marlbrook";
     return fs::is_directory(installed, ignored) ? installed : above / "tree";
