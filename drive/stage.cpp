@@ -35,6 +35,14 @@ void RemoveContents(const fs::path& folder) {
     for (const auto& entry : fs::directory_iterator(folder)) fs::remove_all(entry.path());
 }
 
+// Entry by entry: the library for Windows takes any two folders of one disk for the same, and copies none on the other.
+void CopyContents(const fs::path& from, const fs::path& to, std::error_code& error) {
+    for (const auto& entry : fs::directory_iterator(from)) {
+        fs::copy(entry.path(), to / entry.path().filename(), fs::copy_options::recursive, error);
+        if (error) return;
+    }
+}
+
 std::vector<std::string> ReadLines(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     std::vector<std::string> lines;
@@ -99,7 +107,7 @@ void Folders::LayFresh() const {
     std::error_code error;
     do {  // a signal, such as a timer's, may break it off
         LayEmpty();
-        fs::copy(tree_, program_, fs::copy_options::recursive, error);
+        CopyContents(tree_, program_, error);
     } while (error == std::errc::interrupted);
     if (error) throw fs::filesystem_error("cannot copy", tree_, program_, error);
 }
