@@ -209,7 +209,12 @@ TEST_P(WriteFaultsTest, ARealDiskThatRefusesIsTheSameToTheUser) {
 
     const fs::path file = DiskPath(Path());
     fs::create_directories(file.parent_path());
-    for (const bool full : {true, false}) {
+#ifdef _WIN32
+    const std::vector<bool> kinds{false};  // there is no device that is always full
+#else
+    const std::vector<bool> kinds{true, false};
+#endif
+    for (const bool full : kinds) {
         if (full)
             fs::create_symlink("/dev/full", file);
         else
