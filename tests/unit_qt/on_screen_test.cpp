@@ -47,9 +47,11 @@ Screens::Screens(const QList<QRect>& places) {
     QFile file(folder_.filePath("screens"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QJsonDocument(QJsonObject{{"screens", screens}}).toJson());
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+    QDir::setCurrent(folder_.path());  // a whole path may have a colon, where the toolkit would part it
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens");
 }
 
 Screens::~Screens() {
+    QDir::setCurrent(before_);
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }

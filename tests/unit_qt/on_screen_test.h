@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QList>
 #include <QRect>
 #include <QTemporaryDir>
@@ -44,4 +45,5 @@ protected:
 
 private:
     QTemporaryDir folder_;
+    QString before_ = QDir::currentPath();
 };
