@@ -17,6 +17,7 @@
 
 #ifdef Q_OS_WIN
 #include <io.h>
+#include <windows.h>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -28,6 +29,18 @@ bool FlushToDisk(const QFile& file) {
     return _commit(file.handle()) == 0;
 #else
     return fsync(file.handle()) == 0;
+#endif
+}
+
+// A file that its folder shows. Windows takes `CON.csv` for a device in any folder, and `a:b.csv` for a hidden part of the file `a`.
+bool IsNameOfFile([[maybe_unused]] const QString& path) {
+#ifdef Q_OS_WIN
+    const std::wstring name = QDir::toNativeSeparators(path).toStdWString();
+    std::wstring taken_for(GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L' ');
+    GetFullPathNameW(name.c_str(), static_cast<DWORD>(taken_for.size()), taken_for.data(), nullptr);
+    return !taken_for.starts_with(LR"(\\.\)") && !QFileInfo(path).fileName().contains(u':');
+#else
+    return true;
 #endif
 }
 
@@ -49,7 +62,7 @@ class QtOutputFile : public OutputFile {
 public:
     explicit QtOutputFile(const QString& path) : file_(path) {
         const bool is_new = !file_.exists();
-        if (!file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) throw Failure(kFileError);
+        if (!IsNameOfFile(path) || !file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) throw Failure(kFileError);
         if (is_new) FlushFolderOf(QFileInfo(file_).filesystemFilePath());
     }
 
@@ -83,7 +96,7 @@ QString SystemPath(const std::string& path) {
 std::string QtFiles::ReadHead(const std::string& path, std::size_t most) {
     const QFileInfo info(SystemPath(path));
     QFile file(info.filePath());
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) throw Failure(kFileError);
+    if (!IsNameOfFile(info.filePath()) || !info.isFile() || !file.open(QIODevice::ReadOnly)) throw Failure(kFileError);
     const QByteArray bytes = file.read(static_cast<qint64>(most));
     if (file.error() != QFileDevice::NoError) throw Failure(kFileError);
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};

@@ -14,6 +14,8 @@
 #include <unistd.h>
 
 #include "unit_qt/file_size_limit.h"
+#elif defined(Q_OS_WIN)
+#include <windows.h>
 #endif
 
 namespace {
@@ -159,6 +161,34 @@ TEST_F(QtFilesTest, WhatIsNoOrdinaryFileOrFarTooLargeIsNotRead) {
 #endif
     for (const char* name : {"huge.csv", device, "."}) EXPECT_THROW(files_.ReadAll(Path(name)), Failure) << name;
 }
+
+#ifdef Q_OS_WIN
+TEST_F(QtFilesTest, ANameThatWindowsTakesForSomethingElseIsAFileError) {
+    for (const char* name : {"CON.csv", "nul.csv", "com1.csv", "a:b.csv"}) {
+        EXPECT_THROW(files_.OpenForWriting(Path(name)), Failure) << name;
+        EXPECT_THROW(files_.ReadAll(Path(name)), Failure) << name;
+    }
+    EXPECT_TRUE(QDir(folder_.path()).isEmpty());
+    files_.OpenForWriting(Path("CONIFERS.csv"))->Replace("x");
+    EXPECT_EQ(files_.ReadAll(Path("CONIFERS.csv")), "x");
+}
+
+TEST_F(QtFilesTest, AFileThatAnotherProgramHoldsIsAFileErrorUntilItLetsGo) {
+    files_.OpenForWriting(Path("a.csv"))->Replace("old");
+    for (const DWORD shared : {FILE_SHARE_READ, 0}) {
+        const HANDLE held = CreateFileA(Path("a.csv").c_str(), GENERIC_READ | GENERIC_WRITE, shared, nullptr, OPEN_EXISTING, 0, nullptr);
+        ASSERT_NE(held, INVALID_HANDLE_VALUE);
+        EXPECT_THROW(files_.OpenForWriting(Path("a.csv")), Failure) << shared;
+        if (shared == FILE_SHARE_READ)
+            EXPECT_EQ(files_.ReadAll(Path("a.csv")), "old");
+        else
+            EXPECT_THROW(files_.ReadAll(Path("a.csv")), Failure);
+        CloseHandle(held);
+    }
+    files_.OpenForWriting(Path("a.csv"))->Replace("new");
+    EXPECT_EQ(files_.ReadAll(Path("a.csv")), "new");
+}
+#endif
 
 class QtWholeFilesTest : public QtFilesTest {
     char name_[5] = "test";
