@@ -19,11 +19,21 @@ CompilersLibrary(libssp-0.dll)
 CompilersLibrary(libstdc++-6.dll)
 CompilersLibrary(libwinpthread-1.dll)
 
+set(PLUGINS platforms/qwindows styles/qwindowsvistastyle imageformats/qjpeg imageformats/qsvg iconengines/qsvgicon)
+
+# What the build makes runs where it lies, the tests on their screen in memory too.
+add_custom_target(libraries_beside_programs ALL
+  COMMAND "${CMAKE_COMMAND}" -E copy_if_different $<TARGET_RUNTIME_DLLS:marlbrook> ${COMPILERS_LIBRARIES} "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
+  COMMAND_EXPAND_LISTS VERBATIM)
+foreach(plugin ${PLUGINS} platforms/qoffscreen)
+  configure_file("${MARLBROOK_WINDOWS_SDK}/plugins/${plugin}.dll" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${plugin}.dll" COPYONLY)
+endforeach()
+
 # LayProgram(FOLDER WHAT...): the program, its libraries with their licences, and the toolkit's plug-ins, in this folder of what is installed.
 function(LayProgram folder)
   install(TARGETS marlbrook RUNTIME DESTINATION "${folder}" ${ARGN})
   install(FILES $<TARGET_RUNTIME_DLLS:marlbrook> ${COMPILERS_LIBRARIES} DESTINATION "${folder}" ${ARGN})
-  foreach(plugin platforms/qwindows styles/qwindowsvistastyle imageformats/qjpeg imageformats/qsvg iconengines/qsvgicon)
+  foreach(plugin ${PLUGINS})
     get_filename_component(kind ${plugin} DIRECTORY)
     install(FILES "${MARLBROOK_WINDOWS_SDK}/plugins/${plugin}.dll" DESTINATION "${folder}/${kind}" ${ARGN})
   endforeach()
