@@ -98,6 +98,19 @@ class InstalledTest(unittest.TestCase):
         self.assertTrue(saved[1].endswith('"Sample name","10","20"'), saved[1])
         self.assertEqual([row.rsplit(",", 2)[1:] for row in saved[2:5]], [["3", "1"], ["3", "1"], ["3", "0"]])
 
+    def test_a_second_start_is_refused_and_the_first_counts_on(self):
+        self.start()
+        self.program.begin("10")
+        second = Installed(self.computer)
+        wait_for("its message", lambda: self.computer.desk.windows("Marlbrook"))
+        second.activate("Marlbrook")
+        second.answer("Marlbrook", ENTER)
+        second.wait_for_end()
+        self.assertEqual(second.process.returncode, 0)
+        self.program.activate(MAIN)
+        self.program.press(PAD[0])
+        self.program.wait_rescue(1)
+
 
 if __name__ == "__main__":
     unittest.main()
