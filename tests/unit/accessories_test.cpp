@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "platform/failure.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
@@ -121,7 +123,7 @@ TEST_F(AccessoriesTest, TheAboutBoxIsInThreeColours) {
 TEST_F(AccessoriesTest, TheAboutBoxTellsWhereTheProgramKeepsItsThings) {
     Begin("10");
     ClickControl(frmMain.mnuAboutMB1);
-    EXPECT_EQ(frmAboutMB1.Text1.Text(), "/program");
+    EXPECT_EQ(frmAboutMB1.Text1.Text(), std::filesystem::path("/program").make_preferred().string());
     EXPECT_FALSE(frmAboutMB1.Text1.Enabled());
 }
 
