@@ -10,10 +10,12 @@ namespace {
 constexpr std::time_t kYear10000 = 253'402'300'800;
 constexpr std::time_t kDay = 24 * 60 * 60;
 
+#ifndef _WIN32  // whose calendar ends with the year 3000
 TEST(SystemClockTest, AYearMayHaveMoreThanFourDigits) {
     EXPECT_EQ(LocalTime(kYear10000 + 14 * kDay, "in %m/%Y"), "in 01/10000");
     EXPECT_EQ(LocalTime(kYear10000 + 14 * kDay + 2'000'000'000 * std::time_t{366} * kDay, "%Y").size(), 10u);
 }
+#endif
 
 TEST(SystemClockTest, BeyondTheCalendarThereIsNoText) {
     for (const std::time_t moment : {std::numeric_limits<std::time_t>::min(), std::numeric_limits<std::time_t>::max()})
