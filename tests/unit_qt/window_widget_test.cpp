@@ -1,6 +1,7 @@
 // Where windows come up, and how large.
 #include "platform/qt/window_widget.h"
 
+#include <QDir>
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMimeData>
@@ -126,9 +127,10 @@ TEST_F(WindowWidgetTest, ADiagramTooLargeForTheScreenIsShownSmallerAndKeepsItsSi
 }
 
 TEST_F(WindowWidgetTest, ASheetThatIsDroppedIsOpened) {
-    files_.bytes["/sheets/mere.csv"] = Joined(DataSheet(2));
+    const QString mere = QDir::toNativeSeparators("/sheets/mere.csv"), bog = QDir::toNativeSeparators("/sheets/bog.csv");
+    files_.bytes[FromQt(mere)] = Joined(DataSheet(2));
     QMimeData dragged;
-    dragged.setUrls({QUrl::fromLocalFile("/sheets/mere.csv")});
+    dragged.setUrls({QUrl::fromLocalFile(mere)});
     const auto drop = [&](Window& window) {
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
         enter.ignore();
@@ -141,19 +143,19 @@ TEST_F(WindowWidgetTest, ASheetThatIsDroppedIsOpened) {
     };
     EXPECT_FALSE(drop(frmMain)) << "the start face waits";
     ASSERT_TRUE(drop(frmNext));
-    EXPECT_EQ(SheetPath, "/sheets/mere.csv");
+    EXPECT_EQ(SheetPath, FromQt(mere));
     EXPECT_EQ(SampleCount, 2);
-    files_.bytes["/sheets/bog.csv"] = Joined(DataSheet(3));
-    dragged.setUrls({QUrl::fromLocalFile("/sheets/bog.csv")});
+    files_.bytes[FromQt(bog)] = Joined(DataSheet(3));
+    dragged.setUrls({QUrl::fromLocalFile(bog)});
     ASSERT_TRUE(drop(frmMain));
     EXPECT_EQ(SampleCount, 3);
     Do([] { ClickControl(frmMain.Command3[0]); });
-    dragged.setUrls({QUrl::fromLocalFile("/sheets/mere.csv")});
+    dragged.setUrls({QUrl::fromLocalFile(mere)});
     drop(frmMain);
     EXPECT_EQ(SampleCount, 3) << "Modify takes no other sheet, nor does its Open";
     dragged.setUrls({QUrl("https://marlbrook.example/a.csv")});
     EXPECT_FALSE(drop(frmMain));
-    dragged.setUrls({QUrl::fromLocalFile("/sheets/mere.csv"), QUrl::fromLocalFile("/sheets/bog.csv")});
+    dragged.setUrls({QUrl::fromLocalFile(mere), QUrl::fromLocalFile(bog)});
     EXPECT_FALSE(drop(frmMain));
 }
 
