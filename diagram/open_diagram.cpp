@@ -34,7 +34,7 @@ void TakeUpSamples() {
     SetDiagramScale();
     TakeUpNames();
     frmDiagram.SelectedSample = CurrentSample;
-    frmDiagram.SampleSlider.SetRange(1, SampleCount);
+    frmDiagram.SampleSlider.SetRange(1, SampleCount == 1 ? 2 : SampleCount);
     frmDiagram.SampleSlider.SetValue(CurrentSample);
     FillSampleList();
 }

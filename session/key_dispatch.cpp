@@ -190,6 +190,7 @@ void CountKeyPress(int code) {
     frmMain.CountChannel.SetText(slot_text);  // its change applies the count
     DropTypedText();
     const int new_slot = static_cast<int>(Val(slot_text));
+    if (UndoList[0][kUndoSlot] != 0) PaintCell(new_slot, kWhite);  // a key that shifts too gets no highlight below
     if (!IsShiftKey(code)) PushOnUndoList(new_slot);
     const int slot = std::abs(UndoList[0][kUndoSlot]);
     if (slot == 0 || SampleUntouched || IsShiftOrUndoKey(code)) return;

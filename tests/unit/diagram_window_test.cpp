@@ -114,6 +114,12 @@ TEST_F(DiagramWindowTest, NoControlOverlapsAnotherNorLeavesTheWindow) {
     }
 }
 
+TEST_F(DiagramWindowTest, TheSliderOfOneSampleHasAWayToGo) {
+    Sheet({"10"}, {{1}});
+    frmDiagram.Load();
+    EXPECT_EQ(frmDiagram.Slider1.Max(), 2);
+}
+
 TEST_F(DiagramWindowTest, LastMoveStandsAtTheRightEdge) {
     Open(frmMain.mnuBar);
     for (const int width : {9735, 12000, 5000}) {

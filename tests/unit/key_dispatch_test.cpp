@@ -19,6 +19,17 @@ protected:
     }
 };
 
+TEST_F(KeyDispatchTest, AKeyThatShiftsAndCountsLeavesItsCellWhite) {
+    KeySettings[5][kKeyCode] = kShift1;
+    for (const bool counted_before : {false, true}) {
+        if (counted_before) KeyNumber(1);
+        for (TextBox* box : frmMain.Cell(50)) box->SetBackColor(kCounted);
+        PressKey(kShift1);
+        for (const TextBox* box : frmMain.Cell(50)) EXPECT_EQ(box->BackColor(), counted_before ? kWhite : kCounted) << counted_before;
+        ReleaseKey(kShift1);
+    }
+}
+
 TEST_F(KeyDispatchTest, TheFirstAndTheLastCounterKeyCountTheirSlots) {
     KeyNumber(1, 2);
     KeyNumber(45);
