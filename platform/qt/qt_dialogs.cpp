@@ -187,5 +187,5 @@ std::optional<std::string> QtFileDialogs::Ask(const FileQuestion& question) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QString path = dialog.selectedFiles().constFirst();
     folder_ = QFileInfo(path).path();
-    return FromQt(QDir::toNativeSeparators(path));
+    return ProgramPath(path);
 }

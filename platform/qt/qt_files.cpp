@@ -93,6 +93,10 @@ QString SystemPath(const std::string& path) {
     return QDir::fromNativeSeparators(ToQt(path));  // elsewhere than on Windows a `\` is a character like any other
 }
 
+std::string ProgramPath(const QString& path) {
+    return FromQt(QDir::toNativeSeparators(path));
+}
+
 std::string QtFiles::ReadHead(const std::string& path, std::size_t most) {
     const QFileInfo info(SystemPath(path));
     QFile file(info.filePath());

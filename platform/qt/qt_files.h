@@ -49,7 +49,8 @@ private:
     std::thread worker_;
 };
 
-QString SystemPath(const std::string& path);  // as the toolkit takes it
+QString SystemPath(const std::string& path);   // as the toolkit takes it
+std::string ProgramPath(const QString& path);  // the other way round: as the system writes it
 
 bool IsPicture(const std::string& bytes);      // by its head; what follows may yet be spoiled
 QImage ReadPicture(const std::string& bytes);  // null if it cannot be read

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDir>
 #include <QDropEvent>
 #include <QMetaObject>
 #include <QMimeData>
@@ -16,6 +15,7 @@
 
 #include "platform/qt/look.h"
 #include "platform/qt/menu_view.h"
+#include "platform/qt/qt_files.h"
 #include "platform/qt/shown_text.h"
 #include "platform/qt/views.h"
 #include "platform/qt/window_system.h"
@@ -309,21 +309,21 @@ bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
 }
 
 namespace {
-// The one file of this computer that is dragged, as the system writes its path; empty: it is something else.
-QString FileDragged(const QMimeData& dragged) {
+// The one file of this computer that is dragged; empty: it is something else.
+std::string FileDragged(const QMimeData& dragged) {
     const QList<QUrl> urls = dragged.urls();
-    return urls.size() == 1 ? QDir::toNativeSeparators(urls.front().toLocalFile()) : QString();
+    return urls.size() == 1 ? ProgramPath(urls.front().toLocalFile()) : std::string();
 }
 }  // namespace
 
 void WindowWidget::dragEnterEvent(QDragEnterEvent* event) {
-    if (window_.Enabled() && !FileDragged(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+    if (window_.Enabled() && !FileDragged(*event->mimeData()).empty()) event->acceptProposedAction();
 }
 
 // When the drop is over: a question that comes up in it would hold up the program that the file comes from.
 void WindowWidget::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    const auto tell = [this, path = FromQt(FileDragged(*event->mimeData()))] { events_.Run([&] { DropFile(window_, path); }); };
+    const auto tell = [this, path = FileDragged(*event->mimeData())] { events_.Run([&] { DropFile(window_, path); }); };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 

@@ -94,8 +94,11 @@ TEST_F(WindowWidgetTest, ADiagramThatFilledTheScreenFillsItAgain) {
     OpenDiagram();
     WindowWidget& diagram = Widget(frmDiagram);
     diagram.showMaximized();
-    for (int time = 0; time < 1000 && frmDiagram.Width() == kDiagramWidth; ++time) Do([] {});
-    ASSERT_GT(frmDiagram.Width(), kDiagramWidth);
+    const auto fills_it = [&] {
+        return frmDiagram.Width() > kDiagramWidth && Pixels(frmDiagram, diagram.Factor()) == diagram.Ground()->size();
+    };
+    for (int time = 0; time < 1000 && !fills_it(); ++time) Do([] {});
+    ASSERT_TRUE(fills_it());
     const QSize twips(frmDiagram.Width(), frmDiagram.Height());
     for (int time = 1; time <= 3; ++time) {
         OpenDiagramAgain();
