@@ -4,10 +4,10 @@ import os
 import unittest
 
 from computer import Computer, Installed, bare, installed
-from count_test import STAMP, expected_sheet
+from count_test import STAMP, count_thirty, expected_sheet
 from desk import MAIN, START
 from heard import Recording
-from keyboard import ALT, DOWN, ENTER, NAMED_KEY_CODES, NAMED_KEYS, PAD, SHIFT_1, SHIFT_2, UNDO, key_of
+from keyboard import ALT, DOWN, ENTER, NAMED_KEY_CODES, NAMED_KEYS, PAD, key_of
 from rescue_test import counts_in
 from spoken import wait_for
 
@@ -44,33 +44,9 @@ class InstalledTest(unittest.TestCase):
 
     def test_three_banks_undo_and_sounds(self):
         self.start()
-        program = self.program
-        program.begin("12.5")
-        recording = Recording(program.sound, program.folder / "Sound files")
-        sounds = ["Opening"]
-        recording.wait_for(sounds)
-
-        def press(codes, sound):  # a sound would cut off the one before: each is heard to its end
-            for code in codes:
-                program.press(code)
-                sounds.append(sound)
-                recording.wait_for(sounds)
-
-        press(PAD[:10], "Key-1")
-        program.hold(SHIFT_1)
-        press(PAD[10:20], "Key-2")
-        program.hold(SHIFT_2)
-        press(PAD[20:30], "Key-3")
-        program.release(SHIFT_1, SHIFT_2)
-        program.hold(UNDO)
-        press(PAD[:1], "Undo")
-        program.release(UNDO)
-        press(PAD[1:2], "Key-1")
-        press([UNDO], "Undo")
-        saved = program.save_as(self.computer.c / "core.csv")
-        recording.wait_for([*sounds, "Save"])
-        counts = {slot: 1 for slot in [*range(2, 11), *range(56, 66), *range(111, 121)]}
-        self.assertEqual(STAMP.sub(b"STAMP", saved), expected_sheet("C:\\core.csv", counts))
+        self.program.begin("12.5")
+        saved, counts = count_thirty(self.program, self.computer.c / "core.csv")
+        self.assertEqual(saved, expected_sheet("C:\\core.csv", counts))
 
     def test_a_hundred_is_heard_and_backed_up_and_the_next_sample_begins(self):
         self.start()

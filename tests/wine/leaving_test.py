@@ -2,15 +2,16 @@
 import time
 import unittest
 
+from asked_log_out import AskedLogOut
 from computer import Computer, Installed, installed
 from desk import START
-from keyboard import ALT, ENTER, PAD, SAVE, TAB, UP, key_of
+from keyboard import ALT, ENTER, PAD, TAB, UP, key_of
 from rescue_test import PROMISED, counts_in, counts_of
 
 ALL_PRESSED = {slot: 1 for slot in range(1, 13)}
 
 
-class LeavingTest(unittest.TestCase):
+class LeavingTest(AskedLogOut, unittest.TestCase):
     def setUp(self):
         self.computer = Computer(installed())
         self.addCleanup(self.computer.end)
@@ -36,17 +37,6 @@ class LeavingTest(unittest.TestCase):
         self.log_out()
         self.program.start()
         self.open_rescue()
-
-    def test_also_while_it_asks_whether_to_quit(self):
-        self.program.chord(ALT, key_of("f"))
-        self.program.press(UP, ENTER)  # Quit, the last one
-        self.program.window("Caution!")
-        self.log_out()
-
-    def test_also_while_it_asks_for_a_file(self):
-        self.program.press(SAVE)
-        self.program.window("Save as")
-        self.log_out()
 
     def test_a_killed_program_loses_two_seconds_at_the_most(self):
         time.sleep(PROMISED)
