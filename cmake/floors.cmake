@@ -31,3 +31,7 @@ add_floor(keys taxa)
 add_floor(diagram session)
 add_floor(files diagram)
 add_floor(events files keys)
+
+# The figure of a counted core, beside the counter: it reads sheets as the counter does, and has no window of its own.
+add_floor(figure/math)
+add_floor(figure/sheet diagram/data files/format)

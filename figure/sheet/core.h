@@ -1,0 +1,44 @@
+// A counted core as its figure and its tables need it: what the sheet says, by sample and by taxon, apart from all windows.
+#pragma once
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "sheet/sizes.h"
+
+// What percentages are taken of.
+enum Basis { kBasisAll, kBasisSubtotal1, kBasisSubtotal2, kBases };
+
+struct Taxon {
+    std::string name;
+    bool in_subtotal[kSubtotals] = {};
+    bool InsideSum(Basis basis) const { return basis == kBasisAll || in_subtotal[basis - kBasisSubtotal1]; }
+};
+
+struct Sample {
+    std::string name;                         // as the sheet has it
+    std::optional<double> depth;              // nothing if the name is no number
+    std::array<std::string, kParams> values;  // of Additional info, as typed; "---" for none
+    std::string note;
+    std::vector<std::int32_t> counts;                // [taxon], 0 or more
+    std::array<std::int64_t, kBases> sums{};         // [basis]
+    std::array<std::vector<double>, kBases> shares;  // [basis][taxon]: of the sum, 1 being 100 %; empty if that is 0
+};
+
+// Two neighbouring clusters of samples joined.
+struct TreeMerge {
+    double upper = 0, lower = 0;  // where the two stand on the axis: 0 is the uppermost sample, 1 the lowest
+    double height = 0;
+};
+
+struct Core {
+    std::string title;                              // the name of the file without its ending
+    std::array<std::string, kSubtotals> subtotals;  // their names
+    std::array<std::string, kParams> params;        // the names of Additional info
+    std::vector<Taxon> taxa;                        // the named and counted ones, in the order of the sheet's rows
+    std::vector<Sample> samples;                    // from the top down: by depth if all have one, else as in the sheet
+    std::array<std::vector<TreeMerge>, kBases>
+        trees;  // [basis]: the counter's own, in the order of joining; empty for less than two samples
+};
