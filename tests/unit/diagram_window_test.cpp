@@ -259,6 +259,8 @@ TEST_F(DiagramWindowTest, SteppingGoesRoundBothEnds) {
     EXPECT_EQ(frmDiagram.Slider1.Value(), 3);
     EXPECT_EQ(frmDiagram.Check1.Caption(), "40");
     EXPECT_EQ(frmDiagram.Combo2.Text(), "40");
+    Spin(frmDiagram.UpDown1, false);
+    EXPECT_EQ(frmDiagram.SelectedSample, 2) << "and from one sample to the next between them";
 }
 
 TEST_F(DiagramWindowTest, AKeyReleasedOnTheSliderBringsMarkerAndNameBack) {

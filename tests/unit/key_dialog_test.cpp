@@ -272,6 +272,16 @@ TEST_F(KeyDialogTest, TheFirstPairThatAgreesIsReported) {
     EXPECT_EQ(MessageCount(), 1u);
 }
 
+TEST_F(KeyDialogTest, BothBoxesOfAPairThatAgreesAreRed) {
+    Open();
+    frmKeyCode.Text1[7].SetText("q");
+    AcceptKeySettings();
+    constexpr Colour kRed{255, 0, 0};
+    EXPECT_EQ(frmKeyCode.Text1[1].ForeColor(), kRed);
+    EXPECT_EQ(frmKeyCode.Text1[7].ForeColor(), kRed);
+    EXPECT_EQ(frmKeyCode.Text1[2].ForeColor(), kBlack);
+}
+
 TEST_F(KeyDialogTest, WithoutSoundARefusalAndAGoodOkAreSilent) {
     Open();
     SoundOn = false;

@@ -6,6 +6,7 @@
 #include "platform/failure.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
+#include "windows/diagram_window.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -137,6 +138,13 @@ TEST_F(LeavingTest, QuitWarnsOnceAndNeverSaves) {
     EXPECT_FALSE(SoundOn);
     EXPECT_TRUE(services_.host.ended);
     EXPECT_EQ(files_.bytes.count("/sheets/Mere.csv"), 0u);
+}
+
+TEST_F(LeavingTest, QuitClosesTheOtherWindows) {
+    frmDiagram.Load();
+    AnswerNext(Answer::Yes);
+    ClickControl(frmMain.mnuQuit);
+    EXPECT_FALSE(frmDiagram.IsLoaded());
 }
 
 TEST_F(LeavingTest, QuitRefusedChangesNothing) {

@@ -51,6 +51,14 @@ TEST_F(ModifyModeTest, TheChosenSlotNumberIsNoLongerBoldAfterIt) {
     EXPECT_FALSE(frmMain.Label1[7].Bold());
 }
 
+TEST_F(ModifyModeTest, ResumeBringsTheFirstBankToTheFront) {
+    Modify();
+    PressTab(frmMain.SSTab1, 2);
+    ASSERT_EQ(frmMain.SSTab1.Tab(), 2);
+    Resume();
+    EXPECT_EQ(frmMain.SSTab1.Tab(), 0);
+}
+
 TEST_F(ModifyModeTest, ANameThatWasEditedInItIsItalicAfterIt) {
     Modify();
     frmMain.Text1[5].SetText("Alnus");

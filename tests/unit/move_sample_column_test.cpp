@@ -6,6 +6,7 @@
 #include "diagram/data/percentages.h"
 #include "platform/user.h"
 #include "unit/sheet_test.h"
+#include "windows/diagram_window.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -94,6 +95,13 @@ TEST_F(MoveSampleColumnTest, ToItsOwnPlaceItDoesNothingAtAll) {
     EXPECT_FALSE(frmMain.Command5[0].Enabled());
     EXPECT_EQ(frmMain.Combo2.Text(), "as it was");
     EXPECT_EQ(Counts[1][2], 16777217);
+}
+
+TEST_F(MoveSampleColumnTest, ADiagramThatIsClosedIsNotDrawn) {
+    Fill(3);
+    Move(1, 3);
+    EXPECT_TRUE(frmDiagram.Combo2.List().empty());
+    EXPECT_TRUE(frmDiagram.Picture1.Operations().empty());
 }
 
 TEST_F(MoveSampleColumnTest, TheSampleOnShowStaysOnShowWhenItIsTheOneThatMoves) {

@@ -2,6 +2,7 @@
 
 #include "files/save_sheet.h"
 #include "platform/user.h"
+#include "unit/diagram_test.h"
 #include "unit/open_test.h"
 #include "windows/diagram_window.h"
 #include "windows/main_window.h"
@@ -37,6 +38,22 @@ TEST_F(NewSheetTest, AYesWipesTheSession) {
     EXPECT_TRUE(SheetClean);
     EXPECT_FALSE(frmMain.ProgressBar1.Visible());
     EXPECT_TRUE(frmMain.SSTab1.Visible());
+}
+
+TEST_F(NewSheetTest, TheBarRunsOnceFromEndToEnd) {
+    const BarWatch bar;
+    AnswerNext(Answer::Yes);
+    NewSheet();
+    ASSERT_EQ(bar.seen.size(), 100u);
+    EXPECT_EQ(bar.seen.front(), "1 of 100");
+    EXPECT_EQ(bar.seen.back(), "100 of 100");
+}
+
+TEST_F(NewSheetTest, RowsOfAnOddFileAreForgotten) {
+    RowOfSlot[0] = 3;  // of a row whose key index is 0
+    AnswerNext(Answer::Yes);
+    NewSheet();
+    EXPECT_EQ(RowOfSlot[0], 0);
 }
 
 TEST_F(NewSheetTest, ANoChangesNothing) {

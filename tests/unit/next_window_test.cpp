@@ -4,6 +4,7 @@
 #include "platform/user.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
+#include "windows/name_windows.h"
 
 namespace {
 class NextWindowTest : public SheetTest {
@@ -91,6 +92,19 @@ TEST_F(NextWindowTest, WithMoreThanOneSampleTheNameHasTheFocusAtOnce) {
     NextSample("20");
     KeyNumber(1);
     ClickControl(frmMain.Command5[1]);
+    EXPECT_EQ(frmNext.Focus(), &frmNext.Text1);
+}
+
+TEST_F(NextWindowTest, WithMoreThanOneSampleTheNameHasTheFocusAgainAfterARename) {
+    Begin("10");
+    KeyNumber(1);
+    NextSample("20");
+    KeyNumber(1);
+    ClickControl(frmMain.mnuNext);
+    ClickControl(frmNext.Command5[2]);
+    ASSERT_EQ(ActiveWindow(), &frmParaName);
+    CloseWindow(frmParaName);
+    ASSERT_EQ(ActiveWindow(), &frmNext);
     EXPECT_EQ(frmNext.Focus(), &frmNext.Text1);
 }
 
