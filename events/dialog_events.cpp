@@ -9,6 +9,7 @@
 #include "platform/services.h"
 #include "session/focus.h"
 #include "session/sound.h"
+#include "session/start_up.h"
 #include "session/state/sheet_state.h"
 #include "taxa/dialogs.h"
 #include "taxa/edit_boxes.h"
@@ -53,6 +54,7 @@ void JoinAbout(AboutWindow& window) {
 void JoinNextEvents(NextWindow& window) {
     window.Loaded.Calls([] {
         LoadNextWindow();
+        SayIfWaveIsBroken();
         SayIfSilent();
     });
     window.Activated.Calls(BringNextToFront);

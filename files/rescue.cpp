@@ -152,7 +152,8 @@ void Rescue::Offer() {
     if (copies.empty()) return;
     const Left& last = copies.front();
     const std::string more = copies.size() > 1 ? ", and " + std::to_string(copies.size() - 1) + " more" : "";
-    frmNext.TellOnStartFace("A session of " + last.time + " ended by itself: " + last.name + " in Back up files holds it" + more);
+    frmNext.TellOnStartFace(StartNews::LostSession,
+                            "A session of " + last.time + " ended by itself: " + last.name + " in Back up files holds it" + more);
     frmMain.FileDialog.first_folder = ProgramFile(kFolder);
     told_ = PathOf(last.name);
 }

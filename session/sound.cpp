@@ -10,8 +10,7 @@
 
 namespace {
 void SaySilent() {
-    if (!frmNext.IsLoaded() || frmNext.TellsOnStartFace()) return;  // of something graver
-    frmNext.TellOnStartFace("No sound device: keys count without a sound");
+    if (frmNext.IsLoaded()) frmNext.TellOnStartFace(StartNews::NoSoundDevice, "No sound device: keys count without a sound");
 }
 
 // Those whose "Set alarm" is chosen.

@@ -1,5 +1,6 @@
 #include "session/start_up.h"
 
+#include <algorithm>
 #include <string>
 
 #include "keys/settings/key_settings.h"
@@ -12,6 +13,7 @@
 #include "session/totals.h"
 #include "windows/key_windows.h"
 #include "windows/main_window.h"
+#include "windows/next_window.h"
 #include "windows/pad_places.h"
 #include "windows/picture_window.h"
 
@@ -188,4 +190,11 @@ void InitialiseSheet() {
     KeySettingsLoaded = true;
     AskForKeyboardIfUnknown();
     frmMain.mnuFavorite.SetEnabled(TryLoadFavoritePicture());
+}
+
+void SayIfWaveIsBroken() {
+    if (!SoundOn) return;
+    const auto broken = std::ranges::find_if(kWaveFiles, [](const WaveFile& file) { return !IsPlayableWave(file.wave->bytes); });
+    if (broken == std::end(kWaveFiles)) return;
+    frmNext.TellOnStartFace(StartNews::BrokenWave, std::string(broken->name) + " is no wave of the kinds that are played: it stays silent");
 }

@@ -8,3 +8,5 @@ void LoadMainWindow(MainWindow& window);
 // at the start, at "New data sheet" and when an open fails on a doubled key index. A missing key settings file or wave gives one
 // message each, and the program goes on: without settings by the built-in keys, without a wave silently.
 void InitialiseSheet();
+
+void SayIfWaveIsBroken();  // on the start face, of the first of the eight waves that is of no kind that is played

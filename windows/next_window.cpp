@@ -11,7 +11,6 @@ constexpr Style kTitle{.points = 16, .bold = true};
 constexpr Style kQuiet{.fore = {90, 98, 106}};
 constexpr Style kDrawing{.back = kFormColour, .tab_stop = false};
 constexpr Colour kWarning{176, 48, 32};
-constexpr const char* kPurpose = "Counting under the microscope, by key and by ear";
 constexpr int kLine = 280;  // the heights of one and two lines of text
 constexpr int kTwoLines = 440;
 constexpr int kBoxLeft = 2900;
@@ -23,7 +22,7 @@ NextWindow::NextWindow() : Window("frmNext", "Marlbrook 2.7", kNextWidth, kStart
         {Frame2, "Frame2", nullptr, {0, 0, kNextWidth, kStartFaceHeight}, "", kPlain, "Start"},
         {Picture1, "Picture1", &Frame2, {240, 280, 2000, 2000}, "", kDrawing, "A pollen grain"},
         {Label5[0], {"Label5", 0}, &Frame2, {2600, 220, 3300, 460}, "Marlbrook 2.7", kTitle},
-        {Label5[1], {"Label5", 1}, &Frame2, {2600, 700, 4300, kLine}, kPurpose, kQuiet},
+        {Label5[1], {"Label5", 1}, &Frame2, {2600, 700, 4300, kLine}, "Counting under the microscope, by key and by ear", kQuiet},
         {Command4, "Command4", &Frame2, {2600, 1160, 4300, 520}, "Create new data file"},
         {Command2, "Command2", &Frame2, {2600, 1800, 4300, 520}, "Open data file or template"},
         {Command6, "Command6", &Frame2, {6000, 260, 900, 360}, "Manual", kHidden},
@@ -58,12 +57,10 @@ void NextWindow::LayParam(int p) {
     });
 }
 
-void NextWindow::TellOnStartFace(const std::string& text) {
+void NextWindow::TellOnStartFace(StartNews news, const std::string& text) {
+    if (news < told_) return;
+    told_ = news;
     StartLine.SetHeight(kTwoLines);
     StartLine.SetCaption(text);
     StartLine.SetForeColor(kWarning);
-}
-
-bool NextWindow::TellsOnStartFace() const {
-    return StartLine.Caption() != kPurpose;
 }

@@ -8,6 +8,9 @@
 #include "platform/window.h"
 #include "sheet/sizes.h"
 
+// What the line of the start face tells, the graver the later.
+enum class StartNews { None, BrokenWave, NoSoundDevice, LostSession };
+
 struct NextWindow : Window {
     NextWindow();
 
@@ -15,7 +18,7 @@ struct NextWindow : Window {
     Frame& StartFace = Frame2;
     PictureBox Picture1;
     Label Label5[2];
-    Label& StartLine = Label5[1];  // what the program is for, or that it has no sound
+    Label& StartLine = Label5[1];  // what the program is for, or the gravest news
     Button Command4;
     Button& CreateButton = Command4;
     Button Command2;
@@ -42,11 +45,13 @@ struct NextWindow : Window {
     Button Command3;
     Button& CancelButton = Command3;
 
-    void TellOnStartFace(const std::string& text);  // in the place of what the program is for
-    bool TellsOnStartFace() const;
+    void TellOnStartFace(StartNews news, const std::string& text);  // unless it tells graver news
+    void ForgetMembers() override { told_ = StartNews::None; }
 
 private:
     void LayParam(int p);
+
+    StartNews told_ = StartNews::None;
 };
 
 // The two faces are one window in three heights.

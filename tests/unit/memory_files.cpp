@@ -4,6 +4,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "unit/wave_bytes.h"
+
 namespace {
 // After the first run on a common keyboard.
 constexpr int kNamedKeyCodes[] = {16, 17, 46, 8, 27, 13, 32, 112, 37, 38, 39, 40};
@@ -33,7 +35,7 @@ void MemoryFiles::LayDownProgram(const std::string& folder) {
     bytes[folder + "/References/KeySetting.csv"] = KnownKeySettings();
     bytes[folder + "/References/My_favorite.jpg"] = "\xFF\xD8\xFF a picture";
     for (const char* wave : {"Key-1", "Key-2", "Key-3", "Opening", "Undo", "Save", "Alarm", "Error"})
-        bytes[folder + "/Sound files/" + wave + ".wav"] = wave;
+        bytes[folder + "/Sound files/" + wave + ".wav"] = WaveOf(FormatChunk({.bits = 8}) + WaveChunk("data", wave));
 }
 
 std::string KnownKeySettings() {

@@ -3,6 +3,7 @@
 
 #include "platform/user.h"
 #include "unit/sheet_test.h"
+#include "unit/wave_bytes.h"
 #include "windows/main_window.h"
 #include "windows/name_windows.h"
 
@@ -210,6 +211,24 @@ TEST_F(NextWindowTest, TheStartFaceSaysThatThereIsNoSoundDevice) {
     services_.sounds.has_device = false;
     frmNext.Show();
     EXPECT_EQ(frmNext.Label5[1].Caption(), "No sound device: keys count without a sound");
+}
+
+TEST_F(NextWindowTest, TheStartFaceNamesAWaveThatIsNotPlayed) {
+    files_.bytes["/program/Sound files/Undo.wav"] = SilentWave(2000, {.bits = 24});
+    Start();
+    EXPECT_EQ(frmNext.Label5[1].Caption(), "Undo.wav is no wave of the kinds that are played: it stays silent");
+    frmNext.Unload();
+    services_.sounds.has_device = false;
+    frmNext.Show();
+    EXPECT_EQ(frmNext.Label5[1].Caption(), "No sound device: keys count without a sound") << "graver";
+}
+
+TEST_F(NextWindowTest, WhereNothingSoundsNoWaveIsNamed) {
+    files_.bytes["/program/Sound files/Undo.wav"] = "no wave";
+    files_.bytes.erase("/program/Sound files/Error.wav");
+    const std::string usual = frmNext.Label5[1].Caption();
+    Start();
+    EXPECT_EQ(frmNext.Label5[1].Caption(), usual);
 }
 
 TEST_F(NextWindowTest, WithoutASoundDeviceKeysCountAsEver) {

@@ -54,8 +54,8 @@ TEST_F(StartUpTest, ItReadsTheSettingsThenTheEightWavesThenThePicture) {
     for (const std::string& wave : kWaves) expected.push_back(WavePath(wave));
     expected.push_back(kPicture);
     EXPECT_EQ(recorder_.read, expected);
-    EXPECT_EQ(WaveKey1.bytes, "Key-1");
-    EXPECT_EQ(WaveError.bytes, "Error");
+    EXPECT_EQ(WaveKey1.bytes, files_.bytes["/program/Sound files/Key-1.wav"]);
+    EXPECT_EQ(WaveError.bytes, files_.bytes["/program/Sound files/Error.wav"]);
 }
 
 TEST_F(StartUpTest, TheFreshSheetHasOneSampleWithoutANameAnd135EmptySlots) {
