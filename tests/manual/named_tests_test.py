@@ -8,7 +8,7 @@ TESTS = TOP / "tests"
 CASE = re.compile(r"\w+Test\.[A-Z]\w+")             # Suite.Name
 PLACE = re.compile(r"([\w./]*?)(?::(test_\w+))?")  # a file or folder below tests/, and a test in it
 COLUMNS = ["No.", "Hazard", "Harm", "Likelihood", "What prevents or shows it", "Test"]
-ENOUGH = 80  # lines of the hazards with a test
+ENOUGH = 175  # lines of the hazards with a test
 
 
 def unit_tests():
@@ -71,8 +71,8 @@ class HazardsTest(unittest.TestCase):
         known, proved = unit_tests(), 0
         for number, *_, shown, tests in self.lines:
             with self.subTest(line=number):
-                self.assertEqual(shown.startswith("**Nothing.**"), tests == "none")
-                if tests in ("none", "no test yet"):
+                if tests == "none":
+                    self.assertTrue(shown.startswith("**Nothing.**"))
                     continue
                 names = in_backticks(tests)
                 self.assertEqual(" ".join(f"`{name}`" for name in names), tests, "nothing else stands there")

@@ -4,7 +4,7 @@
 #include "files/format/read_sheet.h"
 #include "platform/user.h"
 #include "session/totals.h"
-#include "unit/sheet_test.h"
+#include "unit/open_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
 
@@ -264,5 +264,27 @@ TEST_F(NextSampleTest, AFirstNameEmptiesWhatWasCountedBeforeIt) {
     EXPECT_EQ(Counts[1][1], 0);
     EXPECT_EQ(CountsAtOpen[1][1], 0);
     EXPECT_EQ(frmMain.Text3[0].Text(), "0");
+}
+
+TEST_F(NextSampleTest, AFirstSampleThatIsCalledMinus9999CountsAsUnnamed) {
+    Begin("10");
+    KeyNumber(1, 3);
+    SampleTable[kSampleName][1] = "-9999";
+    NextSample("20");
+    EXPECT_EQ(SampleCount, 1);
+    EXPECT_EQ(SampleTable[kSampleName][1].Text(), "20");
+    EXPECT_EQ(Counts[1][1], 0);
+}
+
+class NextSampleAfterOpenTest : public OpenTest {};
+
+TEST_F(NextSampleAfterOpenTest, ASheetSavedBeforeItsFirstSampleHadANameLosesItsCounts) {
+    Rows rows = DataSheet(1);
+    rows[1][4] = "\"-9999\"";
+    ASSERT_TRUE(Open(rows));
+    ASSERT_EQ(Counts[1][1], 2);
+    NextSample("20");
+    EXPECT_EQ(SampleCount, 1);
+    EXPECT_EQ(Counts[1][1], 0);
 }
 }  // namespace

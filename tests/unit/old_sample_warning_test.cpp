@@ -1,7 +1,8 @@
 // A counting key on a sample that is not the latest asks once before it counts.
 #include "platform/user.h"
 #include "session/key_dispatch.h"
-#include "unit/sheet_test.h"
+#include "session/undo.h"
+#include "unit/open_test.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -94,6 +95,30 @@ TEST_F(OldSampleWarningTest, TheLatestSampleIsTheOneWithTheHighestSerialWherever
     EXPECT_EQ(MessageCount(), 1u);
 }
 
+TEST_F(OldSampleWarningTest, ColumnsThatWereDroppedOutsideMisleadIt) {
+    SampleTable[kSampleSerial][1] = 2;
+    SampleTable[kSampleSerial][2] = 3;
+    ShowSample(1);
+    KeyNumber(1);
+    EXPECT_EQ(MessageCount(), 0u) << "the serial is the number of samples";
+    ShowSample(2);
+    AnswerNext(Answer::No);
+    KeyNumber(1);
+    EXPECT_EQ(MessageCount(), 1u);
+}
+
+TEST_F(OldSampleWarningTest, AnUndoThatGoesBackToAnOlderSampleBringsNoQuestion) {
+    ShowSample(2);
+    KeyNumber(1);
+    Undo();
+    Undo();
+    Undo();
+    ASSERT_EQ(CurrentSample, 1);
+    KeyNumber(1);
+    EXPECT_EQ(MessageCount(), 0u);
+    EXPECT_EQ(Counts[1][1], 1);
+}
+
 TEST_F(OldSampleWarningTest, AReverseCountIsAskedAboutToo) {
     PressKey(kUndo);
     AnswerNext(Answer::No);
@@ -126,5 +151,21 @@ TEST_F(OldSampleWarningTest, AReverseCountThatIsLostStillKeepsTheUndoKeyFromUndo
     EXPECT_EQ(Counts[1][1], 1);
     EXPECT_EQ(Counts[1][2], 1);
     EXPECT_EQ(LastLines(1), Texts{"(Change sample: 10)"});
+}
+
+class WarningAfterOpenTest : public OpenTest {};
+
+TEST_F(WarningAfterOpenTest, OnceAKeyHasCountedNoQuestionComesOnTheSheetOpenedNext) {
+    ASSERT_TRUE(Open(DataSheet(2)));
+    KeyNumber(1);
+    ClickControl(frmMain.Command5[0]);
+    Rows rows = DataSheet(2);
+    std::swap(rows[0][4], rows[0][5]);  // its last column is the older sample
+    AnswerNext(Answer::Yes);
+    ASSERT_TRUE(Open(Joined(rows), "/sheets/other.csv"));
+    const std::size_t asked = MessageCount();
+    ASSERT_EQ(SampleTable[kSampleSerial][CurrentSample].Number(), 1);
+    KeyNumber(1);
+    EXPECT_EQ(MessageCount(), asked);
 }
 }  // namespace

@@ -2,6 +2,7 @@
 #include <functional>
 
 #include "files/save_sheet.h"
+#include "session/undo.h"
 #include "unit/open_test.h"
 #include "windows/main_window.h"
 #include "windows/name_windows.h"
@@ -343,6 +344,19 @@ TEST_F(OpenFailureTest, TheNextSampleOfAHalfReadSheetStartsAt0) {
     EXPECT_EQ(SampleCount, 3);
     for (int slot = 1; slot <= kSlots; ++slot) EXPECT_EQ(Counts[slot][3], 0) << slot;
     EXPECT_EQ(Counts[10][1], 11);
+}
+
+TEST_F(OpenFailureTest, UndoAfterAHalfReadSheetGoesToASampleThatItDoesNotHave) {
+    ASSERT_TRUE(Open(DataSheet(3)));
+    KeyNumber(1);
+    ASSERT_EQ(CurrentSample, 3);
+    Rows rows = DataSheet(2);
+    rows.resize(kTaxonRow + 10);
+    AnswerNext(Answer::Yes);
+    EXPECT_FALSE(Open(rows));
+    ASSERT_EQ(SampleCount, 2);
+    Undo();
+    EXPECT_EQ(CurrentSample, 3);
 }
 
 TEST_F(OpenFailureTest, ASaveAfterAHalfReadSheetWritesWhatTheSessionHolds) {
