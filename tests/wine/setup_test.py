@@ -21,7 +21,7 @@ class SetupTest(unittest.TestCase):
     def setUp(self):
         self.computer = Computer(installed())
         self.addCleanup(self.computer.end)
-        self.shortcut = self.computer.user / "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Marlbrook.lnk"
+        self.start_menu = self.computer.user / "AppData/Roaming/Microsoft/Windows/Start Menu/Programs"
 
     def count_and_save(self, sheet):
         """A session in which its user changes what is their own."""
@@ -33,6 +33,9 @@ class SetupTest(unittest.TestCase):
         (self.computer.own / "References/Back up files/kept.csv").write_bytes(b"an old core")
         return program
 
+    def in_start_menu(self):
+        return sorted(path.stem for path in self.start_menu.glob("*arlbrook*"))
+
     def is_known(self):
         return self.computer.run("reg", "query", UNINSTALL_KEY, "/v", "DisplayVersion").returncode == 0
 
@@ -41,7 +44,8 @@ class SetupTest(unittest.TestCase):
         wait_for("the end of the uninstaller", lambda: not self.computer.programs.exists())
 
     def test_it_installs_for_its_user_alone(self):
-        self.assertTrue(self.shortcut.exists())
+        self.assertEqual(self.in_start_menu(), ["Marlbrook", "Marlbrook manual"])
+        self.assertTrue((self.computer.programs / "share/doc/marlbrook/manual/index.html").exists())
         self.assertTrue(self.is_known())
         self.assertEqual(sorted(os.listdir(self.computer.programs)), ["bin", "share", "uninstall.exe"])
         for machine in ("Program Files", "ProgramData/Microsoft/Windows/Start Menu"):
@@ -58,7 +62,7 @@ class SetupTest(unittest.TestCase):
         self.assertEqual(content(self.computer.own), own)
         self.uninstall()
         self.assertFalse(self.is_known())
-        self.assertFalse(self.shortcut.exists())
+        self.assertEqual(self.in_start_menu(), [])
         self.assertEqual(content(self.computer.own), own)
         self.assertEqual(self.computer.run(SETUP, "/S").returncode, 0)
         self.assertEqual(content(self.computer.programs), fresh)
