@@ -261,6 +261,8 @@ TEST_F(DiagramWindowTest, SteppingGoesRoundBothEnds) {
     EXPECT_EQ(frmDiagram.Combo2.Text(), "40");
     Spin(frmDiagram.UpDown1, false);
     EXPECT_EQ(frmDiagram.SelectedSample, 2) << "and from one sample to the next between them";
+    Spin(frmDiagram.UpDown1, false);
+    EXPECT_EQ(frmDiagram.SelectedSample, 1);
 }
 
 TEST_F(DiagramWindowTest, AKeyReleasedOnTheSliderBringsMarkerAndNameBack) {
