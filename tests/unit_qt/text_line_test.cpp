@@ -134,16 +134,19 @@ TEST_F(TextLineTest, APastedMegabyteIsAllThere) {
 // A dead key and the space bar make the mark on many keyboards; no guard hears of them as keys.
 TEST_F(TextLineTest, WhatDeadKeysMakeGoesInButForTheQuotationMark) {
     QPlainTextEdit& note = *dynamic_cast<QPlainTextEdit*>(Shown(frmMain.Text4).FocusWidget());
-    for (auto [box, editor] : {std::pair<TextHolder*, QWidget*>{&frmMain.Text1[5], &Line(frmMain.Text1[5])},
-                               {&frmMain.Combo2, &Line(frmMain.Combo2)},
-                               {&frmMain.Text4, &note}}) {
+    const struct {
+        TextHolder* box;
+        QWidget* editor;
+    } cases[] = {{&frmMain.Text1[5], &Line(frmMain.Text1[5])}, {&frmMain.Combo2, &Line(frmMain.Combo2)}, {&frmMain.Text4, &note}};
+    for (const auto& each : cases) {
+        TextHolder* const box = each.box;
         Do([box] { box->Enter("", 0); });
         Do([box] { box->SetFocus(); });
         services_.sounds.played.clear();
         for (const char* made : {"\u00FC", "\"", "a \"b\"", "c"}) {
             QInputMethodEvent event;
             event.setCommitString(made);
-            QApplication::sendEvent(editor, &event);
+            QApplication::sendEvent(each.editor, &event);
         }
         EXPECT_EQ(box->Text(),
                   "\u00FC"
