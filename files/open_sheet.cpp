@@ -85,6 +85,7 @@ std::optional<int> RepeatedKeyIndex() {
 }
 
 void StartAfresh(int key_index) {
+    SheetReplaced.Raise();  // the copy of the sheet before may not take this one while the message is open
     PlayIfOn(WaveError);
     services.messages->Show(
         {"Error", "Same key index (" + std::to_string(key_index) + ") is being used more than once.", Icon::Exclamation, Buttons::Ok});

@@ -134,7 +134,7 @@ Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk),
     SaveBegins.Calls([this](const std::string& path) { HearOfSaving(path); });
     SheetSaved.Calls([this] { HearOfSave(); });
     SaveFailed.Calls([this] { HearOfFailedSave(); });
-    SaveSwitchedOff.Calls([this] { is_save_off_ = true; });
+    SheetCopied.Calls([this] { copied_ = SheetOf(BytesOfCopy()); });
     SheetGivenUp.Calls([this](bool is_asked) { HearOfGivingUp(is_asked); });
     SheetCleared.Calls([this] { HearOfClearing(); });
     SheetReplaced.Calls([this] { HearOfAnother(); });
@@ -144,7 +144,7 @@ Rescue::Rescue(WholeFiles& disk, std::function<void()> try_again) : disk_(disk),
 Rescue::~Rescue() {
     SaveBegins.Calls({});
     SheetGivenUp.Calls({});
-    for (Event<>* told : {&SheetSaved, &SaveFailed, &SaveSwitchedOff, &SheetCleared, &SheetReplaced, &SheetReset}) told->Calls({});
+    for (Event<>* told : {&SheetSaved, &SaveFailed, &SheetCopied, &SheetCleared, &SheetReplaced, &SheetReset}) told->Calls({});
 }
 
 void Rescue::Offer() {
@@ -217,7 +217,7 @@ void Rescue::Remove(const std::string& path) {
 
 void Rescue::SheetIsSafe() {
     Forget();
-    is_in_no_file_ = is_save_off_ = is_unasked_ = false;
+    is_in_no_file_ = is_unasked_ = false;
     safe_ = SheetOf(BytesOfCopy());
 }
 
@@ -233,7 +233,7 @@ bool Rescue::IsSafe() const {
 
 // The last moment to take in what was counted since the last copy.
 void Rescue::HearOfGivingUp(bool is_asked) {
-    is_unasked_ = !is_asked && (is_save_off_ || IsSheetChanged()) && !IsSafe();
+    is_unasked_ = !is_asked && !IsSafe() && SheetOf(BytesOfCopy()) != copied_;
     if (Outlives()) KeepNow();
 }
 
@@ -262,7 +262,6 @@ void Rescue::HearOfSave() {
 
 // What the sheet has gone back to may be in no file either.
 void Rescue::HearOfReset() {
-    is_save_off_ = false;
     if (IsSafe())
         SheetIsSafe();
     else

@@ -51,7 +51,7 @@ private:
     std::shared_ptr<OwnName> copy_;
     bool has_copy_ = false;       // it has been written, or is being written
     std::string told_;            // path of the copy that the start face tells of, or that is opened; empty: of none
-    bool is_save_off_ = false;    // closing does not ask, though no file has what was changed
+    std::string copied_;          // the sheet as the last copy has it that its user saved elsewhere; empty: there is none
     bool is_unasked_ = false;     // what no file has was given up and nothing asked
     bool is_in_no_file_ = false;  // a save was wanted and failed, or something else was saved over the file of the sheet
 };

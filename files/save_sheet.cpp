@@ -202,18 +202,17 @@ void SaveSheet(std::int16_t mode) {
         return;
     }
     SaveBegins.Raise(path);
-    const bool was_changed = IsSheetChanged();
-    bool is_in_a_file = false;
     try {
         WriteFile(path, mode, sums, busy);
         TellSaved();
-        is_in_a_file = !IsPercentTable(mode);
-        if (IsPlainSave(mode) || (mode == kSaveCopy && path == SheetPath)) SheetSaved.Raise();
+        if (IsPlainSave(mode) || (mode == kSaveCopy && path == SheetPath))
+            SheetSaved.Raise();
+        else if (mode == kSaveCopy)
+            SheetCopied.Raise();
         if (mode == kSave) ReturnFocus();
     } catch (const Failure&) {
         TellFailed(mode);
     }
-    if (was_changed && !IsSheetChanged() && !is_in_a_file) SaveSwitchedOff.Raise();
 }
 
 void SaveAsCounted() {

@@ -7,7 +7,7 @@ Event<> TotalChanged;
 Event<const std::string&> SaveBegins;
 Event<> SheetSaved;
 Event<> SaveFailed;
-Event<> SaveSwitchedOff;
+Event<> SheetCopied;
 Event<bool> SheetGivenUp;
 Event<> SheetCleared;
 Event<> SheetReplaced;

@@ -12,7 +12,7 @@ extern Event<> TotalChanged;                  // Text3[0] shows another total of
 extern Event<const std::string&> SaveBegins;  // to this path, whatever is to be written there
 extern Event<> SheetSaved;                    // by a plain save, or a copy over its file: a file holds all of it
 extern Event<> SaveFailed;                    // a plain one; the user has been told
-extern Event<> SaveSwitchedOff;               // by what is no save: what was changed is in no file, and closing does not ask
+extern Event<> SheetCopied;                   // a file besides its own holds all of it
 extern Event<bool> SheetGivenUp;              // its user lets go what no save has; it is all there still. Whether the program has asked
 extern Event<> SheetCleared;                  // of what was given up, before a dialog asks for another one
 extern Event<> SheetReplaced;                 // another one is on show, opened or begun anew

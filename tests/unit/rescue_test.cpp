@@ -9,6 +9,7 @@
 #include "platform/user.h"
 #include "session/leaving.h"
 #include "session/undo.h"
+#include "unit/sheet_file.h"
 #include "unit/sheet_test.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -322,6 +323,74 @@ TEST_F(RescueTest, AfterAFailedSaveItOutlivesAnOpenThatBreaksOff) {
     Keep();
     EXPECT_EQ(files_.bytes[kRescue], copy);
     EXPECT_FALSE(IsThere(kSecond)) << "what was read is in its file";
+}
+
+// A second Open asks nothing; the file has a key index twice, which is told while the desktop goes on.
+TEST_F(RescueTest, AMessageOfTheNextSheetLeavesItAsItIs) {
+    class BusyBoxes : public MessageBoxes {
+    public:
+        explicit BusyBoxes(std::function<void()> meanwhile) : meanwhile_(std::move(meanwhile)) {}
+        Answer Show(const Message&) override {
+            meanwhile_();
+            return Answer::Ok;
+        }
+
+    private:
+        std::function<void()> meanwhile_;
+    } busy([this] { Keep(); });
+    Rows rows = DataSheet(1);
+    rows[kTaxonRow + 1][0] = "1";
+    files_.bytes["/sheets/twice.csv"] = Joined(rows);
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1, 7);
+    AnswerNext(Answer::No);
+    OpenSheet();
+    AnswerDialog("/sheets/twice.csv");
+    services.messages = &busy;
+    OpenSheet();
+    services.messages = &services_.messages;
+    ASSERT_EQ(SheetPath, "");
+    EXPECT_EQ(CountIn(kRescue), "7");
+    EXPECT_FALSE(IsThere(kSecond)) << "what was read is in its file";
+}
+
+TEST_F(RescueTest, CountsOfASheetThatIsClosedInModifyModeStayInIt) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    KeyNumber(1, 3);
+    ClickControl(frmMain.Command3[0]);
+    const std::size_t messages = MessageCount();
+    CloseMainWindow();
+    rescue_.EndByUser();
+    EXPECT_EQ(MessageCount(), messages);
+    EXPECT_EQ(CountIn(kRescue), "3");
+}
+
+TEST_F(RescueTest, ANoteOfASampleWithoutAGrainStaysInIt) {
+    Begin("10");
+    SaveAs("/sheets/Mere.csv");
+    ClickControl(frmMain.mnuNext);
+    frmNext.Text1.SetText("20");
+    frmNext.Text2.SetText("sand with roots");
+    ClickControl(frmNext.Command1);
+    CloseMainWindow();
+    rescue_.EndByUser();
+    ASSERT_TRUE(IsThere(kRescue));
+    EXPECT_NE(files_.bytes[kRescue].find("sand with roots"), std::string::npos);
+}
+
+TEST_F(RescueTest, ASheetThatWasOnlyLookedAtLeavesNone) {
+    files_.bytes["/sheets/Mere.csv"] = Joined(DataSheet(3));
+    Start();
+    AnswerDialog("/sheets/Mere.csv");
+    OpenSheet();
+    Keep();
+    ShowSample(1);
+    Keep();
+    CloseMainWindow();
+    rescue_.EndByUser();
+    EXPECT_FALSE(IsThere(kRescue));
 }
 
 // A percentage table switches Save off.
