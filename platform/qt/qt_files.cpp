@@ -159,6 +159,8 @@ std::error_code TakeName(const std::filesystem::path& from, OwnName& name) {
 bool WriteWhole(OwnName& name, const std::string& bytes) {
     const std::filesystem::path beside = SystemFile(name.paths.front() + ".new");
     std::error_code error;
+    std::filesystem::create_directory(beside.parent_path(), error);  // somebody may have tidied it away
+    error.clear();
     if (!WriteAndFlush(beside, bytes))
         error = std::make_error_code(std::errc::io_error);
     else if (name.path.empty())

@@ -235,9 +235,19 @@ TEST_F(QtWholeFilesTest, OneIsDoneAfterTheOther) {
 }
 
 TEST_F(QtWholeFilesTest, WhatCannotBeWrittenIsTold) {
-    Write(Name("none/a.csv", "none/b.csv"), "1");
+    Write(Name("none/none/a.csv", "none/none/b.csv"), "1");
     Finish();
     EXPECT_EQ(refused_, 1);
+}
+
+TEST_F(QtWholeFilesTest, AFolderThatWasTidiedAwayIsMadeAgain) {
+    const auto name = Name("copies/a.csv", "copies/b.csv");
+    for (const char* bytes : {"1", "2"}) {
+        QDir(folder_.filePath("copies")).removeRecursively();
+        Write(name, bytes);
+        Finish();
+        EXPECT_EQ(files_.ReadAll(Path("copies/a.csv")), bytes);
+    }
 }
 
 TEST_F(QtWholeFilesTest, NoFileIsWrittenOverThatItHasNotWritten) {
