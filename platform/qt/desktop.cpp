@@ -90,6 +90,7 @@ void AskForNoActivation() {
 
 int RunDesktop(int argc, char** argv) {
     argc = 1;  // no command line is read, not the toolkit's either
+    LetWritesFail();
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("org.marlbrook.Marlbrook"));  // Wayland finds the icon by it
     AskForNoActivation();

@@ -60,7 +60,7 @@ void HearLastWords(QtMsgType type, const QMessageLogContext& context, const QStr
 
 #ifndef Q_OS_WIN
 int signal_sockets[2] = {-1, -1};  // a signal goes in at the first and is read from the second between events
-constexpr int kEndingSignals[] = {SIGTERM, SIGHUP, SIGINT, SIGQUIT};
+constexpr int kEndingSignals[] = {SIGTERM, SIGHUP, SIGINT, SIGQUIT, SIGXCPU, SIGALRM, SIGUSR1, SIGUSR2};
 
 void SendOn(int signal) {
     const char byte = static_cast<char>(signal);
@@ -68,6 +68,12 @@ void SendOn(int signal) {
 }
 #endif
 }  // namespace
+
+void LetWritesFail() {
+#ifndef Q_OS_WIN
+    for (const int signal : {SIGXFSZ, SIGPIPE}) std::signal(signal, SIG_IGN);
+#endif
+}
 
 UnaskedEnd::UnaskedEnd(std::function<void()> last_act) : last_act_(std::move(last_act)) {
     act_at_exit = [this] { Act(); };
@@ -125,7 +131,6 @@ void UnaskedEnd::HearSignals() {
         sigaction(signal, nullptr, &before);
         if (before.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);  // whoever started it may want it to outlive a terminal
     }
-    for (const int signal : {SIGXFSZ, SIGPIPE}) std::signal(signal, SIG_IGN);  // the write that they are about fails, which tells it
 #endif
 }
 

@@ -6,6 +6,9 @@
 
 class QSocketNotifier;
 
+// Before anything is written: from now on a write beyond a limit of the system, or to nobody, fails and ends nothing.
+void LetWritesFail();
+
 // One at a time, while there is an application. `last_act` is called before the program ends so, in the thread of the windows.
 class UnaskedEnd : public QObject {
 public:

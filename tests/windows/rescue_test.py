@@ -67,7 +67,7 @@ class RescueTest(unittest.TestCase):
         wait_for(f"a rescue of {grains} grains", lambda: sum(counts_in(self.rescue).values()) == grains)
 
     def test_a_signal_that_ends_it_loses_nothing(self):
-        for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+        for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGXCPU):
             self.program.begin("10")
             self.count(12)
             self.program.process.send_signal(number)
