@@ -11,6 +11,7 @@
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QTemporaryFile>
 #include <QUrl>
 
@@ -28,10 +29,21 @@ QtHost::QtHost() : folder_(FromQt(FindProgramFolder())), lock_(ToQt(folder_) + "
     lock_.setStaleLockTime(0);  // held as long as its process lives
 }
 
+// The computer that holds a lock, unless it is this one: nobody here can know whether the program still runs there.
+QString QtHost::OtherHolder() const {
+    qint64 process = 0;
+    QString computer, program;
+    lock_.getLockInfo(&process, &computer, &program);
+    return computer == QSysInfo::machineHostName() ? QString() : computer;
+}
+
 // A folder that takes no lock is used all the same.
 bool QtHost::HasFolderAlone(MessageBoxes& messages) {
     if (lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError) return true;
-    Show(messages, "Marlbrook is running already. Two at a time would write the same settings and back-ups in\n" + folder_);
+    std::string text = "Marlbrook is running already";
+    if (const QString other = OtherHolder(); !other.isEmpty())
+        text += " on the computer " + FromQt(other) + ", or was cut off there. If it does not run there, delete the file .marlbrook.lock";
+    Show(messages, text + ". Two at a time would write the same settings and back-ups in\n" + folder_);
     return false;
 }
 

@@ -28,6 +28,8 @@ private:
     bool has_ended_ = false;
     bool has_failed_ = false;
     std::string folder_;
+    QString OtherHolder() const;
+
     QLockFile lock_;
 };
 

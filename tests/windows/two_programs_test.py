@@ -32,6 +32,19 @@ class TwoProgramsTest(unittest.TestCase):
         saved = self.first.save_as(self.first.work / "core.csv")
         self.assertEqual(self.counts(saved), [1] * 4 + [0] * 131)
 
+    def test_a_lock_of_another_computer_is_told_with_its_name(self):
+        lock = self.first.folder / ".marlbrook.lock"
+        self.first.stop()
+        lock.write_text("4242\nmarlbrook\nlaboratory-7\n" + 2 * (32 * "a" + "\n"))
+        second = copy.copy(self.first)
+        second.start()
+        second.control("Marlbrook", r"(?s)Marlbrook is running already on the computer laboratory-7, .*delete the file \.marlbrook\.lock.*")
+        second.click("Marlbrook", "OK")
+        wait_for("the end of the second program", lambda: second.process.poll() is not None)
+        lock.unlink()
+        self.first.start()
+        self.first.window(START)
+
     def test_on_one_sheet_from_two_folders_the_later_save_wins(self):
         path = self.first.work / "core.csv"
         self.first.save_as(path)
