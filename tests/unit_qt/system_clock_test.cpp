@@ -8,7 +8,7 @@
 
 namespace {
 constexpr std::time_t kYear10000 = 253'402'300'800;
-constexpr std::time_t kDay = 24 * 60 * 60;
+constexpr std::time_t kDay = std::time_t{24} * 60 * 60;
 
 #ifndef _WIN32  // whose calendar ends with the year 3000
 TEST(SystemClockTest, AYearMayHaveMoreThanFourDigits) {
