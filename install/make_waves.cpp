@@ -29,7 +29,7 @@ struct Wave {
 
 constexpr Wave kWaves[] = {
     {"Key-1.wav", -4.3}, {"Key-2.wav", -8.2}, {"Key-3.wav", -10.5}, {"Opening.wav", -13.7},
-    {"Undo.wav", -11.1}, {"Save.wav", -10.5}, {"Alarm.wav", -12.1}, {"Error.wav", -5.1},
+    {"Undo.wav", -11.1}, {"Save.wav", -10.5}, {"Alarm.wav", -11.9}, {"Error.wav", -5.1},
 };
 
 struct Partial {
