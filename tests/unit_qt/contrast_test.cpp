@@ -1,4 +1,5 @@
-// Every pair of colours that lie beside each other, by the contrast ratio of WCAG 2: words 4.5 at least, edges and signs 3.
+// Every pair of colours that lie beside each other, by the contrast ratio of WCAG 2: words 4.5 at least, those that rest 4, edges and
+// signs 3.
 #include <gtest/gtest.h>
 
 #include <algorithm>
