@@ -12,6 +12,7 @@
 #include <utility>
 
 #ifndef Q_OS_WIN
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 #endif
@@ -120,7 +121,8 @@ void UnaskedEnd::Act() {
 
 void UnaskedEnd::HearSignals() {
 #ifndef Q_OS_WIN
-    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_sockets) != 0) return;
+    if (socketpair(AF_UNIX, SOCK_STREAM, 0, signal_sockets) != 0) return;
+    for (const int socket : signal_sockets) fcntl(socket, F_SETFD, FD_CLOEXEC);
     signals_ = std::make_unique<QSocketNotifier>(signal_sockets[1], QSocketNotifier::Read);
     connect(signals_.get(), &QSocketNotifier::activated, this, &UnaskedEnd::EndBySignal);
     struct sigaction action {};
