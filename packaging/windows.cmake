@@ -3,7 +3,7 @@
 #                          their own, which no update touches
 #     cpack -G ZIP         a folder for any place of the user's: the program beside References and Sound files, which it then uses
 configure_file("${HERE}/windows/marlbrook.rc.in" marlbrook.rc @ONLY)
-configure_file("${HERE}/windows/marlbrook.manifest" marlbrook.manifest COPYONLY)
+configure_file("${HERE}/windows/marlbrook.manifest.in" marlbrook.manifest @ONLY)
 target_sources(marlbrook PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/marlbrook.rc")
 
 # CompilersLibrary(NAME): writes it without its symbols, which are most of it, into a folder of the build, and adds it to COMPILERS_LIBRARIES.
