@@ -314,15 +314,21 @@ std::string FileDragged(const QMimeData& dragged) {
     const QList<QUrl> urls = dragged.urls();
     return urls.size() == 1 ? ProgramPath(urls.front().toLocalFile()) : std::string();
 }
+
+// Whatever the user held down: where a file is moved the other program deletes it.
+void Copy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
 }  // namespace
 
 void WindowWidget::dragEnterEvent(QDragEnterEvent* event) {
-    if (window_.Enabled() && !FileDragged(*event->mimeData()).empty()) event->acceptProposedAction();
+    if (window_.Enabled() && !FileDragged(*event->mimeData()).empty()) Copy(*event);
 }
 
 // When the drop is over: a question that comes up in it would hold up the program that the file comes from.
 void WindowWidget::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
+    Copy(*event);
     const auto tell = [this, path = FileDragged(*event->mimeData())] { events_.Run([&] { DropFile(window_, path); }); };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

@@ -135,12 +135,14 @@ TEST_F(WindowWidgetTest, ASheetThatIsDroppedIsOpened) {
     QMimeData dragged;
     dragged.setUrls({QUrl::fromLocalFile(mere)});
     const auto drop = [&](Window& window) {
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, Qt::NoModifier);
         enter.ignore();
         QApplication::sendEvent(&Widget(window), &enter);
         if (!enter.isAccepted()) return false;
-        QDropEvent let_go(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent let_go(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, Qt::ShiftModifier);
+        let_go.setDropAction(Qt::MoveAction);
         QApplication::sendEvent(&Widget(window), &let_go);
+        EXPECT_EQ(let_go.dropAction(), Qt::CopyAction) << "where it lay it stays";
         Do([] {});
         return true;
     };
