@@ -61,7 +61,7 @@ namespace {
 QString ManualPage() {
     const QString program = QCoreApplication::applicationDirPath();
     for (const char* folder : {"/../share/doc/marlbrook/manual", "/manual", "/../docs/manual"})
-        if (const QString page = QDir::cleanPath(program + folder + "/index.html"); QFileInfo(page).isFile()) return page;
+        if (QString page = QDir::cleanPath(program + folder + "/index.html"); QFileInfo(page).isFile()) return page;
     return {};
 }
 }  // namespace
