@@ -13,7 +13,7 @@ Fail() {
 
 packaging/debian-packages.sh windows
 export MARLBROOK_WINDOWS_SDK=${MARLBROOK_WINDOWS_SDK:-$PWD/build/windows-sdk}
-if ! [ -e "$MARLBROOK_WINDOWS_SDK/bin/Qt6Core.dll" ]; then
+if ! [ -e "$MARLBROOK_WINDOWS_SDK/bin/SDL2_mixer.dll" ]; then  # the last that libraries.sh makes
     mkdir -p "$MARLBROOK_WINDOWS_SDK"
     if [ -e ../shared/windows/sdk.tar.xz ]; then
         tar xf ../shared/windows/sdk.tar.xz -C "$MARLBROOK_WINDOWS_SDK"
@@ -27,6 +27,13 @@ installed=$(mktemp -d)
 trap 'rm -rf "$installed"' EXIT
 cd build/windows
 cmake --install . --prefix "$installed" --strip >/dev/null
+(  # what the setup takes away again, and nothing else
+    cd "$installed"
+    list=share/marlbrook/laid_down.txt
+    touch "$list"
+    { find . -type f -printf '%P\n' && find . -mindepth 1 -depth -type d -printf '%P\n'; } | tr / '\\' >"$list.new"
+    mv "$list.new" "$list"
+)
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' CMakeCache.txt)
 makensis -V2 -DVERSION="$version" -DFOLDER="$installed" -DICON="$PWD/../../install/icons/marlbrook.ico" \
     -DOUTPUT="$PWD/Marlbrook-$version-setup.exe" ../../packaging/windows/setup.nsi || Fail "the setup could not be made"

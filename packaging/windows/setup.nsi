@@ -4,6 +4,7 @@
 Target amd64-unicode
 !include MUI2.nsh
 !include FileFunc.nsh
+!include TextFunc.nsh
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Marlbrook"
 
@@ -32,14 +33,30 @@ VIAddVersionKey LegalCopyright "The Marlbrook maintainers"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 
-; The files of the version before, and nothing else that may lie there.
-!macro RemoveFiles
-  RMDir /r "$INSTDIR\bin"
-  RMDir /r "$INSTDIR\share\marlbrook"
-  RMDir /r "$INSTDIR\share\doc\marlbrook"
-  RMDir "$INSTDIR\share\doc"
-  RMDir "$INSTDIR\share"
+; What the version that is there has laid down, and nothing else that may lie there: its list has the files and, behind them, the folders,
+; the deepest first.
+!define LIST "$INSTDIR\share\marlbrook\laid_down.txt"
+!macro RemoveFiles un
+  Function ${un}RemoveFiles
+    Rename "${LIST}" "$PLUGINSDIR\laid_down.txt"
+    ClearErrors
+    FileOpen $0 "$PLUGINSDIR\laid_down.txt" r
+    IfErrors gone
+  next:
+    ClearErrors
+    FileRead $0 $1
+    IfErrors end
+    ${TrimNewLines} $1 $1
+    Delete "$INSTDIR\$1"
+    RMDir "$INSTDIR\$1"
+    Goto next
+  end:
+    FileClose $0
+  gone:
+  FunctionEnd
 !macroend
+!insertmacro RemoveFiles ""
+!insertmacro RemoveFiles "un."
 
 ; A program that runs holds its file: Windows then lets nobody open it for writing.
 !macro RefuseWhileItRuns un
@@ -61,7 +78,8 @@ VIAddVersionKey LegalCopyright "The Marlbrook maintainers"
 
 Section "Marlbrook"
   Call RefuseWhileItRuns
-  !insertmacro RemoveFiles
+  InitPluginsDir
+  Call RemoveFiles
   SetOutPath "$INSTDIR"
   File /r "${FOLDER}/*"
   WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -82,7 +100,8 @@ SectionEnd
 
 Section "Uninstall"
   Call un.RefuseWhileItRuns
-  !insertmacro RemoveFiles
+  InitPluginsDir
+  Call un.RemoveFiles
   Delete "$SMPROGRAMS\Marlbrook.lnk"
   Delete "$SMPROGRAMS\Marlbrook manual.lnk"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"

@@ -1,5 +1,6 @@
 """The setup on a computer that has the program already, and the uninstaller: what the user keeps stays as it is, to the byte."""
 import os
+import pathlib
 import subprocess
 import unittest
 
@@ -56,6 +57,8 @@ class SetupTest(unittest.TestCase):
         self.count_and_save(sheet).kill()
         own, saved, fresh = content(self.computer.own), sheet.read_bytes(), content(self.computer.programs)
         (self.computer.programs / "bin/of_an_older_version.dll").write_bytes(b"old")
+        with open(self.computer.programs / "share/marlbrook/laid_down.txt", "a", encoding="ascii") as laid_down:
+            laid_down.write("bin\\of_an_older_version.dll\n")
         (self.computer.programs / "bin/marlbrook.exe").write_bytes(b"old")
         self.assertEqual(self.computer.run(SETUP, "/S").returncode, 0)
         self.assertEqual(content(self.computer.programs), fresh)
@@ -69,6 +72,17 @@ class SetupTest(unittest.TestCase):
         self.assertEqual(content(self.computer.own), own)
         self.assertEqual(sheet.read_bytes(), saved)
         Installed(self.computer).window(START)
+
+    def test_what_it_has_not_laid_down_stays_among_the_programs(self):
+        tools = self.computer.c / "tools"
+        (tools / "bin").mkdir(parents=True)
+        (tools / "bin/mine.txt").write_bytes(b"mine")
+        self.assertEqual(self.computer.run(SETUP, "/S", r"/D=C:\tools").returncode, 0)
+        (tools / "share/marlbrook/notes.txt").write_bytes(b"mine too")
+        self.computer.run(tools / "uninstall.exe", "/S")
+        wait_for("the end of the uninstaller", lambda: not (tools / "uninstall.exe").exists())
+        self.assertEqual([path for path in sorted(content(tools)) if content(tools)[path] is not None],
+                         [pathlib.Path("bin/mine.txt"), pathlib.Path("share/marlbrook/notes.txt")])
 
     def test_while_the_program_runs_nothing_is_replaced(self):
         program = Installed(self.computer)
