@@ -308,6 +308,14 @@ bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
+#ifdef Q_OS_WIN
+bool WindowWidget::nativeEvent(const QByteArray&, void* message, qintptr*) {
+    const QWidget* const focus = QApplication::focusWidget();
+    const bool is_typing = focus && focus->testAttribute(Qt::WA_InputMethodEnabled);
+    return !is_typing && dead_keys_.IsStrayCharacter(*static_cast<tagMSG*>(message));
+}
+#endif
+
 namespace {
 // The one file of this computer that is dragged; empty: it is something else.
 std::string FileDragged(const QMimeData& dragged) {

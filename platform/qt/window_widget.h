@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/qt/control_widget.h"
+#include "platform/qt/dead_keys.h"
 #include "platform/window.h"
 
 class MenuView;
@@ -50,6 +51,10 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+#ifdef Q_OS_WIN
+    bool nativeEvent(const QByteArray& type, void* message, qintptr* result) override;
+    DeadKeys dead_keys_;
+#endif
 
 private:
     ControlWidget* Build(Control& control);

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <string>
 
 #include "keys/first_run.h"
 #include "platform/qt/box_views.h"
@@ -20,6 +21,10 @@
 #include "windows/main_window.h"
 #include "windows/name_windows.h"
 #include "windows/next_window.h"
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 namespace {
 constexpr quint32 kPlaceOfQ = 24;
@@ -248,4 +253,41 @@ TEST_F(HeldKeysTest, EnterAnswersNoWhereYesLosesWork) {
     EXPECT_EQ(WordOfEnter({"Caution!", "Do you proceed?", Icon::None, Buttons::YesNo, true}), "No");
     EXPECT_NE(WordOfEnter({"Warning!!", "Do you continue?", Icon::None, Buttons::YesNo}), "No");
 }
+
+#ifdef Q_OS_WIN
+// Windows' own messages, as a keyboard makes them.
+class DeadKeysTest : public HeldKeysTest {
+protected:
+    HWND Main() { return reinterpret_cast<HWND>(renderer_.WidgetOf(frmMain)->winId()); }
+    // What Windows makes of the key is in the queue when the key is heard of.
+    void Press(WPARAM code, UINT kind, const std::wstring& made) {
+        const LPARAM place = 1 | MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC) << 16;
+        for (const wchar_t character : made) PostMessageW(Main(), kind, character, place);
+        SendMessageW(Main(), WM_KEYDOWN, code, place);
+        SendMessageW(Main(), WM_KEYUP, code, place | 0xC0000000);
+        QApplication::processEvents();
+    }
+};
+
+TEST_F(DeadKeysTest, ADeadKeyIsAKeyLikeAnyOther) {
+    BeginCounting();
+    Press('Q', WM_DEADCHAR, L"^");
+    EXPECT_EQ(AllTotal, 1);
+    Press('W', WM_CHAR, L"w");
+    EXPECT_EQ(AllTotal, 2);
+}
+
+TEST_F(DeadKeysTest, AKeyThatMakesTwoCharactersCountsOnce) {
+    BeginCounting();
+    Press('Q', WM_CHAR, L"^q");
+    EXPECT_EQ(AllTotal, 1);
+}
+
+TEST_F(DeadKeysTest, ACharacterWithoutItsKeyCountsNothing) {
+    BeginCounting();
+    SendMessageW(Main(), WM_CHAR, 'Q', 1);
+    QApplication::processEvents();
+    EXPECT_EQ(AllTotal, 0);
+}
+#endif
 }  // namespace
