@@ -172,6 +172,7 @@ public:
     bool tab_stop = true;          // whether Tab can bring the focus here
     std::string accessible_name;   // what a screen reader says for it, where no caption on it or beside it does
     Control* named_by = nullptr;   // the label beside it; of a count, the name of its taxon
+    int size_group = 0;            // of its window: all in it have letters of one size; 0: it has a size of its own
 
     Event<> Click;
     Event<> DoubleClick;

@@ -15,6 +15,7 @@ constexpr Style kCredit{.points = 10, .fore = kDarkGreen};
 constexpr Style kKeypadTitle{.points = 13, .bold = true};
 constexpr Style kSentence{.points = 10};
 constexpr Style kToRead{.back = kFormColour, .enabled = false};
+constexpr int kSentences = 1;  // a size group
 }  // namespace
 
 AboutProgramWindow::AboutProgramWindow() : Window("frmAboutMB1", "Marlbrook 2.7", 6900, 4000) {
@@ -29,6 +30,7 @@ AboutProgramWindow::AboutProgramWindow() : Window("frmAboutMB1", "Marlbrook 2.7"
         {Text1, "Text1", nullptr, {240, 2740, 6420, 500}, "", kToRead, "Folder of key settings, sounds and back-ups"},
         {Command1, "Command1", nullptr, {5380, 3400, 1280, 420}, "OK"},
     });
+    for (Label* line : {&Label2, &Label3[0], &Label3[1], &Label4, &Label5}) line->size_group = kSentences;
     Picture1.image = "logo";
     Text1.multiline = true;
     FirstFocus(Command1);
@@ -44,6 +46,7 @@ AboutKeypadWindow::AboutKeypadWindow() : Window("frmAboutDX1", "Ergodex DX-1 inp
         {Label1[2], {"Label1", 2}, nullptr, {3880, 1440, 3480, 340}, "as input device. ", kSentence},
         {Command1, "Command1", nullptr, {6080, 2700, 1280, 420}, "OK"},
     });
+    for (Label* line : {&Label1[1], &Label1[2]}) line->size_group = kSentences;
     Picture1.image = "pad";
     FirstFocus(Command1);
     confirm = dismiss = &Command1;

@@ -27,6 +27,8 @@ constexpr int kColumnHeight = 2660;
 constexpr int kHeadingTop = 60;  // of a column, in it
 constexpr int kHeadingHeight = 260;
 constexpr int kCommandTop = 7520;
+
+enum SizeGroup { kNamesOfBank = 1, kTotalNames = kNamesOfBank + kSlots / kKeys, kParamNames };
 }  // namespace
 
 MainWindow::MainWindow() : Window("frmMain", "Marlbrook 2.7.5", 11400, 7980) {
@@ -70,7 +72,9 @@ void MainWindow::LaySlot(int slot) {
         {Text2[slot], {"Text2", slot}, &SSTab1, count, "0", kCount, "Count of taxon " + number, &Text1[slot]},
         {Label1[slot], {"Label1", slot}, &SSTab1, below, number, kSlotNumber, "Taxon"},
     });
-    Text1[slot].page = Text2[slot].page = Label1[slot].page = (slot - 1) / kKeys;
+    const int bank = (slot - 1) / kKeys;
+    Text1[slot].page = Text2[slot].page = Label1[slot].page = bank;
+    Text1[slot].size_group = kNamesOfBank + bank;
     Text1[slot].centred = Text2[slot].centred = Label1[slot].centred = true;
     Text1[slot].placeholder = Text1[slot].Text();
     Text2[slot].placeholder = Text2[slot].Text();
@@ -106,6 +110,7 @@ void MainWindow::LayColumns() {
     });
     Text4.multiline = true;
     for (TextBox& total : Text3) total.centred = true;
+    for (Label& name : Label2) name.size_group = kTotalNames;
     Option1[0].SetValue(true);
     for (int p = 1; p <= kParams; ++p) LayParam(p);
     Lay({
@@ -125,6 +130,7 @@ void MainWindow::LayParam(int p) {
         {Text5[p], {"Text5", p}, &Frame4, {1580, top, 1080, 315}, kEmpty, {.enabled = false}, "", &Label10[p]},
         {Command7[p], {"Command7", p}, &Frame4, {2700, top, 660, 315}, "Rename", kSmall, "", &Label10[p]},
     });
+    Label10[p].size_group = kParamNames;
     Text5[p].SetToolTip(name);
 }
 

@@ -50,12 +50,14 @@ SubtotalWindow::SubtotalWindow() : Window("frmSubtotal", "Subtotal setting", kWi
 }
 
 void SubtotalWindow::LaySlot(int slot) {
+    constexpr int kNames = 1;
     Frame& bank = Frame1[(slot - 1) / kKeys];
     const Box place = CheckPlace((slot - 1) % kKeys + 1);
     Lay({
         {Check1[slot], {"Check1", slot}, &bank, place, "", {.points = 8}, "Taxon"},
         {Command4[slot], {"Command4", slot}, &bank, place, "xxx", kHidden},
     });
+    Check1[slot].size_group = kNames;
 }
 
 void SubtotalWindow::ForgetMembers() {

@@ -19,7 +19,10 @@ template <class Editor>
 class TextBoxView : public ControlWidget {
 public:
     TextBoxView(TextBox& box, ViewHost& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
-        editor_ = new Editor(OwnerGround(), box, *this);
+        if constexpr (std::is_same_v<Editor, TextArea>)
+            editor_ = new TextArea(OwnerGround(), box, *this);
+        else
+            editor_ = new TextLine(OwnerGround(), box, *this, Group());
         Adopt(editor_);
         if (MouseWidget() != editor_) WatchMouse(MouseWidget());
     }
@@ -35,6 +38,7 @@ private:
         MouseWidget()->update();
     }
     QString Tip() const override { return TipOf(box_, editor_->Held()); }
+    const FittedText* Fitted() const override { return &editor_->Fitted(); }
     bool PassesMouse() const override { return HoldsFocus(box_); }
     bool UseKey(QKeyEvent& key) override {
         QCoreApplication::sendEvent(editor_, &key);
@@ -179,7 +183,7 @@ constexpr double kArrowTwips = 270;
 ComboBoxView::ComboBoxView(ComboBox& box, ViewHost& window, ControlWidget* owner) : ControlWidget(box, window, owner), box_(box) {
     field_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { PaintArrow(painter); });
     Adopt(field_);
-    line_ = new TextLine(field_, box, *this);
+    line_ = new TextLine(field_, box, *this, Group());
     WatchMouse(line_);
 }
 

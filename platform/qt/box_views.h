@@ -46,6 +46,7 @@ public:
 private:
     void ShowContent(Changes changes) override;
     QString Tip() const override { return TipOf(box_, Held()); }
+    const FittedText* Fitted() const override { return &line_->Fitted(); }
     void Press(const Mouse& mouse, QPointF at) override;
     bool PassesMouse() const override { return HoldsFocus(box_); }
     void PaintArrow(QPainter& painter);

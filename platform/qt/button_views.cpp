@@ -28,6 +28,7 @@ public:
 private:
     void ShowContent(Changes) override {}
     void ShowPressed(bool pressed) override { button_->setDown(pressed); }
+    const FittedText* Fitted() const override { return &fitted_; }
 
     void Paint(QPainter& painter) {
         const QRectF box = button_->rect();
@@ -40,7 +41,8 @@ private:
         PaintOutline(painter, box, in_focus ? kAccent : kOutline, in_focus ? 2 : 1, radius);
         painter.setPen(button_->isDown() ? QColor(Qt::white) : button_->isEnabled() ? ToQt(model_.ForeColor()) : kRestingWords);
         const double margin = 60 * Factor();
-        fitted_.Paint(painter, box.adjusted(margin, 1, -margin, -1), Brief(model_.Caption()), Font(), Qt::AlignCenter, kMostLinesOfButton);
+        fitted_.Paint(painter, {Brief(model_.Caption()), Font(), box.adjusted(margin, 1, -margin, -1), kMostLinesOfButton},
+                      Qt::AlignCenter);
     }
 
     Button& model_;
@@ -92,17 +94,28 @@ public:
         button_ = new TickWidget<Base>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         button_->setAutoExclusive(false);
         Adopt(button_);
+        if (Group()) fitted_.Join(*Group(), *button_, [this] { return Words(); });
     }
 
 private:
-    void ShowContent(Changes) override { button_->setChecked(model_.Value() != 0); }
+    void ShowContent(Changes) override {
+        button_->setChecked(model_.Value() != 0);
+        fitted_.Follow();
+    }
     void ShowPressed(bool pressed) override { button_->setDown(pressed); }
+    const FittedText* Fitted() const override { return &fitted_; }
+
+    double MarkSize() const { return std::min(kMarkTwips * Factor(), button_->height() - 2.0); }
+    FittedText::Words Words() const {
+        const QRectF room = QRectF(button_->rect()).adjusted(MarkSize() + 75 * Factor(), 0, 0, 0);
+        return {Brief(model_.Caption()), Font(), room, kMostLines};
+    }
 
     void Paint(QPainter& painter) {
         const QRectF box = button_->rect();
         if (model_.BackColor() != kFormColour) painter.fillRect(box, ToQt(model_.BackColor()));
         const bool on = model_.Value() != 0;
-        const double size = std::min(kMarkTwips * Factor(), box.height() - 2);
+        const double size = MarkSize();
         const QRectF mark(box.left() + 1.5, box.center().y() - size / 2, size, size);
         const QColor colour = button_->isEnabled() ? kAccent : kRestingWords;
         painter.setRenderHint(QPainter::Antialiasing);
@@ -113,8 +126,7 @@ private:
         else
             PaintTick(painter, mark, on);
         painter.setPen(button_->isEnabled() ? ToQt(model_.ForeColor()) : kRestingWords);
-        const QRectF words = box.adjusted(size + 75 * Factor(), 0, 0, 0);
-        fitted_.Paint(painter, words, Brief(model_.Caption()), Font(), Qt::AlignLeft | Qt::AlignVCenter, kMostLines);
+        fitted_.Paint(painter, Words(), Qt::AlignLeft | Qt::AlignVCenter);
     }
 
     Model& model_;

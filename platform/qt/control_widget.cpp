@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <utility>
 
+#include "platform/qt/fitted_text.h"
 #include "platform/qt/look.h"
 #include "platform/qt/mouse.h"
 #include "platform/qt/shown_text.h"
@@ -106,13 +107,21 @@ void ControlWidget::Apply(Changes changes) {
     }
     if (changes.Has(Property::Enabled)) widget_->setEnabled(control_.Enabled());
     ShowContent(changes);
-    if (changes.Has(Property::ToolTip) || changes.Has(Property::Text)) widget_->setToolTip(Tip());
+    if (changes.Has(Property::ToolTip) || changes.Has(Property::Text)) SyncTip();
     Repaint(changes);
     if (changes.Has(Property::Visible)) widget_->setVisible(control_.Visible());
 }
 
 QString ControlWidget::Tip() const {
     return Brief(control_.ToolTip());
+}
+
+// A text of which a part is not seen stands above what else there is to say.
+void ControlWidget::SyncTip() {
+    const QString tip = Tip();
+    const bool is_cut = Fitted() && Fitted()->IsCut();
+    const QString whole = is_cut ? BriefLines(control_.State().text, kMostAtRest).trimmed() : QString();
+    widget_->setToolTip(whole.isEmpty() || tip.isEmpty() ? whole + tip : whole + u'\n' + tip);
 }
 
 Mouse ControlWidget::MouseAt(MouseButton button, QPointF at) const {
@@ -135,6 +144,9 @@ void ControlWidget::Release(const Mouse& mouse, bool clicks) {
 // The mouse on a control that cannot be used goes to what lies below it.
 bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
+        case QEvent::ToolTip:
+            SyncTip();
+            return QObject::eventFilter(watched, event);
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseMove:

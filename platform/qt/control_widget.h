@@ -8,7 +8,9 @@
 
 #include "platform/control.h"
 
+class FittedText;
 class ModelView;
+class SizeGroup;
 
 // The renderer, as far as the widgets need it.
 class UserEvents {
@@ -66,6 +68,7 @@ public:
     virtual QWidget* Ground() const = 0;                          // where the controls lie that no other contains
     virtual double Factor() const = 0;                            // pixels a twip
     virtual QWidget* WidgetOf(const Control& control) const = 0;  // nullptr: nothing of it is to be seen
+    virtual SizeGroup* GroupOf(const Control& control) = 0;       // nullptr: it has a size of its own
 
 protected:
     ~ViewHost() = default;
@@ -94,9 +97,11 @@ protected:
     void WatchMouse(QWidget* widget);  // of a part of it
     double Factor() const;
     QFont Font() const;
+    SizeGroup* Group() const { return window_.GroupOf(control_); }
     void Show(Changes changes) override;
     virtual void ShowContent(Changes changes) = 0;
     virtual QString Tip() const;
+    virtual const FittedText* Fitted() const { return nullptr; }  // what is painted of its text; nullptr: it is not fitted
     virtual void Repaint(Changes /*changes*/) { widget_->update(); }
 
     // What the kind does at a press, besides its events; at the widget's own coordinates.
@@ -111,6 +116,7 @@ protected:
 
 private:
     void Apply(Changes changes);  // what all kinds have in common
+    void SyncTip();
     void TellReaders(Changes changes);
     void TellNamesOfOthers() const;  // of the controls that are called after this one
     bool TellPress(const QMouseEvent& event, QPointF at);

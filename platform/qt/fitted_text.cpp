@@ -1,16 +1,21 @@
 #include "platform/qt/fitted_text.h"
 
 #include <QFontMetricsF>
+#include <QWidget>
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace {
-constexpr double kLittleLess = 0.85;  // of the font, before lines are broken where there is room for two
-constexpr double kLeast = 0.7;        // of the font, before they are broken where there is not
-constexpr double kSmall = 0.55;       // of the font, before words are
-constexpr int kNarrow[] = {85, 70};   // percent of their width, for letters that would else be too small
-constexpr int kSmallestPixels = 6;    // smaller letters cannot be read
-constexpr int kBeyondAnyLine = 400;   // characters, in a script whose letters have a width
-constexpr double kTight = 0.9;        // several lines stand closer than single ones where they must
+constexpr double kLittleLess = 0.85;   // of the font, before lines are broken where there is room for two
+constexpr double kLeast = 0.7;         // of the font, before they are broken where there is not
+constexpr double kSmall = 0.55;        // of the font, before words are
+constexpr double kSomewhatLess = 0.8;  // of the font, in a size group, before letters get very narrow
+constexpr int kNarrow[] = {85, 70};    // percent of their width, for letters that would else be too small
+constexpr int kSmallestPixels = 6;     // smaller letters cannot be read
+constexpr int kSmallestInGroup = 10;   // pixels of the toolkit: at arm's length
+constexpr int kBeyondAnyLine = 400;    // characters, in a script whose letters have a width
+constexpr double kTight = 0.9;         // several lines stand closer than single ones where they must
 
 // How many characters go in a line; a long text is not measured beyond it. Measuring thousands of marks without a width takes long.
 qsizetype CharactersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
@@ -38,7 +43,7 @@ qsizetype WordsThatFit(const QString& text, const QFontMetricsF& metrics, double
     qsizetype behind_hyphen = 0;
     for (qsizetype end = fits; end > 0; --end) {
         if (text[end] == u' ' && (behind_hyphen == 0 || rest_fits(end + 1))) return end;
-        if (behind_hyphen == 0 && text[end - 1] == u'-' && text[end].isLetter()) behind_hyphen = end;
+        if (behind_hyphen == 0 && (text[end - 1] == u'-' || text[end - 1] == u'/') && text[end].isLetter()) behind_hyphen = end;
     }
     return behind_hyphen;
 }
@@ -75,6 +80,14 @@ bool FittedText::FitAt(const Question& question, int pixels, Break where, Layout
     return true;
 }
 
+// In letters as wide as they are if that is possible.
+bool FittedText::FitWords(const Question& question, int pixels, int narrowest, Layout& layout) {
+    for (const int stretch : {100, kNarrow[0], kNarrow[1]})
+        for (const Break where : {Break::Never, Break::BetweenWords})
+            if (stretch >= narrowest && FitAt(question, pixels, where, layout, stretch)) return true;
+    return false;
+}
+
 bool FittedText::FitLines(const Question& question, int largest, int smallest, Break where, Layout& layout, int stretch) {
     for (int pixels = largest; pixels >= smallest; --pixels)
         if (FitAt(question, pixels, where, layout, stretch)) return true;
@@ -105,10 +118,19 @@ FittedText::Layout FittedText::Cut(const Question& question, int pixels) {
         rest = length == line.size() ? rest.mid(length + 1) : rest.mid(length).trimmed();
     }
     if (!rest.isEmpty()) lines << metrics.elidedText(rest.left(kBeyondAnyLine).replace(u'\n', u' '), Qt::ElideRight, width);
-    return {lines, font, Pitch(metrics, lines.size())};
+    return {lines, font, Pitch(metrics, lines.size()), !rest.isEmpty()};
+}
+
+FittedText::Layout FittedText::FitInGroup(const Question& question) {
+    Layout layout;
+    if (FitWords(question, question.pixels, kNarrow[1], layout)) return layout;
+    for (const int stretch : kNarrow)
+        if (FitAt(question, question.pixels, Break::Anywhere, layout, stretch)) return layout;
+    return Cut(question, question.pixels);
 }
 
 FittedText::Layout FittedText::Fit(const Question& question) {
+    if (question.pixels > 0) return FitInGroup(question);
     const int full = question.font.pixelSize();
     const auto part = [full](double of_full) { return std::max(std::min(full, kSmallestPixels), static_cast<int>(full * of_full)); };
     const double line = Pitch(QFontMetricsF(question.font), 2);
@@ -124,22 +146,82 @@ FittedText::Layout FittedText::Fit(const Question& question) {
     return Cut(question, part(kLeast));
 }
 
+// ---- One size for several ----
+
+void SizeGroup::Forget() {
+    if (std::exchange(pixels_, 0) == 0) return;
+    for (FittedText* text : texts_) text->PaintAgain();
+}
+
+int SizeGroup::Pixels(double density) {
+    if (pixels_ > 0 && density == density_) return pixels_;
+    pixels_ = std::numeric_limits<int>::max();
+    density_ = density;
+    for (FittedText* text : texts_) pixels_ = std::min(pixels_, text->LargestPixels(density));
+    return pixels_;
+}
+
+void FittedText::Join(SizeGroup& group, QWidget& shown_on, std::function<Words()> words) {
+    group_ = &group;
+    shown_on_ = &shown_on;
+    words_ = std::move(words);
+    group.Join(*this);
+}
+
+// A name gets bold when it is counted: as if it were that already, so that no key changes the size of a bank.
+void FittedText::Follow() {
+    if (!group_) return;
+    Words words = words_();
+    words.font.setBold(true);
+    if (words == in_group_) return;
+    in_group_ = std::move(words);
+    largest_ = 0;
+    group_->Forget();
+}
+
+void FittedText::PaintAgain() {
+    shown_on_->update();
+}
+
+// Letters much narrower than those beside them stand out, so all get somewhat smaller first.
+int FittedText::LargestPixels(double density) {
+    if (largest_ > 0 && density == of_density_) return largest_;
+    const Question question = Ask(in_group_, density);
+    const int full = question.font.pixelSize(), floor = std::min(full, static_cast<int>(kSmallestInGroup * density));
+    const auto fits = [&](int pixels) {
+        Layout layout;
+        return FitWords(question, pixels, pixels > full * kSomewhatLess ? kNarrow[0] : kNarrow[1], layout);
+    };
+    largest_ = full;
+    of_density_ = density;
+    while (largest_ > floor && !fits(largest_)) --largest_;
+    return largest_;
+}
+
+// ---- Painting ----
+
 // In the pixels of the screen: on a dense one sizes between two whole pixels can be had.
-void FittedText::Paint(QPainter& painter, const QRectF& room, const QString& text, const QFont& font, Qt::Alignment alignment,
-                       int most_lines) {
-    const QString words = text.trimmed();
-    if (words.isEmpty() || room.isEmpty()) return;
+FittedText::Question FittedText::Ask(const Words& words, double density) {
+    QFont dense = words.font;
+    dense.setPixelSize(static_cast<int>(dense.pixelSize() * density));
+    return {words.text.trimmed(), dense, words.room.size() * density, words.most_lines};
+}
+
+void FittedText::Paint(QPainter& painter, const Words& words, Qt::Alignment alignment) {
     const double density = painter.device()->devicePixelRatioF();
-    const QRectF place(room.topLeft() * density, room.size() * density);
-    QFont dense = font;
-    dense.setPixelSize(static_cast<int>(font.pixelSize() * density));
-    if (Question question{words, dense, place.size(), most_lines}; question != question_) {
+    Question question = Ask(words, density);
+    if (question.text.isEmpty() || question.room.isEmpty()) {
+        layout_.is_cut = false;
+        return;
+    }
+    if (group_) question.pixels = group_->Pixels(density);
+    if (question != question_) {
         question_ = std::move(question);
         layout_ = Fit(question_);
     }
     painter.save();
     painter.scale(1 / density, 1 / density);
-    PaintLayout(painter, place, alignment);
+    PaintLayout(painter, {words.room.topLeft() * density, question_.room}, alignment);
     painter.restore();
 }
 

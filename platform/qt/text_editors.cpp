@@ -53,18 +53,18 @@ QPalette EditorPalette(const TextHolder& box) {
     return palette;
 }
 
-void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
-                 int most_lines) {
-    painter.fillRect(room, BoxGround(box.State()));
-    PaintOutline(painter, room, box.Enabled() && box.TakesText() ? kBoxEdge : kOutline, 1, 0);
+FittedText::Words WordsAtRest(const QRectF& box_room, const TextHolder& box, const QFont& font, double factor, int most_lines) {
+    const int margin = BoxMargin(factor), above = box.BreaksLines() ? margin : 1;
+    const QString words = BriefLines(box.Text(), box.BreaksLines() ? kMostAtRest : kMostOfCaption);
+    return {words, font, box_room.adjusted(margin, above, -margin, -above), most_lines};
+}
+
+void PaintAtRest(QPainter& painter, const QRectF& box_room, const TextHolder& box, const FittedText::Words& words, FittedText& fitted) {
+    painter.fillRect(box_room, BoxGround(box.State()));
+    PaintOutline(painter, box_room, box.Enabled() && box.TakesText() ? kBoxEdge : kOutline, 1, 0);
     painter.setPen(ToQt(box.ForeColor()));
-    const int margin = BoxMargin(factor);
-    const bool one_line = most_lines <= 2;
     const Qt::Alignment across = box.IsCentred() ? Qt::AlignHCenter : Qt::AlignLeft;
-    const Qt::Alignment down = one_line ? Qt::AlignVCenter : Qt::AlignTop;
-    const int above = one_line ? 1 : margin;
-    const QString words = BriefLines(box.Text(), one_line ? kMostOfCaption : kMostAtRest);
-    fitted.Paint(painter, room.adjusted(margin, above, -margin, -above), words, font, across | down, most_lines);
+    fitted.Paint(painter, words, across | (box.BreaksLines() ? Qt::AlignTop : Qt::AlignVCenter));
 }
 
 QString TipOf(const TextHolder& box, const EditedHead& held) {
@@ -92,8 +92,10 @@ constexpr int kMostLines = 2;
 constexpr int kOwnMargin = 2;  // of a line edit
 }  // namespace
 
-TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view) : QLineEdit(parent), BoxEditor(box), box_(box), view_(view) {
+TextLine::TextLine(QWidget* parent, TextHolder& box, ModelView& view, SizeGroup* group)
+    : QLineEdit(parent), BoxEditor(box), box_(box), view_(view) {
     PrepareEditor(*this, box);
+    if (group) fitted_.Join(*group, *this, [this] { return Words(); });
     setFrame(false);
     setDragEnabled(false);
     if (box.IsCentred()) setAlignment(Qt::AlignCenter);
@@ -117,7 +119,12 @@ void TextLine::Sync(const QFont& font, double factor) {
     factor_ = factor;
     if (const QString wanted = head_.Follow(text()); text() != wanted) setText(wanted);
     SyncCaret();
+    fitted_.Follow();
     if (hasFocus()) SyncForEditing();
+}
+
+FittedText::Words TextLine::Words() const {
+    return WordsAtRest(rect(), box_, font_, factor_, kMostLines);
 }
 
 void TextLine::SyncCaret() {
@@ -191,7 +198,7 @@ void TextLine::paintEvent(QPaintEvent* event) {
         if (!head_.IsAll()) painter.drawText(rect().adjusted(0, 0, -BoxMargin(factor_), 0), Qt::AlignRight | Qt::AlignVCenter, kDots);
     } else {
         QPainter painter(this);
-        PaintAtRest(painter, rect(), box_, font_, factor_, fitted_, kMostLines);
+        PaintAtRest(painter, rect(), box_, Words(), fitted_);
     }
 }
 
@@ -271,7 +278,7 @@ void TextArea::paintEvent(QPaintEvent* event) {
     if (hasFocus())
         PaintEdgeInFocus(painter, viewport()->rect());
     else
-        PaintAtRest(painter, viewport()->rect(), box_, font_, factor_, fitted_, kMostLinesOfArea);
+        PaintAtRest(painter, viewport()->rect(), box_, WordsAtRest(viewport()->rect(), box_, font_, factor_, kMostLinesOfArea), fitted_);
 }
 
 void TextArea::focusInEvent(QFocusEvent* event) {
@@ -325,6 +332,6 @@ void TextArea::PaintStrip(QPainter& painter) {
     painter.fillRect(strip_->rect(), kRestingBox);
     painter.setPen(ToQt(kBlack));
     const int margin = BoxMargin(factor_);
-    fitted_strip_.Paint(painter, strip_->rect().adjusted(margin, 0, -margin, 0), head_.WordsOnRest(), font_,
-                        Qt::AlignLeft | Qt::AlignVCenter, 1);
+    const QRect room = strip_->rect().adjusted(margin, 0, -margin, 0);
+    fitted_strip_.Paint(painter, {head_.WordsOnRest(), font_, room}, Qt::AlignLeft | Qt::AlignVCenter);
 }

@@ -26,8 +26,8 @@ void PrepareEditor(QWidget& editor, const TextHolder& box);
 QPalette EditorPalette(const TextHolder& box);
 
 // A box that does not hold the keyboard shows all of its text that goes in.
-void PaintAtRest(QPainter& painter, const QRectF& room, const TextHolder& box, const QFont& font, double factor, FittedText& fitted,
-                 int most_lines);
+FittedText::Words WordsAtRest(const QRectF& box_room, const TextHolder& box, const QFont& font, double factor, int most_lines);
+void PaintAtRest(QPainter& painter, const QRectF& box_room, const TextHolder& box, const FittedText::Words& words, FittedText& fitted);
 void PaintEdgeInFocus(QPainter& painter, const QRectF& room);
 
 // An editor holds the head of its box's text.
@@ -45,8 +45,9 @@ protected:
 // there is more of the text; at rest it paints its text so that all of it can be read.
 class TextLine : public QLineEdit, public BoxEditor {
 public:
-    TextLine(QWidget* parent, TextHolder& box, ModelView& view);
-    void Sync(const QFont& font, double factor);  // with the box
+    TextLine(QWidget* parent, TextHolder& box, ModelView& view, SizeGroup* group);  // nullptr: letters of its own size
+    void Sync(const QFont& font, double factor);                                    // with the box
+    const FittedText& Fitted() const { return fitted_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -58,6 +59,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    FittedText::Words Words() const;
     bool PastesPast(QClipboard::Mode clipboard);  // false: what is there goes in as it would anywhere
     void TellCaret();
     void SyncCaret();       // and about what is selected
@@ -79,6 +81,7 @@ class TextArea : public QPlainTextEdit, public BoxEditor {
 public:
     TextArea(QWidget* parent, TextBox& box, ModelView& view);
     void Sync(const QFont& font, double factor);
+    const FittedText& Fitted() const { return fitted_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -55,10 +55,13 @@ public:
     LabelView(Label& label, ViewHost& window, ControlWidget* owner) : ControlWidget(label, window, owner), label_(label) {
         words_ = new Painted<QWidget>(OwnerGround(), [this](QPainter& painter) { Paint(painter); });
         Adopt(words_);
+        if (Group()) fitted_.Join(*Group(), *words_, [this] { return Words(); });
     }
 
 private:
-    void ShowContent(Changes) override {}
+    void ShowContent(Changes) override { fitted_.Follow(); }
+    const FittedText* Fitted() const override { return &fitted_; }
+    FittedText::Words Words() const { return {Brief(label_.Caption()), Font(), words_->rect(), kMostLines}; }
 
     // A label in the colour of the windows is only its words: what lies below may have another.
     void Paint(QPainter& painter) {
@@ -66,7 +69,7 @@ private:
         if (label_.BackColor() != kFormColour) painter.fillRect(box, ToQt(label_.BackColor()));
         painter.setPen(label_.Enabled() ? ToQt(label_.ForeColor()) : kRestingWords);
         const Qt::Alignment across = label_.centred ? Qt::AlignHCenter : label_.right_aligned ? Qt::AlignRight : Qt::AlignLeft;
-        fitted_.Paint(painter, box, Brief(label_.Caption()), Font(), across | Qt::AlignVCenter, kMostLines);
+        fitted_.Paint(painter, Words(), across | Qt::AlignVCenter);
     }
 
     Label& label_;

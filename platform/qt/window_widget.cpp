@@ -85,6 +85,10 @@ QWidget* WindowWidget::WidgetOf(const Control& control) const {
     return shown ? shown->Widget() : nullptr;
 }
 
+SizeGroup* WindowWidget::GroupOf(const Control& control) {
+    return control.size_group == 0 ? nullptr : &groups_[control.size_group];
+}
+
 ControlWidget* WindowWidget::ShownBy(const QWidget& widget) const {
     for (const auto& [control, shown] : controls_)
         if (shown && shown->Widget() == &widget) return shown.get();

@@ -11,6 +11,7 @@
 
 #include "platform/qt/control_widget.h"
 #include "platform/qt/dead_keys.h"
+#include "platform/qt/fitted_text.h"
 #include "platform/window.h"
 
 class MenuView;
@@ -28,6 +29,7 @@ public:
     MenuView& Menus() const { return *menus_; }
     ControlWidget* Find(const Control& control) const;  // nullptr: nothing of it is to be seen
     QWidget* WidgetOf(const Control& control) const override;
+    SizeGroup* GroupOf(const Control& control) override;
     ControlWidget* ShownBy(const QWidget& widget) const;  // whose widget this is; nullptr: no control's
 
     void NoteChange(WindowProperty property);
@@ -87,6 +89,7 @@ private:
     QWidget* ground_;
     Veil* veil_;  // over a window that takes no input
     std::unique_ptr<MenuView> menus_;
+    std::map<int, SizeGroup> groups_;
     std::map<const Control*, std::unique_ptr<ControlWidget>> controls_;
     QTimer resize_soon_;
     QTimer waits_;

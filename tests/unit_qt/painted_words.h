@@ -7,13 +7,15 @@
 #include <QString>
 #include <QTextItem>
 #include <QWidget>
+#include <set>
 
 // The texts that a widget paints, and the pixels of the screen that their letters cover, from its upper left corner.
 class Words : public QPaintDevice {
 public:
     Words(QWidget& widget, QWidget::RenderFlags flags) : widget_(widget) { widget.render(this, {}, {}, flags); }
 
-    QString Text() const { return text_; }  // without its blanks, as lines are broken there
+    QString Text() const { return text_; }          // without its blanks, as lines are broken there
+    std::set<int> Sizes() const { return sizes_; }  // of its letters, in pixels of the screen
     bool IsInside() const { return Room().adjusted(-1, -1, 1, 1).contains(ink_); }
 
     QPaintEngine* paintEngine() const override { return &engine_; }
@@ -50,6 +52,7 @@ private:
         void drawTextItem(const QPointF& at, const QTextItem& item) override {
             const QRectF letters = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at);
             words_.text_ += QString(item.text()).remove(u' ');
+            words_.sizes_.insert(item.font().pixelSize());
             words_.ink_ |= painter()->combinedTransform().mapRect(letters);
         }
 
@@ -59,6 +62,7 @@ private:
 
     QWidget& widget_;
     QString text_;
+    std::set<int> sizes_;
     QRectF ink_;
     mutable Engine engine_{*this};
 };
