@@ -12,6 +12,7 @@
 #include "platform/qt/picture_painter.h"
 #include "platform/qt/qt_files.h"
 #include "platform/qt/qt_host.h"
+#include "platform/qt/style.h"
 #include "platform/qt/unasked_end.h"
 #include "platform/qt/window_system.h"
 #include "platform/qt/window_widget.h"

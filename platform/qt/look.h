@@ -1,5 +1,4 @@
-// How everything looks: one palette, whatever the desktop's own, so that words stand out from their ground in a dark theme too. And how
-// large the windows of the program come up.
+// The colours and letters of everything that is shown, and how large the windows of the program come up.
 #pragma once
 #include <QColor>
 #include <QFont>
@@ -11,7 +10,6 @@
 
 #include "platform/control.h"
 
-class QApplication;
 class QPainter;
 class QRectF;
 class QScreen;
@@ -24,8 +22,6 @@ constexpr QColor kRestingBox{0xe4, 0xe8, 0xeb};    // a white box that takes no 
 constexpr QColor kRestingWords{0x6c, 0x74, 0x7c};  // captions of what cannot be used now
 
 inline constexpr const char* kScaledRange = "scaled range";  // the name of sliders and scroll bars that are drawn in the window's size
-
-void ApplyLook(QApplication& application);
 
 QColor ToQt(Colour colour);
 QString ToQt(std::string_view utf8);

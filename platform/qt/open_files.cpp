@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <iostream>
 
-#include "platform/qt/look.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/renderer.h"
+#include "platform/qt/style.h"
 
 #ifndef Q_OS_WIN
 #include <sys/resource.h>

@@ -17,6 +17,7 @@
 #include "platform/qt/mouse.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/shown_text.h"
+#include "platform/qt/style.h"
 #include "platform/qt/tab_view.h"
 #include "platform/qt/text_editors.h"
 #include "platform/qt/virtual_key.h"

@@ -7,7 +7,7 @@
 
 #include "events/program.h"
 #include "platform/qt/accessible.h"
-#include "platform/qt/look.h"
+#include "platform/qt/style.h"
 #include "platform/qt/window_widget.h"
 #include "unit/shared_state.h"
 

@@ -1,0 +1,155 @@
+#include "platform/qt/style.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOptionSlider>
+#include <QSvgRenderer>
+#include <QToolTip>
+#include <QWidget>
+#include <algorithm>
+
+#include "platform/qt/look.h"
+
+namespace {
+constexpr int kLargestHandle = 34;  // pixels, of a slider
+
+// A slider is drawn in the size of its window: the groove runs from end to end, the handle is as large as there is room across.
+int Across(const QStyleOptionSlider& slider) {
+    return std::min({slider.rect.width(), slider.rect.height(), kLargestHandle});
+}
+
+QRect SliderHandle(const QStyleOptionSlider& slider) {
+    const bool lies = slider.orientation == Qt::Horizontal;
+    const int size = Across(slider);
+    const int way = (lies ? slider.rect.width() : slider.rect.height()) - size;
+    const int along = QStyle::sliderPositionFromValue(slider.minimum, slider.maximum, slider.sliderPosition, way, slider.upsideDown);
+    QRect handle(0, 0, size, size);
+    handle.moveCenter(slider.rect.center());
+    if (lies)
+        handle.moveLeft(slider.rect.left() + along);
+    else
+        handle.moveTop(slider.rect.top() + along);
+    return handle;
+}
+
+void PaintSlider(QPainter& painter, const QStyleOptionSlider& slider) {
+    const bool lies = slider.orientation == Qt::Horizontal;
+    const double half = Across(slider) / 2.0, thick = std::max(3.0, half / 3);
+    const QRectF box = slider.rect;
+    QRectF groove(0, 0, lies ? box.width() - 2 * half : thick, lies ? thick : box.height() - 2 * half);
+    groove.moveCenter(box.center());
+    const bool enabled = slider.state & QStyle::State_Enabled;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kOutline);
+    painter.drawRoundedRect(groove, thick / 2, thick / 2);
+    const double rim = std::max(1.5, half / 6);
+    painter.setPen(QPen(enabled ? kAccent : kRestingWords, rim));
+    painter.setBrush(slider.state & QStyle::State_Sunken ? kAccent : kButtonFace);
+    painter.drawEllipse(QRectF(SliderHandle(slider)).adjusted(rim, rim, -rim, -rim));
+}
+
+class Look : public QProxyStyle {
+public:
+    Look() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
+        switch (hint) {
+            case SH_MenuBar_AltKeyNavigation:  // Alt can be a counter key
+            case SH_DialogButtonBox_ButtonsHaveIcons:
+            case SH_EtchDisabledText:  // a second, light word behind each that rests
+                return 0;
+            case SH_ToolTip_WakeUpDelay:
+                return 400;
+            default:
+                return QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    }
+
+    // The arrows of a scroll bar are as large as there is room across.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_ScrollBarExtent && IsScaled(widget) ? std::max(usual, std::min(widget->width(), widget->height())) : usual;
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const override {
+        const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        if (control != CC_Slider || !slider || !IsScaled(widget)) return QProxyStyle::subControlRect(control, option, part, widget);
+        return part == SC_SliderHandle ? SliderHandle(*slider) : slider->rect;
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        if (control == CC_Slider && slider && IsScaled(widget))
+            PaintSlider(*painter, *slider);
+        else
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+
+private:
+    static bool IsScaled(const QWidget* widget) { return widget && widget->objectName() == kScaledRange; }
+};
+
+QPalette LightPalette() {
+    QPalette palette(ToQt(kFormColour));  // edges and shades too: those of a dark desktop would be ghosts behind the words
+    const auto set = [&palette](QPalette::ColorRole role, QColor colour) { palette.setColor(role, colour); };
+    set(QPalette::Window, ToQt(kFormColour));
+    set(QPalette::WindowText, Qt::black);
+    set(QPalette::Base, Qt::white);
+    set(QPalette::AlternateBase, QColor(0xf4, 0xf6, 0xf8));
+    set(QPalette::Text, Qt::black);
+    set(QPalette::PlaceholderText, kRestingWords);
+    set(QPalette::Button, ToQt(kFormColour));
+    set(QPalette::ButtonText, Qt::black);
+    set(QPalette::BrightText, Qt::white);
+    set(QPalette::ToolTipBase, QColor(0xff, 0xff, 0xf0));
+    set(QPalette::ToolTipText, Qt::black);
+    set(QPalette::Highlight, kAccent);
+    set(QPalette::HighlightedText, Qt::white);
+    set(QPalette::Link, kAccent);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText}) palette.setColor(QPalette::Disabled, role, kRestingWords);
+    palette.setColor(QPalette::Disabled, QPalette::Text, kRestingWords);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, kOutline);
+    return palette;
+}
+
+QIcon ProgramIcon() {
+    QSvgRenderer drawing(QStringLiteral(":/icon.svg"));
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+// Where Windows lacks its own letters the next ones of any kind would be taken, slabs and all.
+void PreferSans() {
+#ifdef Q_OS_WIN
+    QFont font = QApplication::font();
+    font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Tahoma"), QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
+                      QStringLiteral("DejaVu Sans")});
+    QApplication::setFont(font);
+#endif
+}
+}  // namespace
+
+void ApplyLook(QApplication& application) {
+    application.setStyle(new Look);
+    application.setPalette(LightPalette());
+    application.setWindowIcon(ProgramIcon());
+    PreferSans();
+    const QFont plain = PlainFont(CommonFactor(*QGuiApplication::primaryScreen()));
+    QApplication::setFont(plain);
+    QToolTip::setFont(plain);
+}
