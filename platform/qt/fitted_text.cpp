@@ -7,15 +7,14 @@
 #include <utility>
 
 namespace {
-constexpr double kLittleLess = 0.85;   // of the font, before lines are broken where there is room for two
-constexpr double kLeast = 0.7;         // of the font, before they are broken where there is not
-constexpr double kSmall = 0.55;        // of the font, before words are
-constexpr double kSomewhatLess = 0.8;  // of the font, in a size group, before letters get very narrow
-constexpr int kNarrow[] = {85, 70};    // percent of their width, for letters that would else be too small
-constexpr int kSmallestPixels = 6;     // smaller letters cannot be read
-constexpr int kSmallestInGroup = 10;   // pixels of the toolkit: at arm's length
-constexpr int kBeyondAnyLine = 400;    // characters, in a script whose letters have a width
-constexpr double kTight = 0.9;         // several lines stand closer than single ones where they must
+constexpr double kLittleLess = 0.85;  // of the font, before lines are broken where there is room for two
+constexpr double kLeast = 0.7;        // of the font, before they are broken where there is not
+constexpr double kSmall = 0.55;       // of the font, before words are
+constexpr int kNarrow[] = {85, 70};   // percent of their width, for letters that would else be too small
+constexpr int kSmallestPixels = 6;    // smaller letters cannot be read
+constexpr int kSmallestInGroup = 10;  // pixels of the toolkit: at arm's length
+constexpr int kBeyondAnyLine = 400;   // characters, in a script whose letters have a width
+constexpr double kTight = 0.86;       // several lines stand closer than single ones where they must
 
 // How many characters go in a line; a long text is not measured beyond it. Measuring thousands of marks without a width takes long.
 qsizetype CharactersThatFit(const QString& text, const QFontMetricsF& metrics, double width) {
@@ -52,9 +51,13 @@ double Pitch(const QFontMetricsF& metrics, qsizetype lines) {
     return (metrics.ascent() + metrics.descent()) * (lines > 1 ? kTight : 1);
 }
 
+double HeightOf(const QFontMetricsF& metrics, qsizetype lines) {
+    return Pitch(metrics, lines) * static_cast<double>(lines - 1) + Pitch(metrics, 1);
+}
+
 // A single line may stand over: it is the height of the box that is meant for it.
 bool IsTooHigh(const QFontMetricsF& metrics, qsizetype lines, double height) {
-    return lines > 1 && Pitch(metrics, lines) * static_cast<double>(lines) > height + 1;
+    return lines > 1 && HeightOf(metrics, lines) > height + 1;
 }
 }  // namespace
 
@@ -107,7 +110,8 @@ FittedText::Layout FittedText::Cut(const Question& question, int pixels) {
     font.setPixelSize(pixels);
     const QFontMetricsF metrics(font);
     const double width = question.room.width();
-    const int rows = std::clamp(static_cast<int>((question.room.height() + 1) / Pitch(metrics, 2)), 1, question.most_lines);
+    int rows = question.most_lines;
+    while (rows > 1 && IsTooHigh(metrics, rows, question.room.height())) --rows;
     QStringList lines;
     QString rest = question.text;
     while (!rest.isEmpty() && lines.size() < rows - 1) {
@@ -133,9 +137,10 @@ FittedText::Layout FittedText::Fit(const Question& question) {
     if (question.pixels > 0) return FitInGroup(question);
     const int full = question.font.pixelSize();
     const auto part = [full](double of_full) { return std::max(std::min(full, kSmallestPixels), static_cast<int>(full * of_full)); };
-    const double line = Pitch(QFontMetricsF(question.font), 2);
-    const bool has_room_for_two = question.most_lines > 1 && 2 * line <= question.room.height();
-    const bool is_for_reading = question.most_lines > 2 && 3 * line <= question.room.height();  // a note is cut before it gets tiny
+    const QFontMetricsF metrics(question.font);
+    const bool has_room_for_two = question.most_lines > 1 && HeightOf(metrics, 2) <= question.room.height();
+    const bool is_for_reading =
+        question.most_lines > 2 && HeightOf(metrics, 3) <= question.room.height();  // a note is cut before it gets tiny
     Layout layout;
     if (FitLines(question, full, part(has_room_for_two ? kLittleLess : kLeast), Break::Never, layout) ||
         FitLines(question, full, part(kLeast), Break::BetweenWords, layout) ||
@@ -183,14 +188,15 @@ void FittedText::PaintAgain() {
     shown_on_->update();
 }
 
-// Letters much narrower than those beside them stand out, so all get somewhat smaller first.
+// Letters narrower than those beside them stand out, so all get somewhat smaller first.
 int FittedText::LargestPixels(double density) {
     if (largest_ > 0 && density == of_density_) return largest_;
     const Question question = Ask(in_group_, density);
     const int full = question.font.pixelSize(), floor = std::min(full, static_cast<int>(kSmallestInGroup * density));
     const auto fits = [&](int pixels) {
         Layout layout;
-        return FitWords(question, pixels, pixels > full * kSomewhatLess ? kNarrow[0] : kNarrow[1], layout);
+        const int narrowest = pixels > full * kLittleLess ? 100 : pixels > full * kLeast ? kNarrow[0] : kNarrow[1];
+        return FitWords(question, pixels, narrowest, layout);
     };
     largest_ = full;
     of_density_ = density;

@@ -1,4 +1,4 @@
-// A walk through all windows on the screens that users have: at 100, 150 and 200 % every word is there, whole and inside its control.
+// A walk through all windows on the screens that users have: at 100, 125, 150 and 200 % every word is there, whole and inside its control.
 #include <QMenuBar>
 
 #include "diagram/open_diagram.h"
@@ -7,6 +7,7 @@
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
+#include "unit/sheet_file.h"
 #include "unit_qt/on_screen_test.h"
 #include "unit_qt/painted_words.h"
 #include "windows/diagram_window.h"
@@ -56,6 +57,34 @@ protected:
 };
 #endif
 
+// What users name, as long as they do.
+struct Names {
+    std::vector<std::string> taxa;
+    std::string subtotals[2], param, sample;
+};
+
+const Names kGerman{{"Gänsefußgewächse", "Heidekrautgewächse", "Wegerichgewächse", "Spitzwegerich-Typ", "Scharfer Hahnenfuß", "Birke"},
+                    {"Bäume und Sträucher", "Kräuter ohne Wasserpflanzen"},
+                    "Magnetische Suszeptibilität",
+                    "Großes Heiliges Meer 12,5"};
+const Names kRussian{{"Колокольчиковые", "Можжевельник обыкновенный", "Подорожник ланцетный", "Сложноцветные", "Вересковые", "Берёза"},
+                     {"Деревья и кустарники", "Травы без водных растений"},
+                     "Магнитная восприимчивость",
+                     "Озеро Неро 12,5"};
+const Names kGreek{{"Αγριοτριανταφυλλιά", "Πλατύφυλλα δέντρα", "Χηνοποδιοειδή", "Κουκουναριά", "Ασφόδελος", "Ελιά"},
+                   {"Δέντρα και θάμνοι", "Πόες χωρίς υδρόβια φυτά"},
+                   "Μαγνητική επιδεκτικότητα",
+                   "Λίμνη Βεγορίτιδα 12,5"};
+
+Rows SheetWith(const Names& names) {
+    Rows rows = DataSheet(2);
+    for (std::size_t row = 0; row < kSlots; ++row) rows[kTaxonRow + row][3] = Quoted(names.taxa[row % names.taxa.size()]);
+    for (std::size_t row = 0; row < kParams; ++row) rows[kParamRow + row][3] = Quoted(names.param);
+    for (std::size_t cell : {4, 5}) rows[1][cell] = Quoted(names.sample + " " + std::to_string(cell));
+    for (std::size_t subtotal : {0, 1}) rows[1][1 + subtotal] = rows[kSumRow + subtotal][3] = Quoted(names.subtotals[subtotal]);
+    return rows;
+}
+
 class WindowWalkTest : public testing::WithParamInterface<double>, private DenseScreen, public OnScreenTest {
 protected:
     WindowWalkTest() : DenseScreen(GetParam()), OnScreenTest(GetParam()) {}
@@ -97,6 +126,36 @@ protected:
         Do([] { ClickControl(frmNext.Command4); });
         Do([] { ClickControl(frmNext.Command1); });
     }
+
+    void CheckDialogs() {
+        for (Window* window : AllWindows()) {
+            if (window->name == "frmMain" || window->name == "frmNext" || window->name == "frmDiagram" || window->name == "frmPicture")
+                continue;
+            Do([&] { window->Show(); });
+            Control* const tabs = window->Find("SSTab1", -1);
+            if (tabs)
+                CheckTabs(static_cast<TabControl&>(*tabs), "open");
+            else
+                CheckWords(*window, "open");
+            Do([&] { window->Unload(); });
+        }
+    }
+
+    void CheckSheetWith(const Names& names) {
+        const std::string path = "/sheets/names.csv";
+        files_.bytes[path] = Joined(SheetWith(names));
+        services_.dialogs.answers.push_back(path);
+        Do([] { ClickControl(frmNext.Command2); });
+        ASSERT_EQ(SampleCount, 2);
+        CheckTabs(frmMain.SSTab1, "while it counts");
+        Do([] { ClickControl(frmMain.Command5[1]); });
+        CheckWords(frmNext, "next sample");
+        Do([] { CloseWindow(frmNext); });
+        Do([] { ClickControl(frmMain.Command3[0]); });
+        CheckTabs(frmMain.SSTab1, "in Modify mode");
+        Do([] { ClickControl(frmMain.Command3[1]); });
+        CheckDialogs();
+    }
 };
 
 TEST_P(WindowWalkTest, NoWordIsCutOnTheWayToTheFirstSample) {
@@ -121,17 +180,19 @@ TEST_P(WindowWalkTest, NoWordIsCutInTheDiagram) {
 
 TEST_P(WindowWalkTest, NoWordIsCutInADialog) {
     BeginSheet();
-    for (Window* window : AllWindows()) {
-        if (window->name == "frmMain" || window->name == "frmNext" || window->name == "frmDiagram" || window->name == "frmPicture")
-            continue;
-        Do([&] { window->Show(); });
-        Control* const tabs = window->Find("SSTab1", -1);
-        if (tabs)
-            CheckTabs(static_cast<TabControl&>(*tabs), "open");
-        else
-            CheckWords(*window, "open");
-        Do([&] { window->Unload(); });
-    }
+    CheckDialogs();
+}
+
+TEST_P(WindowWalkTest, NoGermanNameIsCut) {
+    CheckSheetWith(kGerman);
+}
+
+TEST_P(WindowWalkTest, NoRussianNameIsCut) {
+    CheckSheetWith(kRussian);
+}
+
+TEST_P(WindowWalkTest, NoGreekNameIsCut) {
+    CheckSheetWith(kGreek);
 }
 
 TEST_P(WindowWalkTest, AWordThatIsCutIsSeen) {
@@ -144,5 +205,5 @@ TEST_P(WindowWalkTest, AWordThatIsCutIsSeen) {
     EXPECT_FALSE(WordsOf(frmMain.Frame1).IsInside());
 }
 
-INSTANTIATE_TEST_SUITE_P(Densities, WindowWalkTest, testing::Values(1.0, 1.5, 2.0));
+INSTANTIATE_TEST_SUITE_P(Densities, WindowWalkTest, testing::Values(1.0, 1.25, 1.5, 2.0));
 }  // namespace
