@@ -43,11 +43,12 @@ void DrawLabels(PictureBox& picture) {
     const std::string taxa_text = NumberText(taxa);
     const std::string total_text = NumberText(total);
     const auto digits = [](const std::string& text) { return static_cast<double>(Length(text)); };
-    const auto print = [&picture](double x, double y, const std::string& text) { picture.Print(x, y, 7, text, kAxis); };
-    print(0, taxa * -0.2, "0");
-    print((9.9 - 0.2 * digits(total_text)) * total, taxa * -0.2, total_text);
-    print(total * -0.43, taxa * 0.9, "0");
-    print((-0.35 - 0.33 * digits(taxa_text)) * total, taxa * 10.9, taxa_text);
+    const auto print_below = [&](double x, const std::string& text) { picture.Print(x, taxa * -0.2, 7, text, kAxis); };
+    const auto print_beside = [&](double x, double y, const std::string& text) { picture.PrintBefore(0, x, y, 7, text, kAxis); };
+    print_below(0, "0");
+    print_below((9.9 - 0.2 * digits(total_text)) * total, total_text);
+    print_beside(total * -0.43, taxa * 0.9, "0");
+    print_beside((-0.35 - 0.33 * digits(taxa_text)) * total, taxa * 10.9, taxa_text);
 }
 
 // The least total that has a point. In a sheet that was opened with thousands of grains it is far from 0: the way there is looked

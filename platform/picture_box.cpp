@@ -69,9 +69,14 @@ void PictureBox::Circle(double x, double y, double radius, Colour rim, Colour fi
 }
 
 void PictureBox::Print(double x, double y, double points, const std::string& text, Colour colour) {
+    PrintBefore(scale_left_ + Span(scale_width_), x, y, points, text, colour);
+}
+
+void PictureBox::PrintBefore(double end, double x, double y, double points, const std::string& text, Colour colour) {
     DrawOperation& print = Add(DrawOperation::Shape::Text);
     print.x1 = FractionX(x);
     print.y1 = FractionY(y);
+    print.x2 = FractionX(end);
     print.size = points;
     print.rim = colour;
     print.text = text;

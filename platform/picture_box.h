@@ -22,7 +22,7 @@ struct DrawOperation {
     // Fractions of the picture's width and height, from its upper left corner, so that what is drawn stays where it is when the scale
     // changes. Of a Name: pixels.
     double x1 = 0, y1 = 0;  // Curve: where it begins, at the height 0
-    double x2 = 0, y2 = 0;  // Line and Rectangle; Curve: from point to point, and from one height to the next
+    double x2 = 0, y2 = 0;  // Line and Rectangle; Curve: from point to point, and from one height to the next; Text: it ends before x2
     double radius = 0;      // Circle: a fraction of the width; round on the screen
     double size = 0;        // Text: points
     std::string text;
@@ -59,7 +59,9 @@ public:
     void FilledRectangle(double x1, double y1, double x2, double y2, Colour fill);  // over the whole scale area: drops what lies under it
     void Circle(double x, double y, double radius, Colour rim, Colour fill);  // the radius in units of x; as far up and down on the screen
     void Print(double x, double y, double points, const std::string& text, Colour colour);  // (x, y): its upper left corner
-    void Name(double x, double y, bool italic, const std::string& text);                    // in pixels
+    // The same; where letters are so wide that it would reach this x, it begins further left.
+    void PrintBefore(double end, double x, double y, double points, const std::string& text, Colour colour);
+    void Name(double x, double y, bool italic, const std::string& text);  // in pixels
 
     void Clear();         // everything
     void ClearOverlay();  // what was drawn since Persist

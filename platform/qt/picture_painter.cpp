@@ -17,6 +17,7 @@ constexpr double kPixelsPerPoint = static_cast<double>(kTwipsPerPoint) / kTwipsP
 constexpr double kFarOut = 100'000;  // pixels: nothing beyond is on any screen
 constexpr double kLargestDot = 100;  // pixels
 constexpr double kNameWidth = 5;     // of a letter on the average, in pixels of the program
+constexpr double kBeforeEnd = 1.5;   // pixels of the program between a text and where it has to end
 constexpr double kAboveName = 2;     // pixels of the program between a long name and the upper edge
 constexpr double kNameSize = 10.5;   // pixels of the program: letters that stand in a row 12 high
 
@@ -154,9 +155,14 @@ private:
         UseFont(text.size * kPixelsPerPoint * scale_.pixel, false);
         UsePen(text.rim);
         const QString words = Brief(text.text);
-        const QFontMetrics metrics = painter_.fontMetrics();
-        const double spare = scale_.size.width() - metrics.horizontalAdvance(words) - 1;
-        painter_.drawText(QPointF(std::min(X(text.x1), spare), Y(text.y1) + metrics.ascent()), words);  // never cut off at the right
+        const QFontMetricsF metrics(painter_.font());
+        const double end = X(text.x2) - kBeforeEnd * scale_.pixel, width = metrics.horizontalAdvance(words);
+        const double left = std::max(std::min(X(text.x1), end - width), 0.0);
+        painter_.save();
+        painter_.translate(left, Y(text.y1));
+        painter_.scale(std::clamp((end - left) / width, 0.0, 1.0), 1);  // never cut off
+        painter_.drawText(QPointF(0, metrics.ascent()), words);
+        painter_.restore();
     }
 
     // As narrow as the program's letters are, and narrower where a name is longer than the way to the upper edge.

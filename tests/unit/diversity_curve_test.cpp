@@ -89,6 +89,7 @@ TEST_F(DiversityCurveTest, FourLabelsStandAtTheEndsOfTheAxes) {
         EXPECT_NEAR(X(labels[i].x1), expected[i].x, 1e-9) << i;
         EXPECT_NEAR(Y(labels[i].y1), expected[i].y, 1e-9) << i;
         EXPECT_EQ(labels[i].size, 7) << i;
+        EXPECT_NEAR(X(labels[i].x2), i < 2 ? 12 * 10.8 : 0, 1e-9) << i << " ends before the picture does, or before the axis";
     }
 }
 

@@ -110,6 +110,24 @@ TEST_F(PicturePainterTest, ANameThatIsLongerThanTheStripIsCondensed) {
     }
 }
 
+TEST_F(PicturePainterTest, ATextEndsBeforeItsEndHoweverWideItsLettersAre) {
+    for (const char* number : {"0", "15", "135", "1350000"}) {
+        picture_.Clear();
+        picture_.PrintBefore(20, 18, 10, 10, number, kBlack);
+        for (const int density : {1, 2, 3}) {
+            const QImage image = Painted(density);
+            int last = image.width() - 1;
+            while (last > 0 && !HasInk(image, last)) --last;
+            EXPECT_LT(last, 20 * density) << number;
+            EXPECT_GT(last, 14 * density) << number;
+        }
+    }
+    picture_.Clear();
+    picture_.Print(95, 10, 10, "135", kBlack);
+    EXPECT_FALSE(HasInk(Painted(1), kWidth - 1));
+    EXPECT_TRUE(HasInk(Painted(1), kWidth - 5)) << "it begins further left";
+}
+
 TEST_F(PicturePainterTest, ACopyIsThreeTimesAsLargeAndWideEnoughToPrint) {
     for (const auto& [width, times] : {std::pair{60, 1600 / 60.0}, {600, 3.0}}) {
         picture_.SetWidth(width * 15);
