@@ -223,15 +223,7 @@ bool ComboBoxView::UseKey(QKeyEvent& key) {
 
 void ComboBoxView::PaintArrow(QPainter& painter) {
     const QRectF box = field_->rect();
-    const QRectF button = box.adjusted(box.width() - ArrowWidth(), 0, 0, 0);
-    painter.fillRect(button, kButtonFace);
-    PaintOutline(painter, button, kOutline, 1, 0);
-    const double half = button.width() * 0.18;
-    const QPointF middle = button.center();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(
-        QPen(box_.Enabled() ? QColor(Qt::black) : kRestingWords, std::max(1.0, 22 * Factor()), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF({middle + QPointF(-half, -half / 2), middle + QPointF(0, half / 2), middle + QPointF(half, -half / 2)}));
+    PaintArrowButton(painter, box.adjusted(box.width() - ArrowWidth(), 0, 0, 0), box_.Enabled(), std::max(1.0, 22 * Factor()));
 }
 
 std::unique_ptr<ControlWidget> MakeView(ComboBox& box, ViewHost& window, ControlWidget* owner) {

@@ -11,12 +11,6 @@
 namespace {
 constexpr int kMostLinesOfButton = 3;
 
-QColor Face(const QPushButton& button, Colour back) {
-    if (button.isDown()) return kAccent;
-    const QColor face = back == kFormColour ? kButtonFace : ToQt(back);
-    return button.isEnabled() && button.underMouse() ? face.darker(105) : face;
-}
-
 class ButtonView : public ControlWidget {
 public:
     ButtonView(Button& button, ViewHost& window, ControlWidget* owner) : ControlWidget(button, window, owner), model_(button) {
@@ -32,13 +26,9 @@ private:
 
     void Paint(QPainter& painter) {
         const QRectF box = button_->rect();
-        const double radius = 45 * Factor();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(button_->isEnabled() ? Face(*button_, model_.BackColor()) : ToQt(kFormColour));
-        painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-        const bool in_focus = button_->hasFocus();
-        PaintOutline(painter, box, in_focus ? kAccent : kOutline, in_focus ? 2 : 1, radius);
+        const QColor face = model_.BackColor() == kFormColour ? kButtonFace : ToQt(model_.BackColor());
+        const ButtonState state{button_->isEnabled(), button_->isDown(), button_->underMouse(), button_->hasFocus()};
+        PaintButton(painter, box, face, state, 45 * Factor());
         painter.setPen(button_->isDown() ? QColor(Qt::white) : button_->isEnabled() ? ToQt(model_.ForeColor()) : kRestingWords);
         const double margin = 60 * Factor();
         fitted_.Paint(painter, {Brief(model_.Caption()), Font(), box.adjusted(margin, 1, -margin, -1), kMostLinesOfButton},

@@ -57,6 +57,29 @@ void PaintOutline(QPainter& painter, const QRectF& box, const QColor& colour, do
     painter.restore();
 }
 
+void PaintButton(QPainter& painter, const QRectF& box, const QColor& face, const ButtonState& state, double radius) {
+    const QColor in_use = state.down ? kAccent : state.hovered ? face.darker(105) : face;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(state.enabled ? in_use : ToQt(kFormColour));
+    painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.restore();
+    PaintOutline(painter, box, state.in_focus ? kAccent : kOutline, state.in_focus ? 2 : 1, radius);
+}
+
+void PaintArrowButton(QPainter& painter, const QRectF& box, bool enabled, double thickness) {
+    painter.fillRect(box, kButtonFace);
+    PaintOutline(painter, box, kOutline, 1, 0);
+    const double half = box.width() * 0.18;
+    const QPointF middle = box.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(enabled ? QColor(Qt::black) : kRestingWords, thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({middle + QPointF(-half, -half / 2), middle + QPointF(0, half / 2), middle + QPointF(half, -half / 2)}));
+    painter.restore();
+}
+
 // ---- Size ----
 
 namespace {

@@ -34,6 +34,15 @@ QFont PlainFont(double factor);  // of menus, message boxes and file dialogs
 QColor BoxGround(const Properties& control);  // of a text box: light grey instead of white while it is disabled
 void PaintOutline(QPainter& painter, const QRectF& box, const QColor& colour, double width, double radius);
 
+struct ButtonState {
+    bool enabled = true;
+    bool down = false;
+    bool hovered = false;
+    bool in_focus = false;
+};
+void PaintButton(QPainter& painter, const QRectF& box, const QColor& face, const ButtonState& state, double radius);
+void PaintArrowButton(QPainter& painter, const QRectF& box, bool enabled, double thickness);  // of a list that drops down
+
 // The pixels a twip with which the window that takes the counter keys (without one: the largest) comfortably fills the screen, frame
 // and menu bar included. All windows come up with it, so that letters are of one size everywhere.
 double CommonFactor(const QScreen& screen);

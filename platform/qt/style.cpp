@@ -54,6 +54,66 @@ void PaintSlider(QPainter& painter, const QStyleOptionSlider& slider) {
     painter.drawEllipse(QRectF(SliderHandle(slider)).adjusted(rim, rim, -rim, -rim));
 }
 
+QIcon DrawnIcon(const QString& path) {
+    QSvgRenderer drawing(path);
+    QIcon icon;
+    for (const int size : {16, 20, 24, 32, 48, 64, 96, 128}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+// The toolkit's own signs are pictures of one size.
+struct Sign {
+    QStyle::StandardPixmap which;
+    const char* drawing;
+};
+constexpr Sign kSigns[] = {
+    {QStyle::SP_MessageBoxInformation, "sign_information"},
+    {QStyle::SP_MessageBoxWarning, "sign_warning"},
+    {QStyle::SP_MessageBoxQuestion, "sign_question"},
+    {QStyle::SP_ArrowBack, "back"},
+    {QStyle::SP_ArrowForward, "forward"},
+    {QStyle::SP_FileDialogToParent, "up"},
+    {QStyle::SP_FileDialogNewFolder, "new_folder"},
+    {QStyle::SP_FileDialogListView, "list"},
+    {QStyle::SP_FileDialogDetailedView, "details"},
+    {QStyle::SP_DirIcon, "folder"},
+    {QStyle::SP_DirHomeIcon, "folder"},
+    {QStyle::SP_DirLinkIcon, "folder"},
+    {QStyle::SP_FileIcon, "file"},
+    {QStyle::SP_FileLinkIcon, "file"},
+    {QStyle::SP_ComputerIcon, "computer"},
+    {QStyle::SP_DriveHDIcon, "drive"},
+};
+
+constexpr double kRounded = 4;  // pixels: the corners of a button in a dialog
+
+ButtonState StateOf(const QStyleOption& option) {
+    const auto is = [&option](QStyle::StateFlag flag) { return option.state.testFlag(flag); };
+    return {is(QStyle::State_Enabled), is(QStyle::State_Sunken), is(QStyle::State_MouseOver), is(QStyle::State_HasFocus)};
+}
+
+// The parts of message boxes and file dialogs look as those of the program's windows do.
+void PaintArrowBox(QPainter& painter, const QStyleOption& option, const QRect& arrow) {
+    const QRectF box = option.rect;
+    const ButtonState state = StateOf(option);
+    painter.fillRect(box, state.enabled ? QColor(Qt::white) : kRestingBox);
+    PaintArrowButton(painter, QRectF(arrow.left(), box.top(), box.right() - arrow.left(), box.height()), state.enabled, 1.5);
+    PaintOutline(painter, box, state.in_focus ? kAccent : kBoxEdge, state.in_focus ? 2 : 1, 0);
+}
+
+void PaintHeading(QPainter& painter, const QRect& box) {
+    painter.fillRect(box, ToQt(kFormColour));
+    painter.fillRect(QRect(box.left(), box.bottom(), box.width(), 1), kOutline);
+    painter.fillRect(QRect(box.right(), box.top(), 1, box.height()), kOutline);
+}
+
 class Look : public QProxyStyle {
 public:
     Look() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -71,8 +131,15 @@ public:
         }
     }
 
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+        for (const Sign& sign : kSigns)
+            if (sign.which == which) return DrawnIcon(QStringLiteral(":/pictures/%1.svg").arg(sign.drawing));
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
+
     // The arrows of a scroll bar are as large as there is room across.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        if (metric == PM_MessageBoxIconSize && widget) return 2 * widget->fontMetrics().height();
         const int usual = QProxyStyle::pixelMetric(metric, option, widget);
         return metric == PM_ScrollBarExtent && IsScaled(widget) ? std::max(usual, std::min(widget->width(), widget->height())) : usual;
     }
@@ -88,11 +155,44 @@ public:
         const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
         if (control == CC_Slider && slider && IsScaled(widget))
             PaintSlider(*painter, *slider);
+        else if (control == CC_ComboBox)
+            PaintArrowBox(*painter, *option, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
         else
             QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override {
+        const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if (element == CE_PushButton && button)
+            PaintPushButton(*painter, *button, widget);
+        else if (element == CE_HeaderSection)
+            PaintHeading(*painter, option->rect);
+        else
+            QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override {
+        const ButtonState state = StateOf(*option);
+        const bool is_on = option->state.testFlag(State_On);
+        if (element == PE_FrameLineEdit) {
+            PaintOutline(*painter, option->rect, state.in_focus ? kAccent : kBoxEdge, state.in_focus ? 2 : 1, 0);
+        } else if (element == PE_PanelButtonTool) {
+            if (is_on || state.down || (state.hovered && state.enabled))
+                PaintButton(*painter, option->rect, is_on || state.down ? kRestingBox : kButtonFace, {.enabled = state.enabled}, kRounded);
+        } else {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+    }
+
 private:
+    void PaintPushButton(QPainter& painter, const QStyleOptionButton& button, const QWidget* widget) const {
+        PaintButton(painter, button.rect, kButtonFace, StateOf(button), kRounded);
+        QStyleOptionButton words = button;
+        words.rect = subElementRect(SE_PushButtonContents, &button, widget);
+        if (button.state & State_Sunken) words.palette.setColor(QPalette::ButtonText, Qt::white);
+        drawControl(CE_PushButtonLabel, &words, &painter, widget);
+    }
+
     static bool IsScaled(const QWidget* widget) { return widget && widget->objectName() == kScaledRange; }
 };
 
@@ -119,20 +219,6 @@ QPalette LightPalette() {
     return palette;
 }
 
-QIcon ProgramIcon() {
-    QSvgRenderer drawing(QStringLiteral(":/icon.svg"));
-    QIcon icon;
-    for (const int size : {16, 32, 48, 128}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        drawing.render(&painter);
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
-
 // Where Windows lacks its own letters the next ones of any kind would be taken, slabs and all.
 void PreferSans() {
 #ifdef Q_OS_WIN
@@ -147,7 +233,7 @@ void PreferSans() {
 void ApplyLook(QApplication& application) {
     application.setStyle(new Look);
     application.setPalette(LightPalette());
-    application.setWindowIcon(ProgramIcon());
+    application.setWindowIcon(DrawnIcon(QStringLiteral(":/icon.svg")));
     PreferSans();
     const QFont plain = PlainFont(CommonFactor(*QGuiApplication::primaryScreen()));
     QApplication::setFont(plain);
