@@ -7,12 +7,17 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QRegularExpressionValidator>
 #include <QScreen>
+#include <QSplitter>
 #include <QStandardPaths>
+#include <QTreeView>
+#include <algorithm>
 
 #include "platform/qt/held_keys.h"
 #include "platform/qt/look.h"
@@ -125,7 +130,7 @@ Answer QtMessageBoxes::Show(const Message& message) {
 }
 
 namespace {
-constexpr QSize kSizeInLines(46, 28);
+constexpr QSize kSizeInLines(52, 28);
 constexpr const char* kQuotationMark =
     "A file with a quotation mark (\") in its name or in that of a folder cannot be used. Please choose another one.";
 
@@ -145,11 +150,22 @@ public:
     FileBox(QWidget* parent, const QString& title, const QString& folder)
         : QFileDialog(parent, title, folder), line_(findChild<QLineEdit*>("fileNameEdit")) {
         if (!line_) return;
+        FitColumns();
         line_->setValidator(new QRegularExpressionValidator(QRegularExpression("[^\"]*"), line_));
         connect(line_, &QLineEdit::inputRejected, this, &FileBox::Refuse);
     }
 
 protected:
+    // The places beside the list are as wide as what they are called.
+    void showEvent(QShowEvent* event) override {
+        auto* const parts = findChild<QSplitter*>("splitter");
+        const auto* const places = findChild<QListView*>("sidebar");
+        if (parts && places) {
+            const int wide = std::min(places->sizeHintForColumn(0) + 2 * places->frameWidth(), width() / 4);
+            parts->setSizes({wide, width() - wide});
+        }
+        QFileDialog::showEvent(event);
+    }
     void accept() override {
         const QString name = line_ ? line_->text() : selectedFiles().value(0);
         if (!(directory().path() + name).contains(u'"')) return QFileDialog::accept();
@@ -158,6 +174,15 @@ protected:
     }
 
 private:
+    // Each column is as wide as what it shows; the names have the rest.
+    void FitColumns() {
+        auto* const files = findChild<QTreeView*>("treeView");
+        if (!files) return;
+        files->header()->setStretchLastSection(false);
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+
     void Refuse() { QuestionBox(QMessageBox::Warning, windowTitle(), QString::fromUtf8(kQuotationMark), QMessageBox::Ok, this).exec(); }
 
     QLineEdit* line_;  // nullptr: the desktop shows a dialog of its own, which is gone when a file has been chosen

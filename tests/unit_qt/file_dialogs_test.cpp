@@ -1,10 +1,15 @@
 // What is typed into a file dialog is the file that the program hears of, or none is.
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QTimer>
+#include <QTreeView>
+#include <algorithm>
 
 #include "platform/qt/qt_dialogs.h"
 #include "unit_qt/on_screen_test.h"
@@ -51,6 +56,23 @@ protected:
         const FileQuestion question{kind, "DataFile(*.csv)|*.csv", proposed, true, folder_.path().toStdString()};
         return dialogs_.Ask(question);
     }
+    // Opens the dialog until what is waited for is so.
+    bool Shows(const std::function<bool(QFileDialog&)>& what) {
+        constexpr int kLimitMs = 20'000;
+        bool is_so = false;
+        QElapsedTimer waits;
+        waits.start();
+        QTimer user;
+        user.callOnTimeout([&] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            is_so = what(*dialog);
+            if (is_so || waits.elapsed() > kLimitMs) dialog->reject();
+        });
+        user.start(0);
+        dialogs_.Ask({FileQuestion::Kind::Open, "DataFile(*.csv)|*.csv", "", true, folder_.path().toStdString()});
+        return is_so;
+    }
     std::optional<std::string> SavedAs(const std::string& name) { return Typed(FileQuestion::Kind::Save, name); }
     std::optional<std::string> Opened(const std::string& name) { return Typed(FileQuestion::Kind::Open, name); }
 
@@ -81,6 +103,27 @@ TEST_F(FileDialogsTest, ANameWithQuotationMarksIsRefusedAndNoOtherTaken) {
         EXPECT_EQ(Opened(name), std::nullopt) << name;
         EXPECT_TRUE(message_.contains("quotation mark")) << name << ": " << message_.toStdString();
     }
+}
+
+TEST_F(FileDialogsTest, SizeTypeAndDateAreShownWholeAndTheNameHasTheRest) {
+    for (const char* name : {"a.csv", "b.csv", "c.csv"}) Make(name);
+    EXPECT_TRUE(Shows([](QFileDialog& dialog) {
+        const auto& files = *dialog.findChild<QTreeView*>("treeView");
+        const QAbstractItemView& columns = files;
+        int wide = files.header()->sectionSize(0);
+        for (int column = 1; column <= 3; ++column) {
+            if (files.header()->sectionSize(column) < columns.sizeHintForColumn(column)) return false;
+            wide += files.header()->sectionSize(column);
+        }
+        return files.model()->rowCount(files.rootIndex()) == 3 && wide == files.viewport()->width();
+    }));
+}
+
+TEST_F(FileDialogsTest, ThePlacesBesideTheListAreShownWhole) {
+    EXPECT_TRUE(Shows([](QFileDialog& dialog) {
+        const auto& places = *dialog.findChild<QListView*>("sidebar");
+        return places.viewport()->width() >= std::min(places.sizeHintForColumn(0), dialog.width() / 4);
+    }));
 }
 
 TEST_F(FileDialogsTest, AProposedNameWithThemIsRefusedToo) {
