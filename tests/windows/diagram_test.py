@@ -9,6 +9,7 @@ from spoken import wait_for
 
 DIAGRAM = "Diagram"  # the window, and the picture in it
 TREE = "Cluster tree"
+CURVE = "Taxa diversity vs. total count"
 SAMPLES = "ABCDE"
 
 
@@ -117,15 +118,17 @@ class DiagramTest(unittest.TestCase):
         size = self.pixels("identify", "-format", "%w %h", "png:-", input=png).split()
         return [int(part) for part in size], self.pixels("convert", "png:-", "-depth", "8", "rgb:-", input=png)
 
-    def expect_copied(self, name):
-        """From the menu of the right button, which takes the key that comes after its click. What is copied is at least 1600 wide and
-        shows the same."""
-        box = self.program.box(DIAGRAM, name)
+    def expect_copied(self, name, title=DIAGRAM, keys=(key_of("c"),)):
+        """From the menu of the right button, which takes the keys that come after its click. What is copied is at least 1600 wide and
+        shows the same, as a PNG and as a bitmap."""
+        box = self.program.box(title, name)
         self.desk.press_button(3, *middle(box))
-        self.program.press(key_of("c"))
+        self.program.press(*keys)
         wait_for("a large copy of the same shape", lambda: self.is_enlarged(self.pasted()[0], box))
         wait_for("a copy that shows what the screen shows", lambda: self.likeness(box) > 0.8)
         copied = self.pasted()[1]
+        bitmap = self.pixels("convert", "bmp:-", "-depth", "8", "rgb:-", input=self.desk.copied_picture("image/bmp"))
+        self.assertEqual(bitmap, copied)
         self.assertGreater(len(set(zip(copied[0::3], copied[1::3], copied[2::3]))), 2, "an empty picture proves nothing")
 
     def is_enlarged(self, size, box):
@@ -154,6 +157,12 @@ class DiagramTest(unittest.TestCase):
         self.program.control(DIAGRAM, TREE)
         self.expect_copied(DIAGRAM)
         self.expect_copied(TREE)
+
+    def test_the_curve_of_taxa_is_copied_large_too(self):
+        self.program.activate(MAIN)
+        self.program.press(*PAD[:12])
+        self.program.wait_total(5 + 1 + 2 + 12)
+        self.expect_copied(CURVE, MAIN, [DOWN, ENTER])
 
 
 if __name__ == "__main__":

@@ -83,6 +83,21 @@ class DiagramPlacesTest(Places):
         self.desk.maximise(self.diagram, False)
         self.wait_for_place(before)
 
+    def test_in_a_maximised_window_all_of_the_new_room_is_the_drawing_s(self):
+        window, drawing = self.sizes()
+        self.desk.maximise(self.diagram, True)
+        wait_for("a diagram over the whole screen", lambda: self.desk.place(self.diagram)[2] == SCREEN[0])
+        wait_for("a drawing that has grown by as much", lambda: self.has_all_of_the_new_room(window, drawing))
+
+    def sizes(self):
+        """Width and height of the window and of the drawing in it."""
+        return self.desk.place(self.diagram)[2:], self.program.box(DIAGRAM, DIAGRAM)[2:]
+
+    def has_all_of_the_new_room(self, window_before, drawing_before):
+        """But for a pixel or two: all places are rounded to whole ones."""
+        window, drawing = self.sizes()
+        return all(abs((window[way] - window_before[way]) - (drawing[way] - drawing_before[way])) <= 2 for way in (0, 1))
+
 
 class DensePlacesTest(Places):
     """The screen has fewer of the toolkit's pixels than the main window takes."""

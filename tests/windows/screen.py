@@ -24,7 +24,7 @@ class Screen:
         repeat(on)              held keys repeat, from 200 ms on 50 times a second; at first they do not
         leave()                 ends the connections of the tests with it, if there are any
         picture()               the bytes of a PNG of all that is on it
-        copied_picture()        the bytes of a PNG from the clipboard
+        copied_picture(kind)    the bytes of a picture from the clipboard, a PNG if no other kind is named
 
     Windows of X11 have frames, and their user moves them:
 

@@ -121,5 +121,5 @@ class WaylandDesk(Screen):
     def picture(self):
         return self.output("grim", "-")
 
-    def copied_picture(self):
-        return self.output("wl-paste", "--type", "image/png")
+    def copied_picture(self, kind="image/png"):
+        return self.output("wl-paste", "--type", kind)

@@ -141,5 +141,5 @@ class X11Desk(Screen):
     def picture(self):
         return self.output("import", "-window", "root", "png:-")
 
-    def copied_picture(self):
-        return self.output("xclip", "-selection", "clipboard", "-target", "image/png", "-out")
+    def copied_picture(self, kind="image/png"):
+        return self.output("xclip", "-selection", "clipboard", "-target", kind, "-out")
