@@ -121,8 +121,9 @@ FittedText::Layout FittedText::Cut(const Question& question, int pixels) {
         lines << line.left(length).trimmed();
         rest = length == line.size() ? rest.mid(length + 1) : rest.mid(length).trimmed();
     }
-    if (!rest.isEmpty()) lines << metrics.elidedText(rest.left(kBeyondAnyLine).replace(u'\n', u' '), Qt::ElideRight, width);
-    return {lines, font, Pitch(metrics, lines.size()), !rest.isEmpty()};
+    rest.replace(u'\n', u' ');
+    if (!rest.isEmpty()) lines << metrics.elidedText(rest.left(kBeyondAnyLine), Qt::ElideRight, width);
+    return {lines, font, Pitch(metrics, lines.size()), !rest.isEmpty() && lines.back() != rest};
 }
 
 FittedText::Layout FittedText::FitInGroup(const Question& question) {
