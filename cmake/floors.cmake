@@ -35,3 +35,5 @@ add_floor(events files keys)
 # The figure of a counted core, beside the counter: it reads sheets as the counter does, and has no window of its own.
 add_floor(figure/math)
 add_floor(figure/sheet diagram/data files/format)
+add_floor(figure/results figure/math figure/sheet)
+add_floor(figure/tables figure/results)

@@ -1,0 +1,37 @@
+// Concentrations and influx of a core, from a marker that was added to its samples.
+#pragma once
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "figure/math/concentration.h"
+#include "figure/sheet/core.h"
+
+struct MarkerOptions {
+    std::string taxon;   // the marker's name in the sheet
+    std::string added;   // tablets * markers a tablet ± its standard deviation: "Tablets*18583", "2*18583±370"; +- does for ±
+    std::string volume;  // of a sample, in cm3: a row of Additional info or a number
+    std::string weight;  // the same in g; one of the two is empty
+};
+
+struct Concentrations {
+    std::size_t marker = 0;                                              // which taxon
+    bool by_weight = false;                                              // grains/g, else grains/cm3
+    std::vector<std::vector<std::optional<Concentration>>> taxa;         // [sample][taxon]; of the marker itself nothing
+    std::vector<std::array<std::optional<Concentration>, kBases>> sums;  // [sample][basis]: of all in the sum but the marker
+};
+
+// Nothing stands where a sample has no marker or no amount. Raises FigureFault for a taxon, a row or a number that is not there, for an
+// amount or an addition that is not above 0, and unless one of volume and weight is given.
+Concentrations ConcentrationsOf(const Core& core, const MarkerOptions& options);
+
+struct AccumulationOptions {
+    std::string age;   // in years: a row of Additional info. Rates then follow from depths and ages
+    std::string rate;  // cm/yr, or g/(cm2 yr) where concentrations are by weight: a row or a number. One of the two is empty
+};
+
+// How fast each sample's sediment was laid down. By ages, a sample's rate is that between its neighbours above and below. Raises
+// FigureFault as above, and for ages without depths, by weight, or that do not increase downwards.
+std::vector<std::optional<double>> AccumulationRates(const Core& core, const AccumulationOptions& options, bool by_weight);
