@@ -17,6 +17,14 @@ TEST(ConfidenceTest, LimitsInsideTheSumAreWhereTheShareIsJustRejected) {
     }
 }
 
+TEST(ConfidenceTest, NoLimitIsBelowNothingOrInsideTheSumAboveAll) {
+    for (int sum = 1; sum <= 1000; ++sum) {
+        EXPECT_GE(LimitsInsideSum(0, sum)->low, 0) << sum;
+        EXPECT_LE(LimitsInsideSum(sum, sum)->high, 1) << sum;
+    }
+    for (int sum = 4; sum <= 1000; ++sum) EXPECT_GE(LimitsOutsideSum(0, sum)->low, 0) << sum;
+}
+
 // Half of 100: the limits of E. B. Wilson's interval are as far from a half as z/2 sqrt(1/(100 + z2)).
 TEST(ConfidenceTest, LimitsOfAHalfLieEvenlyAroundIt) {
     const Limits limits = LimitsInsideSum(50, 100).value();
