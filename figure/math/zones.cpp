@@ -46,17 +46,27 @@ std::vector<Merge> ClusterByIncrementalSumOfSquares(std::span<const Assemblage> 
     return merges;
 }
 
-std::size_t ZonesByBrokenStick(std::span<const Merge> merges) {
-    if (merges.empty() || merges.back().total <= 0) return 1;
-    const std::size_t splits = merges.size();
-    double expected = 0;
-    for (std::size_t k = 1; k <= splits; ++k) expected += 1 / static_cast<double>(k);
-    std::size_t zones = 1;
-    for (std::size_t k = 1; k <= splits; ++k) {
-        if (merges[splits - k].rise / merges.back().total <= expected / static_cast<double>(splits)) break;
-        ++zones;
-        expected -= 1 / static_cast<double>(k);
+std::vector<double> BrokenStick(std::size_t pieces) {
+    std::vector<double> shares(pieces);
+    double sum = 0;
+    for (std::size_t k = pieces; k >= 1; --k) {
+        sum += 1 / static_cast<double>(k);
+        shares[k - 1] = sum / static_cast<double>(pieces);
     }
+    return shares;
+}
+
+std::vector<double> SplitShares(std::span<const Merge> merges) {
+    std::vector<double> shares;
+    if (merges.empty() || merges.back().total <= 0) return std::vector<double>(merges.size());
+    for (auto merge = merges.rbegin(); merge != merges.rend(); ++merge) shares.push_back(merge->rise / merges.back().total);
+    return shares;
+}
+
+std::size_t ZonesByBrokenStick(std::span<const Merge> merges) {
+    const std::vector<double> taken = SplitShares(merges), expected = BrokenStick(merges.size());
+    std::size_t zones = 1;
+    while (zones <= taken.size() && taken[zones - 1] > expected[zones - 1]) ++zones;
     return zones;
 }
 

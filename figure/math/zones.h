@@ -17,9 +17,14 @@ struct Merge {
 // merge less than there are samples; all samples have equally many taxa.
 std::vector<Merge> ClusterByIncrementalSumOfSquares(std::span<const Assemblage> samples);
 
-// How many zones the broken stick leaves: splits count while the share of the sum of squares that the k-th takes is above
-// (1/N) (1/k + 1/(k+1) + ... + 1/N), N being the splits that are possible. K. D. Bennett 1996, New Phytologist 132, 155-170. 1 at the
-// least.
+// A stick broken at random: the mean share of its k-th largest piece is (1/N) (1/k + 1/(k+1) + ... + 1/N). [k - 1]
+std::vector<double> BrokenStick(std::size_t pieces);
+
+// Of the sum of squares of all samples, what each split takes, the last merge being the first split. 0 if all samples are equal. [k - 1]
+std::vector<double> SplitShares(std::span<const Merge> merges);
+
+// How many zones the broken stick leaves: splits count, from the first on, while each takes more than the piece of its rank. K. D. Bennett
+// 1996, New Phytologist 132, 155-170. 1 at the least.
 std::size_t ZonesByBrokenStick(std::span<const Merge> merges);
 
 std::vector<std::size_t> ZoneStarts(std::span<const Merge> merges, std::size_t zones);  // the first sample of each zone, rising; [0] is 0
