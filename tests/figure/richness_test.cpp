@@ -1,0 +1,50 @@
+// Richness and diversity of a sample.
+#include "figure/math/richness.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+namespace {
+using Counts = std::vector<std::int32_t>;
+
+TEST(RichnessTest, TwoGrainsOfFourAreOfTwoTaxaAsOftenAsPairsCanBeDrawn) {
+    // of 2 + 1 + 1 grains there are 6 pairs, one of them of the same taxon
+    EXPECT_NEAR(RarefiedRichness(Counts{2, 1, 0, 1}, 2).value(), 1 + 5.0 / 6, 1e-12);
+}
+
+TEST(RichnessTest, AllGrainsShowAllTaxaAndOneGrainOne) {
+    EXPECT_NEAR(RarefiedRichness(Counts{7, 1, 3}, 11).value(), 3, 1e-12);
+    EXPECT_NEAR(RarefiedRichness(Counts{7, 1, 3}, 1).value(), 1, 1e-12);
+    EXPECT_NEAR(RarefiedRichness(Counts{7, 1, 3}, 0).value(), 0, 1e-12);
+}
+
+TEST(RichnessTest, NoMoreGrainsCanBeDrawnThanThereAre) {
+    EXPECT_FALSE(RarefiedRichness(Counts{2, 1}, 4));
+    EXPECT_FALSE(RarefiedRichness(Counts{2, 1}, -1));
+    EXPECT_FALSE(RarefiedRichness(Counts{2, -1}, 1));
+}
+
+TEST(RichnessTest, TheLargestSamplesAreRarefiedToo) {
+    const Counts counts(135, 32767);
+    const double drawn = RarefiedRichness(counts, 500).value();
+    EXPECT_NEAR(drawn, 135 * (1 - std::pow(134.0 / 135, 500)), 0.01);  // nearly as with putting back
+}
+
+TEST(RichnessTest, EqualSharesGiveTheLargestIndices) {
+    EXPECT_NEAR(Shannon(Counts{5, 5, 0, 5, 5}), std::log(4), 1e-12);
+    EXPECT_NEAR(Simpson(Counts{5, 5, 0, 5, 5}), 0.75, 1e-12);
+}
+
+TEST(RichnessTest, OneTaxonHasNoDiversity) {
+    EXPECT_EQ(Shannon(Counts{0, 9}), 0);
+    EXPECT_EQ(Simpson(Counts{0, 9}), 0);
+}
+
+TEST(RichnessTest, AnEmptySampleHasNoDiversity) {
+    EXPECT_EQ(Shannon(Counts{0, 0}), 0);
+    EXPECT_EQ(Simpson(Counts{0, 0}), 0);
+    EXPECT_EQ(RarefiedRichness(Counts{0, 0}, 0), 0);
+}
+}  // namespace
