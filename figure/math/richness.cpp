@@ -9,9 +9,13 @@ std::int64_t SumOf(std::span<const std::int32_t> counts) {
     return std::accumulate(counts.begin(), counts.end(), std::int64_t{0});
 }
 
-// The logarithm of n over k.
-double LogChoose(double n, double k) {
-    return std::lgamma(n + 1) - std::lgamma(k + 1) - std::lgamma(n - k + 1);
+// The chance that `drawn` of `whole` grains miss all `count` of a taxon: C(whole - count, drawn) / C(whole, drawn), multiplied out, since
+// the logarithms of large factorials lose what the difference of two of them is about.
+double ChanceToMiss(double whole, double count, double drawn) {
+    const double fewer = std::min(count, drawn), more = std::max(count, drawn);
+    double chance = 1;
+    for (double i = 0; i < fewer; ++i) chance *= std::max(whole - more - i, 0.0) / (whole - i);
+    return chance;
 }
 }  // namespace
 
@@ -19,11 +23,7 @@ std::optional<double> RarefiedRichness(std::span<const std::int32_t> counts, std
     const std::int64_t sum = SumOf(counts);
     if (size > sum || size < 0 || std::ranges::any_of(counts, [](std::int32_t count) { return count < 0; })) return std::nullopt;
     double expected = 0;
-    for (const std::int32_t count : counts) {
-        if (count == 0) continue;
-        const auto others = static_cast<double>(sum - count), whole = static_cast<double>(sum), drawn = static_cast<double>(size);
-        expected += others < drawn ? 1 : 1 - std::exp(LogChoose(others, drawn) - LogChoose(whole, drawn));
-    }
+    for (const std::int32_t count : counts) expected += 1 - ChanceToMiss(static_cast<double>(sum), count, static_cast<double>(size));
     return expected;
 }
 

@@ -32,6 +32,10 @@ TEST(RichnessTest, TheLargestSamplesAreRarefiedToo) {
     EXPECT_NEAR(drawn, 135 * (1 - std::pow(134.0 / 135, 500)), 0.01);  // nearly as with putting back
 }
 
+TEST(RichnessTest, OneGrainInAMillionIsFoundAsOftenAsItIsDrawn) {
+    EXPECT_NEAR(RarefiedRichness(Counts{999'999, 1}, 11'112).value(), 1.011112, 1e-14);
+}
+
 TEST(RichnessTest, EqualSharesGiveTheLargestIndices) {
     EXPECT_NEAR(Shannon(Counts{5, 5, 0, 5, 5}), std::log(4), 1e-12);
     EXPECT_NEAR(Simpson(Counts{5, 5, 0, 5, 5}), 0.75, 1e-12);
