@@ -31,7 +31,10 @@ for_test=(
     imagemagick xclip
     dpkg-dev file debootstrap lintian devscripts desktop-file-utils appstream  # packages made, looked over and installed in a clean root
 )
-for_spreadsheet=(libreoffice-calc-nogui python3-pandas r-base-core)
+for_spreadsheet=(
+    libreoffice-calc-nogui python3-pandas r-base-core
+    r-cran-vegan  # a second source of the figure's numbers
+)
 for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)
 for_fuzz=(clang libclang-rt-dev libgtest-dev libsdl2-mixer-dev)
 for_format=(clang-format)
