@@ -1,4 +1,4 @@
-// Concentrations and influx of a core, from a marker that was added to its samples.
+// Concentrations in a core, from a marker that was added to its samples.
 #pragma once
 #include <array>
 #include <cstddef>
@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "figure/math/concentration.h"
+#include "figure/results/quantity.h"
 #include "figure/sheet/core.h"
 
 struct MarkerOptions {
@@ -19,6 +20,8 @@ struct MarkerOptions {
 struct Concentrations {
     std::size_t marker = 0;                                              // which taxon
     bool by_weight = false;                                              // grains/g, else grains/cm3
+    Quantity amounts;                                                    // [sample]: g or cm3
+    std::vector<std::optional<Added>> added;                             // [sample]
     std::vector<std::vector<std::optional<Concentration>>> taxa;         // [sample][taxon]; of the marker itself nothing
     std::vector<std::array<std::optional<Concentration>, kBases>> sums;  // [sample][basis]: of all in the sum but the marker
 };
@@ -26,12 +29,3 @@ struct Concentrations {
 // Nothing stands where a sample has no marker or no amount. Raises FigureFault for a taxon, a row or a number that is not there, for an
 // amount or an addition that is not above 0, and unless one of volume and weight is given.
 Concentrations ConcentrationsOf(const Core& core, const MarkerOptions& options);
-
-struct AccumulationOptions {
-    std::string age;   // in years: a row of Additional info. Rates then follow from depths and ages
-    std::string rate;  // cm/yr, or g/(cm2 yr) where concentrations are by weight: a row or a number. One of the two is empty
-};
-
-// How fast each sample's sediment was laid down. By ages, a sample's rate is that between its neighbours above and below. Raises
-// FigureFault as above, and for ages without depths, by weight, or that do not increase downwards.
-std::vector<std::optional<double>> AccumulationRates(const Core& core, const AccumulationOptions& options, bool by_weight);

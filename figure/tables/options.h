@@ -4,16 +4,25 @@
 #include <string>
 #include <vector>
 
+#include "figure/results/accumulation.h"
 #include "figure/results/concentrations.h"
 #include "figure/results/stratigraphy.h"
 #include "figure/sheet/core.h"
 
+// What the scripts draw.
+struct ScriptOptions {
+    bool r = false, python = false;  // which of them are written
+    std::vector<std::string> taxa;   // in the order of their columns; empty: all, as in the sheet
+    bool bars = false;               // else silhouettes
+    double exaggerate = 0;           // factor of the curve behind; 0 for none
+};
+
 struct TableOptions {
     Basis basis = kBasisAll;                          // of zones, richness and the scripts' figures
-    ZoneOptions zones;                                // its basis and what it leaves out follow the other options
+    ZoneOptions zones;                                // its basis and what it leaves out are set from `basis` and the marker
     std::optional<MarkerOptions> marker;              // with it come concentrations
-    std::optional<AccumulationOptions> accumulation;  // and with both influx
+    std::optional<AccumulationOptions> accumulation;  // and with both influx; the unit of depths is taken from below
     std::string age;                                  // a row of Additional info to be shown beside depths; may be empty
     std::string depth_unit = "cm";
-    bool r_script = false, python_script = false;  // that draw the figure from the tables
+    ScriptOptions scripts;
 };

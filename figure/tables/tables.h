@@ -12,5 +12,5 @@ struct NamedText {
     std::string text;
 };
 
-// Writes nothing itself. Raises FigureFault as the results do.
+// Writes nothing itself. Raises FigureFault as the results do, and for an accumulation without a marker.
 std::vector<NamedText> TablesOf(const Core& core, const TableOptions& options);
