@@ -1,0 +1,54 @@
+#include "figure/results/stratigraphy.h"
+
+#include <cmath>
+
+#include "figure/sheet/fault.h"
+
+namespace {
+std::vector<std::size_t> Compared(const Core& core, const ZoneOptions& options) {
+    std::vector<std::size_t> compared;
+    for (std::size_t taxon = 0; taxon < core.taxa.size(); ++taxon)
+        if (core.taxa[taxon].InsideSum(options.basis) && core.taxa[taxon].name != options.left_out) compared.push_back(taxon);
+    return compared;
+}
+
+Assemblage AssemblageOf(const Sample& sample, const std::vector<std::size_t>& taxa, const ZoneOptions& options) {
+    const std::vector<double>& shares = sample.shares[options.basis];
+    Assemblage assemblage(taxa.size());
+    if (shares.empty()) return assemblage;
+    for (std::size_t i = 0; i < taxa.size(); ++i) assemblage[i] = options.square_roots ? std::sqrt(shares[taxa[i]]) : shares[taxa[i]];
+    return assemblage;
+}
+
+// Half-way between the sample above and the one from which a zone begins; the first sample's own depth at the top, the last one's below
+// all.
+std::optional<double> BoundaryAbove(const Core& core, std::size_t sample) {
+    const std::size_t above = sample > 0 ? sample - 1 : 0, below = std::min(sample, core.samples.size() - 1);
+    if (!core.samples[above].depth || !core.samples[below].depth) return std::nullopt;
+    return (*core.samples[above].depth + *core.samples[below].depth) / 2;
+}
+
+std::vector<Zone> ZonesFrom(const Core& core, std::vector<std::size_t> bounds, const std::string& prefix) {
+    const std::size_t zones = bounds.size();
+    bounds.push_back(core.samples.size());
+    std::vector<Zone> found;
+    for (std::size_t zone = 0; zone < zones; ++zone)
+        found.push_back({prefix + std::to_string(zones - zone), bounds[zone], bounds[zone + 1], BoundaryAbove(core, bounds[zone]),
+                         BoundaryAbove(core, bounds[zone + 1])});
+    return found;
+}
+}  // namespace
+
+Stratigraphy StratigraphyOf(const Core& core, const ZoneOptions& options) {
+    const std::size_t samples = core.samples.size();
+    if (samples < 2) throw FigureFault("zones take two samples or more");
+    if (options.zones && (*options.zones < 1 || *options.zones > samples))
+        throw FigureFault("there can be 1 to " + std::to_string(samples) + " zones, not " + std::to_string(*options.zones));
+    const std::vector<std::size_t> taxa = Compared(core, options);
+    std::vector<Assemblage> assemblages;
+    for (const Sample& sample : core.samples) assemblages.push_back(AssemblageOf(sample, taxa, options));
+    std::vector<Merge> merges = ClusterByIncrementalSumOfSquares(assemblages);
+    const std::size_t zones = options.zones.value_or(ZonesByBrokenStick(merges));
+    std::vector<Zone> found = ZonesFrom(core, ZoneStarts(merges, zones), options.prefix);
+    return {std::move(merges), std::move(found)};
+}

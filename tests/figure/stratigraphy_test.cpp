@@ -1,0 +1,69 @@
+// The zones of a core.
+#include "figure/results/stratigraphy.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "figure/fault_of.h"
+#include "figure/small_core.h"
+
+namespace {
+ZoneOptions TreesInZones(std::optional<std::size_t> zones) {
+    return {kBasisSubtotal1, "", false, zones, "Z"};
+}
+
+TEST(StratigraphyTest, ZonesHaveDepthsAndAreNumberedFromTheBase) {
+    const std::vector<Zone> zones = StratigraphyOf(SmallCore(), TreesInZones(2)).zones;
+    ASSERT_EQ(zones.size(), 2u);  // the shares of Pinus are 0.75, 0.25 and 0: the uppermost stands apart
+    EXPECT_EQ(zones[0].name, "Z2");
+    EXPECT_EQ(zones[0].end, 1u);
+    EXPECT_EQ(zones[0].top, 10);
+    EXPECT_EQ(zones[0].base, 15);
+    EXPECT_EQ(zones[1].name, "Z1");
+    EXPECT_EQ(zones[1].first, 1u);
+    EXPECT_EQ(zones[1].top, 15);
+    EXPECT_EQ(zones[1].base, 40);
+}
+
+TEST(StratigraphyTest, TheTreeIsOfTheSharesOrTheirRoots) {
+    // Pinus and Betula are 0.25 and 0.75 in one sample, 0 and 1 in the next
+    EXPECT_DOUBLE_EQ(StratigraphyOf(SmallCore(), TreesInZones(1)).merges[0].rise, (0.25 * 0.25 + 0.25 * 0.25) / 2);
+    ZoneOptions roots = TreesInZones(1);
+    roots.square_roots = true;
+    EXPECT_DOUBLE_EQ(StratigraphyOf(SmallCore(), roots).merges[0].rise, (0.25 + std::pow(1 - std::sqrt(0.75), 2)) / 2);
+}
+
+TEST(StratigraphyTest, WhatIsLeftOutOrOutsideTheSumCountsNothing) {
+    ZoneOptions options = TreesInZones(1);
+    options.left_out = "Betula";
+    EXPECT_DOUBLE_EQ(StratigraphyOf(SmallCore(), options).merges[0].rise, 0.25 * 0.25 / 2);
+}
+
+TEST(StratigraphyTest, WithoutANumberTheBrokenStickDecides) {
+    EXPECT_EQ(StratigraphyOf(SmallCore(), TreesInZones(std::nullopt)).zones.size(), 2u);
+}
+
+TEST(StratigraphyTest, ASampleWithNothingInTheSumIsOneOfZeros) {
+    Core core = SmallCore();
+    core.samples[2].shares[kBasisSubtotal1].clear();
+    EXPECT_DOUBLE_EQ(StratigraphyOf(core, TreesInZones(1)).merges[0].rise, (0.5 * 0.5 + 0.5 * 0.5) / 2);  // now the two above are nearest
+}
+
+TEST(StratigraphyTest, NamedSamplesHaveZonesWithoutDepths) {
+    Core core = SmallCore();
+    core.samples[1].depth.reset();
+    const std::vector<Zone> zones = StratigraphyOf(core, TreesInZones(2)).zones;
+    EXPECT_EQ(zones[0].top, 10);
+    EXPECT_FALSE(zones[0].base);
+}
+
+TEST(StratigraphyTest, ThereAreAsManyZonesAsSamplesAtMost) {
+    EXPECT_EQ(StratigraphyOf(SmallCore(), TreesInZones(3)).zones.size(), 3u);
+    EXPECT_EQ(FaultOf([] { StratigraphyOf(SmallCore(), TreesInZones(4)); }), "there can be 1 to 3 zones, not 4");
+    EXPECT_EQ(FaultOf([] { StratigraphyOf(SmallCore(), TreesInZones(0)); }), "there can be 1 to 3 zones, not 0");
+    Core core = SmallCore();
+    core.samples.resize(1);
+    EXPECT_EQ(FaultOf([&] { StratigraphyOf(core, TreesInZones(1)); }), "zones take two samples or more");
+}
+}  // namespace
