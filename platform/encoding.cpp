@@ -8,7 +8,6 @@
 namespace {
 
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
-constexpr char32_t kMalformed = 0xFFFFFFFF;
 
 // What Windows-1252 has at 0x80..0x9F; all its other bytes are the characters of the same value.
 constexpr char32_t kWindows1252[32] = {
@@ -27,7 +26,8 @@ std::size_t BytesOfCharacter(unsigned char lead) {
     return 0;
 }
 
-// Takes one character off the head of `utf8`. kMalformed, and nothing taken, if none stands there in its one right form.
+}  // namespace
+
 char32_t TakeCharacter(std::string_view& utf8) {
     constexpr char32_t kFirstOfBytes[5] = {0, 0, 0x80, 0x800, 0x10000};  // what fits in fewer bytes must use fewer
     const auto lead = static_cast<unsigned char>(utf8[0]);
@@ -45,6 +45,7 @@ char32_t TakeCharacter(std::string_view& utf8) {
     return character;
 }
 
+namespace {
 // How many ASCII bytes stand at the head: nearly all of most files, hence eight at a time.
 std::size_t AsciiHead(std::string_view text) {
     std::size_t at = 0;

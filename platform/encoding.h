@@ -12,3 +12,9 @@ bool IsAscii(std::string_view text);  // then EncodeFile and DecodeFile leave it
 // Bytes that are valid UTF-8 with at least one character beyond ASCII are UTF-8, all else is Windows-1252. A mark (EF BB BF) at
 // the head is passed over. The five bytes that Windows-1252 leaves undefined come back as the control characters of the same value.
 std::string DecodeFile(std::string_view bytes);
+
+constexpr char32_t kMalformed = 0xFFFFFFFF;
+
+// Takes one character off the head of `utf8`, which is not empty. kMalformed, and nothing taken, if none stands there in its one right
+// form.
+char32_t TakeCharacter(std::string_view& utf8);
