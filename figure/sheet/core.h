@@ -10,6 +10,7 @@
 
 // What percentages are taken of.
 enum Basis { kBasisAll, kBasisSubtotal1, kBasisSubtotal2, kBases };
+constexpr const char* kBasisWords[kBases] = {"all", "subtotal-1", "subtotal-2"};
 
 struct Taxon {
     std::string name;
