@@ -43,9 +43,9 @@ void RequireOrder(const std::vector<Dated>& dated) {
         throw FigureFault("the ages neither rise nor fall all the way down, so there is no influx");
 }
 
-Quantity RatesByAge(const Core& core, const AccumulationOptions& options) {
-    const double centimetres = CentimetresIn(options.depth_unit);
-    const std::vector<Dated> dated = DatedSamples(core, options.age);
+Quantity RatesByAge(const Core& core, const std::string& age, const std::string& depth_unit) {
+    const double centimetres = CentimetresIn(depth_unit);
+    const std::vector<Dated> dated = DatedSamples(core, age);
     RequireOrder(dated);
     Quantity rates(core.samples.size());
     for (std::size_t i = 0; i < dated.size(); ++i) {
@@ -64,9 +64,9 @@ Quantity GivenRates(const Core& core, const std::string& rate) {
 }
 }  // namespace
 
-Quantity AccumulationRates(const Core& core, const AccumulationOptions& options, bool by_weight) {
+Quantity AccumulationRates(const Core& core, const AccumulationOptions& options, const std::string& depth_unit, bool by_weight) {
     if (options.age.empty() == options.rate.empty()) throw FigureFault("influx takes either ages or a rate");
     if (options.age.empty()) return GivenRates(core, options.rate);
     if (by_weight) throw FigureFault("influx by ages takes the volume of a sample, not its weight");
-    return RatesByAge(core, options);
+    return RatesByAge(core, options.age, depth_unit);
 }
