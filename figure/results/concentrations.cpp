@@ -64,6 +64,10 @@ std::optional<Concentration> Of(std::int64_t counted, std::int64_t markers, cons
 }
 }  // namespace
 
+std::int64_t CountedBesides(const Core& core, std::size_t marker, std::size_t sample, Basis basis) {
+    return core.samples[sample].sums[basis] - (core.taxa[marker].InsideSum(basis) ? core.samples[sample].counts[marker] : 0);
+}
+
 Concentrations ConcentrationsOf(const Core& core, const MarkerOptions& options) {
     Concentrations found = {
         MarkerOf(core, options.taxon), options.volume.empty(), AmountOf(core, options), AddedTo(core, options.added), {}, {}};
@@ -76,7 +80,7 @@ Concentrations ConcentrationsOf(const Core& core, const MarkerOptions& options) 
         taxa[found.marker] = std::nullopt;
         auto& sums = found.sums.emplace_back();
         for (const Basis basis : {kBasisAll, kBasisSubtotal1, kBasisSubtotal2})
-            sums[basis] = of(core.samples[i].sums[basis] - (core.taxa[found.marker].InsideSum(basis) ? markers : 0));
+            sums[basis] = of(CountedBesides(core, found.marker, i, basis));
     }
     return found;
 }

@@ -2,6 +2,7 @@
 #pragma once
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,6 +26,8 @@ struct Concentrations {
     std::vector<std::vector<std::optional<Concentration>>> taxa;         // [sample][taxon]; of the marker itself nothing
     std::vector<std::array<std::optional<Concentration>, kBases>> sums;  // [sample][basis]: of all in the sum but the marker
 };
+
+std::int64_t CountedBesides(const Core& core, std::size_t marker, std::size_t sample, Basis basis);  // in the sum, the marker aside
 
 // Nothing stands where a sample has no marker or no amount. Raises FigureFault for a taxon, a row or a number that is not there, for an
 // amount or an addition that is not above 0, and unless one of volume and weight is given.
