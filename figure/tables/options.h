@@ -13,15 +13,16 @@
 struct ScriptOptions {
     bool r = false, python = false;  // which of them are written
     std::vector<std::string> taxa;   // in the order of their columns; empty: all, as in the sheet
+    bool by_age = false;             // the axis, else by depth
     bool bars = false;               // else silhouettes
     double exaggerate = 0;           // factor of the curve behind; 0 for none
 };
 
 struct TableOptions {
-    Basis basis = kBasisAll;                          // of zones, richness and the scripts' figures
-    ZoneOptions zones;                                // its basis and what it leaves out are set from `basis` and the marker
+    Basis basis = kBasisAll;  // of richness and the scripts' figures
+    ZoneOptions zones;
     std::optional<MarkerOptions> marker;              // with it come concentrations
-    std::optional<AccumulationOptions> accumulation;  // and with both influx; the unit of depths is taken from below
+    std::optional<AccumulationOptions> accumulation;  // and with both influx
     std::string age;                                  // a row of Additional info to be shown beside depths; may be empty
     std::string depth_unit = "cm";
     ScriptOptions scripts;
