@@ -1,0 +1,95 @@
+#include "figure/tables/zone_tables.h"
+
+#include <algorithm>
+
+#include "figure/tables/table_text.h"
+#include "platform/text.h"
+
+namespace {
+std::optional<double> MeanPercentage(const Core& core, const Zone& zone, Basis basis, std::size_t taxon) {
+    double sum = 0;
+    int samples = 0;
+    for (std::size_t i = zone.first; i < zone.end; ++i) {
+        const std::vector<double>& shares = core.samples[i].shares[basis];
+        if (shares.empty()) continue;
+        sum += 100 * shares[taxon];
+        ++samples;
+    }
+    return samples > 0 ? std::optional(sum / samples) : std::nullopt;
+}
+
+struct Axis {
+    double first, last;  // samples
+    std::string unit;
+};
+
+Axis AxisOf(const Core& core, const std::string& depth_unit) {
+    const bool by_depth = std::ranges::all_of(core.samples, [](const Sample& sample) { return sample.depth.has_value(); });
+    if (by_depth && !core.samples.empty()) return {*core.samples.front().depth, *core.samples.back().depth, depth_unit};
+    return {1, static_cast<double>(core.samples.size()), "number of the sample"};
+}
+
+void WriteDepth(TableText& table, const std::optional<double>& depth) {
+    table.Text(depth ? NumberText(*depth) : "");
+}
+}  // namespace
+
+std::string ZoneTable(const Core& core, const std::vector<Zone>& zones, Basis basis, const std::string& depth_unit) {
+    TableText table;
+    table.Texts({"Zone", "First sample", "Last sample", "Samples", "Top (" + depth_unit + ")", "Base (" + depth_unit + ")"});
+    for (const Taxon& taxon : core.taxa) table.Text(taxon.name + " (mean %)");
+    table.EndRow();
+    for (const Zone& zone : zones) {
+        table.Texts({zone.name, core.samples[zone.first].name, core.samples[zone.end - 1].name});
+        table.Whole(static_cast<std::int64_t>(zone.end - zone.first));
+        WriteDepth(table, zone.top);
+        WriteDepth(table, zone.base);
+        for (std::size_t taxon = 0; taxon < core.taxa.size(); ++taxon) table.Number(MeanPercentage(core, zone, basis, taxon));
+        table.EndRow();
+    }
+    return table.Take();
+}
+
+std::string MergeTable(const Core& core, const std::vector<Merge>& merges, bool square_roots) {
+    const std::string unit = square_roots ? " (square roots of shares, squared)" : " (shares squared)";
+    const std::vector<double> taken = SplitShares(merges), expected = BrokenStick(merges.size());
+    TableText table;
+    table.Texts({"Step", "First row", "Row of the split", "Last row", "First sample above", "Last sample above", "First sample below",
+                 "Last sample below", "Rise of the sum of squares" + unit, "Sum of squares within clusters" + unit, "Split",
+                 "Share of the sum of squares (0 to 1)", "Broken stick (0 to 1)"});
+    table.EndRow();
+    for (std::size_t step = 0; step < merges.size(); ++step) {
+        const Merge& merge = merges[step];
+        const std::size_t split = merges.size() - step;
+        const auto name = [&](std::size_t sample) { return core.samples[sample].name; };
+        table.Whole(static_cast<std::int64_t>(step + 1));
+        for (const std::size_t sample : {merge.first, merge.middle, merge.end - 1}) table.Whole(static_cast<std::int64_t>(sample + 1));
+        table.Texts({name(merge.first), name(merge.middle - 1), name(merge.middle), name(merge.end - 1)});
+        table.Number(merge.rise);
+        table.Number(merge.total);
+        table.Whole(static_cast<std::int64_t>(split));
+        table.Number(taken[split - 1]);
+        table.Number(expected[split - 1]);
+        table.EndRow();
+    }
+    return table.Take();
+}
+
+std::string CounterTreeTable(const Core& core, const std::string& depth_unit) {
+    const auto [first, last, unit] = AxisOf(core, depth_unit);
+    TableText table;
+    table.Texts({"Basis", "Step", "Upper cluster (" + unit + ")", "Lower cluster (" + unit + ")", "Height (shares squared)"});
+    table.EndRow();
+    for (const Basis basis : {kBasisAll, kBasisSubtotal1, kBasisSubtotal2}) {
+        std::int64_t step = 0;
+        for (const TreeMerge& merge : core.trees[basis]) {
+            table.Text(kBasisWords[basis]);
+            table.Whole(++step);
+            table.Number(first + merge.upper * (last - first));
+            table.Number(first + merge.lower * (last - first));
+            table.Number(merge.height);
+            table.EndRow();
+        }
+    }
+    return table.Take();
+}
