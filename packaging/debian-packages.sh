@@ -33,7 +33,8 @@ for_test=(
 )
 for_spreadsheet=(
     libreoffice-calc-nogui python3-pandas r-base-core
-    r-cran-vegan  # a second source of the figure's numbers
+    r-cran-vegan        # a second source of the figure's numbers
+    python3-matplotlib  # the figure's script in Python
 )
 for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)
 for_fuzz=(clang libclang-rt-dev libgtest-dev libsdl2-mixer-dev)
