@@ -19,8 +19,8 @@ struct ScriptOptions {
 };
 
 struct TableOptions {
-    Basis basis = kBasisAll;  // of richness and the scripts' figures
-    ZoneOptions zones;
+    Basis basis = kBasisAll;                          // of richness and the scripts' figures
+    ZoneOptions zones;                                // what they leave out, a marker, is no part of richness either
     std::optional<MarkerOptions> marker;              // with it come concentrations
     std::optional<AccumulationOptions> accumulation;  // and with both influx
     std::string age;                                  // a row of Additional info to be shown beside depths; may be empty

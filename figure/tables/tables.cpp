@@ -30,7 +30,7 @@ void AddZones(Tables& tables, const Core& core, const TableOptions& options) {
 
 std::vector<NamedText> TablesOf(const Core& core, const TableOptions& options) {
     const SampleCells samples = CellsOfSamples(core, options);
-    const std::string marker = options.marker ? options.marker->taxon : "";
+    const std::string& marker = options.zones.left_out;
     Tables tables;
     for (const Basis basis : {kBasisAll, kBasisSubtotal1, kBasisSubtotal2})
         tables.push_back({PercentageFile(basis), PercentageTable(core, samples, basis)});

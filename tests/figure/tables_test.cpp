@@ -166,6 +166,13 @@ TEST(TablesTest, DiversityIsOfTheSumWithoutTheMarker) {
     EXPECT_NE(Rows(SmallCore(), herbs, "diversity.csv").find("\n20,20,0,0,,,\n"), std::string::npos);
 }
 
+TEST(TablesTest, AMarkerIsLeftOutThoughNothingIsToldOfItsTablets) {
+    TableOptions options;
+    options.zones.left_out = "Lycopodium";
+    EXPECT_NE(Rows(SmallCore(), options, "diversity.csv").find("\n10,10,50,3,"), std::string::npos);
+    EXPECT_NE(Rows(SmallCore(), options, "counts_long.csv").find(",50,marker\n"), std::string::npos);
+}
+
 TEST(TablesTest, ZonesHaveTheirDepthsAndMeans) {
     EXPECT_EQ(
         Rows(SmallCore(), TreesAndMarker(), "zones.csv"),
