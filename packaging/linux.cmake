@@ -1,4 +1,4 @@
-# Menu entry, icons, man pages and what Debian wants in every package.
+# Menu entry, icons, man pages, completion and what Debian wants in every package.
 include(GNUInstallDirs)
 set(DOCUMENTS "${CMAKE_INSTALL_DATADIR}/doc/marlbrook")
 
@@ -25,9 +25,12 @@ function(InstallPacked file folder)
   add_custom_target(packed_${name} ALL DEPENDS "${packed}")
   install(FILES "${packed}" DESTINATION "${folder}")
 endfunction()
+install(FILES "${HERE}/linux/marlbrook-figure.bash-completion" DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+  RENAME marlbrook-figure)
 install(FILES "${HERE}/linux/lintian-overrides" DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides" RENAME marlbrook)
 InstallPacked("${HERE}/linux/marlbrook.1" "${CMAKE_INSTALL_MANDIR}/man1")
 InstallPacked("${HERE}/linux/marlbrook-drive.1" "${CMAKE_INSTALL_MANDIR}/man1")
+InstallPacked("${HERE}/linux/marlbrook-figure.1" "${CMAKE_INSTALL_MANDIR}/man1")
 InstallPacked("${HERE}/linux/changelog" "${DOCUMENTS}")
 
 set(CPACK_GENERATOR DEB TGZ)
