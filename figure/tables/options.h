@@ -11,11 +11,12 @@
 
 // What the scripts draw.
 struct ScriptOptions {
-    bool r = false, python = false;  // which of them are written
-    std::vector<std::string> taxa;   // in the order of their columns; empty: all, as in the sheet
-    bool by_age = false;             // the axis, else by depth
-    bool bars = false;               // else silhouettes
-    double exaggerate = 0;           // factor of the curve behind; 0 for none
+    bool r = false, python = false;   // which of them are written
+    std::vector<std::string> taxa;    // in the order of their columns; empty: all, as in the sheet
+    std::vector<std::string> italic;  // those whose names are set in italics
+    bool by_age = false;              // the axis, else by depth
+    bool bars = false;                // else silhouettes
+    double exaggerate = 0;            // factor of the curve behind; 0 for none
 };
 
 struct TableOptions {

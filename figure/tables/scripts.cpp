@@ -51,6 +51,7 @@ std::vector<Setting> SettingsOf(const Core& core, const TableOptions& options, c
             {"PERCENTAGES", CodeText(PercentageFile(options.basis))},
             {"AXIS", CodeText(options.scripts.by_age ? options.age : DepthHead(options))},
             {"TAXA", list + CodeList(DrawnTaxa(core, options)) + list_end},
+            {"ITALIC", list + CodeList(options.scripts.italic) + list_end},
             {"BARS", options.scripts.bars ? yes : no},
             {"EXAGGERATE", NumberText(options.scripts.exaggerate)}};
 }
@@ -122,7 +123,7 @@ for axes, taxon, width in zip(columns, TAXA, widths):
     axes.set_xlim(0, width)
     axes.set_xticks(range(0, width + 1, 10 if width < 40 else 20))
     axes.tick_params(labelsize=6)
-    axes.set_title(taxon, rotation=60, ha="left", va="bottom", x=0, style="italic", fontsize=9)
+    axes.set_title(taxon, rotation=60, ha="left", va="bottom", x=0, style="italic" if taxon in ITALIC else "normal", fontsize=9)
 
 # The tree: each merge joins the two clusters that meet above its split.
 tree = columns[-1]
@@ -210,7 +211,7 @@ for (taxon in seq_along(TAXA)) {
     axis(1, seq(0, widths[taxon], if (widths[taxon] < 40) 10 else 20), cex.axis = 0.7)
     segments(0, par("usr")[3], 0, par("usr")[4])
     lines_across()
-    text(0, par("usr")[4], TAXA[taxon], srt = 60, adj = c(-0.05, -0.2), font = 3, xpd = NA)
+    text(0, par("usr")[4], TAXA[taxon], srt = 60, adj = c(-0.05, -0.2), font = if (TAXA[taxon] %in% ITALIC) 3 else 1, xpd = NA)
 }
 
 # The tree: each merge joins the two clusters that meet above its split.

@@ -23,12 +23,12 @@ TEST(ScriptsTest, TheSettingsFollowTheOptions) {
     TableOptions options;
     options.basis = kBasisSubtotal1;
     options.age = "Age (BP)";
-    options.scripts = {true, true, {"Betula", "Pinus"}, true, true, 7.5};
+    options.scripts = {true, true, {"Betula", "Pinus"}, {"Pinus"}, true, true, 7.5};
     const std::string python = PythonScript(SmallCore(), options), r = RScript(SmallCore(), options);
     for (const char* line : {"TITLE = \"small\"\n", "PERCENTAGES = \"percentages_subtotal-1.csv\"\n", "AXIS = \"Age (BP)\"\n",
-                             "TAXA = [\"Betula\", \"Pinus\"]\n", "BARS = True\n", "EXAGGERATE = 7.5\n"})
+                             "TAXA = [\"Betula\", \"Pinus\"]\n", "ITALIC = [\"Pinus\"]\n", "BARS = True\n", "EXAGGERATE = 7.5\n"})
         EXPECT_NE(python.find(line), std::string::npos) << line;
-    for (const char* line : {"AXIS <- \"Age (BP)\"\n", "TAXA <- c(\"Betula\", \"Pinus\")\n", "BARS <- TRUE\n"})
+    for (const char* line : {"AXIS <- \"Age (BP)\"\n", "TAXA <- c(\"Betula\", \"Pinus\")\n", "ITALIC <- c(\"Pinus\")\n", "BARS <- TRUE\n"})
         EXPECT_NE(r.find(line), std::string::npos) << line;
 }
 

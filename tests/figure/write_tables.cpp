@@ -31,7 +31,7 @@ int main(int, char** arguments) {
     options.basis = kBasisSubtotal1;
     options.zones = {kBasisSubtotal1, "Lycopodium", true, 2, "LPAZ-"};
     options.marker = {"Lycopodium", "Tablets*1000±100", "Volume (cm3)", ""};
-    options.scripts = {true, true, {}, way == "bars" /* by age */, way == "bars", 10};
+    options.scripts = {true, true, {}, {"Pinus"}, way == "bars" /* by age */, way == "bars", 10};
     options.age = "Age (BP)";
     if (way == "named")
         GiveNames(core);
