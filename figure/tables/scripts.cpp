@@ -146,7 +146,7 @@ for zone in read("zones.csv"):
         for axes in columns:
             axes.axhline((y[below - 1] + y[below]) / 2, color="black", linewidth=0.6, linestyle="--")
 
-margin = 0.02 * abs(y[-1] - y[0]) + thickness / 2
+margin = math.copysign(0.02 * abs(y[-1] - y[0]) + thickness / 2, y[-1] - y[0])
 columns[0].set_ylim(y[-1] + margin, y[0] - margin)  # downwards, as in the sediment
 columns[0].set_ylabel("Sample" if named else AXIS)
 if named:
@@ -186,9 +186,10 @@ widths <- 10 * ceiling(apply(percentages, 2, max, 1) / 10)
 inches <- 2.5 + sum(widths + gap) / 25
 if (capabilities("cairo")) cairo_pdf(file, inches, 8) else pdf(file, inches, 8)
 layout(matrix(seq_len(length(TAXA) + 2), 1), widths = c(if (named) 40 else 25, widths + gap, 60))
-downwards <- rev(range(y))
+length_down <- y[length(y)] - y[1]
+downwards <- c(y[length(y)] + 0.03 * length_down, y[1] - 0.03 * length_down)  # as in the sediment
 space <- function(right) par(mar = c(3, 0, 8, right), mgp = c(1.8, 0.6, 0), cex = 0.7, xpd = FALSE, yaxs = "i")
-frame <- function(width) plot(NULL, xlim = c(0, width), ylim = downwards + c(1, -1) * 0.03 * diff(range(y)), xaxs = "i", axes = FALSE, ann = FALSE)
+frame <- function(width) plot(NULL, xlim = c(0, width), ylim = downwards, xaxs = "i", axes = FALSE, ann = FALSE)
 boundaries <- head(cumsum(zones$Samples), -1)
 lines_across <- function() if (length(boundaries)) abline(h = (y[boundaries] + y[boundaries + 1]) / 2, lty = 2)
 

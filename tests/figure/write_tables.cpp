@@ -1,6 +1,7 @@
 // Writes the tables and the scripts of a small core into a folder, for R and Python to run:
 //
-//     write_tables FOLDER WAY       WAY: silhouettes, bars, or named: samples without depths, and a taxon whose name is meant to harm
+//     write_tables FOLDER WAY       WAY: silhouettes, bars, calendar: by years that fall downwards, or named: samples without depths, and a
+//     taxon whose name is meant to harm
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -31,8 +32,11 @@ int main(int, char** arguments) {
     options.basis = kBasisSubtotal1;
     options.zones = {kBasisSubtotal1, "Lycopodium", true, 2, "LPAZ-"};
     options.marker = {"Lycopodium", "Tablets*1000±100", "Volume (cm3)", ""};
-    options.scripts = {true, true, {}, {"Pinus"}, way == "bars" /* by age */, way == "bars", 10};
+    options.scripts = {true, true, {}, {"Pinus"}, way == "calendar", way == "bars", 10};
     options.age = "Age (BP)";
+    if (way == "calendar")
+        for (std::size_t sample = 0; sample < core.samples.size(); ++sample)
+            core.samples[sample].values[2] = std::to_string(2000 - 50 * sample);
     if (way == "named")
         GiveNames(core);
     else
