@@ -64,9 +64,8 @@ Quantity GivenRates(const Core& core, const std::string& rate) {
 }
 }  // namespace
 
-Quantity AccumulationRates(const Core& core, const AccumulationOptions& options, const std::string& depth_unit, bool by_weight) {
+Quantity AccumulationRates(const Core& core, const AccumulationOptions& options, const std::string& depth_unit) {
     if (options.age.empty() == options.rate.empty()) throw FigureFault("influx takes either ages or a rate");
     if (options.age.empty()) return GivenRates(core, options.rate);
-    if (by_weight) throw FigureFault("influx by ages takes the volume of a sample, not its weight");
     return RatesByAge(core, options.age, depth_unit);
 }

@@ -15,8 +15,9 @@ void AddConcentrations(Tables& tables, const Core& core, const SampleCells& samp
     if (!options.marker) return;
     const Concentrations concentrations = ConcentrationsOf(core, *options.marker);
     tables.push_back({"concentrations.csv", ConcentrationTable(core, samples, concentrations)});
-    if (!options.accumulation) return;
-    const Quantity rates = AccumulationRates(core, *options.accumulation, options.depth_unit, concentrations.by_weight);
+    const bool by_age = options.accumulation && !options.accumulation->age.empty();
+    if (!options.accumulation || (by_age && concentrations.by_weight)) return;  // cm a year say nothing of g
+    const Quantity rates = AccumulationRates(core, *options.accumulation, options.depth_unit);
     tables.push_back({"influx.csv", InfluxTable(core, samples, concentrations, rates)});
 }
 

@@ -149,6 +149,13 @@ TEST(TablesTest, InfluxIsTheConcentrationTimesTheRate) {
     EXPECT_NE(rows.find("\n40,40,sum,Trees,50,0.02,,\n"), std::string::npos);
 }
 
+TEST(TablesTest, AgesGiveNoInfluxOfWhatWasWeighed) {
+    TableOptions options = TreesAndMarker();
+    options.marker = {"Lycopodium", "2*1000", "", "2.5"};
+    EXPECT_NE(Rows(SmallCore(), options, "concentrations.csv"), "");
+    EXPECT_EQ(Rows(SmallCore(), options, "influx.csv"), "");
+}
+
 TEST(TablesTest, InfluxTakesAMarker) {
     TableOptions options = TreesAndMarker();
     options.marker.reset();
