@@ -28,4 +28,12 @@ TEST(DiversityTest, AnEmptySampleDoesNotMakeTheOthersOnesOfNothing) {
     EXPECT_TRUE(herbs.samples[0].rarefied);
     EXPECT_FALSE(herbs.samples[1].rarefied);
 }
+
+TEST(DiversityTest, ASampleOfOneGrainIsNotEmpty) {
+    Core core = SmallCore();
+    core.samples[1].counts[2] = 1;
+    const Diversity herbs = DiversityOf(core, kBasisSubtotal2, "");
+    EXPECT_EQ(herbs.size, 1);
+    EXPECT_EQ(herbs.samples[1].rarefied, 1);
+}
 }  // namespace

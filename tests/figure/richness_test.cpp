@@ -41,6 +41,11 @@ TEST(RichnessTest, EqualSharesGiveTheLargestIndices) {
     EXPECT_NEAR(Simpson(Counts{5, 5, 0, 5, 5}), 0.75, 1e-12);
 }
 
+TEST(RichnessTest, SingleGrainsCount) {
+    EXPECT_NEAR(Shannon(Counts{1, 1}), std::log(2), 1e-12);
+    EXPECT_NEAR(Simpson(Counts{1, 1}), 0.5, 1e-12);
+}
+
 TEST(RichnessTest, OneTaxonHasNoDiversity) {
     EXPECT_EQ(Shannon(Counts{0, 9}), 0);
     EXPECT_EQ(Simpson(Counts{0, 9}), 0);

@@ -63,6 +63,8 @@ TEST(StratigraphyTest, ThereAreAsManyZonesAsSamplesAtMost) {
     EXPECT_EQ(FaultOf([] { StratigraphyOf(SmallCore(), TreesInZones(4)); }), "there can be 1 to 3 zones, not 4");
     EXPECT_EQ(FaultOf([] { StratigraphyOf(SmallCore(), TreesInZones(0)); }), "there can be 1 to 3 zones, not 0");
     Core core = SmallCore();
+    core.samples.resize(2);
+    EXPECT_EQ(StratigraphyOf(core, TreesInZones(2)).zones.size(), 2u);
     core.samples.resize(1);
     EXPECT_EQ(FaultOf([&] { StratigraphyOf(core, TreesInZones(1)); }), "zones take two samples or more");
 }

@@ -213,6 +213,16 @@ TEST(TablesTest, TheCountersTreeStandsAtItsDepths) {
               std::string::npos);
 }
 
+TEST(TablesTest, OneGrainIsACount) {
+    Core core = SmallCore();
+    core.samples[0].counts[2] = 1;
+    TableOptions options = TreesAndMarker();
+    EXPECT_NE(Rows(core, options, "counts_long.csv").find(",Poaceae,pollen/spore,NISP,1,\n"), std::string::npos);
+    EXPECT_NE(Rows(core, options, "concentrations.csv").find("\n10,10,taxon,Poaceae,1,50,2000,0.5,80,80.9938\n"), std::string::npos);
+    core.samples[0].counts = {1, 0, 0, 1};
+    EXPECT_NE(Rows(core, options, "diversity.csv").find("\n10,10,1,1,1,0,0\n"), std::string::npos);
+}
+
 TEST(TablesTest, NamesAreQuotedInAllTables) {
     Core core = SmallCore();
     core.taxa[0].name = "Pinus, \"broken\"";
