@@ -36,6 +36,10 @@ TEST(AccumulationTest, AGivenRateIsTaken) {
     EXPECT_EQ(AccumulationRates(SmallCore(), {"", "0.05"}, "cm"), (Quantity{0.05, 0.05, 0.05}));
 }
 
+TEST(AccumulationTest, ARateMayBeNothing) {
+    EXPECT_EQ(AccumulationRates(SmallCore(), {"", "0"}, "cm"), (Quantity{0, 0, 0}));
+}
+
 TEST(AccumulationTest, WhatMakesNoRateIsTold) {
     Core core = SmallCore();
     EXPECT_EQ(FaultOfAges(core, {"", ""}, "cm"), "influx takes either ages or a rate");

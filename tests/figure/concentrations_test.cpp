@@ -49,7 +49,9 @@ TEST(ConcentrationsTest, TheTabletsAreWrittenInSeveralWays) {
         EXPECT_DOUBLE_EQ(found.added[0]->relative, 0.1 / std::sqrt(2)) << added;
     }
     EXPECT_DOUBLE_EQ(ConcentrationsOf(SmallCore(), {"Lycopodium", "2*1000", "1", ""}).added[0]->relative, 0);
-    EXPECT_DOUBLE_EQ(ConcentrationsOf(SmallCore(), {"Lycopodium", "40000", "1", ""}).added[0]->markers, 40000);
+    const Added added = ConcentrationsOf(SmallCore(), {"Lycopodium", "40000", "1", ""}).added[0].value();
+    EXPECT_DOUBLE_EQ(added.markers, 40000);
+    EXPECT_DOUBLE_EQ(added.relative, 0);
 }
 
 TEST(ConcentrationsTest, WhatIsMissingIsTold) {
