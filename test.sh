@@ -2,7 +2,8 @@
 # Installs what is missing, builds Marlbrook and runs its tests:
 #     ./test.sh                       everything but what follows
 #     ./test.sh --quick               the unit tests and the scripts without windows
-#     ./test.sh --with-spreadsheet    everything, sheets that LibreOffice saves again, and the manual's examples for pandas and R
+#     ./test.sh --with-spreadsheet    everything, sheets that LibreOffice saves again, the manual's examples for pandas and R,
+#                                    and the figure's numbers and scripts against R and Python
 #     ./test.sh --fuzz                everything, and a minute of sheets, key settings and scripts that were spoiled at random
 # Unit tests and scripts without windows run under the address and undefined-behaviour sanitizers; whatever shows windows runs in the
 # release build, as users get it. The last line is "N passed, N failed"; the status is 0 if nothing failed.
