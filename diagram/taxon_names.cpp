@@ -1,8 +1,6 @@
 #include "diagram/taxon_names.h"
 
-#include <algorithm>
-#include <array>
-
+#include "diagram/data/italics.h"
 #include "diagram/data/percentages.h"
 #include "diagram/draw_diagram.h"
 #include "platform/number.h"
@@ -11,22 +9,8 @@
 #include "windows/diagram_window.h"
 
 namespace {
-bool IsFamily(const std::string& name) {
-    const std::string ending = Right(name, 2);
-    return ending == "ae" || ending == "AE";
-}
-
 bool HasName(int row) {
     return !DiagramNames[row].empty() && DiagramNames[row] != kEmpty;
-}
-
-using Italics = std::array<bool, kSlots + 1>;  // [sheet row]; [0] unused
-
-Italics ItalicRows() {
-    Italics italic{};
-    for (int row = 1; row <= kSlots; ++row) italic[row] = !IsFamily(DiagramNames[row]);
-    if (std::count(italic.begin(), italic.end(), true) == kSlots) italic.fill(false);
-    return italic;
 }
 
 std::int32_t BaseLine() {

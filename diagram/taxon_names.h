@@ -1,8 +1,7 @@
 // The names of the taxa, reading upward in frmDiagram.NameStrip, each over the left edge of its column.
 #pragma once
 
-// Families, which end in "ae" or "AE", stand upright, all else in italics; a list without any family is upright. Only names whose
-// left edge is in view are written.
+// Only names whose left edge is in view are written.
 void DrawTaxonNames();
 
 void CopyTaxonNames();  // puts the strip on the clipboard, on a white ground
