@@ -12,7 +12,6 @@
 #include "files/format/read_sheet.h"
 #include "files/sheet_on_screen.h"
 #include "keys/settings/key_settings.h"
-#include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 #include "session/focus.h"
@@ -75,13 +74,6 @@ void CancelOpen(ProgressBar& bar) {
     SampleUntouched = false;
     MakeColumnOfTemplate();
     EmptyAndHide(bar);
-}
-
-// The key index that two rows have in common, the first met going down.
-std::optional<int> RepeatedKeyIndex() {
-    for (int row = 2; row <= kSlots; ++row)
-        if (std::find(&KeyIndex[1], &KeyIndex[row], KeyIndex[row]) != &KeyIndex[row]) return KeyIndex[row];
-    return std::nullopt;
 }
 
 void StartAfresh(int key_index) {
@@ -151,16 +143,6 @@ void ReadRest(CellReader& cells) {
     ReadNotes(cells);
 }
 
-// A character that takes one byte in a file may take three in memory, where a text has several copies: what is too large for a file is too
-// large for a text.
-std::string ReadText(const std::string& path) {
-    std::string bytes = services.files->ReadAll(path);
-    if (IsAscii(bytes)) return bytes;  // nearly all are, and need not be copied
-    std::string text = DecodeFile(bytes);
-    if (text.size() > kLargestFile) throw Failure(kFileError);
-    return text;
-}
-
 // false: a key index repeats, and the session has started afresh.
 bool ReadFile(const std::string& path, CellReader& cells, ProgressBar& bar) {
     CloseDiagram();
@@ -216,7 +198,7 @@ using Choice = std::function<bool(CommonDialog&)>;  // leaves the file in FileNa
 bool ReadChosenFile(const Choice& choose, CommonDialog& dialog, ProgressBar& bar) {
     try {
         if (!choose(dialog)) return false;
-        CellReader cells(ReadText(dialog.FileName));
+        CellReader cells(ReadSheetText(dialog.FileName));
         return ReplaceSheet(dialog.FileName, cells, bar);
     } catch (const Failure&) {
         return false;

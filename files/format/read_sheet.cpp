@@ -1,12 +1,15 @@
 #include "files/format/read_sheet.h"
 
 #include <algorithm>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
 
+#include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/number.h"
+#include "platform/services.h"
 #include "platform/text.h"
 #include "session/state/sheet_state.h"
 
@@ -133,4 +136,20 @@ void ReadNotes(CellReader& cells) {
     }
     if (TemplateOpened) return;
     for (int sample = 1; sample <= SampleCount; ++sample) SampleNotes[sample] = cells.NextText();
+}
+
+// A character that takes one byte in a file may take three in memory, where a text has several copies: what is too large for a file is too
+// large for a text.
+std::string ReadSheetText(const std::string& path) {
+    std::string bytes = services.files->ReadAll(path);
+    if (IsAscii(bytes)) return bytes;  // nearly all are, and need not be copied
+    std::string text = DecodeFile(bytes);
+    if (text.size() > kLargestFile) throw Failure(kFileError);
+    return text;
+}
+
+std::optional<int> RepeatedKeyIndex() {
+    for (int row = 2; row <= kSlots; ++row)
+        if (std::find(&KeyIndex[1], &KeyIndex[row], KeyIndex[row]) != &KeyIndex[row]) return KeyIndex[row];
+    return std::nullopt;
 }

@@ -5,6 +5,8 @@
 #include <bitset>
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <string>
 
 #include "files/format/cells.h"
 #include "session/state/sheet_state.h"
@@ -24,5 +26,10 @@ using RowProgress = std::function<void(int row)>;  // told before each taxon row
 void ReadGrid(CellReader& cells, GridRead& read, const RowProgress& progress);  // what follows the path, to the last taxon row
 void ReadParamRows(CellReader& cells);                                          // without values if TemplateOpened
 void ReadNotes(CellReader& cells);                                              // the same
+
+// The text of the file, in UTF-8. Raises "File error" if it cannot be read, or takes more than kLargestFile as a file or as a text.
+std::string ReadSheetText(const std::string& path);
+
+std::optional<int> RepeatedKeyIndex();  // that two rows have in common, the first met going down
 
 std::int16_t LargestSerial();  // of the samples 1..SampleCount, 0 if there is none
