@@ -1,6 +1,7 @@
 // A counted core as its figure and its tables need it: what the sheet says, by sample and by taxon, apart from all windows.
 #pragma once
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -15,6 +16,7 @@ constexpr const char* kBasisWords[kBases] = {"all", "subtotal-1", "subtotal-2"};
 struct Taxon {
     std::string name;
     bool in_subtotal[kSubtotals] = {};
+    bool italic = false;  // by the rule of the counter's diagram
     bool InsideSum(Basis basis) const { return basis == kBasisAll || in_subtotal[basis - kBasisSubtotal1]; }
 };
 
@@ -32,13 +34,14 @@ struct Sample {
 struct TreeMerge {
     double upper = 0, lower = 0;  // where the two stand on the axis: 0 is the uppermost sample, 1 the lowest
     double height = 0;
+    std::size_t middle = 0;  // the first sample of the lower one
 };
 
 struct Core {
     std::string title;                              // the name of the file without its ending
     std::array<std::string, kSubtotals> subtotals;  // their names
     std::array<std::string, kParams> params;        // the names of Additional info
-    std::vector<Taxon> taxa;                        // the named and counted ones, in the order of the sheet's rows
+    std::vector<Taxon> taxa;                        // the counted ones, in the order of the sheet's rows; "---" has no name
     std::vector<Sample> samples;                    // from the top down: by depth if all have one, else as in the sheet
     std::array<std::vector<TreeMerge>, kBases>
         trees;  // [basis]: the counter's own, in the order of joining; empty for less than two samples
