@@ -1,0 +1,8 @@
+// Round numbers along an axis.
+#pragma once
+#include <vector>
+
+// The least of 1, 2, 5, 10, 20, 50 ... (and 0.5, 0.2 ...) of which no more than `most` fit into `span`. `span` > 0, `most` >= 1.
+double RoundStep(double span, int most);
+
+std::vector<double> Multiples(double step, double from, double to);  // of `step` > 0, both ends included, rising
