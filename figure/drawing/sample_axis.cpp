@@ -1,0 +1,86 @@
+#include "figure/drawing/sample_axis.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "figure/drawing/ticks.h"
+#include "figure/results/quantity.h"
+#include "figure/sheet/fault.h"
+#include "platform/number.h"
+#include "platform/text.h"
+
+namespace {
+constexpr double kPointsPerNumber = 30;  // along the axis, at the least
+constexpr int kShortTicks = 5;           // in a step
+
+std::string RoundNumberText(double number) {
+    constexpr int kDecimals = 9;
+    return NumberText(RoundHalfEven(number, kDecimals));
+}
+}  // namespace
+
+SampleAxis::SampleAxis(const Core& core, const FigureOptions& options, double top, double bottom) : top_(top), bottom_(bottom) {
+    if (options.age.empty())
+        TakeUpDepths(core, options.depth_unit);
+    else
+        TakeUpAges(core, options.age);
+    RoundEnds();
+}
+
+void SampleAxis::TakeUpAges(const Core& core, const std::string& age) {
+    const Quantity ages = QuantityOf(core, age);
+    for (std::size_t sample = 0; sample < ages.size(); ++sample) {
+        if (!ages[sample]) throw FigureFault("sample " + core.samples[sample].name + " has no number in " + age);
+        values_.push_back(*ages[sample]);
+    }
+    const bool rises = std::is_sorted(values_.begin(), values_.end());
+    if (!(rises || std::is_sorted(values_.rbegin(), values_.rend())) || values_.front() == values_.back())
+        throw FigureFault("the numbers in " + age + " do not go one way from the top to the bottom");
+    title_ = age;
+}
+
+void SampleAxis::TakeUpDepths(const Core& core, const std::string& unit) {
+    has_numbers_ = std::all_of(core.samples.begin(), core.samples.end(), [](const Sample& sample) { return sample.depth.has_value(); });
+    for (std::size_t sample = 0; sample < core.samples.size(); ++sample)
+        values_.push_back(has_numbers_ ? *core.samples[sample].depth : static_cast<double>(sample));
+    title_ = has_numbers_ ? "Depth (" + unit + ")" : "Sample";
+}
+
+// To a short tick beyond the samples, or half a place where these have names.
+void SampleAxis::RoundEnds() {
+    const double first = values_.front(), last = values_.back();
+    if (!has_numbers_) {
+        from_ = first - 0.5;
+        to_ = last + 0.5;
+        return;
+    }
+    step_ = RoundStep(std::abs(last - first), std::max(2, static_cast<int>((bottom_ - top_) / kPointsPerNumber)));
+    const double unit = (last > first ? step_ : -step_) / kShortTicks;
+    from_ = first == 0 ? 0 : (std::ceil(first / unit) - 1) * unit;
+    to_ = (std::floor(last / unit) + 1) * unit;
+}
+
+double SampleAxis::Boundary(std::size_t sample) const {
+    return (Y(sample - 1) + Y(sample)) / 2;
+}
+
+double SampleAxis::LeastDistance() const {
+    double least = bottom_ - top_;
+    for (std::size_t sample = 1; sample < values_.size(); ++sample)
+        if (const double distance = Y(sample) - Y(sample - 1); distance > 0) least = std::min(least, distance);
+    return least;
+}
+
+std::vector<SampleAxis::Tick> SampleAxis::Ticks() const {
+    std::vector<Tick> ticks;
+    if (!has_numbers_) return ticks;
+    for (const double value : Multiples(step_ / kShortTicks, std::min(from_, to_), std::max(from_, to_))) {
+        const double steps = value / step_;
+        const bool is_long = std::abs(steps - std::round(steps)) < 0.5 / kShortTicks;
+        ticks.push_back({YOf(value), is_long ? RoundNumberText(value) : ""});
+    }
+    std::sort(ticks.begin(), ticks.end(), [](const Tick& a, const Tick& b) { return a.y < b.y; });
+    return ticks;
+}
