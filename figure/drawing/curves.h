@@ -1,0 +1,17 @@
+// The values of a column, sample by sample.
+#pragma once
+#include "figure/drawing/column.h"
+
+struct Curve {
+    Values values;       // 0 and more; none breaks the curve
+    double unit = 1;     // points
+    double longest = 0;  // value at which the column ends: what lies beyond is cut off
+    Colour colour;
+};
+
+double BarHeight(const SampleAxis& axis);  // of a sample's bar, in points: bars of neighbours do not touch
+
+void DrawCurve(Pen& pen, const ColumnPlace& place, const Curve& curve, CurveStyle style);
+void DrawSilhouette(Pen& pen, const ColumnPlace& place, const Curve& curve);  // without a rim
+void DrawBars(Pen& pen, const ColumnPlace& place, const Curve& curve);
+void DrawPresence(Pen& pen, const ColumnPlace& place, const Curve& curve);  // a dot for each value above 0
