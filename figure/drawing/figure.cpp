@@ -1,0 +1,305 @@
+#include "figure/drawing/figure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "figure/drawing/arrangement.h"
+#include "figure/drawing/extra_columns.h"
+#include "figure/drawing/groups.h"
+#include "figure/drawing/sample_axis.h"
+#include "figure/drawing/taxon_columns.h"
+#include "figure/drawing/ticks.h"
+#include "figure/drawing/tree.h"
+#include "figure/sheet/fault.h"
+#include "platform/number.h"
+#include "platform/text.h"
+
+namespace {
+constexpr double kMargin = 24;  // points, as all of these
+constexpr double kTitleSize = 10;
+constexpr double kTitleHeight = 18;
+constexpr double kHeadingHeight = 16;  // of a group's name and the line below it
+constexpr double kNumbersBelow = 12;   // tick and number
+constexpr double kLegendBelow = 14;
+constexpr double kTick = 3, kShortTick = 1.8;
+constexpr double kLeastHeight = 60;  // of the columns
+constexpr double kGap = 6;
+constexpr Lettering kNames{kNameSize};
+constexpr Lettering kNumbers{kNumberSize};
+
+std::string NumberOf(double number) {
+    constexpr int kDecimals = 9;
+    return NumberText(RoundHalfEven(number, kDecimals));
+}
+
+struct ScaleNumber {
+    double x, value;
+};
+using ScaleNumbers = std::vector<ScaleNumber>;
+
+// What is drawn, before it has its place.
+struct Content {
+    std::vector<Column> columns;
+    std::optional<Stratigraphy> zones;
+};
+
+std::optional<Stratigraphy> ZonesOf(const Core& core, const FigureOptions& options) {
+    if (!options.has_zones && options.tree != TreeKind::SumOfSquares) return std::nullopt;
+    return StratigraphyOf(core, options.zones);
+}
+
+Content ContentOf(const Core& core, const FigureOptions& options) {
+    Content content{TaxonColumns(core, options), ZonesOf(core, options)};
+    const auto add = [&](std::vector<Column> columns) {
+        content.columns.insert(content.columns.end(), std::make_move_iterator(columns.begin()), std::make_move_iterator(columns.end()));
+    };
+    if (options.summary) add(SummaryColumns(core, options));
+    add(ExtraColumns(core, options));
+    add(TreeColumns(core, options, content.zones ? &*content.zones : nullptr));
+    if (!options.has_zones) content.zones.reset();
+    return content;
+}
+
+// A heading over each group is clear only where its taxa stand side by side.
+bool GroupsStandTogether(const std::vector<Column>& columns) {
+    std::vector<Group> met;
+    for (const Column& column : columns) {
+        if (!column.group || (!met.empty() && met.back() == *column.group)) continue;
+        if (std::find(met.begin(), met.end(), *column.group) != met.end()) return false;
+        met.push_back(*column.group);
+    }
+    return met.size() > 1;
+}
+
+class Figure {
+public:
+    Figure(const Core& core, const FigureOptions& options, const FontMetrics& metrics)
+        : core_(core), options_(options), metrics_(metrics), content_(ContentOf(core, options)), names_(MeasureNames()) {
+        plot_top_ = kMargin + (options.title.empty() ? 0 : kTitleHeight) + HeightOfNames() + kGap;
+        plot_bottom_ = options.page_height - kMargin - kNumbersBelow - kLegendBelow;
+        if (plot_bottom_ - plot_top_ < kLeastHeight) throw FigureFault("the page is not high enough for the names and the samples");
+        axis_.emplace(core, options, plot_top_, plot_bottom_);
+        columns_left_ = kMargin + AxisWidth();
+        const double room = options.page_width - kMargin - columns_left_ - ZonesWidth();
+        if (room < kLeastHeight) throw FigureFault("the page is not wide enough");
+        arrangement_ = Arrange(content_.columns, names_, room, options.one_page);
+    }
+
+    std::vector<Page> Pages() const {
+        std::vector<Page> pages;
+        for (const auto& columns : arrangement_.pages) {
+            Page& page = pages.emplace_back();
+            page.width = options_.one_page ? columns_left_ + arrangement_.width + ZonesWidth() + kMargin : options_.page_width;
+            page.height = options_.page_height;
+            Pen pen(page, metrics_);
+            DrawPage(pen, columns);
+        }
+        return pages;
+    }
+
+private:
+    bool HasHeadings() const { return GroupsStandTogether(content_.columns); }
+    Lettering NameLetters(const Column& column) const { return {kNameSize, column.italic}; }
+
+    NameRoom MeasureNames() const {
+        NameRoom names{{}, options_.name_angle};
+        for (const Column& column : content_.columns) names.widths.push_back(metrics_.WidthOf(column.name, NameLetters(column)));
+        return names;
+    }
+
+    // The names of taxa have their group's heading above them.
+    double HeightOfNames() const { return std::max(names_.Height(), HasHeadings() ? HeightOfTaxa() + kHeadingHeight : 0); }
+
+    double HeightOfTaxa() const {
+        NameRoom of_taxa{{}, names_.angle};
+        for (std::size_t i = 0; i < content_.columns.size(); ++i)
+            if (content_.columns[i].group) of_taxa.widths.push_back(names_.widths[i]);
+        return of_taxa.Height();
+    }
+
+    double NumbersWidth() const {
+        double widest = 0;
+        for (const SampleAxis::Tick& tick : axis_->Ticks()) widest = std::max(widest, metrics_.WidthOf(tick.number, kNumbers));
+        if (axis_->HasNumbers()) return widest;
+        for (const Sample& sample : core_.samples) widest = std::max(widest, metrics_.WidthOf(sample.name, kNumbers));
+        return widest;
+    }
+
+    double AxisWidth() const { return kNameSize + kGap + NumbersWidth() + kTick + kGap; }
+
+    double ZonesWidth() const {
+        double widest = 0;
+        if (content_.zones)
+            for (const Zone& zone : content_.zones->zones) widest = std::max(widest, metrics_.WidthOf(zone.name, kNames) + kGap);
+        return widest;
+    }
+
+    void DrawPage(Pen& pen, const std::vector<PlacedColumn>& columns) const {
+        if (!options_.title.empty()) pen.Write({{kMargin, kMargin + kTitleSize}, options_.title, {kTitleSize, false, true}});
+        DrawAxis(pen);
+        ScaleNumbers numbers;
+        for (const PlacedColumn& placed : columns) DrawColumn(pen, placed, numbers);
+        WriteNumbers(pen, numbers);
+        if (HasHeadings()) DrawHeadings(pen, columns);
+        if (content_.zones) DrawZones(pen, columns_left_ + columns.back().left + columns.back().width);
+        DrawLegend(pen);
+    }
+
+    void DrawAxis(Pen& pen) const {
+        const double x = columns_left_ - kGap;
+        pen.Line({x, plot_top_}, {x, plot_bottom_});
+        for (const SampleAxis::Tick& tick : axis_->Ticks()) {
+            pen.Line({x - (tick.number.empty() ? kShortTick : kTick), tick.y}, {x, tick.y});
+            WriteBesideAxis(pen, tick.y, tick.number, kNumberSize);
+        }
+        for (std::size_t sample = 0; sample < core_.samples.size(); ++sample)
+            pen.Line({x, axis_->Y(sample)}, {x + kShortTick, axis_->Y(sample)});
+        if (!axis_->HasNumbers()) WriteSampleNames(pen);
+        pen.Write({{kMargin + kNameSize, (plot_top_ + plot_bottom_) / 2}, axis_->Title(), kNames, PageText::Anchor::Middle, 90});
+    }
+
+    void WriteBesideAxis(Pen& pen, double y, const std::string& text, double size) const {
+        constexpr double kHalfOfADigit = 0.36;  // of the size of the letters
+        pen.Write({{columns_left_ - kGap - kTick - 1, y + kHalfOfADigit * size}, text, {size}, PageText::Anchor::End});
+    }
+
+    // Those that have room.
+    void WriteSampleNames(Pen& pen) const {
+        double below = 0;
+        for (std::size_t sample = 0; sample < core_.samples.size(); ++sample) {
+            if (axis_->Y(sample) - kNumberSize / 2 < below) continue;
+            WriteBesideAxis(pen, axis_->Y(sample), core_.samples[sample].name, kNumberSize);
+            below = axis_->Y(sample) + kNumberSize / 2;
+        }
+    }
+
+    void DrawColumn(Pen& pen, const PlacedColumn& placed, ScaleNumbers& numbers) const {
+        const Column& column = content_.columns[placed.column];
+        const ColumnPlace place{*axis_, columns_left_ + placed.left, placed.width, arrangement_.points_per_percent};
+        column.draw(pen, place);
+        pen.Line({place.left, plot_top_}, {place.left, plot_bottom_});
+        WriteName(pen, column, place.left);
+        if (column.scale) DrawScale(pen, column.scale(place), place.left, numbers);
+    }
+
+    void WriteName(Pen& pen, const Column& column, double left) const {
+        constexpr double kHeightOfLetters = 0.73;  // of their size
+        const bool upright = options_.name_angle == 90;
+        const PagePoint at{left + (upright ? kHeightOfLetters * kNameSize : kNameSize / 2), plot_top_ - kGap / 2};
+        pen.Write({at, column.name, NameLetters(column), PageText::Anchor::Start, options_.name_angle});
+    }
+
+    void DrawScale(Pen& pen, const ColumnScale& scale, double left, ScaleNumbers& numbers) const {
+        pen.Line({left, plot_bottom_}, {left + scale.length * scale.unit, plot_bottom_});
+        for (const double value : Multiples(scale.short_step, 0, scale.length)) {
+            const double steps = value / scale.number_step;
+            const bool is_long = std::abs(steps - std::round(steps)) < 1e-6;
+            const double x = left + value * scale.unit;
+            pen.Line({x, plot_bottom_}, {x, plot_bottom_ + (is_long ? kTick : kShortTick)});
+        }
+        for (const double value : NumbersOf(scale)) numbers.push_back({left + value * scale.unit, value});
+    }
+
+    // A column that is shorter than a step has the number of its end.
+    static std::vector<double> NumbersOf(const ColumnScale& scale) {
+        if (scale.length < scale.number_step) return {0, scale.length};
+        return Multiples(scale.number_step, 0, scale.length);
+    }
+
+    // Where two would touch, the first one stays, but a 0 makes room for numbers that tell more.
+    void WriteNumbers(Pen& pen, ScaleNumbers numbers) const {
+        constexpr double kRoom = 2;
+        std::stable_partition(numbers.begin(), numbers.end(), [](const ScaleNumber& number) { return number.value != 0; });
+        std::vector<std::pair<double, double>> taken;
+        for (const ScaleNumber& number : numbers) {
+            const std::string text = NumberOf(number.value);
+            const double half = metrics_.WidthOf(text, kNumbers) / 2, left = number.x - half - kRoom, right = number.x + half + kRoom;
+            if (std::any_of(taken.begin(), taken.end(), [=](const auto& other) { return left < other.second && right > other.first; }))
+                continue;
+            taken.emplace_back(number.x - half, number.x + half);
+            pen.Write({{number.x, plot_bottom_ + kNumbersBelow - 1}, text, kNumbers, PageText::Anchor::Middle});
+        }
+    }
+
+    struct Heading {
+        Group group;
+        double left, right;
+    };
+
+    // Names that lean have theirs further to the right.
+    std::vector<Heading> Headings(const std::vector<PlacedColumn>& columns) const {
+        const double begin = columns_left_ + (options_.name_angle == 90 ? 0 : HeightOfTaxa());
+        std::vector<Heading> headings;
+        for (const PlacedColumn& placed : columns) {
+            const std::optional<Group> group = content_.columns[placed.column].group;
+            if (!group) continue;
+            if (headings.empty() || headings.back().group != *group) headings.push_back({*group, begin + placed.left, 0});
+            headings.back().right = begin + placed.left + std::max(placed.width, kNameSize);
+        }
+        return headings;
+    }
+
+    // A name that would run into the next one is left out: its colour stands in the legend too.
+    void DrawHeadings(Pen& pen, const std::vector<PlacedColumn>& columns) const {
+        constexpr double kLine = 1.5;
+        const Lettering letters{kNameSize, false, true};
+        const double y = plot_top_ - HeightOfTaxa() - kGap;
+        const std::vector<Heading> headings = Headings(columns);
+        for (std::size_t i = 0; i < headings.size(); ++i) {
+            const Heading& heading = headings[i];
+            const std::string name = GroupName(core_, heading.group);
+            pen.Line({heading.left, y}, {heading.right, y}, kLine, ColourOf(heading.group));
+            const bool has_room = i + 1 == headings.size() || heading.left + pen.WidthOf(name, letters) < headings[i + 1].left;
+            if (has_room) pen.Write({{heading.left, y - kGap / 2}, name, letters});
+        }
+    }
+
+    void DrawZones(Pen& pen, double right) const {
+        constexpr double kHalfOfALetter = 0.3 * kNameSize;
+        for (const Zone& zone : content_.zones->zones) {
+            const double top = zone.first == 0 ? plot_top_ : axis_->Boundary(zone.first);
+            const double bottom = zone.end == core_.samples.size() ? plot_bottom_ : axis_->Boundary(zone.end);
+            if (zone.first > 0) pen.DashedLine({columns_left_ - kGap, top}, {right + ZonesWidth(), top});
+            pen.Write({{right + kGap, (top + bottom) / 2 + kHalfOfALetter}, zone.name, kNames});
+        }
+    }
+
+    void DrawLegend(Pen& pen) const {
+        const double y = plot_bottom_ + kNumbersBelow + kLegendBelow - 3;
+        double x = columns_left_;
+        const auto write = [&](const std::string& text) {
+            pen.Write({{x, y}, text, kNumbers});
+            x += pen.WidthOf(text, kNumbers) + 2 * kGap;
+        };
+        write("% of " + std::string(options_.basis == kBasisAll ? "all grains" : core_.subtotals[options_.basis - kBasisSubtotal1]));
+        if (options_.exaggeration > 0) write("pale: × " + NumberOf(options_.exaggeration));
+        for (const Group group : kGroups) {
+            if (!IsDrawn(group)) continue;
+            pen.Rectangle(x, y - kNumberSize * 0.7, x + kNumberSize * 0.7, y, ColourOf(group));
+            x += kNumberSize;
+            write(GroupName(core_, group));
+        }
+    }
+
+    bool IsDrawn(Group group) const {
+        return std::any_of(content_.columns.begin(), content_.columns.end(),
+                           [group](const Column& column) { return column.group == group; });
+    }
+
+    const Core& core_;
+    const FigureOptions& options_;
+    const FontMetrics& metrics_;
+    Content content_;
+    NameRoom names_;
+    double plot_top_ = 0, plot_bottom_ = 0, columns_left_ = 0;
+    std::optional<SampleAxis> axis_;
+    Arrangement arrangement_;
+};
+}  // namespace
+
+std::vector<Page> DrawFigure(const Core& core, const FigureOptions& options, const FontMetrics& metrics) {
+    return Figure(core, options, metrics).Pages();
+}
