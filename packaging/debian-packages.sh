@@ -18,6 +18,7 @@ for_build=(
     qt6-wayland     # desktops without X11
     libx11-dev      # keys that are held, under X11
     libsdl2-mixer-dev
+    libcli11-dev    # the arguments of marlbrook-figure
     pkgconf libxkbcommon-x11-dev libwayland-dev  # what the keys type
     fonts-dejavu-core fonts-dejavu-extra  # the second has the slanted faces, for genera
     python3-markdown  # the manual
@@ -29,6 +30,7 @@ for_test=(
     dbus at-spi2-core python3-pyatspi                                  # what a screen reader finds
     libxtst-dev                                                        # keys for the benchmark of the window
     imagemagick xclip
+    poppler-utils  # what is in a PDF
     dpkg-dev file debootstrap lintian devscripts desktop-file-utils appstream  # packages made, looked over and installed in a clean root
 )
 for_spreadsheet=(

@@ -1,0 +1,212 @@
+#include "program/figure_arguments.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <map>
+
+#include "program/figure_jobs.h"
+
+namespace {
+constexpr int kBadInput = 2;
+constexpr double kPointsPerMillimetre = 72 / 25.4;
+
+constexpr const char* kExamples = R"(Examples:
+  marlbrook-figure core.csv
+      core.svg and core.pdf, and core_tables/ with the numbers, beside the sheet
+  marlbrook-figure core.csv --style silhouette --exaggerate 10 --zones auto --basis subtotal-1 --min 1 --png 600
+  marlbrook-figure core.csv --marker Lycopodium --added 'Tablets*18583' --volume 'Volume (cm3)' --concentration
+  marlbrook-figure *.csv --output figures --no-tables)";
+
+template <class T>
+using Words = std::map<std::string, T>;
+
+const Words<CurveStyle> kStyles = {{"bar", CurveStyle::Bar},
+                                   {"curve", CurveStyle::Curve},
+                                   {"silhouette", CurveStyle::Silhouette},
+                                   {"dot", CurveStyle::Dot},
+                                   {"bar-and-curve", CurveStyle::BarAndCurve}};
+const Words<Basis> kBasesByWord = {
+    {kBasisWords[kBasisAll], kBasisAll}, {kBasisWords[kBasisSubtotal1], kBasisSubtotal1}, {kBasisWords[kBasisSubtotal2], kBasisSubtotal2}};
+const Words<TreeKind> kTrees = {{"counter", TreeKind::Counter}, {"grimm", TreeKind::SumOfSquares}, {"none", TreeKind::None}};
+
+// What the command line says in words of its own, before it is made into options.
+struct Raw {
+    std::string style = "bar", basis = "all", tree = "counter", rare = "none";
+    std::string zones, zone_names, page = "A4";
+    MarkerOptions marker;
+    AccumulationOptions accumulation;
+    bool concentration = false, proportions = false, no_summary = false, no_tables = false;
+};
+
+template <class T>
+void AddWord(CLI::App& app, const std::string& name, std::string& word, const Words<T>& words, const std::string& text) {
+    std::string list;
+    for (const auto& entry : words) list += (list.empty() ? "" : "|") + entry.first;
+    app.add_option(name, word, text + " (" + word + ")")->check(CLI::IsMember(words))->option_text(list)->take_last();
+}
+
+void AddNames(CLI::App& app, const std::string& name, std::vector<std::string>& names, const std::string& text) {
+    app.add_option(name, names, text)->delimiter(',')->allow_extra_args(false)->option_text("NAME,...");
+}
+
+void AddText(CLI::App& app, const std::string& name, std::string& value, const std::string& kind, const std::string& text) {
+    app.add_option(name, value, text)->option_text(kind)->take_last();
+}
+
+void AddDrawing(CLI::App& app, FigureArguments& arguments, Raw& raw) {
+    FigureOptions& figure = arguments.figure;
+    AddWord(app, "--style", raw.style, kStyles, "how percentages are drawn");
+    app.add_option("--exaggerate", figure.exaggeration, "a pale curve behind, so many times as wide")
+        ->check(CLI::Range(1.0, 1000.0))
+        ->option_text("TIMES");
+    AddNames(app, "--order", figure.order, "the taxa that come first");
+    app.add_option("--min", figure.least_percent, "leave out the taxa that never reach it")
+        ->check(CLI::Range(0.0, 100.0))
+        ->option_text("PERCENT");
+    app.add_option("--rare", raw.rare, "draw those as dots")->check(CLI::IsMember({"dots", "none"}))->option_text("dots");
+    AddNames(app, "--upright", figure.upright, "names not to be set in italics");
+    AddNames(app, "--italic", figure.italic, "names to be set in italics");
+    app.add_option("--names", figure.name_angle, "degrees by which names rise (90)")->check(CLI::IsMember({45, 90}))->option_text("45|90");
+    app.add_flag("--no-summary", raw.no_summary, "without the column of the groups");
+    AddText(app, "--title", figure.title, "TEXT", "above the figure");
+    AddText(app, "--page", raw.page, "SIZE", "of the PDF: A4, A4-upright or millimetres, 297x210 (A4)");
+    app.add_flag("--wide", figure.one_page, "PDF: one page, as wide as it takes, in place of several");
+    AddText(app, "--font", arguments.font, "NAME", "of the letters (DejaVu Sans)");
+    app.add_option("--png", arguments.png, "a picture too, of so many dots per inch")->check(CLI::Range(20, 2400))->option_text("DPI");
+}
+
+void AddSamples(CLI::App& app, FigureArguments& arguments, Raw& raw) {
+    FigureOptions& figure = arguments.figure;
+    AddWord(app, "--basis", raw.basis, kBasesByWord, "what is 100 %");
+    AddText(app, "--age", figure.age, "ROW", "of Additional info: the axis shows ages in place of depths");
+    AddText(app, "--depth-unit", figure.depth_unit, "UNIT", "of the names of the samples (cm)");
+    AddWord(app, "--tree", raw.tree, kTrees, "the counter's tree, one by the incremental sum of squares, or none");
+    AddText(app, "--zones", raw.zones, "N|auto", "zones by the incremental sum of squares: so many, or as many as the broken stick leaves");
+    AddText(app, "--zone-names", raw.zone_names, "TEXT", "before their numbers (LPAZ-)");
+    app.add_flag("--proportions", raw.proportions, "zones by the proportions, not by their square roots");
+}
+
+void AddColumns(CLI::App& app, FigureArguments& arguments, Raw& raw) {
+    FigureOptions& figure = arguments.figure;
+    app.add_flag("--sums", figure.sums, "a column of the grains in the sum");
+    app.add_flag("--taxa", figure.taxa, "a column of the taxa found");
+    app.add_flag("--richness", figure.richness, "a column of the taxa in as many grains as the smallest sum has");
+    app.add_flag("--concentration", raw.concentration, "a column of the concentration; takes --marker");
+    AddText(app, "--marker", raw.marker.taxon, "NAME", "the taxon that was added to the samples: no column of its own");
+    AddText(app, "--added", raw.marker.added, "TABLETS*MARKERS", "a row or a number each; 2*18583±370 with their deviation");
+    AddText(app, "--volume", raw.marker.volume, "ROW", "of Additional info, or a number: cm3 of a sample");
+    AddText(app, "--weight", raw.marker.weight, "ROW", "the same in g");
+    AddText(app, "--rate", raw.accumulation.rate, "ROW", "cm/yr, or g/(cm2 yr) with --weight: influx in the tables, which --age gives too");
+}
+
+void AddFiles(CLI::App& app, FigureArguments& arguments, Raw& raw) {
+    app.add_option("SHEET", arguments.sheets, "sheets of counts, .csv")->required()->option_text("...");
+    AddText(app, "--output", arguments.folder, "FOLDER", "where the files go (beside the sheet)");
+    app.add_flag("--no-tables", raw.no_tables, "the figure alone");
+    app.add_flag("--r", arguments.tables.scripts.r, "an R script too that draws from the tables");
+    app.add_flag("--python", arguments.tables.scripts.python, "the same in Python");
+}
+
+std::optional<std::size_t> NumberOfZones(const std::string& text) {
+    if (text == "auto") return std::nullopt;
+    std::size_t zones = 0;
+    if (!CLI::detail::lexical_cast(text, zones) || zones == 0) throw CLI::ValidationError("--zones", "takes a number of zones or auto");
+    return zones;
+}
+
+void ReadPage(const std::string& text, FigureOptions& figure) {
+    if (text == "A4") return;
+    if (text == "A4-upright") {
+        std::swap(figure.page_width, figure.page_height);
+        return;
+    }
+    constexpr double kLeast = 50, kMost = 5000;  // millimetres
+    const std::size_t cross = text.find('x');
+    double width = 0, height = 0;
+    const bool is_size = cross != std::string::npos && CLI::detail::lexical_cast(text.substr(0, cross), width) &&
+                         CLI::detail::lexical_cast(text.substr(cross + 1), height);
+    if (!is_size || std::min(width, height) < kLeast || std::max(width, height) > kMost)
+        throw CLI::ValidationError("--page", "takes A4, A4-upright or millimetres such as 297x210, 50 to 5000 each");
+    figure.page_width = width * kPointsPerMillimetre;
+    figure.page_height = height * kPointsPerMillimetre;
+}
+
+void TakeUpMarker(const Raw& raw, FigureArguments& arguments) {
+    const bool has_amounts = !raw.marker.added.empty();
+    if (has_amounts && raw.marker.taxon.empty()) throw CLI::ValidationError("--added", "takes --marker");
+    if (raw.concentration && !has_amounts) throw CLI::ValidationError("--concentration", "takes --marker and --added");
+    arguments.figure.left_out = raw.marker.taxon;
+    if (!has_amounts) return;
+    arguments.tables.marker = raw.marker;
+    if (raw.concentration) arguments.figure.concentration = raw.marker;
+    AccumulationOptions accumulation = raw.accumulation;
+    if (accumulation.rate.empty()) accumulation.age = arguments.figure.age;
+    if (!accumulation.rate.empty() || !accumulation.age.empty()) arguments.tables.accumulation = accumulation;
+}
+
+void TakeUpZones(const Raw& raw, FigureArguments& arguments) {
+    ZoneOptions zones;
+    zones.basis = arguments.figure.basis;
+    zones.left_out = arguments.figure.left_out;
+    zones.square_roots = !raw.proportions;
+    if (!raw.zone_names.empty()) zones.prefix = raw.zone_names;
+    if (!raw.zones.empty()) zones.zones = NumberOfZones(raw.zones);
+    arguments.tables.zones = zones;
+    arguments.figure.zones = zones;
+    arguments.figure.has_zones = !raw.zones.empty();
+}
+
+void TakeUpTables(FigureArguments& arguments) {
+    const FigureOptions& figure = arguments.figure;
+    TableOptions& tables = arguments.tables;
+    tables.basis = figure.basis;
+    tables.age = figure.age;
+    tables.depth_unit = figure.depth_unit;
+    tables.scripts.by_age = !figure.age.empty();
+    tables.scripts.bars = figure.style == CurveStyle::Bar || figure.style == CurveStyle::BarAndCurve;
+    tables.scripts.exaggerate = figure.exaggeration;
+}
+
+void TakeUp(const Raw& raw, FigureArguments& arguments) {
+    ReadPage(raw.page, arguments.figure);
+    arguments.figure.style = kStyles.at(raw.style);
+    arguments.figure.basis = kBasesByWord.at(raw.basis);
+    arguments.figure.tree = kTrees.at(raw.tree);
+    arguments.figure.rare_as_dots = raw.rare == "dots";
+    arguments.figure.summary = !raw.no_summary;
+    arguments.has_tables = !raw.no_tables;
+    TakeUpMarker(raw, arguments);
+    TakeUpZones(raw, arguments);
+    TakeUpTables(arguments);
+}
+
+// CLI11 says some of its faults on several lines.
+std::string OneLine(std::string text) {
+    while (!text.empty() && text.back() == '\n') text.pop_back();
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+}  // namespace
+
+std::optional<FigureArguments> ReadFigureArguments(int argc, char** argv, int& status) {
+    CLI::App app("The figure and the tables of a counted core, from the sheet of the counter.", "marlbrook-figure");
+    FigureArguments arguments;
+    Raw raw;
+    app.footer(kExamples);
+    app.set_version_flag("--version", "marlbrook-figure " MARLBROOK_VERSION);
+    AddFiles(app, arguments, raw);
+    AddDrawing(app, arguments, raw);
+    AddSamples(app, arguments, raw);
+    AddColumns(app, arguments, raw);
+    try {
+        app.parse(argc, argv);
+        TakeUp(raw, arguments);
+        return arguments;
+    } catch (const CLI::Success& done) {
+        status = app.exit(done);
+    } catch (const CLI::Error& fault) {
+        TellFault(OneLine(fault.what()) + " (--help tells what there is)");
+        status = kBadInput;
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,94 @@
+// marlbrook-figure: from the sheet of a counted core to its figure and its tables.
+#include <cstdlib>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "figure/drawing/figure.h"
+#include "figure/drawing/taxon_columns.h"
+#include "figure/sheet/fault.h"
+#include "figure/sheet/read_core.h"
+#include "figure/tables/tables.h"
+#include "platform/headless/files.h"
+#include "platform/qt/figure/page_files.h"
+#include "platform/services.h"
+#include "program/figure_arguments.h"
+#include "program/figure_files.h"
+#include "program/figure_jobs.h"
+
+namespace {
+constexpr int kBadInput = 2;
+
+// "/home/ann/core" of "/home/ann/core.csv", or in the folder that was named.
+std::string Stem(const std::string& sheet, const std::string& folder) {
+    std::string path = sheet.substr(0, sheet.size() - (sheet.ends_with(".csv") || sheet.ends_with(".CSV") ? 4 : 0));
+    if (folder.empty()) return path;
+    return folder + "/" + path.substr(path.find_last_of("/\\") + 1);
+}
+
+void AddFigure(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
+    const PageFiles toolkit(arguments.font);
+    FigureOptions wide = arguments.figure;
+    wide.one_page = true;
+    const Page page = DrawFigure(core, wide, toolkit).front();
+    const std::string& title = arguments.figure.title.empty() ? core.title : arguments.figure.title;
+    files[stem + ".svg"] = toolkit.Svg(page, title);
+    files[stem + ".pdf"] = toolkit.Pdf(DrawFigure(core, arguments.figure, toolkit), title);
+    if (!arguments.png) return;
+    std::string png = toolkit.Png(page, *arguments.png);
+    if (png.empty()) throw FigureFault("a picture of " + std::to_string(*arguments.png) + " dots per inch is too large; take less");
+    files[stem + ".png"] = std::move(png);
+}
+
+void AddTables(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
+    TableOptions options = arguments.tables;
+    for (const Column& column : TaxonColumns(core, arguments.figure)) {
+        options.scripts.taxa.push_back(column.name);
+        if (column.italic) options.scripts.italic.push_back(column.name);
+    }
+    for (const NamedText& table : TablesOf(core, options)) files[stem + "_tables/" + table.name] = table.text;
+}
+
+int Complain(const std::string& sheet, const std::string& fault, int status) {
+    TellFault(sheet + ": " + fault);
+    return status;
+}
+
+int DrawSheet(const std::string& sheet, const FigureArguments& arguments) {
+    try {
+        const Core core = ReadCore(sheet);
+        const std::string stem = Stem(sheet, arguments.folder);
+        FileTexts files;
+        AddFigure(files, stem, core, arguments);
+        if (arguments.has_tables) AddTables(files, stem, core, arguments);
+        WriteTogether(files);
+        return EXIT_SUCCESS;
+    } catch (const FigureFault& fault) {
+        return Complain(sheet, fault.what(), kBadInput);
+    } catch (const WriteFault& fault) {
+        return Complain(sheet, fault.what(), EXIT_FAILURE);
+    }
+}
+// Two that would write the same files; "" if there are none.
+std::string Rivals(const FigureArguments& arguments) {
+    std::map<std::string, std::string> sheets;
+    for (const std::string& sheet : arguments.sheets)
+        if (const auto [other, is_new] = sheets.emplace(Stem(sheet, arguments.folder), sheet); !is_new)
+            return sheet + ": its figure would take the place of that of " + other->second;
+    return "";
+}
+}  // namespace
+
+int main(int argc, char** argv) {
+    int status = EXIT_SUCCESS;
+    const std::optional<FigureArguments> arguments = ReadFigureArguments(argc, argv, status);
+    if (!arguments) return status;
+    if (const std::string rivals = Rivals(*arguments); !rivals.empty()) {
+        TellFault(rivals);
+        return kBadInput;
+    }
+    DiskFiles files;
+    services.files = &files;
+    return RunJobs(arguments->sheets.size(), [&](std::size_t sheet) { return DrawSheet(arguments->sheets[sheet], *arguments); });
+}
