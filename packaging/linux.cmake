@@ -2,7 +2,11 @@
 include(GNUInstallDirs)
 set(DOCUMENTS "${CMAKE_INSTALL_DATADIR}/doc/marlbrook")
 
-install(TARGETS marlbrook RUNTIME DESTINATION . COMPONENT folder EXCLUDE_FROM_ALL)
+foreach(program marlbrook marlbrook-figure)
+  if(TARGET ${program})
+    install(TARGETS ${program} RUNTIME DESTINATION . COMPONENT folder EXCLUDE_FROM_ALL)
+  endif()
+endforeach()
 install(DIRECTORY "${MARLBROOK_TREE}/" DESTINATION . COMPONENT folder EXCLUDE_FROM_ALL)
 
 install(FILES "${HERE}/linux/${APPLICATION}.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

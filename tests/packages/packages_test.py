@@ -24,6 +24,8 @@ from x11_desk import X11Desk  # noqa: E402
 BUILD = pathlib.Path(sys.argv[1]).resolve()
 APPLICATION = "org.marlbrook.Marlbrook"
 SYSTEM_TREE = "usr/share/marlbrook"
+SYSTEM_MANUAL = "usr/share/doc/marlbrook/manual"
+PROGRAMS = ["marlbrook", "marlbrook-figure", "marlbrook-drive"]
 
 
 class Packages(unittest.TestCase):
@@ -105,14 +107,14 @@ class Packages(unittest.TestCase):
         self.assertNotIn("hardening", said)
 
     def test_the_programs_are_hardened(self):
-        for name in ["marlbrook", "marlbrook-drive"]:
+        for name in PROGRAMS:
             program = self.root.path / "usr/bin" / name
             run("hardening-check", "--nocfprotection", program)  # its mark takes start-up objects of Debian that have it, and none has
             if platform.machine() == "x86_64":
                 self.assertGreater(run("objdump", "--disassemble", program).count("endbr64"), 1000, name)
 
     def test_the_programs_know_no_folder_of_their_build(self):
-        for name in ["marlbrook", "marlbrook-drive"]:
+        for name in PROGRAMS:
             for folder in [TOP, BUILD]:
                 self.assertNotIn(bytes(folder), (self.root.path / "usr/bin" / name).read_bytes(), name)
 
@@ -215,6 +217,15 @@ class Packages(unittest.TestCase):
             env={**ENVIRONMENT, "HOME": str(home)})
         self.assertIn(b'"Sample name","12.5","15"', (home / "mere.csv").read_bytes())
 
+    def test_the_figure_of_a_core_is_drawn(self):
+        user, home = self.new_user()
+        run(*self.root.as_user(user, "marlbrook-figure", f"/{SYSTEM_MANUAL}/lake_core.csv", "--output", home / "figures"),
+            env={**ENVIRONMENT, "HOME": str(home)})
+        self.assertIn(b"Pinus", (home / "figures/lake_core.svg").read_bytes())
+        self.assertTrue((home / "figures/lake_core.pdf").read_bytes().startswith(b"%PDF"))
+        self.assertTrue(self.root.holds("usr/share/man/man1/marlbrook-figure.1.gz"))
+        self.assertTrue(self.root.holds("usr/share/bash-completion/completions/marlbrook-figure"))
+
     def test_the_folder_of_the_archive_is_the_programs_folder(self):
         user, home = self.new_user()
         run(*self.root.as_user(user, "tar", "--extract", "--file", self.archive, "--directory", home))
@@ -222,7 +233,8 @@ class Packages(unittest.TestCase):
         program = self.start(user, home, folder / "marlbrook")
         self.make_keyboard_known(program)
         files = self.files(folder)
-        files.pop("marlbrook")
+        for name in ["marlbrook", "marlbrook-figure"]:
+            files.pop(name)
         self.assertIn("manual/index.html", files)
         files = {name: content for name, content in files.items() if not name.startswith("manual/")}
         self.assert_same_files(files, self.files_of_known_keyboard(), "after the first run")
