@@ -34,7 +34,7 @@ Column ValueColumn(const std::string& name, const std::string& unit, Values valu
     const bool many = LargestOf(values) >= kMany;
     if (many) InThousands(values);
     Column column;
-    column.name = WithUnit(name, many ? "thousand " + unit : unit);
+    column.name = WithUnit(name, many ? "10³ " + unit : unit);
     column.width = kWidth;
     const double largest = LargestOf(values), span = largest > 0 ? largest : 1;
     column.draw = [values, span](Pen& pen, const ColumnPlace& place) { DrawBars(pen, place, {values, place.width / span, span, kGrey}); };

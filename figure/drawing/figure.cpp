@@ -274,7 +274,7 @@ private:
             pen.Write({{x, y}, text, kNumbers});
             x += pen.WidthOf(text, kNumbers) + 2 * kGap;
         };
-        write("% of " + std::string(options_.basis == kBasisAll ? "all grains" : core_.subtotals[options_.basis - kBasisSubtotal1]));
+        write("% of " + NameOfSum());
         if (options_.exaggeration > 0) write("pale: × " + NumberOf(options_.exaggeration));
         for (const Group group : kGroups) {
             if (!IsDrawn(group)) continue;
@@ -282,6 +282,11 @@ private:
             x += kNumberSize;
             write(GroupName(core_, group));
         }
+    }
+
+    std::string NameOfSum() const {
+        if (options_.basis != kBasisAll) return core_.subtotals[options_.basis - kBasisSubtotal1];
+        return options_.left_out.empty() ? "all grains" : "all grains, " + options_.left_out + " among them";
     }
 
     bool IsDrawn(Group group) const {

@@ -128,6 +128,7 @@ TEST(FigureTest, WhatIsLeftOutIsNoColumnAndInNoGroup) {
     });
     EXPECT_EQ(NamesFromTheLeft(page), (Names{"Pinus", "Betula", "Poaceae", "Summary"}));
     EXPECT_FALSE(Says(page, "Others"));
+    EXPECT_TRUE(Says(page, "% of all grains, Lycopodium among them"));
 }
 
 TEST(FigureTest, RareTaxaAreLeftOutOrDots) {
@@ -282,7 +283,7 @@ TEST(FigureTest, LargeNumbersAreThousands) {
         options.left_out = "Lycopodium";
         options.concentration = MarkerOptions{"Lycopodium", "Tablets*20000", "1", ""};
     });
-    EXPECT_TRUE(Says(page, "Concentration (thousand grains/cm³)"));
+    EXPECT_TRUE(Says(page, "Concentration (10³ grains/cm³)"));
 }
 
 TEST(FigureTest, NoNumberOrNameTouchesAnotherOrThePagesEdge) {
