@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Makes the pictures of the manual and of the README anew, from any folder:
-#     docs/pictures.sh [DRIVER]     the driver of the release build, if none is named
+#     docs/pictures.sh [DRIVER]     the driver of the release build, if none is named; marlbrook-figure lies beside it
 # The clock, the sheet, the screen and the letters are always the same ones: the same build makes the same bytes on any machine.
 set -euo pipefail
 docs=$(dirname "$(readlink -f "$0")")
@@ -12,7 +12,10 @@ Fail() {
     exit 1
 }
 
-[ -x "$driver" ] || Fail "there is no driver at $driver; build the release preset first"
+figure=$(dirname "$driver")/marlbrook-figure
+for program in "$driver" "$figure"; do
+    [ -x "$program" ] || Fail "there is no program at $program; build the release preset first"
+done
 [ -f "$letters/DejaVuSans-Oblique.ttf" ] || Fail "the letters of the pictures are not in $letters; install fonts-dejavu-core and fonts-dejavu-extra"
 
 work=$(mktemp -d)
@@ -30,3 +33,11 @@ if ! FONTCONFIG_FILE=$work/fonts.conf QT_QPA_PLATFORM=offscreen "$driver" --wind
     grep -v '^This plugin does not support' "$work/said" >&2
     Fail "docs/pictures.drive did not play as it should"
 fi
+
+DrawFigure() {  # PICTURE OPTION...
+    FONTCONFIG_FILE=$work/fonts.conf "$figure" "$docs/manual/lake_core.csv" --no-tables --output "$work" --png 96 "${@:2}"
+    mv "$work/lake_core.png" "$docs/pictures/$1"
+}
+DrawFigure figure_bars.png --zones 3
+DrawFigure figure_silhouettes.png --basis subtotal-1 --marker Lycopodium --style silhouette --exaggerate 10 --names 45 --tree grimm \
+    --zones auto --richness
