@@ -38,7 +38,7 @@ for_spreadsheet=(
     r-cran-vegan        # a second source of the figure's numbers
     python3-matplotlib  # the figure's script in Python
 )
-for_bench=(python3-pandas python3-sklearn python3-scipy r-base-core)
+for_bench=(python3-pandas python3-sklearn python3-scipy python3-matplotlib r-base-core)
 for_fuzz=(clang libclang-rt-dev libgtest-dev libsdl2-mixer-dev)
 for_format=(clang-format)
 for_windows=(
