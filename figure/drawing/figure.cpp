@@ -1,7 +1,7 @@
 #include "figure/drawing/figure.h"
 
 #include <algorithm>
-#include <cmath>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <utility>
@@ -9,36 +9,23 @@
 #include "figure/drawing/arrangement.h"
 #include "figure/drawing/extra_columns.h"
 #include "figure/drawing/groups.h"
+#include "figure/drawing/headings.h"
 #include "figure/drawing/sample_axis.h"
+#include "figure/drawing/scales.h"
 #include "figure/drawing/taxon_columns.h"
 #include "figure/drawing/ticks.h"
 #include "figure/drawing/tree.h"
 #include "figure/sheet/fault.h"
-#include "platform/number.h"
-#include "platform/text.h"
 
 namespace {
 constexpr double kMargin = 24;  // points, as all of these
 constexpr double kTitleSize = 10;
 constexpr double kTitleHeight = 18;
-constexpr double kHeadingHeight = 16;  // of a group's name and the line below it
-constexpr double kNumbersBelow = 12;   // tick and number
 constexpr double kLegendBelow = 14;
-constexpr double kTick = 3, kShortTick = 1.8;
 constexpr double kLeastHeight = 60;  // of the columns
 constexpr double kGap = 6;
 constexpr Lettering kNames{kNameSize};
 constexpr Lettering kNumbers{kNumberSize};
-
-std::string NumberOf(double number) {
-    constexpr int kDecimals = 9;
-    return NumberText(RoundHalfEven(number, kDecimals));
-}
-
-struct ScaleNumber {
-    double x, value;
-};
-using ScaleNumbers = std::vector<ScaleNumber>;
 
 // What is drawn, before it has its place.
 struct Content {
@@ -63,23 +50,12 @@ Content ContentOf(const Core& core, const FigureOptions& options) {
     return content;
 }
 
-// A heading over each group is clear only where its taxa stand side by side.
-bool GroupsStandTogether(const std::vector<Column>& columns) {
-    std::vector<Group> met;
-    for (const Column& column : columns) {
-        if (!column.group || (!met.empty() && met.back() == *column.group)) continue;
-        if (std::find(met.begin(), met.end(), *column.group) != met.end()) return false;
-        met.push_back(*column.group);
-    }
-    return met.size() > 1;
-}
-
 class Figure {
 public:
     Figure(const Core& core, const FigureOptions& options, const FontMetrics& metrics)
         : core_(core), options_(options), metrics_(metrics), content_(ContentOf(core, options)), names_(MeasureNames()) {
         plot_top_ = kMargin + (options.title.empty() ? 0 : kTitleHeight) + HeightOfNames() + kGap;
-        plot_bottom_ = options.page_height - kMargin - kNumbersBelow - kLegendBelow;
+        plot_bottom_ = options.page_height - kMargin - kHeightOfScales - kLegendBelow;
         if (plot_bottom_ - plot_top_ < kLeastHeight) throw FigureFault("the page is not high enough for the names and the samples");
         axis_.emplace(core, options, plot_top_, plot_bottom_);
         columns_left_ = kMargin + AxisWidth();
@@ -111,7 +87,7 @@ private:
     }
 
     // The names of taxa have their group's heading above them.
-    double HeightOfNames() const { return std::max(names_.Height(), HasHeadings() ? HeightOfTaxa() + kHeadingHeight : 0); }
+    double HeightOfNames() const { return std::max(names_.Height(), HasHeadings() ? HeightOfTaxa() + kHeightOfHeadings : 0); }
 
     double HeightOfTaxa() const {
         NameRoom of_taxa{{}, names_.angle};
@@ -140,12 +116,12 @@ private:
     void DrawPage(Pen& pen, const std::vector<PlacedColumn>& columns) const {
         if (!options_.title.empty()) pen.Write({{kMargin, kMargin + kTitleSize}, options_.title, {kTitleSize, false, true}});
         DrawAxis(pen);
-        ScaleNumbers numbers;
-        for (const PlacedColumn& placed : columns) DrawColumn(pen, placed, numbers);
-        WriteNumbers(pen, numbers);
-        if (HasHeadings()) DrawHeadings(pen, columns);
+        Scales scales(pen, plot_bottom_);
+        for (const PlacedColumn& placed : columns) DrawColumn(pen, placed, scales);
+        scales.WriteNumbers();
+        if (HasHeadings()) DrawHeadings(pen, core_, Headings(columns), plot_top_ - HeightOfTaxa() - kGap);
         if (content_.zones) DrawZones(pen, columns_left_ + columns.back().left + columns.back().width);
-        DrawLegend(pen);
+        DrawLegend(pen, core_, Remarks(), DrawnGroups(), {columns_left_, plot_bottom_ + kHeightOfScales + kLegendBelow - 3});
     }
 
     void DrawAxis(Pen& pen) const {
@@ -176,13 +152,13 @@ private:
         }
     }
 
-    void DrawColumn(Pen& pen, const PlacedColumn& placed, ScaleNumbers& numbers) const {
+    void DrawColumn(Pen& pen, const PlacedColumn& placed, Scales& scales) const {
         const Column& column = content_.columns[placed.column];
         const ColumnPlace place{*axis_, columns_left_ + placed.left, placed.width, arrangement_.points_per_percent};
         column.draw(pen, place);
         pen.Line({place.left, plot_top_}, {place.left, plot_bottom_});
         WriteName(pen, column, place.left);
-        if (column.scale) DrawScale(pen, column.scale(place), place.left, numbers);
+        if (column.scale) scales.Draw(column.scale(place), place.left);
     }
 
     void WriteName(Pen& pen, const Column& column, double left) const {
@@ -191,43 +167,6 @@ private:
         const PagePoint at{left + (upright ? kHeightOfLetters * kNameSize : kNameSize / 2), plot_top_ - kGap / 2};
         pen.Write({at, column.name, NameLetters(column), PageText::Anchor::Start, options_.name_angle});
     }
-
-    void DrawScale(Pen& pen, const ColumnScale& scale, double left, ScaleNumbers& numbers) const {
-        pen.Line({left, plot_bottom_}, {left + scale.length * scale.unit, plot_bottom_});
-        for (const double value : Multiples(scale.short_step, 0, scale.length)) {
-            const double steps = value / scale.number_step;
-            const bool is_long = std::abs(steps - std::round(steps)) < 1e-6;
-            const double x = left + value * scale.unit;
-            pen.Line({x, plot_bottom_}, {x, plot_bottom_ + (is_long ? kTick : kShortTick)});
-        }
-        for (const double value : NumbersOf(scale)) numbers.push_back({left + value * scale.unit, value});
-    }
-
-    // A column that is shorter than a step has the number of its end.
-    static std::vector<double> NumbersOf(const ColumnScale& scale) {
-        if (scale.length < scale.number_step) return {0, scale.length};
-        return Multiples(scale.number_step, 0, scale.length);
-    }
-
-    // Where two would touch, the first one stays, but a 0 makes room for numbers that tell more.
-    void WriteNumbers(Pen& pen, ScaleNumbers numbers) const {
-        constexpr double kRoom = 2;
-        std::stable_partition(numbers.begin(), numbers.end(), [](const ScaleNumber& number) { return number.value != 0; });
-        std::vector<std::pair<double, double>> taken;
-        for (const ScaleNumber& number : numbers) {
-            const std::string text = NumberOf(number.value);
-            const double half = metrics_.WidthOf(text, kNumbers) / 2, left = number.x - half - kRoom, right = number.x + half + kRoom;
-            if (std::any_of(taken.begin(), taken.end(), [=](const auto& other) { return left < other.second && right > other.first; }))
-                continue;
-            taken.emplace_back(number.x - half, number.x + half);
-            pen.Write({{number.x, plot_bottom_ + kNumbersBelow - 1}, text, kNumbers, PageText::Anchor::Middle});
-        }
-    }
-
-    struct Heading {
-        Group group;
-        double left, right;
-    };
 
     // Names that lean have theirs further to the right.
     std::vector<Heading> Headings(const std::vector<PlacedColumn>& columns) const {
@@ -242,21 +181,6 @@ private:
         return headings;
     }
 
-    // A name that would run into the next one is left out: its colour stands in the legend too.
-    void DrawHeadings(Pen& pen, const std::vector<PlacedColumn>& columns) const {
-        constexpr double kLine = 1.5;
-        const Lettering letters{kNameSize, false, true};
-        const double y = plot_top_ - HeightOfTaxa() - kGap;
-        const std::vector<Heading> headings = Headings(columns);
-        for (std::size_t i = 0; i < headings.size(); ++i) {
-            const Heading& heading = headings[i];
-            const std::string name = GroupName(core_, heading.group);
-            pen.Line({heading.left, y}, {heading.right, y}, kLine, ColourOf(heading.group));
-            const bool has_room = i + 1 == headings.size() || heading.left + pen.WidthOf(name, letters) < headings[i + 1].left;
-            if (has_room) pen.Write({{heading.left, y - kGap / 2}, name, letters});
-        }
-    }
-
     void DrawZones(Pen& pen, double right) const {
         constexpr double kHalfOfALetter = 0.3 * kNameSize;
         for (const Zone& zone : content_.zones->zones) {
@@ -267,31 +191,24 @@ private:
         }
     }
 
-    void DrawLegend(Pen& pen) const {
-        const double y = plot_bottom_ + kNumbersBelow + kLegendBelow - 3;
-        double x = columns_left_;
-        const auto write = [&](const std::string& text) {
-            pen.Write({{x, y}, text, kNumbers});
-            x += pen.WidthOf(text, kNumbers) + 2 * kGap;
-        };
-        write("% of " + NameOfSum());
-        if (options_.exaggeration > 0) write("pale: × " + NumberOf(options_.exaggeration));
-        for (const Group group : kGroups) {
-            if (!IsDrawn(group)) continue;
-            pen.Rectangle(x, y - kNumberSize * 0.7, x + kNumberSize * 0.7, y, ColourOf(group));
-            x += kNumberSize;
-            write(GroupName(core_, group));
-        }
-    }
-
     std::string NameOfSum() const {
         if (options_.basis != kBasisAll) return core_.subtotals[options_.basis - kBasisSubtotal1];
         return options_.left_out.empty() ? "all grains" : "all grains, " + options_.left_out + " among them";
     }
 
-    bool IsDrawn(Group group) const {
-        return std::any_of(content_.columns.begin(), content_.columns.end(),
-                           [group](const Column& column) { return column.group == group; });
+    std::vector<std::string> Remarks() const {
+        std::vector<std::string> remarks = {"% of " + NameOfSum()};
+        if (options_.exaggeration > 0) remarks.push_back("pale: × " + RoundNumberText(options_.exaggeration));
+        return remarks;
+    }
+
+    std::vector<Group> DrawnGroups() const {
+        std::vector<Group> groups;
+        for (const Group group : kGroups)
+            if (std::any_of(content_.columns.begin(), content_.columns.end(),
+                            [group](const Column& column) { return column.group == group; }))
+                groups.push_back(group);
+        return groups;
     }
 
     const Core& core_;

@@ -2,23 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <optional>
 
 #include "figure/drawing/ticks.h"
 #include "figure/results/quantity.h"
 #include "figure/sheet/fault.h"
-#include "platform/number.h"
-#include "platform/text.h"
 
 namespace {
 constexpr double kPointsPerNumber = 30;  // along the axis, at the least
 constexpr int kShortTicks = 5;           // in a step
-
-std::string RoundNumberText(double number) {
-    constexpr int kDecimals = 9;
-    return NumberText(RoundHalfEven(number, kDecimals));
-}
 }  // namespace
 
 SampleAxis::SampleAxis(const Core& core, const FigureOptions& options, double top, double bottom) : top_(top), bottom_(bottom) {

@@ -2,6 +2,9 @@
 
 #include <cmath>
 
+#include "platform/number.h"
+#include "platform/text.h"
+
 namespace {
 constexpr double kSlack = 1e-9;  // of a step: 0.3 is a multiple of 0.1
 }
@@ -19,4 +22,9 @@ std::vector<double> Multiples(double step, double from, double to) {
     const double last = std::floor(to / step + kSlack);
     for (double n = std::ceil(from / step - kSlack); n <= last; ++n) numbers.push_back(n == 0 ? 0 : n * step);
     return numbers;
+}
+
+std::string RoundNumberText(double number) {
+    constexpr int kDecimals = 9;
+    return NumberText(RoundHalfEven(number, kDecimals));
 }

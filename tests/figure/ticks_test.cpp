@@ -21,4 +21,10 @@ TEST(TicksTest, MultiplesTakeInBothEnds) {
     EXPECT_EQ(Multiples(0.1, 0, 0.3).size(), 4u) << "though 3 * 0.1 is above 0.3";
     EXPECT_TRUE(Multiples(5, 1, 4).empty());
 }
+
+TEST(TicksTest, ANumberIsWrittenAsItIsMeant) {
+    EXPECT_EQ(RoundNumberText(3 * 0.1), "0.3");
+    EXPECT_EQ(RoundNumberText(-0.0), "0");
+    EXPECT_EQ(RoundNumberText(12000), "12000");
+}
 }  // namespace
