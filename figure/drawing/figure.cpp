@@ -71,7 +71,8 @@ public:
             page.width = options_.one_page ? columns_left_ + arrangement_.width + ZonesWidth() + kMargin : options_.page_width;
             page.height = options_.page_height;
             Pen pen(page, metrics_);
-            DrawPage(pen, columns);
+            const double legend_right = DrawPage(pen, page.width, columns);
+            if (options_.one_page) page.width = std::max(page.width, legend_right + kMargin);
         }
         return pages;
     }
@@ -113,15 +114,23 @@ private:
         return widest;
     }
 
-    void DrawPage(Pen& pen, const std::vector<PlacedColumn>& columns) const {
-        if (!options_.title.empty()) pen.Write({{kMargin, kMargin + kTitleSize}, options_.title, {kTitleSize, false, true}});
+    // Returns the right end of the legend.
+    double DrawPage(Pen& pen, double width, const std::vector<PlacedColumn>& columns) const {
+        DrawTitle(pen, width - 2 * kMargin);
         DrawAxis(pen);
         Scales scales(pen, plot_bottom_);
         for (const PlacedColumn& placed : columns) DrawColumn(pen, placed, scales);
         scales.WriteNumbers();
         if (HasHeadings()) DrawHeadings(pen, core_, Headings(columns), plot_top_ - HeightOfTaxa() - kGap);
         if (content_.zones) DrawZones(pen, columns_left_ + columns.back().left + columns.back().width);
-        DrawLegend(pen, core_, Remarks(), DrawnGroups(), {columns_left_, plot_bottom_ + kHeightOfScales + kLegendBelow - 3});
+        return DrawLegend(pen, core_, Remarks(), DrawnGroups(), {columns_left_, plot_bottom_ + kHeightOfScales + kLegendBelow - 3});
+    }
+
+    // Smaller where the page is not wide enough for it.
+    void DrawTitle(Pen& pen, double room) const {
+        if (options_.title.empty()) return;
+        const double width = pen.WidthOf(options_.title, {kTitleSize, false, true});
+        pen.Write({{kMargin, kMargin + kTitleSize}, options_.title, {kTitleSize * std::min(1.0, room / width), false, true}});
     }
 
     void DrawAxis(Pen& pen) const {
@@ -181,13 +190,18 @@ private:
         return headings;
     }
 
+    // Each line, and the names that have room.
     void DrawZones(Pen& pen, double right) const {
         constexpr double kHalfOfALetter = 0.3 * kNameSize;
+        double below = 0;
         for (const Zone& zone : content_.zones->zones) {
             const double top = zone.first == 0 ? plot_top_ : axis_->Boundary(zone.first);
             const double bottom = zone.end == core_.samples.size() ? plot_bottom_ : axis_->Boundary(zone.end);
             if (zone.first > 0) pen.DashedLine({columns_left_ - kGap, top}, {right + ZonesWidth(), top});
-            pen.Write({{right + kGap, (top + bottom) / 2 + kHalfOfALetter}, zone.name, kNames});
+            const double middle = (top + bottom) / 2;
+            if (middle - kNameSize / 2 < below) continue;
+            pen.Write({{right + kGap, middle + kHalfOfALetter}, zone.name, kNames});
+            below = middle + kNameSize / 2;
         }
     }
 

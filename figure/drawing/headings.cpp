@@ -28,7 +28,7 @@ void DrawHeadings(Pen& pen, const Core& core, const std::vector<Heading>& headin
     }
 }
 
-void DrawLegend(Pen& pen, const Core& core, const std::vector<std::string>& remarks, const std::vector<Group>& groups, PagePoint at) {
+double DrawLegend(Pen& pen, const Core& core, const std::vector<std::string>& remarks, const std::vector<Group>& groups, PagePoint at) {
     constexpr Lettering kSmall{kNumberSize};
     constexpr double kGap = 12, kSquare = 0.7 * kNumberSize;
     const auto write = [&](const std::string& text) {
@@ -41,4 +41,5 @@ void DrawLegend(Pen& pen, const Core& core, const std::vector<std::string>& rema
         at.x += kNumberSize;
         write(GroupName(core, group));
     }
+    return at.x - kGap;
 }

@@ -21,5 +21,5 @@ struct Heading {
 // From left to right, their lines at the height `y`. A name that would run into the next one is left out: the legend has it too.
 void DrawHeadings(Pen& pen, const Core& core, const std::vector<Heading>& headings, double y);
 
-// In one line that begins at `at`: the remarks, then the groups with their colours.
-void DrawLegend(Pen& pen, const Core& core, const std::vector<std::string>& remarks, const std::vector<Group>& groups, PagePoint at);
+// In one line that begins at `at`: the remarks, then the groups with their colours. Returns its right end.
+double DrawLegend(Pen& pen, const Core& core, const std::vector<std::string>& remarks, const std::vector<Group>& groups, PagePoint at);

@@ -258,6 +258,22 @@ TEST(FigureTest, ZonesGoAcrossWithTheirNames) {
     EXPECT_LT(TextsThatSay(page, "LPAZ-2")[0].at.y, dashed[0].points[0].y);
 }
 
+TEST(FigureTest, NamesOfThinZonesDoNotTouch) {
+    Core core = TestCore();
+    for (int i = 0; i < 3; ++i) core.samples.push_back(SmallSample(40.01 + i / 100.0, {i, 50, 0, 25 + i}, {}, core.taxa));
+    FigureOptions options;
+    options.has_zones = true;
+    options.zones.zones = 6;
+    options.tree = TreeKind::None;
+    double below = 0;
+    for (const PageText& text : Drawn<PageText>(Pages(core, options)[0])) {
+        if (!text.text.starts_with("LPAZ-")) continue;
+        EXPECT_GE(PlaceOf(text).top, below);
+        below = PlaceOf(text).bottom;
+    }
+    EXPECT_GT(below, 0);
+}
+
 TEST(FigureTest, TheTreeOfTheSumOfSquaresTakesNoZones) {
     const Page page = DrawWith([](FigureOptions& options) { options.tree = TreeKind::SumOfSquares; });
     EXPECT_TRUE(Says(page, "Total sum of squares"));
@@ -291,7 +307,7 @@ TEST(FigureTest, NoNumberOrNameTouchesAnotherOrThePagesEdge) {
         for (const Page& page : Pages(TestCore(), [&] {
                  FigureOptions options;
                  options.page_width = width;
-                 options.title = "A core";
+                 options.title = "A core with a title that is far too long for a narrow page, as some are";
                  options.has_zones = options.sums = options.taxa = options.richness = true;
                  options.zones.zones = 2;
                  return options;
@@ -326,6 +342,18 @@ TEST(FigureTest, ManyTaxaTakePagesOrOneThatIsWide) {
     ASSERT_EQ(one.size(), 1u);
     EXPECT_GT(one[0].width, 842);
     EXPECT_EQ(TextsThatSay(one[0], "Herb").size(), 130u);
+}
+
+TEST(FigureTest, AWidePageIsAsWideAsItsLegend) {
+    Core core = TestCore();
+    for (Sample& sample : core.samples) sample.shares[kBasisAll] = {0.01, 0.01, 0.01, 0.01};
+    FigureOptions options;
+    options.one_page = true;
+    options.summary = false;
+    options.tree = TreeKind::None;
+    options.left_out = "Lycopodium";
+    const Page page = Pages(core, options)[0];
+    for (const PageText& text : Drawn<PageText>(page)) EXPECT_LE(PlaceOf(text).right, page.width) << text.text;
 }
 
 TEST(FigureTest, GroupsThatStandTogetherHaveHeadings) {
