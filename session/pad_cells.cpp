@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "diagram/data/italics.h"
 #include "diagram/data/percentages.h"
 #include "platform/failure.h"
 #include "platform/number.h"
@@ -13,8 +14,7 @@
 
 namespace {
 bool IsGenus(const std::string& name) {
-    const std::string ending = Right(name, 2);
-    return name != kEmpty && ending != "ae" && ending != "AE";
+    return name != kEmpty && !IsFamily(name);
 }
 
 // Of a product of two floats, itself a float; ties to even.
