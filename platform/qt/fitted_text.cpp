@@ -57,7 +57,7 @@ double HeightOf(const QFontMetricsF& metrics, qsizetype lines) {
 
 // A single line may stand over: it is the height of the box that is meant for it.
 bool IsTooHigh(const QFontMetricsF& metrics, qsizetype lines, double height) {
-    return lines > 1 && HeightOf(metrics, lines) > height + 1;
+    return lines > 1 && HeightOf(metrics, lines) > height;
 }
 }  // namespace
 
