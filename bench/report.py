@@ -19,6 +19,7 @@ GROWTH = (10, 50, 100, 250)  # samples
 sys.path.insert(0, str(TOP / "tests/windows"))
 import desk
 import figure_bench
+import spoken
 
 
 def milliseconds(job, times=7):
@@ -69,7 +70,7 @@ def start_up(start, title):
         process, end = start(screen)
         try:
             while not screen.windows(title):
-                if time.perf_counter() - begin > desk.PATIENCE:
+                if time.perf_counter() - begin > spoken.PATIENCE:
                     sys.exit(f"report.py: no window {title} came")
             spent = (time.perf_counter() - begin) * 1000
             resident = pathlib.Path(f"/proc/{process.pid}/status").read_text().split("VmRSS:")[1].split()[0]
@@ -218,7 +219,7 @@ all that a key does to an open diagram before it is painted: {text(per("Redraw")
 
 def main():
     acts = {task: window(task, count) for task, count in (("plain", 5000), ("diagram", 1000), ("fresh", 1000), ("tree", 1000), ("drag", 600))}
-    starts = start_up(start_program, "^Marlbrook 2"), start_up(start_bare_window, "^Bare window")
+    starts = start_up(start_program, desk.START), start_up(start_bare_window, "Bare window.*")
     held = {samples: memory(samples) for samples in GROWTH}
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
