@@ -155,13 +155,17 @@ std::error_code TakeName(const std::filesystem::path& from, OwnName& name) {
     return error;
 }
 
+// Somebody may have tidied it away. False: it is there, or cannot be made.
+bool MakeFolderOf(const std::filesystem::path& path) {
+    std::error_code error;
+    return std::filesystem::create_directory(path.parent_path(), error);
+}
+
 // Its old content stays under the name until the new one is on the disk.
 bool WriteWhole(OwnName& name, const std::string& bytes) {
     const std::filesystem::path beside = SystemFile(name.paths.front() + ".new");
     std::error_code error;
-    std::filesystem::create_directory(beside.parent_path(), error);  // somebody may have tidied it away
-    error.clear();
-    if (!WriteAndFlush(beside, bytes))
+    if (!WriteAndFlush(beside, bytes) && !(MakeFolderOf(beside) && WriteAndFlush(beside, bytes)))
         error = std::make_error_code(std::errc::io_error);
     else if (name.path.empty())
         error = TakeName(beside, name);
