@@ -10,7 +10,6 @@
 #include "platform/encoding.h"
 #include "platform/failure.h"
 #include "platform/services.h"
-#include "session/saved_state.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
 #include "windows/main_window.h"
