@@ -1,37 +1,22 @@
 """Richness and zones that marlbrook-figure finds in the manual's sheet against R and vegan, from the cells of that sheet."""
 
-import csv
-import os
-import shutil
 import subprocess
-import tempfile
 import unittest
 from pathlib import Path
 
-import manual
+from lake_core import make_tables, read, sheet
 
 HERE = Path(__file__).resolve().parent
-PROGRAM = Path(os.environ.get("MARLBROOK_BIN", manual.TOP / "build/release/bin")) / "marlbrook-figure"
-
-
-def read(path, encoding="utf-8"):
-    with open(path, encoding=encoding, newline="") as file:
-        return list(csv.reader(file))
 
 
 class TablesByRTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        folder = tempfile.TemporaryDirectory()
-        cls.addClassCleanup(folder.cleanup)
-        shutil.copy(manual.FOLDER / "lake_core.csv", folder.name)
-        subprocess.run([PROGRAM, "lake_core.csv", "--basis", "subtotal-1", "--proportions", "--zones", "auto"], cwd=folder.name, timeout=120,
-                       check=True)
-        cls.tables = Path(folder.name) / "lake_core_tables"
-        trees = [row[4:] for row in read(manual.FOLDER / "lake_core.csv", "windows-1252")[2:137] if row[1] == "1"]
+        cls.tables = make_tables(cls, "--basis", "subtotal-1", "--proportions", "--zones", "auto")
+        trees = [row[4:] for row in sheet()[2:137] if row[1] == "1"]
         samples = list(zip(*trees))
         size = min(sum(map(int, sample)) for sample in samples)
-        matrix = Path(folder.name) / "matrix"
+        matrix = cls.tables.parent / "matrix"
         matrix.write_text(f"{len(samples)} {len(trees)} {size}\n" + "\n".join(" ".join(sample) for sample in samples), encoding="ascii")
         ran = subprocess.run(["Rscript", "--vanilla", HERE / "second_source.R", matrix], capture_output=True, text=True, timeout=300, check=True)
         cls.theirs = {}

@@ -1,25 +1,13 @@
 """The tables that marlbrook-figure makes of the manual's sheet against the cells of that sheet, reckoned anew from the formulas of the manual."""
 
-import csv
 import math
-import os
-import shutil
-import subprocess
-import tempfile
 import unittest
-from pathlib import Path
 
-import manual
+from lake_core import make_tables, read, sheet
 
-PROGRAM = Path(os.environ.get("MARLBROOK_BIN", manual.TOP / "build/release/bin")) / "marlbrook-figure"
 FILES = {"percentages_all.csv": None, "percentages_subtotal-1.csv": 1, "percentages_subtotal-2.csv": 2}  # and the flags' column in the sheet
 EACH, DEVIATION, RATE = 18583, 764, 0.2
 Z = 1.96
-
-
-def read(path, encoding="utf-8"):
-    with open(path, encoding=encoding, newline="") as file:
-        return list(csv.reader(file))
 
 
 def limits(count, total, inside):
@@ -32,13 +20,9 @@ def limits(count, total, inside):
 class TablesOfSheetTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        folder = tempfile.TemporaryDirectory()
-        cls.addClassCleanup(folder.cleanup)
-        shutil.copy(manual.FOLDER / "lake_core.csv", folder.name)
-        subprocess.run([PROGRAM, "lake_core.csv", "--marker", "Lycopodium", "--added", f"Tablets*{EACH}+-{DEVIATION}", "--weight", "Weight (g)",
-                        "--rate", str(RATE)], cwd=folder.name, timeout=120, check=True)
-        cls.tables = Path(folder.name) / "lake_core_tables"
-        rows = read(manual.FOLDER / "lake_core.csv", "windows-1252")
+        cls.tables = make_tables(cls, "--marker", "Lycopodium", "--added", f"Tablets*{EACH}+-{DEVIATION}", "--weight", "Weight (g)",
+                                 "--rate", str(RATE))
+        rows = sheet()
         cls.names = rows[1][4:]
         cls.taxa = [row for row in rows[2:137] if any(count != "0" for count in row[4:])]
         cls.info = {row[3]: row[4:] for row in rows[137:143]}
