@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMetaObject>
+#include <chrono>
 #include <utility>
 
 #include "platform/qt/load_wave.h"
@@ -13,6 +14,7 @@ namespace {
 constexpr int kRate = 44100;
 constexpr int kOneChannel = 1;
 constexpr int kStereo = 2;
+constexpr std::chrono::milliseconds kSettling{500};
 
 // 256 frames are 9 ms from key to ear; some devices take no less than twice as many.
 bool OpenDevice() {
@@ -22,20 +24,67 @@ bool OpenDevice() {
 }
 }  // namespace
 
-QtSounds::QtSounds() : opening_([this] { Open(); }) {}
+QtSounds::QtSounds() : keeper_([this] { KeepOpen(); }) {}
 
 // SDL would catch SIGTERM, and the program would not end on it.
-void QtSounds::Open() {
+void QtSounds::KeepOpen() {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Marlbrook");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_NAME, "Keys");
-    const bool opens = SDL_Init(SDL_INIT_AUDIO) == 0 && OpenDevice();
+    SDL_Init(SDL_INIT_AUDIO);
+    SDL_SetEventFilter(NoteDevice, this);
+    Open();
+    while (WaitForChange()) {
+        Close();
+        Open();
+    }
+    Close();
+}
+
+void QtSounds::Open() {
+    const bool opens = SDL_WasInit(SDL_INIT_AUDIO) && OpenDevice();
     if (opens) Mix_AllocateChannels(kOneChannel);
     const std::lock_guard lock(mutex_);
     is_open_ = opens;
     is_silent_ = !opens;
     if (is_silent_) TellOfSilence();
     if (is_open_ && waits_) PlayNow(waits_, waiting_bytes_);
+    waits_ = nullptr;
+}
+
+void QtSounds::Close() {
+    std::map<const Wave*, Loaded> unloaded;
+    {
+        const std::lock_guard lock(mutex_);
+        if (!is_open_) return;
+        is_open_ = false;
+        unloaded.swap(loaded_);
+    }
+    Mix_HaltChannel(-1);
+    for (auto& [wave, loaded] : unloaded) Mix_FreeChunk(loaded.chunk);
+    Mix_CloseAudio();
+}
+
+// The system needs a moment to offer another device, and one that goes again and again does not keep the processor busy.
+bool QtSounds::WaitForChange() {
+    std::unique_lock lock(mutex_);
+    changes_.wait(lock, [this] { return ends_ || has_changed_; });
+    changes_.wait_for(lock, kSettling, [this] { return ends_; });
+    has_changed_ = false;
+    return !ends_;
+}
+
+// No event is kept: nobody takes them.
+int QtSounds::NoteDevice(void* sounds, SDL_Event* event) {
+    auto& self = *static_cast<QtSounds*>(sounds);
+    const std::lock_guard lock(self.mutex_);
+    const bool is_gone = event->type == SDL_AUDIODEVICEREMOVED && self.is_open_;
+    const bool has_come = event->type == SDL_AUDIODEVICEADDED && self.is_silent_;
+    if (event->adevice.iscapture == 0 && (is_gone || has_come)) {
+        self.has_changed_ = true;
+        self.changes_.notify_one();
+    }
+    return 0;
 }
 
 void QtSounds::IfSilent(std::function<void()> procedure) {
@@ -50,18 +99,20 @@ void QtSounds::TellOfSilence() {
 }
 
 QtSounds::~QtSounds() {
-    opening_.join();
-    if (is_open_) {
-        Mix_HaltChannel(-1);
-        for (auto& [wave, loaded] : loaded_) Mix_FreeChunk(loaded.chunk);
-        Mix_CloseAudio();
+    {
+        const std::lock_guard lock(mutex_);
+        ends_ = true;
     }
+    changes_.notify_one();
+    keeper_.join();
+    SDL_SetEventFilter(nullptr, nullptr);
     SDL_Quit();
 }
 
 void QtSounds::Play(const Wave& wave) {
     const std::lock_guard lock(mutex_);
     if (is_open_) return PlayNow(&wave, wave.bytes);
+    if (is_silent_) return;
     waits_ = &wave;
     waiting_bytes_ = wave.bytes;
 }

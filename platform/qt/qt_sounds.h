@@ -1,8 +1,10 @@
 // Sounds from memory, one at a time, on a device that stays open. Without a device there is silence and nothing else changes.
 //
 // The device opens on a thread of its own, for that can take longer than the first window; what is played meanwhile sounds once it is
-// open. A process has one device, and so one of these at a time.
+// open. When it goes away, headphones that are pulled for instance, the one that the system offers next takes its place; while there is
+// none, what is played is lost, for a late sound would pass for a count. A process has one device, and so one of these at a time.
 #pragma once
+#include <condition_variable>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -12,6 +14,7 @@
 #include "platform/services.h"
 
 struct Mix_Chunk;
+union SDL_Event;
 
 class QtSounds : public Sounds {
 public:
@@ -29,16 +32,23 @@ private:
         std::string bytes;  // the chunk was made from them
         Mix_Chunk* chunk = nullptr;
     };
+    void KeepOpen();
     void Open();
+    void Close();
+    bool WaitForChange();  // of the devices, while this one plays nothing; false when the program ends
+    static int NoteDevice(void* sounds, SDL_Event* event);
     void PlayNow(const Wave* wave, const std::string& bytes);
     void TellOfSilence();
 
     std::mutex mutex_;
+    std::condition_variable changes_;
     bool is_open_ = false;
-    bool is_silent_ = false;  // there is no device that would open
+    bool is_silent_ = false;    // there is no device that would open
+    bool has_changed_ = false;  // the device is gone, or where there was none one has come
+    bool ends_ = false;
     std::function<void()> if_silent_;
     const Wave* waits_ = nullptr;  // asked for before the device was open
     std::string waiting_bytes_;    // a copy: the program may read its waves anew meanwhile
     std::map<const Wave*, Loaded> loaded_;
-    std::thread opening_;
+    std::thread keeper_;
 };

@@ -1,6 +1,7 @@
 // Plays as the program does, and worse: before the device is open, many keys at once, waves that are read anew while they sound, broken
-// ones, and ends at any moment. Nothing is checked here but that a device opens and that a file named as the argument, which SDL's disk
-// driver writes, holds something; the rest, the sanitizer sees that it is built with.
+// ones, on a device that goes away, and ends at any moment. Nothing is checked here but that a device opens and that a file named as the
+// argument, which SDL's disk driver writes, holds something; the rest, the sanitizer sees that it is built with.
+#include <SDL.h>
 #include <SDL_mixer.h>
 
 #include <chrono>
@@ -28,6 +29,12 @@ bool DeviceOpens() {
     return false;
 }
 
+void TakeDeviceAway() {
+    SDL_Event is_gone{};
+    is_gone.type = SDL_AUDIODEVICEREMOVED;
+    SDL_PushEvent(&is_gone);
+}
+
 void PlayMany(Sounds& sounds, Wave (&waves)[3], std::mt19937& dice, int keys) {
     for (int key = 0; key < keys; ++key) {
         Wave& wave = waves[dice() % 3];
@@ -52,6 +59,7 @@ int main(int argc, char** argv) {
             return 1;
         }
         Rest(100);
+        if (start % 4 == 1) TakeDeviceAway();
         PlayMany(sounds, waves, dice, 500);
     }
     if (argc > 1 && std::filesystem::file_size(argv[1]) == 0) {

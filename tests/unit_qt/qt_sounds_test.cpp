@@ -1,12 +1,15 @@
-// Whether there is a device to play on, and what a broken wave does there. Both drivers are SDL's own: one that plays into nothing, and
-// one that does not exist.
+// Whether there is a device to play on, what a broken wave does there, and what comes after a device that goes away. The drivers are
+// SDL's own: one that plays into nothing, one that does not exist, and one that plays into a file and is gone when that takes no more.
 #include "platform/qt/qt_sounds.h"
 
+#include <SDL.h>
 #include <SDL_mixer.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QThread>
 #include <string>
 
@@ -119,4 +122,55 @@ TEST_F(QtSoundsTest, MusicUnderTheNameOfAWaveReachesNoDecoder) {
     }
     EXPECT_EQ(Mix_Init(0), 0) << "the decoders that are loaded";
 }
+
+#ifndef _WIN32  // there is no file that is always full
+class LostDeviceTest : public QtSoundsTest {
+protected:
+    LostDeviceTest() {
+        qputenv("SDL_AUDIODRIVER", "disk");
+        qputenv("SDL_DISKAUDIOFILE", device_.toUtf8());
+    }
+    ~LostDeviceTest() override { qunsetenv("SDL_DISKAUDIOFILE"); }
+
+    void PlugIn(const QString& file) {
+        QFile::remove(device_);
+        ASSERT_TRUE(QFile::link(file, device_));
+    }
+    bool IsPlayedInto() const { return QFile(file_).size() > 0; }
+
+    const Wave wave_{"WaveKey1", SilentWave(20 * 44100)};
+    QTemporaryDir folder_;
+    const QString device_ = folder_.filePath("device"), file_ = folder_.filePath("file");
+};
+
+TEST_F(LostDeviceTest, TheNextDeviceTakesItsPlace) {
+    PlugIn("/dev/full");
+    QtSounds sounds;
+    ASSERT_TRUE(Comes([] { return Mix_QuerySpec(nullptr, nullptr, nullptr) > 0; }));
+    PlugIn(file_);
+    ASSERT_TRUE(Comes([this] { return IsPlayedInto(); }));
+    sounds.Play(wave_);
+    EXPECT_TRUE(IsHeard());
+}
+
+TEST_F(LostDeviceTest, OneThatComesLaterIsPlayedOnButNotWhatWasPlayedBefore) {
+    PlugIn(folder_.filePath("no folder/file"));
+    int told = 0;
+    QtSounds sounds;
+    sounds.IfSilent([&told] { ++told; });
+    ASSERT_TRUE(Comes([&told] {
+        QCoreApplication::processEvents();
+        return told == 1;
+    }));
+    sounds.Play(wave_);
+    PlugIn(file_);
+    SDL_Event has_come{};
+    has_come.type = SDL_AUDIODEVICEADDED;
+    SDL_PushEvent(&has_come);
+    ASSERT_TRUE(Comes([this] { return IsPlayedInto(); }));
+    EXPECT_FALSE(Mix_Playing(0));
+    sounds.Play(wave_);
+    EXPECT_TRUE(IsHeard());
+}
+#endif
 }  // namespace
