@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "program/figure_jobs.h"
 
@@ -131,10 +132,20 @@ void ReadPage(const std::string& text, FigureOptions& figure) {
     figure.page_height = height * kPointsPerMillimetre;
 }
 
+// What the marker's amounts alone make use of.
+void RefuseWithoutAmounts(const Raw& raw) {
+    const std::pair<const char*, bool> given[] = {{"--concentration", raw.concentration},
+                                                  {"--volume", !raw.marker.volume.empty()},
+                                                  {"--weight", !raw.marker.weight.empty()},
+                                                  {"--rate", !raw.accumulation.rate.empty()}};
+    for (const auto& [option, is_given] : given)
+        if (is_given) throw CLI::ValidationError(option, "takes --marker and --added");
+}
+
 void TakeUpMarker(const Raw& raw, FigureArguments& arguments) {
     const bool has_amounts = !raw.marker.added.empty();
     if (has_amounts && raw.marker.taxon.empty()) throw CLI::ValidationError("--added", "takes --marker");
-    if (raw.concentration && !has_amounts) throw CLI::ValidationError("--concentration", "takes --marker and --added");
+    if (!has_amounts) RefuseWithoutAmounts(raw);
     arguments.figure.left_out = raw.marker.taxon;
     if (!has_amounts) return;
     arguments.tables.marker = raw.marker;
@@ -179,13 +190,6 @@ void TakeUp(const Raw& raw, FigureArguments& arguments) {
     TakeUpZones(raw, arguments);
     TakeUpTables(arguments);
 }
-
-// CLI11 says some of its faults on several lines.
-std::string OneLine(std::string text) {
-    while (!text.empty() && text.back() == '\n') text.pop_back();
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
-}
 }  // namespace
 
 std::optional<FigureArguments> ReadFigureArguments(int argc, char** argv, int& status) {
@@ -205,7 +209,7 @@ std::optional<FigureArguments> ReadFigureArguments(int argc, char** argv, int& s
     } catch (const CLI::Success& done) {
         status = app.exit(done);
     } catch (const CLI::Error& fault) {
-        TellFault(OneLine(fault.what()) + " (--help tells what there is)");
+        TellFault(std::string(fault.what()) + " (--help tells what there is)");
         status = kBadInput;
     }
     return std::nullopt;

@@ -88,6 +88,9 @@ int RunJobs(std::size_t count, const std::function<int(std::size_t)>& job) {
     return worst;
 }
 
-void TellFault(const std::string& line) {
-    std::cerr << (HasTerminal() ? kClearLine : "") + ("marlbrook-figure: " + line + "\n");
+void TellFault(std::string text) {
+    while (text.ends_with('\n')) text.pop_back();
+    std::ranges::replace_if(
+        text, [](char letter) { return letter == '\n' || letter == '\r'; }, ' ');
+    std::cerr << (HasTerminal() ? kClearLine : "") + ("marlbrook-figure: " + text + "\n");
 }

@@ -8,4 +8,5 @@
 // of the program shares. Returns the largest status that a job returned. Shows on a terminal how far it has come.
 int RunJobs(std::size_t count, const std::function<int(std::size_t)>& job);
 
-void TellFault(const std::string& line);  // on the standard error, in the place of the bar
+// On the standard error, in the place of the bar, and on one line whatever the text quotes.
+void TellFault(std::string text);

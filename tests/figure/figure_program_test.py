@@ -284,7 +284,9 @@ class FilesTest(unittest.TestCase):
         self.assert_refused(sheet, "--page", "--page", "letter")
         self.assert_refused(sheet, "--zones", "--zones", "none")
         self.assert_refused(sheet, "--style", "--style", "pie")
-        self.assert_refused(sheet, "--marker", "--concentration")
+        for option in (["--concentration"], ["--volume", "1"], ["--weight", "1"], ["--rate", "1"]):
+            self.assert_refused(sheet, f"{option[0]}: takes --marker and --added", *option, "--marker", "Lycopodium")
+        self.assert_refused(sheet, "Pi nus", "--marker", "Pi\nnus")
         self.assert_refused(sheet, "13", "--zones", 13)
 
     def test_influx_by_ages_takes_depths(self):
