@@ -3,14 +3,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QTimer>
 #include <ctime>
 
 #include "events/program.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/key_filter.h"
+#include "platform/qt/lifeline.h"
 #include "platform/qt/picture_painter.h"
-#include "platform/qt/qt_files.h"
 #include "platform/qt/qt_host.h"
 #include "platform/qt/style.h"
 #include "platform/qt/unasked_end.h"
@@ -38,50 +37,6 @@ void QtClipboard::PutImage(const PictureBox& picture) {
 // ---- The run ----
 
 namespace {
-constexpr int kKeepAfterMs = 1000;  // an event: half of what may be lost when the power goes, the other half is the disk's
-
-// Keeps a copy of the sheet for the case that the session ends by itself.
-class Lifeline {
-public:
-    Lifeline(QtHost& host, Renderer& renderer)
-        : host_(host), renderer_(renderer), rescue_(disk_, [this] { soon_.start(); }), last_act_([this] { KeepNow(); }) {
-        soon_.setSingleShot(true);
-        soon_.setInterval(kKeepAfterMs);
-        soon_.callOnTimeout([this] { Keep(); });
-        renderer.WhenEventBegins([this] {
-            if (!soon_.isActive()) soon_.start();
-        });
-        host.BeforeItFails([this] { KeepNow(); });
-    }
-    ~Lifeline() {
-        renderer_.WhenEventBegins([] {});
-        host_.BeforeItFails([] {});
-    }
-    void Offer() { rescue_.Offer(); }
-    void End() {
-        if (HasEndedByUser()) rescue_.EndByUser();
-    }
-
-private:
-    void Keep() {
-        if (HasEndedByUser()) return;
-        rescue_.Keep();
-        if (renderer_.InEvent()) soon_.start();  // a box is open: what follows its answer belongs to the same event
-    }
-    void KeepNow() {
-        if (!HasEndedByUser()) rescue_.KeepNow();
-    }
-    // A failure leaves the sheet as it was then. The end of the desktop session closes a question, which is no answer.
-    bool HasEndedByUser() const { return host_.HasEnded() && !host_.HasFailed() && !last_act_.IsUnderWay(); }
-
-    QtHost& host_;
-    Renderer& renderer_;
-    QtWholeFiles disk_;
-    QTimer soon_;
-    Rescue rescue_;
-    UnaskedEnd last_act_;
-};
-
 // Under Wayland the toolkit asks for its window to be activated whenever the focus moves inside it. The desktop answers later, and the
 // window would take the keyboard back from a box that has opened meanwhile.
 void AskForNoActivation() {
