@@ -6,7 +6,6 @@
 #include <cstdio>
 
 #include "bench/x_user.h"
-#include "session/state/sheet_state.h"
 
 Stages stages;
 
@@ -49,7 +48,7 @@ void Stages::ReportEnds(std::size_t acts) const {
 }
 
 void TimedSounds::Play(const Wave& wave) {
-    if (&wave == &WaveOpening) return sounds_.Play(wave);
+    if (!stages.under_way) return sounds_.Play(wave);
     stages.reached.push_back(Now());
     sounds_.Play(wave);
     stages.sounded.push_back(Now());
@@ -59,7 +58,7 @@ bool TimedApplication::notify(QObject* receiver, QEvent* event) {
     const QEvent::Type type = event->type();
     const bool handled = QApplication::notify(receiver, event);
     if (moves_are_acts && type == QEvent::MouseMove && receiver->isWindowType()) stages.reached.push_back(Now());
-    if (type == QEvent::UpdateRequest) {
+    if (stages.under_way && type == QEvent::UpdateRequest) {
         WaitForServer(nativeInterface<QNativeInterface::QX11Application>()->display());
         stages.painted.resize(stages.reached.size(), Now());
         if (!stages.painted.empty()) stages.painted.back() = Now();  // one act may change two windows

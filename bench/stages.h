@@ -9,6 +9,7 @@
 struct Stages {
     using Time = std::chrono::steady_clock::time_point;
     std::vector<Time> sent, reached, sounded, painted;  // one entry an act, in their order
+    bool under_way = false;                             // acts come; what sounds or is painted belongs to them
 
     void Expect(std::size_t acts);  // makes room, so that no entry waits for memory
     void Report() const;

@@ -4,18 +4,24 @@
 //     window_bench diagram [KEYS]    the same, 40 a second, beside a diagram of 135 taxa by 250 samples of 1600 by 1000 pixels
 //     window_bench fresh [KEYS]      as diagram, in a sample just begun: each key is a large percentage and moves the columns
 //     window_bench tree [KEYS]       as diagram, with the cluster tree
-//     window_bench session [KEYS]    as diagram, 100 a second; 32,000, a long day, if no number is given. Tells of the first and the last
-//                                    thousand keys, and what the program holds before and after them
+//     window_bench session [KEYS]    as diagram, 100 a second; 100,000, some weeks' work, if no number is given. The sheet is opened anew
+//                                    at each 25,000, for its history has no lines for more. Tells of the first and the last thousand keys,
+//                                    and what the program holds before and after them
 //     window_bench drag [MOVES]      the line of the selected sample dragged over that diagram
 //     window_bench memory [SAMPLES]  what the program holds with such a sheet open, then with its diagram, then with the tree
 //
+// With WINDOW_BENCH_COPIES=no in the environment no copy is kept of what a session would leave that ends by itself.
+//
 // Fails if a key does not count.
+#include <QCoreApplication>
+#include <QDir>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <random>
 #include <string>
 #include <thread>
@@ -28,6 +34,8 @@
 #include "platform/qt/control_widget.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/key_filter.h"
+#include "platform/qt/lifeline.h"
+#include "platform/qt/qt_host.h"
 #include "platform/qt/renderer.h"
 #include "platform/qt/style.h"
 #include "platform/qt/window_widget.h"
@@ -43,30 +51,13 @@ constexpr unsigned kSeed = 20261114;
 // X key codes of the first 27 counter keys, all of them letters but two.
 constexpr int kCodes[] = {24, 25, 26, 38, 39, 40, 52, 53, 54, 27, 28, 29, 41, 42, 43, 55, 56, 57, 30, 31, 32, 44, 45, 46, 58, 59, 60};
 
-class BenchHost : public ProgramHost {
-public:
-    explicit BenchHost(const std::filesystem::path& folder) : folder_(folder.string()) {}
-    std::string Folder() override { return folder_; }
-    Box ScreenSize() override { return {}; }
-    bool CanShow(const std::string&) override { return false; }
-    bool HasManual() override { return false; }
-    void ShowManual() override {}
-    void End() override { QCoreApplication::exit(0); }
-    void Fail(const char* word) override {
-        std::fprintf(stderr, "window_bench: %s\n", word);
-        QCoreApplication::exit(1);
-    }
-
-private:
-    std::string folder_;
-};
-
 struct Task {
     std::string name = "plain";
     int acts = 10000;  // of memory: samples
     bool HasDiagram() const { return name != "plain"; }
     bool Drags() const { return name == "drag"; }
     bool IsSession() const { return name == "session"; }
+    int ActsPerSheet() const { return IsSession() ? std::min(acts, 25000) : acts; }
     std::chrono::milliseconds Pause() const { return std::chrono::milliseconds(IsSession() ? 10 : HasDiagram() ? 25 : 5); }
 };
 
@@ -83,12 +74,14 @@ Rows LargeSheet(const Task& task) {
     return rows;
 }
 
+// Under another name than the one before: that is saved when it has changed.
 void OpenSheet(Renderer& renderer, const std::filesystem::path& folder, const Rows& rows) {
-    const std::string path = (folder / "large.csv").string();
+    static int opened = 0;
+    const std::string path = (folder / ("large " + std::to_string(++opened) + ".csv")).string();
     std::ofstream(path, std::ios::binary) << Joined(rows);
     ScriptedMessageBoxes messages;
     ScriptedFileDialogs dialogs;
-    messages.answers = {Answer::Yes};
+    messages.answers = {Answer::Yes, Answer::Yes};
     dialogs.answers = {path};
     MessageBoxes* const real_messages = std::exchange(services.messages, &messages);
     FileDialogs* const real_dialogs = std::exchange(services.dialogs, &dialogs);
@@ -114,11 +107,11 @@ QPoint PlaceOfLine(const Renderer& renderer, int sample) {
     return picture.Widget()->mapToGlobal(picture.PlaceOf(kUnitsAcross / 2, SamplePositions().Y(sample)).toPoint());
 }
 
-void SendKeys(XUser& user, const Task& task) {
+void SendKeys(XUser& user, const Task& task, int keys) {
     std::mt19937 random(kSeed);
     std::uniform_int_distribution<std::size_t> any(0, std::size(kCodes) - 1);
     const auto start = std::chrono::steady_clock::now();
-    for (int i = 0; i < task.acts; ++i) {
+    for (int i = 0; i < keys; ++i) {
         std::this_thread::sleep_until(start + i * task.Pause());
         stages.sent.push_back(std::chrono::steady_clock::now());
         user.Stroke(kCodes[any(random)]);
@@ -178,57 +171,80 @@ void ReportMemory(Renderer& renderer, const std::filesystem::path& folder, const
     report("tree");
 }
 
-std::thread Begin(const Renderer& renderer, const Task& task) {
+std::thread Begin(const Renderer& renderer, const Task& task, int acts) {
     const QPoint grip = task.Drags() ? PlaceOfLine(renderer, SampleCount) : QPoint(),
                  top = task.Drags() ? PlaceOfLine(renderer, 1) : QPoint();
     return std::thread([=] {
         XUser user;
-        task.Drags() ? DragLine(user, task, grip, top) : SendKeys(user, task);
+        task.Drags() ? DragLine(user, task, grip, top) : SendKeys(user, task, acts);
         std::this_thread::sleep_for(std::chrono::seconds(1));
         QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(0); });
     });
 }
+
+// Returns how many grains it has counted.
+int ActOnSheet(Renderer& renderer, const Task& task, int acts) {
+    const int counted_before = Counted();
+    std::thread user;
+    QTimer::singleShot(1000, [&] { renderer.Run([&] { BringToFront(task.Drags() ? static_cast<Window&>(frmDiagram) : frmMain); }); });
+    QTimer::singleShot(2500, [&] {
+        stages.under_way = true;
+        user = Begin(renderer, task, acts);
+    });
+    QApplication::exec();
+    stages.under_way = false;
+    user.join();
+    return Counted() - counted_before;
+}
+
+int ActOnSheets(Renderer& renderer, const std::filesystem::path& folder, const Task& task) {
+    int counted = 0;
+    for (int sent = 0; sent < task.acts; sent += task.ActsPerSheet()) {
+        if (task.HasDiagram()) OpenSheet(renderer, folder, LargeSheet(task));
+        if (task.HasDiagram()) OpenDiagram(renderer, task);
+        if (task.IsSession() && sent == 0) ReportHeld("before");
+        counted += ActOnSheet(renderer, task, std::min(task.ActsPerSheet(), task.acts - sent));
+    }
+    if (task.IsSession()) ReportHeld("after");
+    return counted;
+}
+
+// Of its own for each run, and gone after it.
+class Folder {
+public:
+    Folder() { std::filesystem::copy(MARLBROOK_TREE, path, std::filesystem::copy_options::recursive); }
+    ~Folder() { std::filesystem::remove_all(path); }
+    const std::filesystem::path path =
+        std::filesystem::path(QDir::tempPath().toStdString()) / ("marlbrook-bench-" + std::to_string(QCoreApplication::applicationPid()));
+};
 }  // namespace
 
 int main(int argc, char** argv) {
     Task task;
     if (argc > 1) task.name = argv[1];
-    if (task.IsSession()) task.acts = 32000;
+    if (task.IsSession()) task.acts = 100000;
     if (argc > 2) task.acts = std::atoi(argv[2]);
     stages.Expect(task.acts);
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "marlbrook-bench";
-    std::filesystem::remove_all(folder);
-    std::filesystem::copy(MARLBROOK_TREE, folder, std::filesystem::copy_options::recursive);
 
+    const Folder folder;
     TimedApplication application(argc, argv);
     application.moves_are_acts = task.Drags();
     ApplyLook(application);
     Renderer renderer;
     KeyFilter keys(renderer);
-    BenchHost host(folder);
+    QtHost host(QString::fromStdString(folder.path.string()));
     DesktopServices desktop(host, renderer);
     TimedSounds sounds(desktop.sounds);
     services.sounds = &sounds;
+    std::optional<Lifeline> lifeline;
+    if (qgetenv("WINDOW_BENCH_COPIES") != "no") lifeline.emplace(host, renderer);
     BeginSample(renderer);
     if (task.name == "memory") {
-        ReportMemory(renderer, folder, task);
-        std::filesystem::remove_all(folder);
+        ReportMemory(renderer, folder.path, task);
         return 0;
     }
-    if (task.HasDiagram()) OpenSheet(renderer, folder, LargeSheet(task));
-    if (task.HasDiagram()) OpenDiagram(renderer, task);
-    const int counted_before = Counted();
-    if (task.IsSession()) ReportHeld("before");
 
-    std::thread user;
-    QTimer::singleShot(1000, [&] { renderer.Run([&] { BringToFront(task.Drags() ? static_cast<Window&>(frmDiagram) : frmMain); }); });
-    QTimer::singleShot(2500, [&] { user = Begin(renderer, task); });
-    QApplication::exec();
-    user.join();
-    if (task.IsSession()) ReportHeld("after");
-    std::filesystem::remove_all(folder);
-
-    const int counted = Counted() - counted_before;
+    const int counted = ActOnSheets(renderer, folder.path, task);
     std::printf("%s: %d sent, %d %s\n", task.name.c_str(), task.acts, task.Drags() ? static_cast<int>(stages.reached.size()) : counted,
                 task.Drags() ? "arrived" : "counted");
     if (task.IsSession())

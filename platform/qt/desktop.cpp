@@ -52,7 +52,7 @@ int RunDesktop(int argc, char** argv) {
     AskForNoActivation();
     ApplyLook(application);
     OpenToReaders();
-    QtHost host;
+    QtHost host(FindProgramFolder());
     Renderer renderer([&host] { return host.HasEnded(); });
     renderer.WhenNothingIsShown([&host] { host.End(); });
     KeyFilter keys(renderer);

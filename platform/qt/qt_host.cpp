@@ -25,7 +25,7 @@ void Show(MessageBoxes& messages, const std::string& text) {
 }
 }  // namespace
 
-QtHost::QtHost() : folder_(FromQt(FindProgramFolder())), lock_(ToQt(folder_) + "/.marlbrook.lock") {
+QtHost::QtHost(const QString& folder) : folder_(FromQt(folder)), lock_(folder + "/.marlbrook.lock") {
     lock_.setStaleLockTime(0);  // held as long as its process lives
 }
 

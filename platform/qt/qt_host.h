@@ -9,7 +9,7 @@
 
 class QtHost : public ProgramHost {
 public:
-    QtHost();
+    explicit QtHost(const QString& folder);  // where the program keeps its own files, as FindProgramFolder tells
     bool HasEnded() const { return has_ended_; }
     bool HasFailed() const { return has_failed_; }
     void BeforeItFails(std::function<void()> procedure) { before_failing_ = std::move(procedure); }
