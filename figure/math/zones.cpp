@@ -57,8 +57,9 @@ std::vector<double> BrokenStick(std::size_t pieces) {
 }
 
 std::vector<double> SplitShares(std::span<const Merge> merges) {
+    constexpr double kRounding = 1e-24;  // equal samples may come to less: the mean of equal shares is not always exactly these
     std::vector<double> shares;
-    if (merges.empty() || merges.back().total <= 0) return std::vector<double>(merges.size());
+    if (merges.empty() || merges.back().total < kRounding) return std::vector<double>(merges.size());
     for (auto merge = merges.rbegin(); merge != merges.rend(); ++merge) shares.push_back(merge->rise / merges.back().total);
     return shares;
 }

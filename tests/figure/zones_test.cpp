@@ -70,6 +70,14 @@ TEST(ZonesTest, EqualSamplesAreOneZone) {
     EXPECT_EQ(ZonesByBrokenStick(merges), 1u);
 }
 
+TEST(ZonesTest, RoundingPartsNoEqualSamples) {
+    for (const std::size_t samples : {12, 60, 250}) {
+        const std::vector<Assemblage> equal(samples, {1.0 / 3, 0.1, 0.55, 0.7});
+        const auto merges = ClusterByIncrementalSumOfSquares(equal);
+        EXPECT_EQ(ZonesByBrokenStick(merges), 1u) << samples << " samples, " << merges.back().total;
+    }
+}
+
 TEST(ZonesTest, ZonesBeginWhereTheLastMergesJoined) {
     const auto merges = ClusterByIncrementalSumOfSquares(OneTaxon({0, 0, 9, 9, 4, 4}));
     EXPECT_EQ(ZoneStarts(merges, 1), (std::vector<std::size_t>{0}));
