@@ -1,6 +1,7 @@
 #include "figure/results/stratigraphy.h"
 
 #include <cmath>
+#include <numeric>
 
 #include "figure/sheet/fault.h"
 
@@ -12,11 +13,13 @@ std::vector<std::size_t> Compared(const Core& core, const ZoneOptions& options) 
     return compared;
 }
 
-Assemblage AssemblageOf(const Sample& sample, const std::vector<std::size_t>& taxa, const ZoneOptions& options) {
-    const std::vector<double>& shares = sample.shares[options.basis];
-    Assemblage assemblage(taxa.size());
-    if (shares.empty()) return assemblage;
-    for (std::size_t i = 0; i < taxa.size(); ++i) assemblage[i] = options.square_roots ? std::sqrt(shares[taxa[i]]) : shares[taxa[i]];
+// Of the sum of the compared counts: of one with a marker in it, shares would fall where many markers were counted.
+Assemblage AssemblageOf(const Sample& sample, const std::vector<std::size_t>& taxa, bool square_roots) {
+    Assemblage assemblage;
+    for (const std::size_t taxon : taxa) assemblage.push_back(sample.counts[taxon]);
+    const double sum = std::accumulate(assemblage.begin(), assemblage.end(), 0.0);
+    if (sum == 0) return assemblage;
+    for (double& part : assemblage) part = square_roots ? std::sqrt(part / sum) : part / sum;
     return assemblage;
 }
 
@@ -46,7 +49,7 @@ Stratigraphy StratigraphyOf(const Core& core, const ZoneOptions& options) {
         throw FigureFault("there can be 1 to " + std::to_string(samples) + " zones, not " + std::to_string(*options.zones));
     const std::vector<std::size_t> taxa = Compared(core, options);
     std::vector<Assemblage> assemblages;
-    for (const Sample& sample : core.samples) assemblages.push_back(AssemblageOf(sample, taxa, options));
+    for (const Sample& sample : core.samples) assemblages.push_back(AssemblageOf(sample, taxa, options.square_roots));
     std::vector<Merge> merges = ClusterByIncrementalSumOfSquares(assemblages);
     const std::size_t zones = options.zones.value_or(ZonesByBrokenStick(merges));
     std::vector<Zone> found = ZonesFrom(core, ZoneStarts(merges, zones), options.prefix);

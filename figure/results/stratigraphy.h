@@ -9,7 +9,7 @@
 #include "figure/sheet/core.h"
 
 struct ZoneOptions {
-    Basis basis = kBasisAll;           // the taxa inside its sum are compared
+    Basis basis = kBasisAll;           // the taxa inside its sum are compared, by their shares of what they add up to
     std::string left_out;              // but for this one: a marker; may be empty
     bool square_roots = true;          // of the shares, so that rare taxa weigh more; else the shares themselves
     std::optional<std::size_t> zones;  // how many; nothing: as many as the broken stick leaves
@@ -28,6 +28,6 @@ struct Stratigraphy {
     std::vector<Zone> zones;    // from the top down
 };
 
-// A sample without a grain in the sum counts as one whose shares are all 0. Raises FigureFault for less than two samples, and for a number
-// of zones that is 0 or above that of the samples.
+// A sample without a grain of the compared taxa counts as one whose shares are all 0. Raises FigureFault for less than two samples, and for
+// a number of zones that is 0 or above that of the samples.
 Stratigraphy StratigraphyOf(const Core& core, const ZoneOptions& options);

@@ -34,10 +34,28 @@ TEST(StratigraphyTest, TheTreeIsOfTheSharesOrTheirRoots) {
     EXPECT_DOUBLE_EQ(StratigraphyOf(SmallCore(), roots).merges[0].rise, (0.25 + std::pow(1 - std::sqrt(0.75), 2)) / 2);
 }
 
-TEST(StratigraphyTest, WhatIsLeftOutOrOutsideTheSumCountsNothing) {
+// Samples alike but for their markers: ten in the upper half, 600 in the lower.
+Core AlikeButForMarkers() {
+    Core core = SmallCore();
+    core.samples.clear();
+    for (int sample = 0; sample < 12; ++sample)
+        core.samples.push_back(SmallSample(10 * sample, {70, 20, 10, sample < 6 ? 10 : 600}, {}, core.taxa));
+    return core;
+}
+
+TEST(StratigraphyTest, MarkersMakeNoZones) {
+    for (const bool square_roots : {true, false}) {
+        const Stratigraphy found = StratigraphyOf(AlikeButForMarkers(), {kBasisAll, "Lycopodium", square_roots, std::nullopt, "Z"});
+        EXPECT_EQ(found.zones.size(), 1u);
+        EXPECT_NEAR(found.merges.back().total, 0, 1e-24);
+    }
+}
+
+TEST(StratigraphyTest, SharesAreOfWhatIsCompared) {
     ZoneOptions options = TreesInZones(1);
-    options.left_out = "Betula";
-    EXPECT_DOUBLE_EQ(StratigraphyOf(SmallCore(), options).merges[0].rise, 0.25 * 0.25 / 2);
+    options.basis = kBasisAll;
+    options.left_out = "Lycopodium";  // Pinus, Betula, Poaceae: 0.25, 0.75, 0 of the second sample, 0, 1, 0 of the third
+    EXPECT_DOUBLE_EQ(StratigraphyOf(SmallCore(), options).merges[0].rise, (0.25 * 0.25 + 0.25 * 0.25) / 2);
 }
 
 TEST(StratigraphyTest, WithoutANumberTheBrokenStickDecides) {
@@ -46,7 +64,7 @@ TEST(StratigraphyTest, WithoutANumberTheBrokenStickDecides) {
 
 TEST(StratigraphyTest, ASampleWithNothingInTheSumIsOneOfZeros) {
     Core core = SmallCore();
-    core.samples[2].shares[kBasisSubtotal1].clear();
+    core.samples[2].counts = {0, 0, 7, 25};
     EXPECT_DOUBLE_EQ(StratigraphyOf(core, TreesInZones(1)).merges[0].rise, (0.5 * 0.5 + 0.5 * 0.5) / 2);  // now the two above are nearest
 }
 
