@@ -9,13 +9,29 @@ std::int64_t SumOf(std::span<const std::int32_t> counts) {
     return std::accumulate(counts.begin(), counts.end(), std::int64_t{0});
 }
 
-// The chance that `drawn` of `whole` grains miss all `count` of a taxon: C(whole - count, drawn) / C(whole, drawn), multiplied out, since
-// the logarithms of large factorials lose what the difference of two of them is about.
-double ChanceToMiss(double whole, double count, double drawn) {
-    const double fewer = std::min(count, drawn), more = std::max(count, drawn);
+// C(whole - count, drawn) / C(whole, drawn), multiplied out.
+double ProductToMiss(double whole, double fewer, double more) {
     double chance = 1;
     for (double i = 0; i < fewer; ++i) chance *= std::max(whole - more - i, 0.0) / (whole - i);
     return chance;
+}
+
+// The same by Stirling's series of the four factorials. Each is divided by the powers of `whole` in it, which leave the quotient as it is:
+// the logarithms themselves are so large that rounding takes what their difference is about.
+double SeriesToMiss(double whole, double fewer, double more) {
+    const auto logarithm_without = [whole](double taken) {
+        return (whole - taken + 0.5) * std::log1p(-taken / whole) + 1 / (12 * (whole - taken));
+    };
+    return std::exp(logarithm_without(fewer) + logarithm_without(more) - logarithm_without(0) - logarithm_without(fewer + more));
+}
+
+// The chance that `drawn` of `whole` grains miss all `count` of a taxon. It is no more than exp(-count * drawn / whole).
+double ChanceToMiss(double whole, double count, double drawn) {
+    constexpr double kLost = 40;      // exp(-40) is lost beside 1
+    constexpr double kMany = 10'000;  // factors: beyond, what is not lost has counts so small beside `whole` that the series is exact
+    const double fewer = std::min(count, drawn), more = std::max(count, drawn);
+    if (fewer * more > kLost * whole) return 0;
+    return fewer > kMany ? SeriesToMiss(whole, fewer, more) : ProductToMiss(whole, fewer, more);
 }
 }  // namespace
 

@@ -32,6 +32,23 @@ TEST(RichnessTest, TheLargestSamplesAreRarefiedToo) {
     EXPECT_NEAR(drawn, 135 * (1 - std::pow(134.0 / 135, 500)), 0.01);  // nearly as with putting back
 }
 
+TEST(RichnessTest, CountsOfMilliardsTakeNoLonger) {
+    Counts counts(134, 7'000'000);
+    counts.push_back(1'000'000'000);
+    for (int sample = 0; sample < 250; ++sample) EXPECT_NEAR(RarefiedRichness(counts, 900'000'000).value(), 135, 1e-9);
+}
+
+TEST(RichnessTest, ManyGrainsAreReckonedAsFewAre) {
+    constexpr std::int32_t kSum = 1'000'000'000;
+    for (const std::int32_t count : {9'999, 10'000, 10'001, 20'000, 100'000})
+        for (const std::int32_t drawn : {10'500, 50'000, 200'000}) {
+            long double missed = 1;
+            for (std::int32_t i = 0; i < count; ++i) missed *= static_cast<long double>(kSum - drawn - i) / (kSum - i);
+            EXPECT_NEAR(RarefiedRichness(Counts{count, kSum - count}, drawn).value(), static_cast<double>(2 - missed), 1e-10)
+                << drawn << " grains, " << count << " of the taxon";
+        }
+}
+
 TEST(RichnessTest, OneGrainInAMillionIsFoundAsOftenAsItIsDrawn) {
     EXPECT_NEAR(RarefiedRichness(Counts{999'999, 1}, 11'112).value(), 1.011112, 1e-14);
 }
