@@ -69,11 +69,25 @@ void ReadCells(CellReader& cells) {
     CheckEnd(cells);
 }
 
-void CheckCounts() {
+void CheckKeyIndices() {
     if (const std::optional<int> repeated = RepeatedKeyIndex())
         throw FigureFault("the key index " + std::to_string(*repeated) + " stands more than once in the first column");
     if (std::find(&KeyIndex[1], &KeyIndex[kSlots] + 1, 0) != &KeyIndex[kSlots] + 1)
         throw FigureFault("a key index of 0 stands in the first column: they go from 1 to 135");
+}
+
+// The counter takes any number as a weight, but it writes no other than these.
+void CheckFlags() {
+    for (int row = 1; row <= kSlots; ++row)
+        for (int i = 0; i < kSubtotals; ++i) {
+            const Any& flag = TaxonTable[KeyIndex[row]][kSubtotalFlags[i]];
+            if (flag.Number() == 0 || flag.Number() == 1) continue;
+            throw FigureFault("the flag of " + RowNames[row] + " for " + WithoutTrailingColon(SheetHeader[kHeaderSubtotal1 + i].Text()) +
+                              " is " + flag.Text() + ": members of a subtotal have 1, others 0");
+        }
+}
+
+void CheckCounts() {
     for (int row = 1; row <= kSlots; ++row)
         for (int sample = 1; sample <= SampleCount; ++sample)
             if (Counts[KeyIndex[row]][sample] < 0)
@@ -102,6 +116,8 @@ void ReadFile(const std::string& path) {
     } catch (const Failure& failure) {
         throw FigureFault(std::string("this is no sheet of counts, or not a whole one (") + failure.what() + ")");
     }
+    CheckKeyIndices();
+    CheckFlags();
     CheckCounts();
     CheckDepths();
 }
@@ -145,7 +161,6 @@ void TakeUpShares(Core& core, Basis basis, const std::vector<int>& rows) {
         Sample& sample = core.samples[place - 1];
         const Shares shares = SharesOf(SampleAtRank[place], WeightsOfBasis());
         sample.sums[basis] = shares.sum;
-        if (shares.sum < 0) throw FigureFault("a sum of sample " + sample.name + " is below zero: members of a subtotal have 1, others 0");
         if (shares.sum == 0) continue;
         for (const int row : rows) sample.shares[basis].push_back(shares.fractions[KeyIndex[row]]);
     }

@@ -275,6 +275,9 @@ class FilesTest(unittest.TestCase):
         rows[FIRST_TAXON][LABELS + 2] = "-3"
         self.assert_refused(self.copy("negative.csv", rows), "the count of Pinus in sample 20 is below zero")
         self.assert_refused(self.folder / "none.csv", "not there")
+        rows = rows_of(SHEET)
+        rows[FIRST_TAXON][1] = "2"
+        self.assert_refused(self.copy("flags.csv", rows), "the flag of Pinus for Trees is 2")
 
     def test_an_option_that_the_sheet_cannot_follow_leaves_no_file(self):
         sheet = self.copy("core.csv", rows_of(SHEET))

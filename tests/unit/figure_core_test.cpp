@@ -204,13 +204,24 @@ TEST_F(FigureCoreTest, WhatIsNoSheetOfCountsIsTold) {
     ASSERT_TRUE(Open(LakeCore()));
     SavedTable(frmMain.mnuPercentSub1);
     EXPECT_EQ(FaultOf(files_.bytes.at(kTable)), "this is a percentage table: a figure is made from the sheet with the counts");
-    EXPECT_EQ(FaultOf({{"\"a\"", "\"b\"", "\"c\"", "\"d\"", "\"e\"", "\"f\""}}),
-              "this is no sheet of counts, or not a whole one (Input past end of file)");
+    constexpr const char* kTooShort = "this is no sheet of counts, or not a whole one (Input past end of file)";
+    EXPECT_EQ(FaultOf({{"\"a\"", "\"b\"", "\"c\"", "\"d\"", "\"e\"", "\"f\""}}), kTooShort);
     EXPECT_EQ(FaultOf({{"\"a\"", "\"b\"", "\"c\"", "\"d\"", "\"e\"", "\"f\"", "\"g\"", "\"h\"", "\"i\""}}).substr(0, 26),
               "this is no sheet of counts");
     Rows torn = DataSheet(3);
     torn.resize(50);
-    EXPECT_EQ(FaultOf(torn), "this is no sheet of counts, or not a whole one (Input past end of file)");
+    EXPECT_EQ(FaultOf(torn), kTooShort);
+}
+
+TEST_F(FigureCoreTest, AFlagIsZeroOrOne) {
+    for (const char* flag : {"2", "-1", "10"}) {
+        Rows rows = DataSheet(3);
+        rows[kTaxonRow + 8][1] = flag;
+        EXPECT_EQ(FaultOf(rows), std::string("the flag of Taxon 9 for Trees is ") + flag + ": members of a subtotal have 1, others 0");
+    }
+    Rows rows = DataSheet(3);
+    rows[kTaxonRow + 9][2] = "-1";
+    EXPECT_EQ(FaultOf(rows), "the flag of Taxon 10 for Herbs is -1: members of a subtotal have 1, others 0");
 }
 
 TEST_F(FigureCoreTest, WhatCannotBeDrawnIsTold) {
@@ -223,9 +234,6 @@ TEST_F(FigureCoreTest, WhatCannotBeDrawnIsTold) {
     Rows without_key = DataSheet(3);
     without_key[kTaxonRow + 8][0] = "0";
     EXPECT_EQ(FaultOf(without_key), "a key index of 0 stands in the first column: they go from 1 to 135");
-    Rows negative_flag = SheetOf(2, {{"3", "1"}, {"1", "1"}});
-    negative_flag[kTaxonRow][1] = "-1";
-    EXPECT_EQ(FaultOf(negative_flag), "a sum of sample 10 is below zero: members of a subtotal have 1, others 0");
     EXPECT_EQ(FaultOf(WithNames(DataSheet(3), {"5", "5", "5"})), "all samples have the same depth");
     EXPECT_EQ(FaultOf(WithNames(DataSheet(3), {"5", "6", "999999"})), "the depth 999999 is too large");
     EXPECT_EQ(FaultOf(SheetOf(2, {})), "nothing has been counted in this sheet");
