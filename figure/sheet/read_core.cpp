@@ -103,6 +103,13 @@ void CheckDepths() {
         if (Val(SampleNamesRead[sample]) >= kTooDeep) throw FigureFault("the depth " + SampleNamesRead[sample] + " is too large");
 }
 
+std::string NoSheet(const std::string& word) {
+    const std::string line = "this is no sheet of counts";
+    if (word == kInputPastEnd) return line + ", or not a whole one: it ends too early";
+    if (word == kOverflow) return line + ": a number in it is too large";
+    return line + ": a key index, a serial number or the number of samples is out of range";
+}
+
 void ReadFile(const std::string& path) {
     std::string text;
     try {
@@ -114,7 +121,7 @@ void ReadFile(const std::string& path) {
         CellReader cells(std::move(text));
         ReadCells(cells);
     } catch (const Failure& failure) {
-        throw FigureFault(std::string("this is no sheet of counts, or not a whole one (") + failure.what() + ")");
+        throw FigureFault(NoSheet(failure.what()));
     }
     CheckKeyIndices();
     CheckFlags();

@@ -271,6 +271,7 @@ class FilesTest(unittest.TestCase):
         self.assert_refused(self.copy("template.csv", [row[:LABELS] for row in rows]), "this is a template")
         self.assert_refused(self.copy("one.csv", [row[:LABELS + 1] for row in rows]), "has one")
         self.assert_refused(self.copy("table.csv", rows[:143] + rows[144:]), "this is a percentage table")
+        self.assert_refused(self.copy("cut.csv", rows[:137] + rows[144:]), "not a whole one")
         self.assert_refused(self.copy("torn.csv", rows[:40]), "not a whole one")
         rows[FIRST_TAXON][LABELS + 2] = "-3"
         self.assert_refused(self.copy("negative.csv", rows), "the count of Pinus in sample 20 is below zero")

@@ -204,13 +204,26 @@ TEST_F(FigureCoreTest, WhatIsNoSheetOfCountsIsTold) {
     ASSERT_TRUE(Open(LakeCore()));
     SavedTable(frmMain.mnuPercentSub1);
     EXPECT_EQ(FaultOf(files_.bytes.at(kTable)), "this is a percentage table: a figure is made from the sheet with the counts");
-    constexpr const char* kTooShort = "this is no sheet of counts, or not a whole one (Input past end of file)";
+    constexpr const char* kTooShort = "this is no sheet of counts, or not a whole one: it ends too early";
     EXPECT_EQ(FaultOf({{"\"a\"", "\"b\"", "\"c\"", "\"d\"", "\"e\"", "\"f\""}}), kTooShort);
     EXPECT_EQ(FaultOf({{"\"a\"", "\"b\"", "\"c\"", "\"d\"", "\"e\"", "\"f\"", "\"g\"", "\"h\"", "\"i\""}}).substr(0, 26),
               "this is no sheet of counts");
     Rows torn = DataSheet(3);
     torn.resize(50);
     EXPECT_EQ(FaultOf(torn), kTooShort);
+}
+
+TEST_F(FigureCoreTest, ANumberThatNoSheetHasIsTold) {
+    constexpr const char* kOutOfRange = "this is no sheet of counts: a key index, a serial number or the number of samples is out of range";
+    Rows rows = DataSheet(3);
+    rows[kTaxonRow + 8][0] = "136";
+    EXPECT_EQ(FaultOf(rows), kOutOfRange);
+    rows = DataSheet(3);
+    rows[0][4] = "-2";
+    EXPECT_EQ(FaultOf(rows), kOutOfRange);
+    rows = DataSheet(3);
+    SetCounts(rows, 7, {"4", "3000000000", "3"});
+    EXPECT_EQ(FaultOf(rows), "this is no sheet of counts: a number in it is too large");
 }
 
 TEST_F(FigureCoreTest, AFlagIsZeroOrOne) {
