@@ -100,8 +100,6 @@ private:
     double NumbersWidth() const {
         double widest = 0;
         for (const SampleAxis::Tick& tick : axis_->Ticks()) widest = std::max(widest, metrics_.WidthOf(tick.number, kNumbers));
-        if (axis_->HasNumbers()) return widest;
-        for (const Sample& sample : core_.samples) widest = std::max(widest, metrics_.WidthOf(sample.name, kNumbers));
         return widest;
     }
 
@@ -142,23 +140,12 @@ private:
         }
         for (std::size_t sample = 0; sample < core_.samples.size(); ++sample)
             pen.Line({x, axis_->Y(sample)}, {x + kShortTick, axis_->Y(sample)});
-        if (!axis_->HasNumbers()) WriteSampleNames(pen);
         pen.Write({{kMargin + kNameSize, (plot_top_ + plot_bottom_) / 2}, axis_->Title(), kNames, PageText::Anchor::Middle, 90});
     }
 
     void WriteBesideAxis(Pen& pen, double y, const std::string& text, double size) const {
         constexpr double kHalfOfADigit = 0.36;  // of the size of the letters
         pen.Write({{columns_left_ - kGap - kTick - 1, y + kHalfOfADigit * size}, text, {size}, PageText::Anchor::End});
-    }
-
-    // Those that have room.
-    void WriteSampleNames(Pen& pen) const {
-        double below = 0;
-        for (std::size_t sample = 0; sample < core_.samples.size(); ++sample) {
-            if (axis_->Y(sample) - kNumberSize / 2 < below) continue;
-            WriteBesideAxis(pen, axis_->Y(sample), core_.samples[sample].name, kNumberSize);
-            below = axis_->Y(sample) + kNumberSize / 2;
-        }
     }
 
     void DrawColumn(Pen& pen, const PlacedColumn& placed, Scales& scales) const {

@@ -10,6 +10,12 @@
 namespace {
 constexpr double kPointsPerNumber = 30;  // along the axis, at the least
 constexpr int kShortTicks = 5;           // in a step
+
+double DepthOf(const Sample& sample) {
+    if (sample.depth) return *sample.depth;
+    if (sample.name == kUnnamed) throw FigureFault("the first sample has no name yet: name it by its depth, such as 10 or 10.5");
+    throw FigureFault("sample \"" + sample.name + "\": a depth is a plain number such as 10 or 10.5");
+}
 }  // namespace
 
 SampleAxis::SampleAxis(const Core& core, const FigureOptions& options, double top, double bottom) : top_(top), bottom_(bottom) {
@@ -33,20 +39,13 @@ void SampleAxis::TakeUpAges(const Core& core, const std::string& age) {
 }
 
 void SampleAxis::TakeUpDepths(const Core& core, const std::string& unit) {
-    has_numbers_ = std::all_of(core.samples.begin(), core.samples.end(), [](const Sample& sample) { return sample.depth.has_value(); });
-    for (std::size_t sample = 0; sample < core.samples.size(); ++sample)
-        values_.push_back(has_numbers_ ? *core.samples[sample].depth : static_cast<double>(sample));
-    title_ = has_numbers_ ? "Depth (" + unit + ")" : "Sample";
+    for (const Sample& sample : core.samples) values_.push_back(DepthOf(sample));
+    title_ = "Depth (" + unit + ")";
 }
 
-// To a short tick beyond the samples, or half a place where these have names.
+// To a short tick beyond the samples.
 void SampleAxis::RoundEnds() {
     const double first = values_.front(), last = values_.back();
-    if (!has_numbers_) {
-        from_ = first - 0.5;
-        to_ = last + 0.5;
-        return;
-    }
     step_ = RoundStep(std::abs(last - first), std::max(2, static_cast<int>((bottom_ - top_) / kPointsPerNumber)));
     const double unit = (last > first ? step_ : -step_) / kShortTicks;
     from_ = first == 0 ? 0 : (std::ceil(first / unit) - 1) * unit;
@@ -66,7 +65,6 @@ double SampleAxis::LeastDistance() const {
 
 std::vector<SampleAxis::Tick> SampleAxis::Ticks() const {
     std::vector<Tick> ticks;
-    if (!has_numbers_) return ticks;
     for (const double value : Multiples(step_ / kShortTicks, std::min(from_, to_), std::max(from_, to_))) {
         const double steps = value / step_;
         const bool is_long = std::abs(steps - std::round(steps)) < 0.5 / kShortTicks;

@@ -20,9 +20,11 @@ struct Taxon {
     bool InsideSum(Basis basis) const { return basis == kBasisAll || in_subtotal[basis - kBasisSubtotal1]; }
 };
 
+constexpr const char* kUnnamed = "-9999";  // the name of a sheet's first sample until its user gives it one
+
 struct Sample {
     std::string name;                         // as the sheet has it
-    std::optional<double> depth;              // nothing if the name is no number
+    std::optional<double> depth;              // nothing if the name is not just a number, or none was given
     std::array<std::string, kParams> values;  // of Additional info, as typed; "---" for none
     std::string note;
     std::vector<std::int32_t> counts;                // [taxon], 0 or more
@@ -42,7 +44,7 @@ struct Core {
     std::array<std::string, kSubtotals> subtotals;  // their names
     std::array<std::string, kParams> params;        // the names of Additional info
     std::vector<Taxon> taxa;                        // the counted ones, in the order of the sheet's rows; "---" has no name
-    std::vector<Sample> samples;                    // from the top down: by depth if all have one, else as in the sheet
+    std::vector<Sample> samples;                    // from the top down: by their names if all are just numbers, else as in the sheet
     std::array<std::vector<TreeMerge>, kBases>
         trees;  // [basis]: the counter's own, in the order of joining; empty for less than two samples
 };

@@ -92,18 +92,11 @@ def read(name):
         return list(csv.DictReader(file))
 
 
-def column(rows, name, missing):
-    return [float(row[name] or missing) for row in rows]
-
-
 rows = read(PERCENTAGES)
 samples = read("counts.csv")
 taxa_of_a_sample = len(rows) // len(samples)
-percentages = {rows[i]["Taxon"]: column(rows[i::taxa_of_a_sample], "Percentage (%)", 0) for i in range(taxa_of_a_sample)}
-y = column(samples, AXIS, math.nan)
-named = any(math.isnan(value) for value in y)
-if named:  # samples without a depth stand at equal distances
-    y = list(range(1, len(samples) + 1))
+percentages = {rows[i]["Taxon"]: [float(row["Percentage (%)"] or 0) for row in rows[i::taxa_of_a_sample]] for i in range(taxa_of_a_sample)}
+y = [float(sample[AXIS]) for sample in samples]
 
 # Ten percent are as wide in every column.
 widths = [10 * math.ceil(max(1, *percentages[taxon]) / 10) for taxon in TAXA]
@@ -148,9 +141,7 @@ for zone in read("zones.csv"):
 
 margin = math.copysign(0.02 * abs(y[-1] - y[0]) + thickness / 2, y[-1] - y[0])
 columns[0].set_ylim(y[-1] + margin, y[0] - margin)  # downwards, as in the sediment
-columns[0].set_ylabel("Sample" if named else AXIS)
-if named:
-    columns[0].set_yticks(y, [sample["Sample"] for sample in samples])
+columns[0].set_ylabel(AXIS)
 figure.suptitle(TITLE, x=0.02, ha="left")
 figure.savefig(sys.argv[1] if len(sys.argv) > 1 else HERE / "figure_python.pdf", bbox_inches="tight")
 )py";
@@ -176,8 +167,6 @@ names <- rows$Taxon[seq_len(nrow(rows) / nrow(samples))]
 percentages <- matrix(rows[["Percentage (%)"]], nrow = nrow(samples), byrow = TRUE, dimnames = list(NULL, names))[, TAXA, drop = FALSE]
 percentages[is.na(percentages)] <- 0
 y <- samples[[AXIS]]
-named <- anyNA(y)
-if (named) y <- seq_len(nrow(samples))  # samples without a depth stand at equal distances
 
 file <- c(commandArgs(TRUE), file.path(here, "figure_r.pdf"))[1]
 # Ten percent are as wide in every column.
@@ -185,7 +174,7 @@ gap <- 6
 widths <- 10 * ceiling(apply(percentages, 2, max, 1) / 10)
 inches <- 2.5 + sum(widths + gap) / 25
 if (capabilities("cairo")) cairo_pdf(file, inches, 8) else pdf(file, inches, 8)
-layout(matrix(seq_len(length(TAXA) + 2), 1), widths = c(if (named) 40 else 25, widths + gap, 60))
+layout(matrix(seq_len(length(TAXA) + 2), 1), widths = c(25, widths + gap, 60))
 length_down <- y[length(y)] - y[1]
 downwards <- c(y[length(y)] + 0.03 * length_down, y[1] - 0.03 * length_down)  # as in the sediment
 space <- function(right) par(mar = c(3, 0, 8, right), mgp = c(1.8, 0.6, 0), cex = 0.7, xpd = FALSE, yaxs = "i")
@@ -195,8 +184,8 @@ lines_across <- function() if (length(boundaries)) abline(h = (y[boundaries] + y
 
 space(0)
 frame(1)
-if (named) axis(2, y, samples$Sample, pos = 1, las = 1, xpd = NA) else axis(2, pos = 1, las = 1, xpd = NA)
-mtext(if (named) "Sample" else AXIS, 2, line = -1, cex = 0.7)
+axis(2, pos = 1, las = 1, xpd = NA)
+mtext(AXIS, 2, line = -1, cex = 0.7)
 mtext(TITLE, 3, line = 6, adj = 0, cex = 0.8)
 for (taxon in seq_along(TAXA)) {
     values <- percentages[, taxon]

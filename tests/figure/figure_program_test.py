@@ -279,6 +279,13 @@ class FilesTest(unittest.TestCase):
         rows = rows_of(SHEET)
         rows[FIRST_TAXON][1] = "2"
         self.assert_refused(self.copy("flags.csv", rows), "the flag of Pinus for Trees is 2")
+        for name in ("top", "10.0", "10.50", "010", "+10", " 10"):
+            rows = rows_of(SHEET)
+            rows[1][LABELS + 1] = name
+            self.assert_refused(self.copy("named.csv", rows), f'sample "{name}": a depth is a plain number such as 10 or 10.5')
+        rows = rows_of(SHEET)
+        rows[1][LABELS] = "-9999"
+        self.assert_refused(self.copy("unnamed.csv", rows), "the first sample has no name yet")
 
     def test_an_option_that_the_sheet_cannot_follow_leaves_no_file(self):
         sheet = self.copy("core.csv", rows_of(SHEET))

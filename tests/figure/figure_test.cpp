@@ -367,15 +367,6 @@ TEST(FigureTest, GroupsThatStandTogetherHaveHeadings) {
     EXPECT_TRUE(bold(DrawWith([](FigureOptions& options) { options.order = {"Pinus", "Poaceae"}; })).empty());
 }
 
-TEST(FigureTest, NamedSamplesHaveTheirNames) {
-    Core core = TestCore();
-    core.samples[1].name = "Moss";
-    core.samples[1].depth = std::nullopt;
-    const Page page = Pages(core, {})[0];
-    EXPECT_TRUE(Says(page, "Moss"));
-    EXPECT_FALSE(Says(page, "Depth (cm)"));
-}
-
 TEST(FigureTest, WhatTheCoreDoesNotHaveIsTold) {
     const auto fault = [](const std::function<void(FigureOptions&)>& set) { return FaultOf([&] { DrawWith(set); }); };
     EXPECT_EQ(fault([](FigureOptions& options) { options.left_out = "Lykopodium"; }),

@@ -59,15 +59,17 @@ TEST(SampleAxisTest, YearsOfACalendarFallDownwards) {
     EXPECT_GT(std::stoi(numbers.front().number), std::stoi(numbers.back().number));
 }
 
-TEST(SampleAxisTest, NamedSamplesStandAtEqualDistances) {
+TEST(SampleAxisTest, ASampleWithoutADepthIsTold) {
     Core core = SmallCore();
-    core.samples[1].depth = std::nullopt;
-    const SampleAxis axis(core, {}, 0, 300);
-    EXPECT_DOUBLE_EQ(axis.Y(0), 50);
-    EXPECT_DOUBLE_EQ(axis.Y(2), 250);
-    EXPECT_FALSE(axis.HasNumbers());
-    EXPECT_TRUE(axis.Ticks().empty());
-    EXPECT_EQ(axis.Title(), "Sample");
+    core.samples[1].name = "10.0";
+    core.samples[1].depth.reset();
+    const auto fault = [&] { return FaultOf([&] { SampleAxis(core, {}, 0, 300); }); };
+    EXPECT_EQ(fault(), "sample \"10.0\": a depth is a plain number such as 10 or 10.5");
+    core.samples[1].name = kUnnamed;
+    EXPECT_EQ(fault(), "the first sample has no name yet: name it by its depth, such as 10 or 10.5");
+    FigureOptions options;
+    options.age = "Age (BP)";
+    EXPECT_EQ(SampleAxis(core, options, 0, 300).Y(1), SampleAxis(SmallCore(), options, 0, 300).Y(1)) << "ages take no depths";
 }
 
 TEST(SampleAxisTest, AgesThatAreNoneAreTold) {

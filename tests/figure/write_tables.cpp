@@ -1,7 +1,7 @@
 // Writes the tables and the scripts of a small core into a folder, for R and Python to run:
 //
-//     write_tables FOLDER WAY       WAY: silhouettes, bars, calendar: by years that fall downwards, or named: samples without depths, and a
-//     taxon whose name is meant to harm
+//     write_tables FOLDER WAY       WAY: silhouettes, bars, calendar: by years that fall downwards, or named: by ages, of samples without
+//     depths, and with a taxon whose name is meant to harm
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -32,7 +32,7 @@ int main(int, char** arguments) {
     options.basis = kBasisSubtotal1;
     options.zones = {kBasisSubtotal1, "Lycopodium", true, 2, "LPAZ-"};
     options.marker = {"Lycopodium", "Tablets*1000±100", "Volume (cm3)", ""};
-    options.scripts = {true, true, {}, {"Pinus"}, way == "calendar", way == "bars", 10};
+    options.scripts = {true, true, {}, {"Pinus"}, way == "calendar" || way == "named", way == "bars", 10};
     options.age = "Age (BP)";
     if (way == "calendar")
         for (std::size_t sample = 0; sample < core.samples.size(); ++sample)

@@ -152,6 +152,13 @@ TEST_F(FigureCoreTest, NamedSamplesStandAsInTheSheet) {
     EXPECT_NEAR(core.trees[kBasisAll][0].lower, 0.5, 1e-6);
 }
 
+TEST_F(FigureCoreTest, ADepthIsWrittenPlainly) {
+    for (const char* name : {"10.0", "10.50", "010", "+10", " 10", "", "-9999"})
+        EXPECT_EQ(Read(WithNames(DataSheet(3), {"5", name, "15"})).samples[name == std::string("-9999") ? 0 : 1].depth, std::nullopt)
+            << name;
+    EXPECT_EQ(Read(WithNames(DataSheet(3), {"-5", "10.5", "15"})).samples[0].depth, -5);
+}
+
 TEST_F(FigureCoreTest, WhatIsCountedIsThereWithANameOrWithout) {
     const Core core = Read(WithName(WithName(SheetOf(2, {{"3", "1"}, {"0", "0"}, {"0", "2"}}), 3, "---"), 2, "Alnus"));
     ASSERT_EQ(core.taxa.size(), 2u);
