@@ -6,6 +6,7 @@
 #include <set>
 
 #include "figure/drawing/curves.h"
+#include "figure/results/concentrations.h"
 #include "figure/sheet/fault.h"
 #include "platform/text.h"
 
@@ -148,7 +149,7 @@ void DrawGroup(Pen& pen, const ColumnPlace& place, const std::vector<std::vector
 
 std::vector<Column> TaxonColumns(const Core& core, const FigureOptions& options) {
     CheckBasis(core, options.basis);
-    if (!options.left_out.empty()) TaxonNamed(core, options.left_out);
+    if (!options.left_out.empty()) MarkerOf(core, options.left_out);
     const std::set<std::size_t> upright = TaxaNamed(core, options.upright), italic = TaxaNamed(core, options.italic);
     std::vector<Column> columns;
     for (const std::size_t taxon : TaxaInOrder(core, options)) {

@@ -6,12 +6,6 @@
 #include "platform/text.h"
 
 namespace {
-std::size_t MarkerOf(const Core& core, const std::string& name) {
-    const auto marker = std::ranges::find(core.taxa, name, &Taxon::name);
-    if (marker == core.taxa.end()) throw FigureFault("no taxon named \"" + name + "\" was counted: there is no such marker");
-    return marker - core.taxa.begin();
-}
-
 Quantity AboveNothing(const Core& core, const std::string& text) {
     const Quantity values = QuantityOf(core, text);
     for (std::size_t sample = 0; sample < values.size(); ++sample)
@@ -63,6 +57,14 @@ std::optional<Concentration> Of(std::int64_t counted, std::int64_t markers, cons
     return ConcentrationOf(static_cast<double>(counted), static_cast<double>(markers), *added, *amount);
 }
 }  // namespace
+
+std::size_t MarkerOf(const Core& core, const std::string& name) {
+    const auto marker = std::ranges::find(core.taxa, name, &Taxon::name);
+    if (marker == core.taxa.end()) throw FigureFault("no taxon named \"" + name + "\" was counted: there is no such marker");
+    if (std::ranges::count(core.taxa, name, &Taxon::name) > 1)
+        throw FigureFault("more than one taxon is named \"" + name + "\": which of them is the marker?");
+    return marker - core.taxa.begin();
+}
 
 std::int64_t CountedBesides(const Core& core, std::size_t marker, std::size_t sample, Basis basis) {
     return core.samples[sample].sums[basis] - (core.taxa[marker].InsideSum(basis) ? core.samples[sample].counts[marker] : 0);

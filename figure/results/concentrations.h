@@ -27,8 +27,11 @@ struct Concentrations {
     std::vector<std::array<std::optional<Concentration>, kBases>> sums;  // [sample][basis]: of all in the sum but the marker
 };
 
+// Which taxon it is. Raises FigureFault unless just one has this name.
+std::size_t MarkerOf(const Core& core, const std::string& name);
+
 std::int64_t CountedBesides(const Core& core, std::size_t marker, std::size_t sample, Basis basis);  // in the sum, the marker aside
 
-// Nothing stands where a sample has no marker or no amount. Raises FigureFault for a taxon, a row or a number that is not there, for an
+// Nothing stands where a sample has no marker or no amount. Raises FigureFault as MarkerOf, for a row or a number that is not there, for an
 // amount or an addition that is not above 0, and unless one of volume and weight is given.
 Concentrations ConcentrationsOf(const Core& core, const MarkerOptions& options);

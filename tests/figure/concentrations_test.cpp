@@ -54,6 +54,14 @@ TEST(ConcentrationsTest, TheTabletsAreWrittenInSeveralWays) {
     EXPECT_DOUBLE_EQ(added.relative, 0);
 }
 
+TEST(ConcentrationsTest, AMarkerIsOneTaxon) {
+    Core core = SmallCore();
+    EXPECT_EQ(MarkerOf(core, "Lycopodium"), 3u);
+    core.taxa[1].name = "Lycopodium";
+    EXPECT_EQ(FaultOf([&] { MarkerOf(core, "Lycopodium"); }), "more than one taxon is named \"Lycopodium\": which of them is the marker?");
+    EXPECT_EQ(MarkerOf(core, "Pinus"), 0u);
+}
+
 TEST(ConcentrationsTest, WhatIsMissingIsTold) {
     EXPECT_EQ(FaultOfMarker({"Eucalyptus", "2*1000", "1", ""}), "no taxon named \"Eucalyptus\" was counted: there is no such marker");
     EXPECT_EQ(FaultOfMarker({"Lycopodium", "2*1000", "", ""}), "concentrations take either the volume or the weight of a sample");

@@ -286,6 +286,10 @@ class FilesTest(unittest.TestCase):
         rows = rows_of(SHEET)
         rows[1][LABELS] = "-9999"
         self.assert_refused(self.copy("unnamed.csv", rows), "the first sample has no name yet")
+        rows = rows_of(SHEET)
+        rows[FIRST_TAXON][3] = "Lycopodium"
+        for way in ((), ("--added", "2*18583", "--volume", "1")):
+            self.assert_refused(self.copy("two.csv", rows), 'more than one taxon is named "Lycopodium"', "--marker", "Lycopodium", *way)
 
     def test_an_option_that_the_sheet_cannot_follow_leaves_no_file(self):
         sheet = self.copy("core.csv", rows_of(SHEET))

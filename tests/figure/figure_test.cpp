@@ -370,7 +370,7 @@ TEST(FigureTest, GroupsThatStandTogetherHaveHeadings) {
 TEST(FigureTest, WhatTheCoreDoesNotHaveIsTold) {
     const auto fault = [](const std::function<void(FigureOptions&)>& set) { return FaultOf([&] { DrawWith(set); }); };
     EXPECT_EQ(fault([](FigureOptions& options) { options.left_out = "Lykopodium"; }),
-              "no taxon \"Lykopodium\" has been counted in this sheet");
+              "no taxon named \"Lykopodium\" was counted: there is no such marker");
     EXPECT_NE(fault([](FigureOptions& options) { options.order = {"Abies"}; }), "");
     EXPECT_NE(fault([](FigureOptions& options) { options.upright = {"Abies"}; }), "");
     EXPECT_NE(fault([](FigureOptions& options) { options.italic = {"Abies"}; }), "");
