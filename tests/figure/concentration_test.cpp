@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 namespace {
-// Two tablets of 18583 spores each, 764 one standard deviation of a tablet; 300 grains and 60 markers in 1 cm3:
+// Two tablets of 18583 spores each, 764 one standard deviation of a tablet; 300 grains and 60 markers in 1 cm3. Reckoned by hand:
 // 300 * 37166 / 60 = 185830, with the relative errors 764 / 18583 / sqrt(2), 1 / sqrt(300) and 1 / sqrt(60).
-TEST(ConcentrationTest, AWorkedExampleComesOut) {
+TEST(ConcentrationTest, WhatIsReckonedByHandComesOut) {
     const Concentration found = ConcentrationOf(300, 60, AddedTablets(2, 18583, 764), 1).value();
     EXPECT_DOUBLE_EQ(found.value, 185830);
     EXPECT_NEAR(found.error, 185830 * 0.1444, 0.5e-4 * 185830);  // sqrt(0.029071 squared + 0.057735 squared + 0.129099 squared)
