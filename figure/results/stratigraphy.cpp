@@ -1,5 +1,6 @@
 #include "figure/results/stratigraphy.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 
@@ -23,24 +24,20 @@ Assemblage AssemblageOf(const Sample& sample, const std::vector<std::size_t>& ta
     return assemblage;
 }
 
-// Half-way between the sample above and the one from which a zone begins; the first sample's own depth at the top, the last one's below
-// all.
-std::optional<double> BoundaryAbove(const Core& core, std::size_t sample) {
-    const std::size_t above = sample > 0 ? sample - 1 : 0, below = std::min(sample, core.samples.size() - 1);
-    if (!core.samples[above].depth || !core.samples[below].depth) return std::nullopt;
-    return (*core.samples[above].depth + *core.samples[below].depth) / 2;
-}
-
 std::vector<Zone> ZonesFrom(const Core& core, std::vector<std::size_t> bounds, const std::string& prefix) {
     const std::size_t zones = bounds.size();
     bounds.push_back(core.samples.size());
     std::vector<Zone> found;
     for (std::size_t zone = 0; zone < zones; ++zone)
-        found.push_back({prefix + std::to_string(zones - zone), bounds[zone], bounds[zone + 1], BoundaryAbove(core, bounds[zone]),
-                         BoundaryAbove(core, bounds[zone + 1])});
+        found.push_back({prefix + std::to_string(zones - zone), bounds[zone], bounds[zone + 1]});
     return found;
 }
 }  // namespace
+
+std::optional<double> BoundaryAbove(const Quantity& places, std::size_t sample) {
+    const std::optional<double>&above = places[sample > 0 ? sample - 1 : 0], &below = places[std::min(sample, places.size() - 1)];
+    return above && below ? std::optional((*above + *below) / 2) : std::nullopt;
+}
 
 Stratigraphy StratigraphyOf(const Core& core, const ZoneOptions& options) {
     const std::size_t samples = core.samples.size();

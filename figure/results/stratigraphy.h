@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "figure/math/zones.h"
+#include "figure/results/quantity.h"
 #include "figure/sheet/core.h"
 
 struct ZoneOptions {
@@ -19,8 +20,6 @@ struct ZoneOptions {
 struct Zone {
     std::string name;                // the prefix and a number, 1 being the lowest
     std::size_t first = 0, end = 0;  // samples first .. end - 1
-    std::optional<double> top,
-        base;  // depths: half-way to the next zone's sample, at the ends those of the samples; nothing without depths
 };
 
 struct Stratigraphy {
@@ -31,3 +30,7 @@ struct Stratigraphy {
 // A sample without a grain of the compared taxa counts as one whose shares are all 0. Raises FigureFault for less than two samples, and for
 // a number of zones that is 0 or above that of the samples.
 Stratigraphy StratigraphyOf(const Core& core, const ZoneOptions& options);
+
+// Where a zone ends and one begins whose first is `sample`, by the depths or ages of the samples: half-way to the sample above. At the ends
+// of the core, 0 and the number of samples, that of the last sample there. Nothing if one of the two has no place.
+std::optional<double> BoundaryAbove(const Quantity& places, std::size_t sample);

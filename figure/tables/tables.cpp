@@ -23,7 +23,7 @@ void AddConcentrations(Tables& tables, const Core& core, const SampleCells& samp
 
 void AddZones(Tables& tables, const Core& core, const TableOptions& options) {
     const Stratigraphy found = StratigraphyOf(core, options.zones);
-    tables.push_back({"zones.csv", ZoneTable(core, found.zones, options.zones.basis, options.depth_unit)});
+    tables.push_back({"zones.csv", ZoneTable(core, found.zones, options)});
     tables.push_back({"merges.csv", MergeTable(core, found.merges, options.zones.square_roots)});
     tables.push_back({"counter_tree.csv", CounterTreeTable(core, options.depth_unit)});
 }

@@ -29,22 +29,39 @@ Axis AxisOf(const Core& core, const std::string& depth_unit) {
     return {1, static_cast<double>(core.samples.size()), "number of the sample"};
 }
 
-void WriteDepth(TableText& table, const std::optional<double>& depth) {
-    table.Text(depth ? NumberText(*depth) : "");
+// Where zones begin and end, on one axis.
+struct Bounds {
+    std::string top, base;  // heads of the columns
+    Quantity places;        // of the samples
+};
+
+std::vector<Bounds> BoundsOf(const Core& core, const TableOptions& options) {
+    Bounds depths = {"Top (" + options.depth_unit + ")", "Base (" + options.depth_unit + ")", {}};
+    for (const Sample& sample : core.samples) depths.places.push_back(sample.depth);
+    if (options.age.empty()) return {depths};
+    return {depths, {"Top: " + options.age, "Base: " + options.age, QuantityOf(core, options.age)}};
+}
+
+void WritePlace(TableText& table, const std::optional<double>& place) {
+    table.Text(place ? NumberText(*place) : "");
 }
 }  // namespace
 
-std::string ZoneTable(const Core& core, const std::vector<Zone>& zones, Basis basis, const std::string& depth_unit) {
+std::string ZoneTable(const Core& core, const std::vector<Zone>& zones, const TableOptions& options) {
+    const std::vector<Bounds> axes = BoundsOf(core, options);
     TableText table;
-    table.Texts({"Zone", "First sample", "Last sample", "Samples", "Top (" + depth_unit + ")", "Base (" + depth_unit + ")"});
+    table.Texts({"Zone", "First sample", "Last sample", "Samples"});
+    for (const Bounds& axis : axes) table.Texts({axis.top, axis.base});
     for (const Taxon& taxon : core.taxa) table.Text(taxon.name + " (mean %)");
     table.EndRow();
     for (const Zone& zone : zones) {
         table.Texts({zone.name, core.samples[zone.first].name, core.samples[zone.end - 1].name});
         table.Whole(static_cast<std::int64_t>(zone.end - zone.first));
-        WriteDepth(table, zone.top);
-        WriteDepth(table, zone.base);
-        for (std::size_t taxon = 0; taxon < core.taxa.size(); ++taxon) table.Number(MeanPercentage(core, zone, basis, taxon));
+        for (const Bounds& axis : axes) {
+            WritePlace(table, BoundaryAbove(axis.places, zone.first));
+            WritePlace(table, BoundaryAbove(axis.places, zone.end));
+        }
+        for (std::size_t taxon = 0; taxon < core.taxa.size(); ++taxon) table.Number(MeanPercentage(core, zone, options.zones.basis, taxon));
         table.EndRow();
     }
     return table.Take();

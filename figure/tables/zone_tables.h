@@ -4,10 +4,11 @@
 
 #include "figure/results/stratigraphy.h"
 #include "figure/sheet/core.h"
+#include "figure/tables/options.h"
 
-// A row for each zone, from the top down: its samples, its depths, and the mean percentage of each taxon over the samples whose sum is not
-// 0.
-std::string ZoneTable(const Core& core, const std::vector<Zone>& zones, Basis basis, const std::string& depth_unit);
+// A row for each zone, from the top down: its samples, where it begins and ends by depth and, where ages are shown, by age, and the mean
+// percentage of each taxon over the samples whose sum is not 0.
+std::string ZoneTable(const Core& core, const std::vector<Zone>& zones, const TableOptions& options);
 
 // A row for each merge of the tree that parts the zones, in the order of joining: what it joins, by the numbers of the samples from 1 and
 // by their names; how much the sum of squares rises; and the split that the merge is from above, with its piece of the broken stick.

@@ -13,17 +13,22 @@ ZoneOptions TreesInZones(std::optional<std::size_t> zones) {
     return {kBasisSubtotal1, "", false, zones, "Z"};
 }
 
-TEST(StratigraphyTest, ZonesHaveDepthsAndAreNumberedFromTheBase) {
+TEST(StratigraphyTest, ZonesAreNumberedFromTheBase) {
     const std::vector<Zone> zones = StratigraphyOf(SmallCore(), TreesInZones(2)).zones;
     ASSERT_EQ(zones.size(), 2u);  // the shares of Pinus are 0.75, 0.25 and 0: the uppermost stands apart
     EXPECT_EQ(zones[0].name, "Z2");
     EXPECT_EQ(zones[0].end, 1u);
-    EXPECT_EQ(zones[0].top, 10);
-    EXPECT_EQ(zones[0].base, 15);
     EXPECT_EQ(zones[1].name, "Z1");
     EXPECT_EQ(zones[1].first, 1u);
-    EXPECT_EQ(zones[1].top, 15);
-    EXPECT_EQ(zones[1].base, 40);
+}
+
+TEST(StratigraphyTest, BoundariesLieHalfWay) {
+    EXPECT_EQ(BoundaryAbove({10, 20, 40}, 0), 10) << "the top of the core";
+    EXPECT_EQ(BoundaryAbove({10, 20, 40}, 1), 15);
+    EXPECT_EQ(BoundaryAbove({10, 20, 40}, 2), 30);
+    EXPECT_EQ(BoundaryAbove({10, 20, 40}, 3), 40) << "its base";
+    EXPECT_EQ(BoundaryAbove({10, std::nullopt, 40}, 1), std::nullopt);
+    EXPECT_EQ(BoundaryAbove({10, std::nullopt, 40}, 2), std::nullopt);
 }
 
 TEST(StratigraphyTest, TheTreeIsOfTheSharesOrTheirRoots) {
@@ -66,14 +71,6 @@ TEST(StratigraphyTest, ASampleWithNothingInTheSumIsOneOfZeros) {
     Core core = SmallCore();
     core.samples[2].counts = {0, 0, 7, 25};
     EXPECT_DOUBLE_EQ(StratigraphyOf(core, TreesInZones(1)).merges[0].rise, (0.5 * 0.5 + 0.5 * 0.5) / 2);  // now the two above are nearest
-}
-
-TEST(StratigraphyTest, NamedSamplesHaveZonesWithoutDepths) {
-    Core core = SmallCore();
-    core.samples[1].depth.reset();
-    const std::vector<Zone> zones = StratigraphyOf(core, TreesInZones(2)).zones;
-    EXPECT_EQ(zones[0].top, 10);
-    EXPECT_FALSE(zones[0].base);
 }
 
 TEST(StratigraphyTest, ThereAreAsManyZonesAsSamplesAtMost) {

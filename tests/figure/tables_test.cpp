@@ -189,6 +189,20 @@ TEST(TablesTest, ZonesHaveTheirDepthsAndMeans) {
         "LPAZ-1,20,40,2,15,40,12.5,87.5,0,50\n");
 }
 
+TEST(TablesTest, ZonesHaveTheirAgesWhereTheseAreShown) {
+    TableOptions options = TreesAndMarker();
+    options.age = "Age (BP)";
+    Core core = SmallCore();
+    EXPECT_EQ(Rows(core, options, "zones.csv"),
+              "Zone,First sample,Last sample,Samples,Top (cm),Base (cm),Top: Age (BP),Base: Age (BP),"
+              "Pinus (mean %),Betula (mean %),Poaceae (mean %),Lycopodium (mean %)\n"
+              "LPAZ-2,10,10,1,10,15,100,200,75,25,25,125\n"
+              "LPAZ-1,20,40,2,15,40,200,1300,12.5,87.5,0,50\n");
+    options.accumulation.reset();
+    core.samples[1].depth.reset();
+    EXPECT_NE(Rows(core, options, "zones.csv").find("\nLPAZ-2,10,10,1,10,,100,200,"), std::string::npos) << "a name is no depth";
+}
+
 TEST(TablesTest, SamplesWithNothingInTheSumDoNotLowerAMean) {
     TableOptions herbs;
     herbs.zones = {kBasisSubtotal2, "", false, 2, "Z"};
