@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "figure/drawing/figure.h"
 #include "figure/drawing/taxon_columns.h"
@@ -41,13 +42,16 @@ void AddFigure(FileTexts& files, const std::string& stem, const Core& core, cons
     files[stem + ".png"] = std::move(png);
 }
 
-void AddTables(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
+// Returns what is left out of them.
+std::vector<std::string> AddTables(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
     TableOptions options = arguments.tables;
     for (const Column& column : TaxonColumns(core, arguments.figure)) {
         options.scripts.taxa.push_back(column.name);
         if (column.italic) options.scripts.italic.push_back(column.name);
     }
-    for (const NamedText& table : TablesOf(core, options)) files[stem + "_tables/" + table.name] = table.text;
+    Tables tables = TablesOf(core, options);
+    for (NamedText& table : tables.files) files[stem + "_tables/" + table.name] = std::move(table.text);
+    return std::move(tables.remarks);
 }
 
 int Complain(const std::string& sheet, const std::string& fault, int status) {
@@ -61,8 +65,10 @@ int DrawSheet(const std::string& sheet, const FigureArguments& arguments) {
         const std::string stem = Stem(sheet, arguments.folder);
         FileTexts files;
         AddFigure(files, stem, core, arguments);
-        if (arguments.has_tables) AddTables(files, stem, core, arguments);
+        std::vector<std::string> remarks;
+        if (arguments.has_tables) remarks = AddTables(files, stem, core, arguments);
         WriteTogether(files);
+        for (const std::string& remark : remarks) TellFault(sheet + ": " + remark);
         return EXIT_SUCCESS;
     } catch (const FigureFault& fault) {
         return Complain(sheet, fault.what(), kBadInput);

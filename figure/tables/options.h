@@ -23,7 +23,7 @@ struct TableOptions {
     Basis basis = kBasisAll;                          // of richness and the scripts' figures
     ZoneOptions zones;                                // what they leave out, a marker, is no part of richness either
     std::optional<MarkerOptions> marker;              // with it come concentrations
-    std::optional<AccumulationOptions> accumulation;  // and with both influx; by ages only of concentrations by volume
+    std::optional<AccumulationOptions> accumulation;  // and with both influx; by ages only of concentrations by volume, if ages allow it
     std::string age;                                  // a row of Additional info to be shown beside depths; may be empty
     std::string depth_unit = "cm";
     ScriptOptions scripts;

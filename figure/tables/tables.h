@@ -12,5 +12,11 @@ struct NamedText {
     std::string text;
 };
 
-// Writes nothing itself. Raises FigureFault as the results do, and for an accumulation without a marker.
-std::vector<NamedText> TablesOf(const Core& core, const TableOptions& options);
+struct Tables {
+    std::vector<NamedText> files;
+    std::vector<std::string> remarks;  // what is left out and why, as lines for the user
+};
+
+// Writes nothing itself. Raises FigureFault as the results do, and for an accumulation without a marker. Ages that give no influx are
+// remarked on: they may have been meant for the axis alone.
+Tables TablesOf(const Core& core, const TableOptions& options);

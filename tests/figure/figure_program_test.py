@@ -304,16 +304,28 @@ class FilesTest(unittest.TestCase):
         self.assert_refused(sheet, "Pi nus", "--marker", "Pi\nnus")
         self.assert_refused(sheet, "13", "--zones", 13)
 
-    def test_influx_by_ages_takes_depths(self):
+    def test_influx_by_ages_takes_depths_and_keeps_nothing_else_from_a_sheet(self):
         rows = rows_of(SHEET)
         ages = next(row for row in rows if row[3] == "Tablets")
         ages[3:] = ["Age (BP)", *(str(100 * sample) for sample in range(len(rows[1][LABELS:])))]
-        rows[1][LABELS] = "top"
         marker = "--marker", "Lycopodium", "--added", "2*18583", "--volume", "1", "--age", "Age (BP)"
-        self.assert_refused(self.copy("named.csv", rows), "depth", *marker)
-        rows[1][LABELS] = "4"
         draw(self.folder, self.copy("deep.csv", rows), *marker)
         self.assertIn("deep_tables/influx.csv", self.left_in_folder())
+        rows[1][LABELS] = "top"
+        ways = {"named": "influx by ages takes depths for names of samples"}
+        self.copy("named.csv", rows)
+        rows[1][LABELS] = "4"
+        ages[LABELS] = ages[LABELS + 1]
+        ways["equal"] = "the ages neither rise nor fall all the way down, so there is no influx"
+        self.copy("equal.csv", rows)
+        for name, said in ways.items():
+            done = run(self.folder / f"{name}.csv", *marker)
+            self.assertEqual(done.returncode, 0)
+            self.assertRegex(done.stderr, rf"\Amarlbrook-figure: [^\n]*{name}\.csv: influx\.csv is left out: {said}\n\Z")
+            left = self.left_in_folder()
+            self.assertIn(f"{name}.svg", left)
+            self.assertIn(f"{name}_tables/concentrations.csv", left)
+            self.assertNotIn(f"{name}_tables/influx.csv", left)
 
     def test_of_many_sheets_the_good_ones_are_drawn(self):
         rows = rows_of(SHEET)

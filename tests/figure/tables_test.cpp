@@ -28,7 +28,7 @@ std::vector<std::string> NamesOf(const std::vector<NamedText>& tables) {
 
 // The rows of a table, "" if there is none of this name.
 std::string Rows(const Core& core, const TableOptions& options, const std::string& name) {
-    for (const NamedText& table : TablesOf(core, options)) {
+    for (const NamedText& table : TablesOf(core, options).files) {
         if (table.name != name) continue;
         std::string rows = table.text;
         std::erase(rows, '\r');
@@ -47,17 +47,17 @@ TEST(TablesTest, ConcentrationsInfluxAndScriptsComeWhenAsked) {
                                             "zones.csv",
                                             "merges.csv",
                                             "counter_tree.csv"};
-    EXPECT_EQ(NamesOf(TablesOf(SmallCore(), {})), plain);
+    EXPECT_EQ(NamesOf(TablesOf(SmallCore(), {}).files), plain);
     TableOptions all = TreesAndMarker();
     all.scripts.r = all.scripts.python = true;
-    const std::vector<std::string> names = NamesOf(TablesOf(SmallCore(), all));
+    const std::vector<std::string> names = NamesOf(TablesOf(SmallCore(), all).files);
     EXPECT_EQ(names.size(), plain.size() + 4);
     for (const char* name : {"concentrations.csv", "influx.csv", "figure.R", "figure.py"})
         EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
 }
 
 TEST(TablesTest, RowsEndInCarriageReturnAndLineFeed) {
-    for (const NamedText& table : TablesOf(SmallCore(), TreesAndMarker())) {
+    for (const NamedText& table : TablesOf(SmallCore(), TreesAndMarker()).files) {
         EXPECT_EQ(std::count(table.text.begin(), table.text.end(), '\n'), std::count(table.text.begin(), table.text.end(), '\r'));
         EXPECT_TRUE(table.text.ends_with("\r\n")) << table.name;
     }
@@ -155,6 +155,26 @@ TEST(TablesTest, AgesGiveNoInfluxOfWhatWasWeighed) {
     options.marker = {"Lycopodium", "2*1000", "", "2.5"};
     EXPECT_NE(Rows(SmallCore(), options, "concentrations.csv"), "");
     EXPECT_EQ(Rows(SmallCore(), options, "influx.csv"), "");
+}
+
+TEST(TablesTest, AgesThatGiveNoInfluxKeepNoTableFromTheOthers) {
+    Core core = SmallCore();
+    core.samples[1].values[2] = "100";
+    TableOptions options = TreesAndMarker();
+    options.age = "Age (BP)";
+    const Tables tables = TablesOf(core, options);
+    EXPECT_EQ(tables.remarks,
+              (std::vector<std::string>{"influx.csv is left out: the ages neither rise nor fall all the way down, so there is no influx"}));
+    std::vector<std::string> others = NamesOf(TablesOf(SmallCore(), options).files);
+    EXPECT_EQ(std::erase(others, "influx.csv"), 1u);
+    EXPECT_EQ(NamesOf(tables.files), others);
+    EXPECT_TRUE(TablesOf(SmallCore(), options).remarks.empty());
+}
+
+TEST(TablesTest, ARateThatIsNoneIsAFault) {
+    TableOptions options = TreesAndMarker();
+    options.accumulation = {"", "-1"};
+    EXPECT_EQ(FaultOf([&] { TablesOf(SmallCore(), options); }), "\"-1\" of sample 10 is below 0");
 }
 
 TEST(TablesTest, InfluxTakesAMarker) {

@@ -41,5 +41,5 @@ int main(int, char** arguments) {
         GiveNames(core);
     else
         options.accumulation = {"Age (BP)", ""};
-    for (const NamedText& table : TablesOf(core, options)) std::ofstream(folder / table.name, std::ios::binary) << table.text;
+    for (const NamedText& table : TablesOf(core, options).files) std::ofstream(folder / table.name, std::ios::binary) << table.text;
 }
