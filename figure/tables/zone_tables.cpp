@@ -1,7 +1,11 @@
 #include "figure/tables/zone_tables.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
+#include <numeric>
 
+#include "figure/results/quantity.h"
 #include "figure/tables/table_text.h"
 #include "platform/text.h"
 
@@ -27,6 +31,23 @@ Axis AxisOf(const Core& core, const std::string& depth_unit) {
     const bool by_depth = std::ranges::all_of(core.samples, [](const Sample& sample) { return sample.depth.has_value(); });
     if (by_depth && !core.samples.empty()) return {*core.samples.front().depth, *core.samples.back().depth, depth_unit};
     return {1, static_cast<double>(core.samples.size()), "number of the sample"};
+}
+
+// What each merge joins, by the samples: the first, the first of the lower cluster, and the last.
+std::vector<std::array<std::size_t, 3>> RowsOf(const std::vector<TreeMerge>& merges) {
+    std::vector<std::size_t> starts(merges.size() + 2);  // of the clusters, and the end of the last one
+    std::iota(starts.begin(), starts.end(), std::size_t{0});
+    std::vector<std::array<std::size_t, 3>> rows;
+    for (const TreeMerge& merge : merges) {
+        const auto lower = std::ranges::lower_bound(starts, merge.middle);
+        rows.push_back({*std::prev(lower), merge.middle, *std::next(lower) - 1});
+        starts.erase(lower);
+    }
+    return rows;
+}
+
+void WriteRows(TableText& table, const std::array<std::size_t, 3>& samples) {
+    for (const std::size_t sample : samples) table.Whole(static_cast<std::int64_t>(sample + 1));
 }
 
 // Where zones begin and end, on one axis.
@@ -80,7 +101,7 @@ std::string MergeTable(const Core& core, const std::vector<Merge>& merges, bool 
         const std::size_t split = merges.size() - step;
         const auto name = [&](std::size_t sample) { return core.samples[sample].name; };
         table.Whole(static_cast<std::int64_t>(step + 1));
-        for (const std::size_t sample : {merge.first, merge.middle, merge.end - 1}) table.Whole(static_cast<std::int64_t>(sample + 1));
+        WriteRows(table, {merge.first, merge.middle, merge.end - 1});
         table.Texts({name(merge.first), name(merge.middle - 1), name(merge.middle), name(merge.end - 1)});
         table.Number(merge.rise);
         table.Number(merge.total);
@@ -95,16 +116,19 @@ std::string MergeTable(const Core& core, const std::vector<Merge>& merges, bool 
 std::string CounterTreeTable(const Core& core, const std::string& depth_unit) {
     const auto [first, last, unit] = AxisOf(core, depth_unit);
     TableText table;
-    table.Texts({"Basis", "Step", "Upper cluster (" + unit + ")", "Lower cluster (" + unit + ")", "Height (shares squared)"});
+    table.Texts({"Basis", "Step", "First row", "Row of the split", "Last row", "Upper cluster (" + unit + ")",
+                 "Lower cluster (" + unit + ")", "Height (shares squared)"});
     table.EndRow();
     for (const Basis basis : {kBasisAll, kBasisSubtotal1, kBasisSubtotal2}) {
-        std::int64_t step = 0;
-        for (const TreeMerge& merge : core.trees[basis]) {
+        const std::vector<TreeMerge>& merges = core.trees[basis];
+        const std::vector<std::array<std::size_t, 3>> rows = RowsOf(merges);
+        for (std::size_t step = 0; step < merges.size(); ++step) {
             table.Text(kBasisWords[basis]);
-            table.Whole(++step);
-            table.Number(first + merge.upper * (last - first));
-            table.Number(first + merge.lower * (last - first));
-            table.Number(merge.height);
+            table.Whole(static_cast<std::int64_t>(step + 1));
+            WriteRows(table, rows[step]);
+            table.Number(first + merges[step].upper * (last - first));
+            table.Number(first + merges[step].lower * (last - first));
+            table.Number(merges[step].height);
             table.EndRow();
         }
     }

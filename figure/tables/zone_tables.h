@@ -14,5 +14,6 @@ std::string ZoneTable(const Core& core, const std::vector<Zone>& zones, const Ta
 // by their names; how much the sum of squares rises; and the split that the merge is from above, with its piece of the broken stick.
 std::string MergeTable(const Core& core, const std::vector<Merge>& merges, bool square_roots);
 
-// The same for the counter's own trees: where the two clusters stand, by depth or by the number of the sample, and the height.
+// The same for the counter's own trees: what each merge joins, by the numbers of the samples from 1; where the two clusters stand, by depth
+// or by the number of the sample; and the height.
 std::string CounterTreeTable(const Core& core, const std::string& depth_unit);

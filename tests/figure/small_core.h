@@ -52,6 +52,6 @@ inline Core SmallCore() {
     core.samples = {SmallSample(10, {30, 10, 10, 50}, {"0.5", "2", "100", "peat"}, core.taxa),
                     SmallSample(20, {10, 30, 0, 20}, {"2", "2", "300", "peat"}, core.taxa),
                     SmallSample(40, {0, 50, 0, 25}, {"---", "2", "1300", "clay"}, core.taxa)};
-    core.trees[kBasisAll] = {{0, 1.0 / 3, 0.1}, {1.0 / 6, 1, 0.5}};
+    core.trees[kBasisAll] = {{0, 1.0 / 3, 0.1, 1}, {1.0 / 6, 1, 0.5, 2}};
     return core;
 }

@@ -242,9 +242,13 @@ TEST(TablesTest, MergesTellTheSplitAndItsPieceOfTheStick) {
 TEST(TablesTest, TheCountersTreeStandsAtItsDepths) {
     Core core = SmallCore();
     EXPECT_EQ(Rows(core, {}, "counter_tree.csv"),
-              "Basis,Step,Upper cluster (cm),Lower cluster (cm),Height (shares squared)\nall,1,10,20,0.1\nall,2,15,40,0.5\n");
+              "Basis,Step,First row,Row of the split,Last row,Upper cluster (cm),Lower cluster (cm),Height (shares squared)\n"
+              "all,1,1,2,2,10,20,0.1\n"
+              "all,2,1,3,3,15,40,0.5\n");
+    core.trees[kBasisAll] = {{1.0 / 3, 1, 0.1, 2}, {0, 2.0 / 3, 0.5, 1}};
+    EXPECT_NE(Rows(core, {}, "counter_tree.csv").find("\nall,1,2,3,3,20,40,0.1\nall,2,1,2,3,10,30,0.5\n"), std::string::npos);
     for (Sample& sample : core.samples) sample.depth.reset();
-    EXPECT_NE(Rows(core, {}, "counter_tree.csv").find("(number of the sample),Height (shares squared)\nall,1,1,1.66667,0.1\n"),
+    EXPECT_NE(Rows(core, {}, "counter_tree.csv").find("(number of the sample),Height (shares squared)\nall,1,2,3,3,1.66667,3,0.1\n"),
               std::string::npos);
 }
 
