@@ -167,15 +167,18 @@ void TakeUpZones(const Raw& raw, FigureArguments& arguments) {
     arguments.figure.has_zones = !raw.zones.empty();
 }
 
-void TakeUpTables(FigureArguments& arguments) {
+void TakeUpTables(const Raw& raw, FigureArguments& arguments) {
     const FigureOptions& figure = arguments.figure;
     TableOptions& tables = arguments.tables;
     tables.basis = figure.basis;
     tables.age = figure.age;
     tables.depth_unit = figure.depth_unit;
     tables.scripts.by_age = !figure.age.empty();
-    tables.scripts.bars = figure.style == CurveStyle::Bar || figure.style == CurveStyle::BarAndCurve;
+    tables.scripts.title = figure.title;
+    tables.scripts.style = raw.style;
     tables.scripts.exaggerate = figure.exaggeration;
+    tables.scripts.tree = raw.tree;
+    tables.scripts.zones = figure.has_zones;
 }
 
 void TakeUp(const Raw& raw, FigureArguments& arguments) {
@@ -188,7 +191,7 @@ void TakeUp(const Raw& raw, FigureArguments& arguments) {
     arguments.has_tables = !raw.no_tables;
     TakeUpMarker(raw, arguments);
     TakeUpZones(raw, arguments);
-    TakeUpTables(arguments);
+    TakeUpTables(raw, arguments);
 }
 }  // namespace
 

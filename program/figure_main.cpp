@@ -42,13 +42,19 @@ void AddFigure(FileTexts& files, const std::string& stem, const Core& core, cons
     files[stem + ".png"] = std::move(png);
 }
 
+void TakeUpColumns(const std::vector<Column>& columns, ScriptOptions& scripts) {
+    for (const Group group : kGroups) scripts.groups.push_back({ColourOf(group), {}});
+    for (const Column& column : columns) {
+        scripts.taxa.push_back(column.name);
+        if (column.italic) scripts.italic.push_back(column.name);
+        scripts.groups[static_cast<std::size_t>(*column.group)].taxa.push_back(column.name);
+    }
+}
+
 // Returns what is left out of them.
 std::vector<std::string> AddTables(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
     TableOptions options = arguments.tables;
-    for (const Column& column : TaxonColumns(core, arguments.figure)) {
-        options.scripts.taxa.push_back(column.name);
-        if (column.italic) options.scripts.italic.push_back(column.name);
-    }
+    TakeUpColumns(TaxonColumns(core, arguments.figure), options.scripts);
     Tables tables = TablesOf(core, options);
     for (NamedText& table : tables.files) files[stem + "_tables/" + table.name] = std::move(table.text);
     return std::move(tables.remarks);

@@ -8,15 +8,26 @@
 #include "figure/results/concentrations.h"
 #include "figure/results/stratigraphy.h"
 #include "figure/sheet/core.h"
+#include "platform/control.h"
+
+// Taxa of one colour.
+struct ScriptGroup {
+    Colour colour;
+    std::vector<std::string> taxa;
+};
 
 // What the scripts draw.
 struct ScriptOptions {
     bool r = false, python = false;   // which of them are written
+    std::string title;                // above the figure; may be empty
     std::vector<std::string> taxa;    // in the order of their columns; empty: all, as in the sheet
     std::vector<std::string> italic;  // those whose names are set in italics
+    std::vector<ScriptGroup> groups;  // those in none are black
     bool by_age = false;              // the axis, else by depth
-    bool bars = false;                // else silhouettes
-    double exaggerate = 0;            // factor of the curve behind; 0 for none
+    std::string style = "bar";        // as on the command line: bar, curve, silhouette, dot or bar-and-curve
+    double exaggerate = 0;            // factor of the pale curve behind; 0 for none
+    std::string tree = "counter";     // as on the command line: counter, grimm or none
+    bool zones = false;               // lines across, and names
 };
 
 struct TableOptions {

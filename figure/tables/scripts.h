@@ -5,6 +5,7 @@
 
 #include "figure/tables/options.h"
 
+// They know the taxa by their names: raise FigureFault where a name that is drawn belongs to more than one.
 std::string RScript(const Core& core, const TableOptions& options);
 std::string PythonScript(const Core& core, const TableOptions& options);
 
