@@ -243,6 +243,19 @@ class FilesTest(unittest.TestCase):
         self.assertEqual(set(taxa), {name for name, shares in percentages(rows_of(SHEET)).items() if max(shares) >= 10} - {"Lycopodium"})
         self.assertEqual(italic, [name for name in taxa if not name.endswith("ae") and name != "Alnus"])
 
+    def test_scripts_draw_what_the_figure_shows(self):
+        draw(self.folder, SHEET, "--r", "--style", "curve", "--tree", "none", "--zones", 2, "--title", "Lake", "--exaggerate", 5)
+        script = (self.folder / "lake_core_tables/figure.R").read_text()
+        for line in ('TITLE <- "Lake"', 'STYLE <- "curve"', 'EXAGGERATE <- 5', 'TREE <- ""', "ZONES <- TRUE"):
+            self.assertIn(f"\n{line}\n", script)
+        colours = dict(re.findall(r'"(#\w{6})" = c\((.*?)\)', script, re.DOTALL))
+        self.assertEqual(len(colours), 3)
+        rows = rows_of(SHEET)[FIRST_TAXON:FIRST_TAXON + TAXA]
+        trees, herbs, others = (re.findall(r'"(.*?)"', names) for names in colours.values())
+        self.assertEqual(trees, [row[3] for row in rows if row[1] == "1"])
+        self.assertEqual(herbs, [row[3] for row in rows if row[2] == "1"])
+        self.assertEqual(set(others), {"Lycopodium", "Pediastrum"})
+
     def test_a_picture_has_its_dots(self):
         draw(self.folder, SHEET, "--no-tables", "--png", 100)
         head = (self.folder / "lake_core.png").read_bytes()[16:24]
