@@ -54,7 +54,7 @@ void HearLastWords(QtMsgType type, const QMessageLogContext& context, const QStr
 }
 
 [[noreturn]] void Terminate() {
-    if (IsInThreadOfWindows()) ActAtExit();
+    ActInThreadOfWindows();
     if (terminate_before) terminate_before();
     std::abort();
 }

@@ -4,6 +4,8 @@
 #include <QEventLoop>
 #include <QtGlobal>
 #include <csignal>
+#include <cstdlib>
+#include <stdexcept>
 #include <thread>
 
 #include "unit_qt/on_screen_test.h"
@@ -53,6 +55,18 @@ TEST_F(UnaskedEndTest, AThreadThatLosesTheDisplayDoesNotWaitForEverForOneThatWai
 }
 
 #ifndef Q_OS_WIN
+void FailInAnotherThread() {
+    constexpr int kActed = 7;
+    const UnaskedEnd end([] { std::_Exit(kActed); });
+    const std::thread other([] { throw std::runtime_error("nothing catches this"); });
+    QEventLoop().exec();
+}
+
+TEST_F(UnaskedEndTest, AFailureInAnyThreadIsHeardInThatOfTheWindows) {
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";  // the program has threads already
+    EXPECT_EXIT(FailInAnotherThread(), testing::ExitedWithCode(7), "");
+}
+
 TEST_F(UnaskedEndTest, ASignalThatItsStarterHasItIgnoreStaysIgnored) {
     std::signal(SIGHUP, SIG_IGN);
     {
