@@ -4,9 +4,9 @@
 //     window_bench diagram [KEYS]    the same, 40 a second, beside a diagram of 135 taxa by 250 samples of 1600 by 1000 pixels
 //     window_bench fresh [KEYS]      as diagram, in a sample just begun: each key is a large percentage and moves the columns
 //     window_bench tree [KEYS]       as diagram, with the cluster tree
-//     window_bench session [KEYS]    as diagram, 100 a second; 100,000, some weeks' work, if no number is given. The sheet is opened anew
-//                                    at each 25,000, for its history has no lines for more. Tells of the first and the last thousand keys,
-//                                    and what the program holds before and after them
+//     window_bench session [KEYS]    as diagram, 100 a second; 100,000, some weeks' work, if no number is given. A new sheet is
+//                                    begun at each 25,000, for one history has lines for 32,767. Tells of the first and the last thousand
+//                                    keys, and what the program holds before and after them
 //     window_bench drag [MOVES]      the line of the selected sample dragged over that diagram
 //     window_bench memory [SAMPLES]  what the program holds with such a sheet open, then with its diagram, then with the tree
 //
@@ -61,9 +61,14 @@ struct Task {
     std::chrono::milliseconds Pause() const { return std::chrono::milliseconds(IsSession() ? 10 : HasDiagram() ? 25 : 5); }
 };
 
+// On a new machine the keyboard is asked for until it is known.
+void LeaveKeyboardUnknown(Renderer& renderer) {
+    if (ActiveWindow() != &frmMain) renderer.Run([] { CloseWindow(*ActiveWindow()); });
+}
+
 void BeginSample(Renderer& renderer) {
     renderer.Run(StartProgram);
-    renderer.Run([] { CloseWindow(*ActiveWindow()); });  // on a new machine the keyboard is not known yet
+    LeaveKeyboardUnknown(renderer);
     if (frmNext.Visible()) renderer.Run([] { CloseWindow(frmNext); });
 }
 
@@ -74,10 +79,9 @@ Rows LargeSheet(const Task& task) {
     return rows;
 }
 
-// Under another name than the one before: that is saved when it has changed.
+// In a session of its own: what was counted before is given up.
 void OpenSheet(Renderer& renderer, const std::filesystem::path& folder, const Rows& rows) {
-    static int opened = 0;
-    const std::string path = (folder / ("large " + std::to_string(++opened) + ".csv")).string();
+    const std::string path = (folder / "large.csv").string();
     std::ofstream(path, std::ios::binary) << Joined(rows);
     ScriptedMessageBoxes messages;
     ScriptedFileDialogs dialogs;
@@ -85,6 +89,8 @@ void OpenSheet(Renderer& renderer, const std::filesystem::path& folder, const Ro
     dialogs.answers = {path};
     MessageBoxes* const real_messages = std::exchange(services.messages, &messages);
     FileDialogs* const real_dialogs = std::exchange(services.dialogs, &dialogs);
+    renderer.Run([] { ClickControl(frmMain.mnuNew); });
+    LeaveKeyboardUnknown(renderer);
     renderer.Run([] { ClickControl(frmMain.mnuOpen); });
     services.messages = real_messages;
     services.dialogs = real_dialogs;
@@ -203,7 +209,9 @@ int ActOnSheets(Renderer& renderer, const std::filesystem::path& folder, const T
         if (task.HasDiagram()) OpenSheet(renderer, folder, LargeSheet(task));
         if (task.HasDiagram()) OpenDiagram(renderer, task);
         if (task.IsSession() && sent == 0) ReportHeld("before");
-        counted += ActOnSheet(renderer, task, std::min(task.ActsPerSheet(), task.acts - sent));
+        const int acts = std::min(task.ActsPerSheet(), task.acts - sent), grains = ActOnSheet(renderer, task, acts);
+        counted += grains;
+        if (grains < acts && !task.Drags()) break;
     }
     if (task.IsSession()) ReportHeld("after");
     return counted;
