@@ -80,6 +80,22 @@ void PaintArrowButton(QPainter& painter, const QRectF& box, bool enabled, double
     painter.restore();
 }
 
+void PaintStepButton(QPainter& painter, const QRectF& box, Qt::ArrowType arrow, bool enabled, bool down) {
+    painter.fillRect(box, down ? kAccent : kButtonFace);
+    PaintOutline(painter, box, kOutline, 1, 0);
+    const bool is_upright = arrow == Qt::UpArrow || arrow == Qt::DownArrow, is_back = arrow == Qt::UpArrow || arrow == Qt::LeftArrow;
+    const double size = std::min(box.width(), box.height()) * 0.25, step = is_back ? -size : size;
+    const QPointF along = is_upright ? QPointF(0, step) : QPointF(step, 0);
+    const QPointF across = is_upright ? QPointF(size, 0) : QPointF(0, size);
+    const QPointF middle = box.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(down ? QColor(Qt::white) : enabled ? QColor(Qt::black) : kRestingWords);
+    painter.drawPolygon(QPolygonF({middle + along * 0.6, middle - along * 0.6 + across, middle - along * 0.6 - across}));
+    painter.restore();
+}
+
 // ---- Size ----
 
 namespace {

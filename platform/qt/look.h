@@ -42,6 +42,7 @@ struct ButtonState {
 };
 void PaintButton(QPainter& painter, const QRectF& box, const QColor& face, const ButtonState& state, double radius);
 void PaintArrowButton(QPainter& painter, const QRectF& box, bool enabled, double thickness);  // of a list that drops down
+void PaintStepButton(QPainter& painter, const QRectF& box, Qt::ArrowType arrow, bool enabled, bool down);
 
 // The pixels a twip with which the window that takes the counter keys (without one: the largest) comfortably fills the screen, frame
 // and menu bar included. All windows come up with it, so that letters are of one size everywhere.

@@ -103,19 +103,8 @@ private:
     }
 
     void PaintHalf(QPainter& painter, bool up) {
-        const QRectF half = Half(up);
-        const bool down = pressed_ && up == up_;
-        painter.fillRect(half, down ? kAccent : kButtonFace);
-        PaintOutline(painter, half, kOutline, 1, 0);
-        const double size = std::min(half.width(), half.height()) * 0.25;
-        const QPointF along = IsUpright() ? QPointF(0, up ? -size : size) : QPointF(up ? size : -size, 0);
-        const QPointF across = IsUpright() ? QPointF(size, 0) : QPointF(0, size);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(down ? QColor(Qt::white) : arrows_.Enabled() ? QColor(Qt::black) : kRestingWords);
-        const QPointF middle = half.center();
-        painter.drawPolygon(QPolygonF({middle + along * 0.6, middle - along * 0.6 + across, middle - along * 0.6 - across}));
-        painter.setRenderHint(QPainter::Antialiasing, false);
+        const Qt::ArrowType arrow = IsUpright() ? (up ? Qt::UpArrow : Qt::DownArrow) : (up ? Qt::RightArrow : Qt::LeftArrow);
+        PaintStepButton(painter, Half(up), arrow, arrows_.Enabled(), pressed_ && up == up_);
     }
 
     UpDown& arrows_;
