@@ -155,6 +155,8 @@ public:
         const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
         if (control == CC_Slider && slider && IsScaled(widget))
             PaintSlider(*painter, *slider);
+        else if (control == CC_ScrollBar && slider)
+            PaintScrollBar(*painter, *slider, widget);
         else if (control == CC_ComboBox)
             PaintArrowBox(*painter, *option, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
         else
@@ -191,6 +193,24 @@ private:
         words.rect = subElementRect(SE_PushButtonContents, &button, widget);
         if (button.state & State_Sunken) words.palette.setColor(QPalette::ButtonText, Qt::white);
         drawControl(CE_PushButtonLabel, &words, &painter, widget);
+    }
+
+    void PaintScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QWidget* widget) const {
+        const bool lies = bar.orientation == Qt::Horizontal, is_enabled = bar.state.testFlag(State_Enabled);
+        const auto place = [&](SubControl part) { return QRectF(subControlRect(CC_ScrollBar, &bar, part, widget)); };
+        const auto is_down = [&](SubControl part) { return bar.state.testFlag(State_Sunken) && bar.activeSubControls.testFlag(part); };
+        painter.fillRect(bar.rect, ToQt(kFormColour));
+        PaintOutline(painter, bar.rect, kOutline, 1, 0);
+        for (const SubControl part : {SC_ScrollBarSubLine, SC_ScrollBarAddLine}) {
+            const bool is_back = part == SC_ScrollBarSubLine;
+            const Qt::ArrowType arrow = lies ? (is_back ? Qt::LeftArrow : Qt::RightArrow) : (is_back ? Qt::UpArrow : Qt::DownArrow);
+            PaintStepButton(painter, place(part), arrow, is_enabled, is_down(part));
+        }
+        if (bar.minimum == bar.maximum) return;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(is_down(SC_ScrollBarSlider) ? kAccent : is_enabled ? kBoxEdge : kOutline);
+        painter.drawRoundedRect(place(SC_ScrollBarSlider).adjusted(3, 3, -3, -3), kRounded, kRounded);
     }
 
     static bool IsScaled(const QWidget* widget) { return widget && widget->objectName() == kScaledRange; }

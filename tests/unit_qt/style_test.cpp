@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyle>
 
 #include "platform/qt/look.h"
@@ -40,6 +41,24 @@ TEST_F(StyleTest, ABoxWithAListIsFlatToo) {
     QComboBox box;
     box.resize(200, 30);
     EXPECT_EQ(ColoursDown(box, 100), QList<QColor>{Qt::white});
+}
+
+TEST_F(StyleTest, AScrollBarIsFlatAndItsHandleStandsOut) {
+    QScrollBar bar(Qt::Horizontal);
+    bar.resize(200, 30);
+    bar.setRange(0, 100);
+    bar.setPageStep(100);  // the handle takes the left half
+    EXPECT_EQ(ColoursDown(bar, 60), QList<QColor>{kBoxEdge});
+    EXPECT_EQ(ColoursDown(bar, 140), QList<QColor>{ToQt(kFormColour)});
+    bar.setEnabled(false);
+    EXPECT_EQ(ColoursDown(bar, 60), QList<QColor>{kOutline});
+}
+
+TEST_F(StyleTest, AScrollBarWithNothingToScrollHasNoHandle) {
+    QScrollBar bar(Qt::Vertical);
+    bar.resize(30, 200);
+    bar.setRange(0, 0);
+    EXPECT_EQ(bar.grab().toImage().pixelColor(15, 100), ToQt(kFormColour));
 }
 
 TEST_F(StyleTest, SignsAreDrawnInTheColoursOfTheProgramAtEverySize) {
