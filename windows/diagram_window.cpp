@@ -18,6 +18,7 @@ constexpr int kPictureTop = kNamesTop + kNamesHeight;
 constexpr int kPictureHeight = 4560;
 constexpr int kBelow = kPictureTop + kPictureHeight;
 constexpr int kStatusHeight = 180;
+constexpr int kSampleNames = 1;  // a size group
 
 constexpr Style kDrawn{.tab_stop = false};
 constexpr Style kDrawnOnGround{.back = kFormColour, .tab_stop = false};
@@ -56,6 +57,7 @@ void DiagramWindow::LayControls() {
         {Check1, "Check1", &Frame3, {30, 0, kSelectorWidth - 30, 240}, "", kPlain, "Line of the selected sample stays"},
         {Combo2, "Combo2", &Frame3, {0, 255, kSelectorWidth, 330}, "", kPlain, "Selected sample"},
     });
+    Check1.size_group = Combo2.size_group = kSampleNames;
     Slider2.SetRange(0, 10);
     Slider2.SetSteps(1, 1);
     Slider2.SetValue(5);

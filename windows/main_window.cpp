@@ -28,7 +28,7 @@ constexpr int kHeadingTop = 60;  // of a column, in it
 constexpr int kHeadingHeight = 260;
 constexpr int kCommandTop = 7520;
 
-enum SizeGroup { kNamesOfBank = 1, kTotalNames = kNamesOfBank + kSlots / kKeys, kParamNames };
+enum SizeGroup { kNamesOfBank = 1, kTotalNames = kNamesOfBank + kSlots / kKeys, kParamNames, kSampleNames };
 }  // namespace
 
 MainWindow::MainWindow() : Window("frmMain", "Marlbrook 2.7.5", 11400, 7980) {
@@ -108,6 +108,7 @@ void MainWindow::LayColumns() {
         {Frame4, "Frame4", nullptr, {5640, kColumnTop, 3420, kColumnHeight}, "", kPlain, "Additional info"},
         {Label12, "Label12", &Frame4, {80, kHeadingTop, 3260, kHeadingHeight}, "Additional info", kQuiet},
     });
+    Text1[0].size_group = Combo2.size_group = kSampleNames;
     Text4.multiline = true;
     for (TextBox& total : Text3) total.centred = true;
     for (Label& name : Label2) name.size_group = kTotalNames;

@@ -3,12 +3,14 @@
 #include <set>
 #include <span>
 
+#include "diagram/open_diagram.h"
 #include "platform/qt/look.h"
 #include "platform/qt/window_widget.h"
 #include "platform/user.h"
 #include "session/state/sheet_state.h"
 #include "unit_qt/on_screen_test.h"
 #include "unit_qt/painted_words.h"
+#include "windows/diagram_window.h"
 #include "windows/information_windows.h"
 #include "windows/main_window.h"
 #include "windows/next_window.h"
@@ -120,6 +122,29 @@ TEST_F(SizeGroupTest, SentencesOfAboutAreOfOneSize) {
     Do([] { CloseWindow(frmAboutMB1); });
     Do([] { ClickControl(frmMain.mnuAboutDX1); });
     EXPECT_EQ(SizesOf({&frmAboutDX1.Label1[1], &frmAboutDX1.Label1[2]}).size(), 1u);
+}
+
+// Wide enough to be set smaller beside the arrow of a list alone.
+constexpr const char* kWideSample = "Глубина 12,5";
+
+TEST_F(SizeGroupTest, TheSampleAndTheListOfSamplesAreOfOneSize) {
+    Do([] { frmMain.Text1[0].SetText(kWideSample); });
+    Do([] { frmMain.Combo2.SetText(kWideSample); });
+    const std::set<int> sizes = SizesOf({&frmMain.Text1[0], &frmMain.Combo2});
+    EXPECT_EQ(sizes.size(), 1u);
+    EXPECT_GE(*sizes.begin(), kLeastPixels);
+    EXPECT_EQ(WordsOf(frmMain.Combo2).Text(), QString(kWideSample).remove(u' '));
+}
+
+TEST_F(SizeGroupTest, TheSampleBesideADiagramIsOfOneSize) {
+    Do([] {
+        SampleCount = 2;
+        SampleTable[kSampleName][1] = Any(kWideSample);
+    });
+    Do(LaunchDiagram);
+    EXPECT_EQ(frmDiagram.Combo2.Text(), kWideSample);
+    EXPECT_EQ(frmDiagram.Check1.Caption(), kWideSample);
+    EXPECT_EQ(SizesOf({&frmDiagram.Check1, &frmDiagram.Combo2}).size(), 1u);
 }
 
 class Repaints : public QObject {
