@@ -21,6 +21,8 @@ constexpr QColor kButtonFace{0xfb, 0xfc, 0xfd};
 constexpr QColor kRestingBox{0xe4, 0xe8, 0xeb};    // a white box that takes no text now
 constexpr QColor kRestingWords{0x6c, 0x74, 0x7c};  // captions of what cannot be used now
 
+constexpr int kTabBehind = 107;  // percent: QColor::darker of its ground makes a tab that is not in front
+
 inline constexpr const char* kScaledRange = "scaled range";  // the name of sliders and scroll bars that are drawn in the window's size
 
 QColor ToQt(Colour colour);

@@ -88,7 +88,7 @@ private:
     void PaintTab(QPainter& painter, int tab) {
         const bool front = tab == tabs_.Tab();
         const QRectF place = TabRect(tab).adjusted(0, front ? 0 : 2, 0, 0);
-        painter.fillRect(place, front ? ToQt(tabs_.BackColor()) : ToQt(tabs_.BackColor()).darker(107));
+        painter.fillRect(place, front ? ToQt(tabs_.BackColor()) : ToQt(tabs_.BackColor()).darker(kTabBehind));
         painter.fillRect(QRectF(place.left(), place.top(), place.width(), 1), kOutline);
         painter.fillRect(QRectF(place.left(), place.top(), 1, place.height()), kOutline);
         painter.fillRect(QRectF(place.right() - 1, place.top(), 1, place.height()), kOutline);
