@@ -34,6 +34,9 @@ if ! FONTCONFIG_FILE=$work/fonts.conf QT_QPA_PLATFORM=offscreen "$driver" --wind
     Fail "docs/pictures.drive did not play as it should"
 fi
 
+FONTCONFIG_FILE=$work/fonts.conf MARLBROOK_BIN=$(dirname "$(readlink -f "$driver")") /usr/bin/python3 -W ignore "$docs/about_picture.py" ||
+    Fail "about_picture.py made no picture of About"
+
 DrawFigure() {  # PICTURE OPTION...
     FONTCONFIG_FILE=$work/fonts.conf "$figure" "$docs/manual/lake_core.csv" --no-tables --output "$work" --png 96 "${@:2}"
     mv "$work/lake_core.png" "$docs/pictures/$1"

@@ -65,9 +65,16 @@ class CaptionsTest(unittest.TestCase):
                         self.assertIn(caption, pages[window].bold())
 
 
+def pictures_taken():
+    """(window, picture): by the script that the driver plays, and of the program itself."""
+    by_driver, of_program = [(manual.TOP / "docs" / name).read_text(encoding="utf-8") for name in ("pictures.drive", "about_picture.py")]
+    return (re.findall(r"^image (\w+) \./pictures/(\S+)", by_driver, re.M)
+            + [("frmAboutMB1", picture) for picture in re.findall(r'"pictures/(\S+)"', of_program)])
+
+
 class PagesTest(unittest.TestCase):
     def test_each_window_has_one_page_with_its_picture(self):
-        taken = re.findall(r"^image (\w+) \./pictures/(\S+)", (manual.TOP / "docs" / "pictures.drive").read_text(encoding="utf-8"), re.M)
+        taken = pictures_taken()
         pages = [(window, page) for page in manual.pages() for window in page.windows()]
         self.assertEqual(sorted(window for window, _ in pages), sorted(program.controls()))
         for window, page in pages:
