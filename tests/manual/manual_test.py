@@ -68,7 +68,7 @@ class CaptionsTest(unittest.TestCase):
 def pictures_taken():
     """(window, picture): by the script that the driver plays, and of the program itself."""
     by_driver, of_program = [(manual.TOP / "docs" / name).read_text(encoding="utf-8") for name in ("pictures.drive", "about_picture.py")]
-    return (re.findall(r"^image (\w+) \./pictures/(\S+)", by_driver, re.M)
+    return (re.findall(r"^image (\w+)(?:\.\w+)? \./pictures/(\S+)", by_driver, re.M)
             + [("frmAboutMB1", picture) for picture in re.findall(r'"pictures/(\S+)"', of_program)])
 
 
