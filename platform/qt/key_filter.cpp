@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMenu>
+#include <QMenuBar>
 #include <utility>
 #include <vector>
 
@@ -123,6 +123,7 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     auto* const top = static_cast<QWidget*>(watched)->window();
     const bool is_popup = top->windowType() == Qt::Popup;
     if (is_popup && top->isVisible()) return HearInPopup(*top, key);
+    if (QApplication::activePopupWidget() && qobject_cast<QMenuBar*>(watched)) return false;  // of a menu that goes on to the next one
     auto* const widget = dynamic_cast<WindowWidget*>(top);
     if (!widget && !is_popup) return !top->isVisible() && KeepLate(key);
     key.accept();

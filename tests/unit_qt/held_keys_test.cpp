@@ -76,6 +76,22 @@ TEST_F(HeldKeysTest, ACounterKeyCountsAtEachRepeat) {
     EXPECT_EQ(Counts[1][1], 4);
 }
 
+// A menu hands the arrow to the bar it hangs from.
+TEST_F(HeldKeysTest, AnArrowInAMenuOpensTheNextOneAndCountsNothing) {
+    constexpr int kRight = 39;
+    BeginCounting();
+    KeySettings[1][kKeyCode] = kRight;
+    MenuView& menus = renderer_.WidgetOf(frmMain)->Menus();
+    ASSERT_TRUE(menus.OpenByAccessKey(u'T'));
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent arrow(type, Qt::Key_Right, Qt::NoModifier);
+        QApplication::sendEvent(QApplication::activePopupWidget()->windowHandle(), &arrow);
+    }
+    EXPECT_EQ(QApplication::activePopupWidget(), menus.MenuOf(frmMain.mnuDiagram));
+    EXPECT_EQ(Counts[1][1], 0);
+    while (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
+}
+
 TEST_F(HeldKeysTest, ARepeatReachesNobodyInAnotherWindow) {
     PressQ(frmNext);
     BeginCounting();
