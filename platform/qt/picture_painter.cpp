@@ -216,14 +216,19 @@ void PaintOperations(QPainter& painter, std::span<const DrawOperation> operation
 }
 
 QImage CopyOf(const PictureBox& picture) {
-    constexpr double kTimes = 3, kAcross = 1600;
+    constexpr double kTimes = 3, kAcross = 1600, kPixelsPerMetre = 96 / 0.0254;
     const QSizeF of_program = QSizeF(picture.Width(), picture.Height()) / kTwipsPerPixel;
     const double times = std::max(kTimes, kAcross / of_program.width());
     QImage copy((of_program * times).toSize(), QImage::Format_RGB32);
     copy.fill(ToQt(picture.BackColor()));
-    QPainter painter(&copy);
-    PaintOperations(painter, picture.Operations(),
-                    {QSizeF(copy.size()), times, static_cast<double>(picture.Width()) / kNamedWidth, qRound(times)});
+    {
+        QPainter painter(&copy);
+        PaintOperations(painter, picture.Operations(),
+                        {QSizeF(copy.size()), times, static_cast<double>(picture.Width()) / kNamedWidth, qRound(times)});
+    }
+    const int dots_per_metre = qRound(times * kPixelsPerMetre);  // a text program sets it as large as the window has it, not by its dots
+    copy.setDotsPerMeterX(dots_per_metre);
+    copy.setDotsPerMeterY(dots_per_metre);
     return copy;
 }
 

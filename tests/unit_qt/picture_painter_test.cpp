@@ -139,6 +139,7 @@ TEST_F(PicturePainterTest, ACopyIsThreeTimesAsLargeAndWideEnoughToPrint) {
         picture_.Line(0, 30, kWidth, 30, kRed);
         const QImage copy = CopyOf(picture_);
         EXPECT_EQ(copy.size(), (QSizeF(width, 40) * times).toSize());
+        EXPECT_NEAR(copy.widthMM(), width * 25.4 / 96, 0.5) << "on paper";
         int inked = 0;
         for (int column = 0; column < copy.width(); ++column) inked += copy.pixelColor(column, copy.height() / 4) == Qt::black;
         EXPECT_EQ(inked, qRound(times)) << "lines in proportion";
