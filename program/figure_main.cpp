@@ -73,7 +73,7 @@ int DrawSheet(const std::string& sheet, const FigureArguments& arguments) {
         AddFigure(files, stem, core, arguments);
         std::vector<std::string> remarks;
         if (arguments.has_tables) remarks = AddTables(files, stem, core, arguments);
-        WriteTogether(files);
+        WriteTogether(files, {});
         for (const std::string& remark : remarks) TellFault(sheet + ": " + remark);
         return EXIT_SUCCESS;
     } catch (const FigureFault& fault) {

@@ -371,6 +371,18 @@ class FilesTest(unittest.TestCase):
         self.assertEqual(done.returncode, 2)
         self.assertFalse((self.folder / "figures").exists())
 
+    def test_a_folder_in_the_way_leaves_the_files_before_it(self):
+        sheet = self.copy("core.csv", rows_of(SHEET))
+        (self.folder / "core.svg").mkdir()
+        done = run(sheet)
+        self.assertEqual(done.returncode, 1)
+        self.assertRegex(done.stderr, r"\A[^\n]*core\.svg: it is a folder\n\Z")
+        self.assertEqual(self.left_in_folder(), ["core.csv", "core.svg"])
+
+    def test_all_folders_on_the_way_are_made(self):
+        draw(self.folder / "a/b", SHEET, "--no-tables")
+        self.assertEqual(self.left_in_folder(), ["a", "a/b", "a/b/lake_core.pdf", "a/b/lake_core.svg"])
+
     def test_what_cannot_be_written_leaves_the_files_before_it(self):
         sheet = self.copy("core.csv", rows_of(SHEET))
         (self.folder / "core.svg").write_text("before")
