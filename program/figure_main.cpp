@@ -28,6 +28,10 @@ std::string Stem(const std::string& sheet, const std::string& folder) {
     return folder + "/" + path.substr(path.find_last_of("/\\") + 1);
 }
 
+std::string TablePath(const std::string& stem, const std::string& name) {
+    return stem + "_tables/" + name;
+}
+
 void AddFigure(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
     const PageFiles toolkit(arguments.font);
     FigureOptions wide = arguments.figure;
@@ -56,8 +60,17 @@ std::vector<std::string> AddTables(FileTexts& files, const std::string& stem, co
     TableOptions options = arguments.tables;
     TakeUpColumns(TaxonColumns(core, arguments.figure), options.scripts);
     Tables tables = TablesOf(core, options);
-    for (NamedText& table : tables.files) files[stem + "_tables/" + table.name] = std::move(table.text);
+    for (NamedText& table : tables.files) files[TablePath(stem, table.name)] = std::move(table.text);
     return std::move(tables.remarks);
+}
+
+// Tables of an earlier call that this one does not make, beside new ones that may be of another marker. Scripts stay: their users change
+// them.
+std::vector<std::string> OutdatedTables(const FileTexts& files, const std::string& stem) {
+    std::vector<std::string> outdated;
+    for (const char* name : {"concentrations.csv", "influx.csv"})
+        if (!files.contains(TablePath(stem, name))) outdated.push_back(TablePath(stem, name));
+    return outdated;
 }
 
 int Complain(const std::string& sheet, const std::string& fault, int status) {
@@ -73,7 +86,7 @@ int DrawSheet(const std::string& sheet, const FigureArguments& arguments) {
         AddFigure(files, stem, core, arguments);
         std::vector<std::string> remarks;
         if (arguments.has_tables) remarks = AddTables(files, stem, core, arguments);
-        WriteTogether(files, {});
+        WriteTogether(files, arguments.has_tables ? OutdatedTables(files, stem) : std::vector<std::string>());
         for (const std::string& remark : remarks) TellFault(sheet + ": " + remark);
         return EXIT_SUCCESS;
     } catch (const FigureFault& fault) {

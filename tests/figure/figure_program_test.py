@@ -383,6 +383,18 @@ class FilesTest(unittest.TestCase):
         draw(self.folder / "a/b", SHEET, "--no-tables")
         self.assertEqual(self.left_in_folder(), ["a", "a/b", "a/b/lake_core.pdf", "a/b/lake_core.svg"])
 
+    def test_tables_that_a_call_does_not_make_go_and_what_is_the_users_stays(self):
+        draw(self.folder, SHEET, "--marker", "Lycopodium", "--added", "2*18583", "--volume", "1", "--rate", "0.1", "--r", "--png", "50")
+        tables = self.folder / "lake_core_tables"
+        (tables / "notes.csv").write_text("mine")
+        (tables / "figure.R").write_text("changed")
+        draw(self.folder, SHEET, "--no-tables")
+        self.assertTrue((tables / "influx.csv").exists(), "the figure alone")
+        draw(self.folder, SHEET)
+        self.assertFalse({"concentrations.csv", "influx.csv"} & {path.name for path in tables.iterdir()})
+        self.assertEqual([(tables / name).read_text() for name in ("notes.csv", "figure.R")], ["mine", "changed"])
+        self.assertTrue((self.folder / "lake_core.png").exists())
+
     def test_what_cannot_be_written_leaves_the_files_before_it(self):
         sheet = self.copy("core.csv", rows_of(SHEET))
         (self.folder / "core.svg").write_text("before")
