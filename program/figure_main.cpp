@@ -1,5 +1,6 @@
 // marlbrook-figure: from the sheet of a counted core to its figure and its tables.
 #include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
@@ -19,6 +20,7 @@
 #include "program/figure_jobs.h"
 
 namespace {
+namespace fs = std::filesystem;
 constexpr int kBadInput = 2;
 
 // "/home/ann/core" of "/home/ann/core.csv", or in the folder that was named.
@@ -95,11 +97,20 @@ int DrawSheet(const std::string& sheet, const FigureArguments& arguments) {
         return Complain(sheet, fault.what(), EXIT_FAILURE);
     }
 }
+
+// The same however the way to the folder is written.
+fs::path UniquePath(const std::string& path) {
+    std::error_code error;
+    const fs::path absolute = fs::absolute(DiskPath(path), error);
+    const fs::path folder = fs::weakly_canonical(absolute.parent_path(), error);
+    return error ? absolute : folder / absolute.filename();
+}
+
 // Two that would write the same files; "" if there are none.
 std::string Rivals(const FigureArguments& arguments) {
-    std::map<std::string, std::string> sheets;
+    std::map<fs::path, std::string> sheets;
     for (const std::string& sheet : arguments.sheets)
-        if (const auto [other, is_new] = sheets.emplace(Stem(sheet, arguments.folder), sheet); !is_new)
+        if (const auto [other, is_new] = sheets.emplace(UniquePath(Stem(sheet, arguments.folder)), sheet); !is_new)
             return sheet + ": its figure would take the place of that of " + other->second;
     return "";
 }

@@ -371,6 +371,14 @@ class FilesTest(unittest.TestCase):
         self.assertEqual(done.returncode, 2)
         self.assertFalse((self.folder / "figures").exists())
 
+    def test_one_sheet_by_two_ways_is_one_sheet(self):
+        sheet = self.copy("core.csv", rows_of(SHEET))
+        (self.folder / "link").symlink_to(self.folder)
+        for other in (f"{self.folder}/./core.csv", self.folder / "link/core.csv", os.path.relpath(sheet)):
+            done = run(sheet, other)
+            self.assertEqual((done.returncode, self.left_in_folder()), (2, ["core.csv", "link"]), other)
+            self.assertIn("would take the place", done.stderr)
+
     def test_a_folder_in_the_way_leaves_the_files_before_it(self):
         sheet = self.copy("core.csv", rows_of(SHEET))
         (self.folder / "core.svg").mkdir()
