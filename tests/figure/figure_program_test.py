@@ -167,6 +167,12 @@ class SvgTest(unittest.TestCase):
             self.assertEqual(name.italic, not taxon.endswith("ae"), taxon)
             self.assertEqual(name.angle, 90, taxon)
 
+    def test_letters_have_a_font_of_their_kind_where_theirs_is_missing(self):
+        svg = (Path(self.folder.name) / "lake_core.svg").read_text(encoding="utf-8")
+        fonts = re.findall(r'font-family="(DejaVu Sans[^"]*)"', svg)
+        self.assertGreater(len(fonts), 23)
+        self.assertEqual(set(fonts), {"DejaVu Sans, sans-serif"})
+
     def test_the_tree_spans_the_samples(self):
         left = self.left_of("Cluster tree")
         brackets = [line for line in self.drawing.lines if len(line.points) == 4 and line.left >= left - 0.01]

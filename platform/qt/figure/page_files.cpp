@@ -104,6 +104,12 @@ private:
     std::function<QFont(const Lettering&)> font_;
 };
 
+// Where a viewer does not have the font it then takes another of the kind.
+QByteArray WithKindOfFont(QByteArray svg, const QString& family) {
+    const QByteArray named = "font-family=\"" + family.toUtf8();
+    return svg.replace(named + '"', named + ", sans-serif\"");
+}
+
 QSizeF SizeOf(const Page& page) {
     return {page.width, page.height};
 }
@@ -148,7 +154,7 @@ std::string PageFiles::Svg(const Page& page, const std::string& title) const {
     const PagePainter paint(painter, 1, Letters::Real, *this, [this](const Lettering& letters) { return FontOf(letters); });
     for (const PageItem& item : page.items) std::visit(paint, item);
     painter.end();
-    return bytes.data().toStdString();
+    return WithKindOfFont(bytes.data(), FontOf({}).family()).toStdString();
 }
 
 std::string PageFiles::Pdf(const std::vector<Page>& pages, const std::string& title) const {
