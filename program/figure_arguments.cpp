@@ -2,9 +2,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <map>
 #include <utility>
 
+#include "platform/text.h"
 #include "program/figure_jobs.h"
 
 namespace {
@@ -46,6 +48,22 @@ void AddWord(CLI::App& app, const std::string& name, std::string& word, const Wo
     app.add_option(name, word, text + " (" + word + ")")->check(CLI::IsMember(words))->option_text(list)->take_last();
 }
 
+// The library's own check of a range lets NaN through.
+CLI::Validator Between(double least, double most) {
+    return CLI::Validator(
+        [least, most](const std::string& text) {
+            const std::optional<double> number = AsNumber(text);
+            if (number && *number >= least && *number <= most) return std::string();
+            return "takes a number from " + NumberText(least) + " to " + NumberText(most) + ", not " + text;
+        },
+        "");
+}
+
+void AddNumber(CLI::App& app, const std::string& name, double& number, CLI::Validator range, const std::string& kind,
+               const std::string& text) {
+    app.add_option(name, number, text)->check(std::move(range))->option_text(kind);
+}
+
 void AddNames(CLI::App& app, const std::string& name, std::vector<std::string>& names, const std::string& text) {
     app.add_option(name, names, text)->delimiter(',')->allow_extra_args(false)->option_text("NAME,...");
 }
@@ -57,13 +75,10 @@ void AddText(CLI::App& app, const std::string& name, std::string& value, const s
 void AddDrawing(CLI::App& app, FigureArguments& arguments, Raw& raw) {
     FigureOptions& figure = arguments.figure;
     AddWord(app, "--style", raw.style, kStyles, "how percentages are drawn");
-    app.add_option("--exaggerate", figure.exaggeration, "a pale curve behind, so many times as wide")
-        ->check(CLI::Range(1.0, 1000.0))
-        ->option_text("TIMES");
+    AddNumber(app, "--exaggerate", figure.exaggeration, Between(1, 1000), "TIMES",
+              "a pale curve behind, so many times as wide");
     AddNames(app, "--order", figure.order, "the taxa that come first");
-    app.add_option("--min", figure.least_percent, "leave out the taxa that never reach it")
-        ->check(CLI::Range(0.0, 100.0))
-        ->option_text("PERCENT");
+    AddNumber(app, "--min", figure.least_percent, Between(0, 100), "PERCENT", "leave out the taxa that never reach it");
     app.add_option("--rare", raw.rare, "draw those as dots")->check(CLI::IsMember({"dots", "none"}))->option_text("dots");
     AddNames(app, "--upright", figure.upright, "names not to be set in italics");
     AddNames(app, "--italic", figure.italic, "names to be set in italics");
@@ -111,7 +126,9 @@ void AddFiles(CLI::App& app, FigureArguments& arguments, Raw& raw) {
 std::optional<std::size_t> NumberOfZones(const std::string& text) {
     if (text == "auto") return std::nullopt;
     std::size_t zones = 0;
-    if (!CLI::detail::lexical_cast(text, zones) || zones == 0) throw CLI::ValidationError("--zones", "takes a number of zones or auto");
+    const char* const end = text.data() + text.size();
+    const auto [read, error] = std::from_chars(text.data(), end, zones);
+    if (error != std::errc() || read != end || zones == 0) throw CLI::ValidationError("--zones", "takes a number of zones or auto");
     return zones;
 }
 
@@ -122,14 +139,12 @@ void ReadPage(const std::string& text, FigureOptions& figure) {
         return;
     }
     constexpr double kLeast = 50, kMost = 5000;  // millimetres
-    const std::size_t cross = text.find('x');
-    double width = 0, height = 0;
-    const bool is_size = cross != std::string::npos && CLI::detail::lexical_cast(text.substr(0, cross), width) &&
-                         CLI::detail::lexical_cast(text.substr(cross + 1), height);
-    if (!is_size || std::min(width, height) < kLeast || std::max(width, height) > kMost)
+    const std::size_t cross = std::min(text.find('x'), text.size());
+    const std::optional<double> width = AsNumber(text.substr(0, cross)), height = AsNumber(text.substr(std::min(cross + 1, text.size())));
+    if (!width || !height || std::min(*width, *height) < kLeast || std::max(*width, *height) > kMost)
         throw CLI::ValidationError("--page", "takes A4, A4-upright or millimetres such as 297x210, 50 to 5000 each");
-    figure.page_width = width * kPointsPerMillimetre;
-    figure.page_height = height * kPointsPerMillimetre;
+    figure.page_width = *width * kPointsPerMillimetre;
+    figure.page_height = *height * kPointsPerMillimetre;
 }
 
 // What the marker's amounts alone make use of.

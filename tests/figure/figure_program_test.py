@@ -310,6 +310,14 @@ class FilesTest(unittest.TestCase):
         for way in ((), ("--added", "2*18583", "--volume", "1")):
             self.assert_refused(self.copy("two.csv", rows), 'more than one taxon is named "Lycopodium"', "--marker", "Lycopodium", *way)
 
+    def test_a_number_out_of_its_range_leaves_no_file(self):
+        sheet = self.copy("core.csv", rows_of(SHEET))
+        for option, *wrong in (("--exaggerate", "nan", "0.5", "many"), ("--min", "nan", "-1", "101"), ("--page", "nanx100", "100xnan", "100", "1x100"),
+                               ("--zones", "-1", "0", "1.5", "99999999999999999999")):
+            for value in wrong:
+                with self.subTest(option=option, value=value):
+                    self.assert_refused(sheet, f"{option}: takes ", option, value)
+
     def test_an_option_that_the_sheet_cannot_follow_leaves_no_file(self):
         sheet = self.copy("core.csv", rows_of(SHEET))
         self.assert_refused(sheet, "Lykopodium", "--marker", "Lykopodium")
