@@ -185,6 +185,9 @@ void TakeUpZones(const Raw& raw, FigureArguments& arguments) {
 void TakeUpTables(const Raw& raw, FigureArguments& arguments) {
     const FigureOptions& figure = arguments.figure;
     TableOptions& tables = arguments.tables;
+    arguments.has_tables = !raw.no_tables;
+    if (raw.no_tables && (tables.scripts.r || tables.scripts.python))
+        throw CLI::ValidationError(tables.scripts.r ? "--r" : "--python", "draws from the tables, so it does not go with --no-tables");
     tables.basis = figure.basis;
     tables.age = figure.age;
     tables.depth_unit = figure.depth_unit;
@@ -203,7 +206,6 @@ void TakeUp(const Raw& raw, FigureArguments& arguments) {
     arguments.figure.tree = kTrees.at(raw.tree);
     arguments.figure.rare_as_dots = raw.rare == "dots";
     arguments.figure.summary = !raw.no_summary;
-    arguments.has_tables = !raw.no_tables;
     TakeUpMarker(raw, arguments);
     TakeUpZones(raw, arguments);
     TakeUpTables(raw, arguments);

@@ -318,6 +318,11 @@ class FilesTest(unittest.TestCase):
                 with self.subTest(option=option, value=value):
                     self.assert_refused(sheet, f"{option}: takes ", option, value)
 
+    def test_scripts_are_refused_without_their_tables(self):
+        sheet = self.copy("core.csv", rows_of(SHEET))
+        for script in ("--r", "--python"):
+            self.assert_refused(sheet, script + ": ", "--no-tables", script)
+
     def test_an_option_that_the_sheet_cannot_follow_leaves_no_file(self):
         sheet = self.copy("core.csv", rows_of(SHEET))
         self.assert_refused(sheet, "Lykopodium", "--marker", "Lykopodium")
