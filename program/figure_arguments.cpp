@@ -36,6 +36,7 @@ const Words<TreeKind> kTrees = {{"counter", TreeKind::Counter}, {"grimm", TreeKi
 struct Raw {
     std::string style = "bar", basis = "all", tree = "counter", rare = "none";
     std::string zones, zone_names, page = "A4";
+    std::vector<std::string> order, upright, italic;  // lists of names
     MarkerOptions marker;
     AccumulationOptions accumulation;
     bool concentration = false, proportions = false, no_summary = false, no_tables = false;
@@ -64,8 +65,8 @@ void AddNumber(CLI::App& app, const std::string& name, double& number, CLI::Vali
     app.add_option(name, number, text)->check(std::move(range))->option_text(kind);
 }
 
-void AddNames(CLI::App& app, const std::string& name, std::vector<std::string>& names, const std::string& text) {
-    app.add_option(name, names, text)->delimiter(',')->allow_extra_args(false)->option_text("NAME,...");
+void AddNames(CLI::App& app, const std::string& name, std::vector<std::string>& lists, const std::string& text) {
+    app.add_option(name, lists, text)->allow_extra_args(false)->option_text("NAME,...");
 }
 
 void AddText(CLI::App& app, const std::string& name, std::string& value, const std::string& kind, const std::string& text) {
@@ -77,11 +78,11 @@ void AddDrawing(CLI::App& app, FigureArguments& arguments, Raw& raw) {
     AddWord(app, "--style", raw.style, kStyles, "how percentages are drawn");
     AddNumber(app, "--exaggerate", figure.exaggeration, Between(1, 1000), "TIMES",
               "a pale curve behind, so many times as wide");
-    AddNames(app, "--order", figure.order, "the taxa that come first");
+    AddNames(app, "--order", raw.order, "the taxa that come first; a comma in a name is \\,");
     AddNumber(app, "--min", figure.least_percent, Between(0, 100), "PERCENT", "leave out the taxa that never reach it");
     app.add_option("--rare", raw.rare, "draw those as dots")->check(CLI::IsMember({"dots", "none"}))->option_text("dots");
-    AddNames(app, "--upright", figure.upright, "names not to be set in italics");
-    AddNames(app, "--italic", figure.italic, "names to be set in italics");
+    AddNames(app, "--upright", raw.upright, "names not to be set in italics");
+    AddNames(app, "--italic", raw.italic, "names to be set in italics");
     app.add_option("--names", figure.name_angle, "degrees by which names rise (90)")->check(CLI::IsMember({45, 90}))->option_text("45|90");
     app.add_flag("--no-summary", raw.no_summary, "without the column of the groups");
     AddText(app, "--title", figure.title, "TEXT", "above the figure");
@@ -121,6 +122,27 @@ void AddFiles(CLI::App& app, FigureArguments& arguments, Raw& raw) {
     app.add_flag("--no-tables", raw.no_tables, "the figure alone");
     app.add_flag("--r", arguments.tables.scripts.r, "an R script too that draws from the tables");
     app.add_flag("--python", arguments.tables.scripts.python, "the same in Python");
+}
+
+// Of "Pinus\, Haploxylon, Betula": a comma parts two names unless it has the mark of one that belongs to its name.
+void AddNamesOf(const std::string& list, std::vector<std::string>& names) {
+    std::string name;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const bool is_marked = list[i] == '\\' && i + 1 < list.size() && list[i + 1] == ',';
+        if (is_marked) ++i;
+        if (list[i] == ',' && !is_marked)
+            names.push_back(std::exchange(name, ""));
+        else
+            name += list[i];
+    }
+    names.push_back(name);
+}
+
+std::vector<std::string> NamesOf(const std::vector<std::string>& lists) {
+    std::vector<std::string> names;
+    for (const std::string& list : lists) AddNamesOf(list, names);
+    for (std::string& name : names) CLI::detail::trim(name);
+    return names;
 }
 
 std::optional<std::size_t> NumberOfZones(const std::string& text) {
@@ -206,6 +228,9 @@ void TakeUp(const Raw& raw, FigureArguments& arguments) {
     arguments.figure.tree = kTrees.at(raw.tree);
     arguments.figure.rare_as_dots = raw.rare == "dots";
     arguments.figure.summary = !raw.no_summary;
+    arguments.figure.order = NamesOf(raw.order);
+    arguments.figure.upright = NamesOf(raw.upright);
+    arguments.figure.italic = NamesOf(raw.italic);
     TakeUpMarker(raw, arguments);
     TakeUpZones(raw, arguments);
     TakeUpTables(raw, arguments);

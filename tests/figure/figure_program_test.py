@@ -262,6 +262,16 @@ class FilesTest(unittest.TestCase):
         self.assertEqual(herbs, [row[3] for row in rows if row[2] == "1"])
         self.assertEqual(set(others), {"Lycopodium", "Pediastrum"})
 
+    def test_lists_of_names_take_blanks_and_commas(self):
+        rows = rows_of(SHEET)
+        pinus = next(row for row in rows if row[3] == "Pinus")
+        pinus[3] = "Pinus, Haploxylon"
+        sheet = self.copy("core.csv", rows)
+        draw(self.folder, sheet, "--python", "--order", r"Betula , Pinus\, Haploxylon", "--order", "Poaceae", "--upright", r"Pinus\, Haploxylon")
+        script = (self.folder / "core_tables/figure.py").read_text()
+        self.assertRegex(script, r'\nTAXA = \["Betula", "Pinus, Haploxylon", "Poaceae", ')
+        self.assertNotIn("Pinus, Haploxylon", re.search(r"\nITALIC = \[(.*?)\]\n", script, re.DOTALL).group(1))
+
     def test_a_picture_has_its_dots(self):
         draw(self.folder, SHEET, "--no-tables", "--png", 100)
         head = (self.folder / "lake_core.png").read_bytes()[16:24]
