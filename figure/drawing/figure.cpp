@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
@@ -119,9 +120,10 @@ private:
         Scales scales(pen, plot_bottom_);
         for (const PlacedColumn& placed : columns) DrawColumn(pen, placed, scales);
         scales.WriteNumbers();
-        if (HasHeadings()) DrawHeadings(pen, core_, Headings(columns), plot_top_ - HeightOfTaxa() - kGap);
+        if (HasHeadings()) DrawHeadings(pen, Headings(columns, width - kMargin), plot_top_ - HeightOfTaxa() - kGap);
         if (content_.zones) DrawZones(pen, columns_left_ + columns.back().left + columns.back().width);
-        return DrawLegend(pen, core_, Remarks(), DrawnGroups(), {columns_left_, plot_bottom_ + kHeightOfScales + kLegendBelow - 3});
+        const double room = options_.one_page ? std::numeric_limits<double>::infinity() : width - kMargin - columns_left_;
+        return DrawLegend(pen, Legend(), {columns_left_, plot_bottom_ + kHeightOfScales + kLegendBelow - 3}, room);
     }
 
     // Smaller where the page is not wide enough for it.
@@ -164,18 +166,28 @@ private:
         pen.Write({at, column.name, NameLetters(column), PageText::Anchor::Start, options_.name_angle});
     }
 
-    // Names that lean have theirs further to the right.
-    std::vector<Heading> Headings(const std::vector<PlacedColumn>& columns) const {
+    // Names that lean have theirs further to the right. A heading ends where the next one begins or a name stands that is as high, at the
+    // latest at `page_end`.
+    std::vector<Heading> Headings(const std::vector<PlacedColumn>& columns, double page_end) const {
         const double begin = columns_left_ + (options_.name_angle == 90 ? 0 : HeightOfTaxa());
         std::vector<Heading> headings;
+        std::optional<Group> last;
         for (const PlacedColumn& placed : columns) {
             const std::optional<Group> group = content_.columns[placed.column].group;
-            if (!group) continue;
-            if (headings.empty() || headings.back().group != *group) headings.push_back({*group, begin + placed.left, 0});
-            headings.back().right = begin + placed.left + std::max(placed.width, kNameSize);
+            const double left = begin + placed.left;
+            const bool is_next = group && group != last;
+            if (!headings.empty() && (is_next || (!group && IsAsHighAsHeadings(placed.column))))
+                headings.back().end = std::min(headings.back().end, left);
+            if (is_next) headings.push_back({NameOf(*group), ColourOf(*group), left, left, page_end});
+            if (group) headings.back().right = std::min(left + std::max(placed.width, kNameSize), page_end);
+            if (group) last = group;
         }
         return headings;
     }
+
+    bool IsAsHighAsHeadings(std::size_t column) const { return NameRoom{{names_.widths[column]}, names_.angle}.Height() > HeightOfTaxa(); }
+
+    std::string NameOf(Group group) const { return GroupName(core_, group, options_.left_out); }
 
     // Each line, and the names that have room.
     void DrawZones(Pen& pen, double right) const {
@@ -197,19 +209,18 @@ private:
         return options_.left_out.empty() ? "all grains" : "all grains, " + options_.left_out + " among them";
     }
 
-    std::vector<std::string> Remarks() const {
-        std::vector<std::string> remarks = {"% of " + NameOfSum()};
-        if (options_.exaggeration > 0) remarks.push_back("pale: × " + RoundNumberText(options_.exaggeration));
-        return remarks;
+    std::vector<LegendEntry> Legend() const {
+        std::vector<LegendEntry> entries = {{"% of " + NameOfSum(), {}}};
+        if (options_.exaggeration > 0) entries.push_back({"pale: × " + RoundNumberText(options_.exaggeration), {}});
+        for (const Group group : kGroups)
+            if (AnyColumn([group](const Column& column) { return column.group == group; }))
+                entries.push_back({NameOf(group), ColourOf(group)});
+        return entries;
     }
 
-    std::vector<Group> DrawnGroups() const {
-        std::vector<Group> groups;
-        for (const Group group : kGroups)
-            if (std::any_of(content_.columns.begin(), content_.columns.end(),
-                            [group](const Column& column) { return column.group == group; }))
-                groups.push_back(group);
-        return groups;
+    template <class Is>
+    bool AnyColumn(Is is) const {
+        return std::any_of(content_.columns.begin(), content_.columns.end(), is);
     }
 
     const Core& core_;

@@ -1,15 +1,18 @@
 #include "figure/drawing/groups.h"
 
-#include <cstdint>
+#include <algorithm>
 #include <numeric>
 
 Group GroupOf(const Taxon& taxon) {
     return taxon.in_subtotal[0] ? Group::First : taxon.in_subtotal[1] ? Group::Second : Group::Rest;
 }
 
-std::string GroupName(const Core& core, Group group) {
+std::string GroupName(const Core& core, Group group, const std::string& left_out) {
     if (group == Group::Rest) return "Others";
-    return core.subtotals[group == Group::First ? 0 : 1];
+    if (group == Group::First) return core.subtotals[0];
+    const bool share = std::ranges::any_of(
+        core.taxa, [&](const Taxon& taxon) { return taxon.in_subtotal[0] && taxon.in_subtotal[1] && taxon.name != left_out; });
+    return (share ? "Other " : "") + core.subtotals[1];
 }
 
 Colour ColourOf(Group group) {

@@ -11,7 +11,9 @@ enum class Group { First, Second, Rest };
 constexpr Group kGroups[] = {Group::First, Group::Second, Group::Rest};
 
 Group GroupOf(const Taxon& taxon);
-std::string GroupName(const Core& core, Group group);
+
+// "Other Herbs" of a second subtotal that shares taxa with the first one, which has them. A taxon `left_out` does not count; it may be "".
+std::string GroupName(const Core& core, Group group, const std::string& left_out);
 
 // Of the palette of M. Okabe and K. Ito, whose colours the colour-blind tell apart; as greys they differ too.
 Colour ColourOf(Group group);

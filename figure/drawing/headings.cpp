@@ -1,7 +1,6 @@
 #include "figure/drawing/headings.h"
 
 #include <algorithm>
-#include <cstddef>
 
 namespace {
 constexpr Lettering kBold{kNameSize, false, true};
@@ -17,29 +16,28 @@ bool GroupsStandTogether(const std::vector<Column>& columns) {
     return met.size() > 1;
 }
 
-void DrawHeadings(Pen& pen, const Core& core, const std::vector<Heading>& headings, double y) {
-    constexpr double kLine = 1.5, kAboveLine = 3;
-    for (std::size_t i = 0; i < headings.size(); ++i) {
-        const auto& [group, left, right] = headings[i];
-        const std::string name = GroupName(core, group);
-        pen.Line({left, y}, {right, y}, kLine, ColourOf(group));
-        const bool has_room = i + 1 == headings.size() || left + pen.WidthOf(name, kBold) < headings[i + 1].left;
-        if (has_room) pen.Write({{left, y - kAboveLine}, name, kBold});
+void DrawHeadings(Pen& pen, const std::vector<Heading>& headings, double y) {
+    constexpr double kLine = 1.5, kAboveLine = 3, kRoom = 2;
+    for (const Heading& heading : headings) {
+        pen.Line({heading.left, y}, {heading.right, y}, kLine, heading.colour);
+        if (heading.left + pen.WidthOf(heading.name, kBold) + kRoom <= heading.end)
+            pen.Write({{heading.left, y - kAboveLine}, heading.name, kBold});
     }
 }
 
-double DrawLegend(Pen& pen, const Core& core, const std::vector<std::string>& remarks, const std::vector<Group>& groups, PagePoint at) {
+double DrawLegend(Pen& pen, const std::vector<LegendEntry>& entries, PagePoint at, double room) {
     constexpr Lettering kSmall{kNumberSize};
     constexpr double kGap = 12, kSquare = 0.7 * kNumberSize;
-    const auto write = [&](const std::string& text) {
-        pen.Write({at, text, kSmall});
-        at.x += pen.WidthOf(text, kSmall) + kGap;
-    };
-    for (const std::string& remark : remarks) write(remark);
-    for (const Group group : groups) {
-        pen.Rectangle(at.x, at.y - kSquare, at.x + kSquare, at.y, ColourOf(group));
-        at.x += kNumberSize;
-        write(GroupName(core, group));
+    double width = -kGap;
+    for (const LegendEntry& entry : entries) width += (entry.colour ? kNumberSize : 0) + pen.WidthOf(entry.text, kSmall) + kGap;
+    const double scale = std::min(1.0, room / width);
+    for (const auto& [text, colour] : entries) {
+        if (colour) {
+            pen.Rectangle(at.x, at.y - kSquare * scale, at.x + kSquare * scale, at.y, *colour);
+            at.x += kNumberSize * scale;
+        }
+        pen.Write({at, text, {kNumberSize * scale}});
+        at.x += (pen.WidthOf(text, kSmall) + kGap) * scale;
     }
-    return at.x - kGap;
+    return at.x - kGap * scale;
 }

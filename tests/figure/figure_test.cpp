@@ -90,6 +90,15 @@ Place PlaceOf(const PageText& text) {
     return {text.at.x - before, text.at.y - height, text.at.x - before + width, text.at.y};
 }
 
+// Short names of taxa, a long one of their last group.
+Core CoreWithALongHeading() {
+    Core core = TestCore();
+    core.subtotals[1] = "Herbs of the open land and of the shore";
+    core.taxa[1].name = "Bet";
+    core.taxa[2].name = "Poa";
+    return core;
+}
+
 TEST(FigureTest, BarsAreAsLongAsTheirPercentages) {
     const Page page = DrawWith([](FigureOptions& options) { options.summary = false; });
     const std::vector<Outline> trees = AreasOf(page, ColourOf(Group::First));
@@ -365,6 +374,45 @@ TEST(FigureTest, GroupsThatStandTogetherHaveHeadings) {
     };
     EXPECT_EQ(bold(Draw()), (Names{"Trees", "Herbs", "Others"}));
     EXPECT_TRUE(bold(DrawWith([](FigureOptions& options) { options.order = {"Pinus", "Poaceae"}; })).empty());
+}
+
+TEST(FigureTest, ASecondSubtotalThatLostTaxaToTheFirstIsNamedSo) {
+    Core core = TestCore();
+    core.taxa[1].in_subtotal[1] = true;
+    FigureOptions options;
+    options.page_width = 1500;
+    const Page page = Pages(core, options)[0];
+    EXPECT_EQ(TextsThatSay(page, "Other Herbs").size(), 2u) << "above its columns and in the legend";
+    EXPECT_FALSE(Says(page, "Herbs"));
+    options.left_out = "Betula";
+    EXPECT_TRUE(Says(Pages(core, options)[0], "Herbs")) << "no other taxon is in both";
+}
+
+TEST(FigureTest, ALongHeadingEndsBeforeTheNextNameAndThePage) {
+    for (const bool summary : {true, false}) {
+        FigureOptions options;
+        options.left_out = "Lycopodium";
+        options.summary = summary;
+        options.tree = TreeKind::None;
+        options.page_width = 400;
+        const Page page = Pages(CoreWithALongHeading(), options)[0];
+        const std::vector<PageText> texts = Drawn<PageText>(page);
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            EXPECT_LE(PlaceOf(texts[i]).right, page.width) << texts[i].text;
+            for (std::size_t j = 0; j < i; ++j)
+                EXPECT_FALSE(PlaceOf(texts[i]).Meets(PlaceOf(texts[j]))) << texts[i].text << ", " << texts[j].text;
+        }
+    }
+}
+
+TEST(FigureTest, ALongHeadingStandsWhereItHasRoom) {
+    FigureOptions options;
+    options.left_out = "Lycopodium";
+    options.tree = TreeKind::None;
+    options.summary = false;
+    options.page_width = 1000;
+    const Core core = CoreWithALongHeading();
+    EXPECT_EQ(TextsThatSay(Pages(core, options)[0], core.subtotals[1]).size(), 2u);
 }
 
 TEST(FigureTest, WhatTheCoreDoesNotHaveIsTold) {
