@@ -31,6 +31,7 @@ constexpr Lettering kNumbers{kNumberSize};
 // What is drawn, before it has its place.
 struct Content {
     std::vector<Column> columns;
+    bool has_summary = false;
     std::optional<Stratigraphy> zones;
 };
 
@@ -40,11 +41,15 @@ std::optional<Stratigraphy> ZonesOf(const Core& core, const FigureOptions& optio
 }
 
 Content ContentOf(const Core& core, const FigureOptions& options) {
-    Content content{TaxonColumns(core, options), ZonesOf(core, options)};
+    Content content{TaxonColumns(core, options), false, ZonesOf(core, options)};
     const auto add = [&](std::vector<Column> columns) {
         content.columns.insert(content.columns.end(), std::make_move_iterator(columns.begin()), std::make_move_iterator(columns.end()));
     };
-    if (options.summary) add(SummaryColumns(core, options));
+    if (options.summary) {
+        std::vector<Column> summary = SummaryColumns(core, options);
+        content.has_summary = !summary.empty();
+        add(std::move(summary));
+    }
     add(ExtraColumns(core, options));
     add(TreeColumns(core, options, content.zones ? &*content.zones : nullptr));
     if (!options.has_zones) content.zones.reset();
@@ -211,6 +216,8 @@ private:
 
     std::vector<LegendEntry> Legend() const {
         std::vector<LegendEntry> entries = {{"% of " + NameOfSum(), {}}};
+        if (content_.has_summary && (options_.basis != kBasisAll || !options_.left_out.empty()))
+            entries.push_back({"Summary: % of all grains" + (options_.left_out.empty() ? "" : " but " + options_.left_out), {}});
         if (options_.exaggeration > 0) entries.push_back({"pale: × " + RoundNumberText(options_.exaggeration), {}});
         for (const Group group : kGroups)
             if (AnyColumn([group](const Column& column) { return column.group == group; }))

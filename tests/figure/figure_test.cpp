@@ -121,6 +121,19 @@ TEST(FigureTest, PercentagesAreOfTheBasis) {
     EXPECT_TRUE(Says(page, "% of Trees"));
 }
 
+TEST(FigureTest, TheLegendTellsWhatTheSummaryIsOf) {
+    const auto draw = [](Basis basis, const char* left_out) {
+        return DrawWith([&](FigureOptions& options) {
+            options.basis = basis;
+            options.left_out = left_out;
+            options.tree = TreeKind::None;
+        });
+    };
+    EXPECT_TRUE(Says(draw(kBasisSubtotal1, ""), "Summary: % of all grains"));
+    EXPECT_TRUE(Says(draw(kBasisAll, "Lycopodium"), "Summary: % of all grains but Lycopodium"));
+    EXPECT_FALSE(Says(draw(kBasisAll, ""), "Summary: % of all grains")) << "as all other columns";
+}
+
 TEST(FigureTest, ColumnsStandAsInTheSheetWithTheTreeAtTheRight) {
     EXPECT_EQ(NamesFromTheLeft(Draw()), (Names{"Pinus", "Betula", "Poaceae", "Lycopodium", "Summary", "Cluster tree"}));
 }
