@@ -4,7 +4,6 @@
 #include <utility>
 
 namespace {
-constexpr double kRim = 0.6;
 constexpr double kDotRadius = 1.2;
 constexpr double kLeastDot = 0.5;  // percent: as in the counter, smaller values have no dot
 
@@ -41,8 +40,19 @@ double RightEnd(const ColumnPlace& place, const Curve& curve) {
     return place.left + curve.longest * curve.unit;
 }
 
+// From the axis: what a sample without neighbours has in place of a curve.
+void DrawLoneValue(Pen& pen, const ColumnPlace& place, PagePoint value, Colour colour) {
+    if (value.x > place.left) pen.Line({place.left, value.y}, value, kRim, colour);
+}
+
 void DrawLines(Pen& pen, const ColumnPlace& place, const Curve& curve, Colour colour) {
-    for (const Points& stretch : Stretches(place, curve)) pen.Lines(CutOff(stretch, RightEnd(place, curve)), kRim, colour);
+    for (const Points& stretch : Stretches(place, curve)) {
+        Points line = CutOff(stretch, RightEnd(place, curve));
+        if (line.size() == 1)
+            DrawLoneValue(pen, place, line.front(), colour);
+        else
+            pen.Lines(std::move(line), kRim, colour);
+    }
 }
 
 void DrawDots(Pen& pen, const ColumnPlace& place, const Curve& curve) {
@@ -66,6 +76,10 @@ double BarHeight(const SampleAxis& axis) {
 void DrawSilhouette(Pen& pen, const ColumnPlace& place, const Curve& curve) {
     for (const Points& stretch : Stretches(place, curve)) {
         Points rim = CutOff(stretch, RightEnd(place, curve));
+        if (rim.size() == 1) {
+            DrawLoneValue(pen, place, rim.front(), curve.colour);
+            continue;
+        }
         rim.insert(rim.begin(), {place.left, stretch.front().y});
         rim.push_back({place.left, stretch.back().y});
         pen.Area(std::move(rim), curve.colour);

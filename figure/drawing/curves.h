@@ -9,6 +9,8 @@ struct Curve {
     Colour colour;
 };
 
+constexpr double kRim = 0.6;  // points: the width of a curve's line
+
 double BarHeight(const SampleAxis& axis);  // of a sample's bar, in points: bars of neighbours do not touch
 
 void DrawCurve(Pen& pen, const ColumnPlace& place, const Curve& curve, CurveStyle style);

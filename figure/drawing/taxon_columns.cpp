@@ -129,6 +129,7 @@ void DrawGroup(Pen& pen, const ColumnPlace& place, const std::vector<std::vector
     const auto which = static_cast<std::size_t>(group);
     std::vector<PagePoint> left, right;
     const auto flush = [&] {
+        if (left.size() == 1 && left.front().x < right.front().x) pen.Line(left.front(), right.front(), kRim, ColourOf(group));
         left.insert(left.end(), right.rbegin(), right.rend());
         pen.Area(std::move(left), ColourOf(group));
         left.clear();

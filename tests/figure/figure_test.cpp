@@ -7,6 +7,7 @@
 #include <cmath>
 #include <functional>
 
+#include "figure/drawing/curves.h"
 #include "figure/drawing/groups.h"
 #include "figure/drawing/pen.h"
 #include "figure/drawn_items.h"
@@ -88,6 +89,25 @@ Place PlaceOf(const PageText& text) {
     const double before = text.anchor == PageText::Anchor::Start ? 0 : text.anchor == PageText::Anchor::Middle ? width / 2 : width;
     if (text.angle == 90) return {text.at.x - height, text.at.y + before - width, text.at.x, text.at.y + before};
     return {text.at.x - before, text.at.y - height, text.at.x - before + width, text.at.y};
+}
+
+// From an axis to a value that stands alone, in points.
+std::vector<double> LoneLines(const Page& page, Colour colour) {
+    std::vector<double> lengths;
+    for (const PageLine& line : Drawn<PageLine>(page))
+        if (line.width == kRim && line.points.size() == 2 && line.colour == colour) {
+            EXPECT_EQ(line.points[0].y, line.points[1].y);
+            lengths.push_back(line.points[1].x - line.points[0].x);
+        }
+    return lengths;
+}
+
+Core CoreWithAnEmptySample() {
+    Core core = TestCore();
+    core.samples[1].counts.assign(core.taxa.size(), 0);
+    core.samples[1].sums.fill(0);
+    core.samples[1].shares[kBasisAll].clear();
+    return core;
 }
 
 // Short names of taxa, a long one of their last group.
@@ -213,6 +233,35 @@ TEST(FigureTest, ACurveBreaksAtASampleWithoutData) {
     };
     EXPECT_EQ(curves(Draw(options)), 4);
     EXPECT_EQ(curves(Pages(core, options)[0]), 0);
+}
+
+TEST(FigureTest, AValueWithoutNeighboursHasALine) {
+    FigureOptions options;
+    options.summary = false;
+    options.tree = TreeKind::None;
+    for (const CurveStyle style : {CurveStyle::Curve, CurveStyle::Silhouette}) {
+        options.style = style;
+        const Page page = Pages(CoreWithAnEmptySample(), options)[0];
+        const double scale = PointsPerPercent(page);
+        const std::vector<double> trees = LoneLines(page, style == CurveStyle::Silhouette ? ColourOf(Group::First) : Colour{0, 94, 69});
+        ASSERT_EQ(trees.size(), 3u) << "Pinus has none of length 0";
+        EXPECT_NEAR(trees[0], 30 * scale, 1e-6);
+        EXPECT_NEAR(trees[1], 10 * scale, 1e-6);
+        EXPECT_NEAR(trees[2], 200 / 3.0 * scale, 1e-6);
+    }
+}
+
+TEST(FigureTest, ASampleWithoutNeighboursIsInTheSummary) {
+    FigureOptions options;
+    options.tree = TreeKind::None;
+    const Page page = Pages(CoreWithAnEmptySample(), options)[0];
+    const double scale = PointsPerPercent(page);
+    const std::vector<double> trees = LoneLines(page, ColourOf(Group::First)), herbs = LoneLines(page, ColourOf(Group::Second));
+    ASSERT_EQ(trees.size(), 2u);
+    EXPECT_NEAR(trees[0], 40 * scale, 1e-6);
+    EXPECT_NEAR(trees[1], 200 / 3.0 * scale, 1e-6);
+    ASSERT_EQ(herbs.size(), 1u);
+    EXPECT_NEAR(herbs[0], 10 * scale, 1e-6);
 }
 
 TEST(FigureTest, AnExaggeratedCurveLiesBehindAndEndsWithItsColumn) {
