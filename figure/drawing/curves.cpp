@@ -26,18 +26,18 @@ PagePoint Crossing(PagePoint a, PagePoint b, double x) {
     return {x, a.y + (x - a.x) / (b.x - a.x) * (b.y - a.y)};
 }
 
-// The points as far as they lie left of `right`; what lies beyond runs along it.
-Points CutOff(const Points& points, double right) {
-    Points cut;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        if (i > 0 && (points[i - 1].x > right) != (points[i].x > right)) cut.push_back(Crossing(points[i - 1], points[i], right));
-        cut.push_back({std::min(points[i].x, right), points[i].y});
+// The parts of a stretch that lie left of `right`.
+std::vector<Points> PartsThatFit(const Points& stretch, double right) {
+    std::vector<Points> parts;
+    const auto fits = [right](PagePoint point) { return point.x <= right; };
+    for (std::size_t i = 0; i < stretch.size(); ++i) {
+        const bool enters = fits(stretch[i]) && (i == 0 || !fits(stretch[i - 1]));
+        const bool leaves = i > 0 && fits(stretch[i - 1]) && !fits(stretch[i]);
+        if (enters) parts.emplace_back();
+        if (i > 0 && (enters || leaves)) parts.back().push_back(Crossing(stretch[i - 1], stretch[i], right));
+        if (fits(stretch[i])) parts.back().push_back(stretch[i]);
     }
-    return cut;
-}
-
-double RightEnd(const ColumnPlace& place, const Curve& curve) {
-    return place.left + curve.longest * curve.unit;
+    return parts;
 }
 
 // From the axis: what a sample without neighbours has in place of a curve.
@@ -45,14 +45,29 @@ void DrawLoneValue(Pen& pen, const ColumnPlace& place, PagePoint value, Colour c
     if (value.x > place.left) pen.Line({place.left, value.y}, value, kRim, colour);
 }
 
+void FillFromAxis(Pen& pen, const ColumnPlace& place, Points rim, Colour colour) {
+    if (rim.size() == 1) {
+        DrawLoneValue(pen, place, rim.front(), colour);
+        return;
+    }
+    const double top = rim.front().y, bottom = rim.back().y;
+    rim.insert(rim.begin(), {place.left, top});
+    rim.push_back({place.left, bottom});
+    pen.Area(std::move(rim), colour);
+}
+
 void DrawLines(Pen& pen, const ColumnPlace& place, const Curve& curve, Colour colour) {
     for (const Points& stretch : Stretches(place, curve)) {
-        Points line = CutOff(stretch, RightEnd(place, curve));
-        if (line.size() == 1)
-            DrawLoneValue(pen, place, line.front(), colour);
+        if (stretch.size() == 1)
+            DrawLoneValue(pen, place, stretch.front(), colour);
         else
-            pen.Lines(std::move(line), kRim, colour);
+            pen.Lines(stretch, kRim, colour);
     }
+}
+
+Colour Darker(Colour colour) {
+    const auto dark = [](unsigned char part) { return static_cast<unsigned char>(part * 6 / 10); };
+    return {dark(colour.red), dark(colour.green), dark(colour.blue)};
 }
 
 void DrawDots(Pen& pen, const ColumnPlace& place, const Curve& curve) {
@@ -60,11 +75,6 @@ void DrawDots(Pen& pen, const ColumnPlace& place, const Curve& curve) {
     for (const Points& stretch : Stretches(place, curve))
         for (const PagePoint point : stretch)
             if (point.x > place.left + kLeastDot * curve.unit) pen.Dot(point, radius, curve.colour);
-}
-
-Colour Darker(Colour colour) {
-    const auto dark = [](unsigned char part) { return static_cast<unsigned char>(part * 6 / 10); };
-    return {dark(colour.red), dark(colour.green), dark(colour.blue)};
 }
 }  // namespace
 
@@ -74,16 +84,12 @@ double BarHeight(const SampleAxis& axis) {
 }
 
 void DrawSilhouette(Pen& pen, const ColumnPlace& place, const Curve& curve) {
-    for (const Points& stretch : Stretches(place, curve)) {
-        Points rim = CutOff(stretch, RightEnd(place, curve));
-        if (rim.size() == 1) {
-            DrawLoneValue(pen, place, rim.front(), curve.colour);
-            continue;
-        }
-        rim.insert(rim.begin(), {place.left, stretch.front().y});
-        rim.push_back({place.left, stretch.back().y});
-        pen.Area(std::move(rim), curve.colour);
-    }
+    for (const Points& stretch : Stretches(place, curve)) FillFromAxis(pen, place, stretch, curve.colour);
+}
+
+void DrawExaggerated(Pen& pen, const ColumnPlace& place, const Curve& curve, double right) {
+    for (const Points& stretch : Stretches(place, curve))
+        for (const Points& part : PartsThatFit(stretch, right)) FillFromAxis(pen, place, part, curve.colour);
 }
 
 // All of a column as one area: a drawing program has them together, and a long core makes a far smaller file.
@@ -91,10 +97,8 @@ void DrawBars(Pen& pen, const ColumnPlace& place, const Curve& curve) {
     const double half = BarHeight(place.axis) / 2;
     std::vector<Outline> bars;
     for (const Points& stretch : Stretches(place, curve))
-        for (const auto& [x, y] : stretch) {
-            const double right = std::min(x, RightEnd(place, curve));
-            if (x > place.left) bars.push_back({{place.left, y - half}, {right, y - half}, {right, y + half}, {place.left, y + half}});
-        }
+        for (const auto& [x, y] : stretch)
+            if (x > place.left) bars.push_back({{place.left, y - half}, {x, y - half}, {x, y + half}, {place.left, y + half}});
     pen.Areas(std::move(bars), curve.colour);
 }
 

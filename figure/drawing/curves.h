@@ -3,9 +3,8 @@
 #include "figure/drawing/column.h"
 
 struct Curve {
-    Values values;       // 0 and more; none breaks the curve
-    double unit = 1;     // points
-    double longest = 0;  // value at which the column ends: what lies beyond is cut off
+    Values values;    // 0 and more; none breaks the curve
+    double unit = 1;  // points
     Colour colour;
 };
 
@@ -14,6 +13,7 @@ constexpr double kRim = 0.6;  // points: the width of a curve's line
 double BarHeight(const SampleAxis& axis);  // of a sample's bar, in points: bars of neighbours do not touch
 
 void DrawCurve(Pen& pen, const ColumnPlace& place, const Curve& curve, CurveStyle style);
-void DrawSilhouette(Pen& pen, const ColumnPlace& place, const Curve& curve);  // without a rim
+void DrawSilhouette(Pen& pen, const ColumnPlace& place, const Curve& curve);                 // without a rim
+void DrawExaggerated(Pen& pen, const ColumnPlace& place, const Curve& curve, double right);  // the same where it is left of `right`
 void DrawBars(Pen& pen, const ColumnPlace& place, const Curve& curve);
 void DrawPresence(Pen& pen, const ColumnPlace& place, const Curve& curve);  // a dot for each value above 0

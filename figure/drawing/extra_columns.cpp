@@ -37,7 +37,7 @@ Column ValueColumn(const std::string& name, const std::string& unit, Values valu
     column.name = WithUnit(name, many ? "10³ " + unit : unit);
     column.width = kWidth;
     const double largest = LargestOf(values), span = largest > 0 ? largest : 1;
-    column.draw = [values, span](Pen& pen, const ColumnPlace& place) { DrawBars(pen, place, {values, place.width / span, span, kGrey}); };
+    column.draw = [values, span](Pen& pen, const ColumnPlace& place) { DrawBars(pen, place, {values, place.width / span, kGrey}); };
     column.scale = [span](const ColumnPlace& place) {
         const double step = RoundStep(span, kMostNumbers);
         return ColumnScale{place.width / span, span, step, step};

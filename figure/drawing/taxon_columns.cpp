@@ -77,40 +77,38 @@ ColumnScale PercentScale(double length, const ColumnPlace& place) {
     return {place.points_per_percent, length, std::min(kShortTick * std::ceil(number_step / 50), number_step), number_step};
 }
 
-void DrawTaxon(Pen& pen, const ColumnPlace& place, Curve curve, Group group, const FigureOptions& options) {
-    curve.unit = place.points_per_percent;
-    curve.colour = ColourOf(group);
-    if (options.exaggeration > 0) {
-        Curve behind = curve;
-        behind.unit *= options.exaggeration;
-        behind.longest /= options.exaggeration;
-        behind.colour = PaleColourOf(group);
-        DrawSilhouette(pen, place, behind);
-    }
-    DrawCurve(pen, place, curve, options.style);
+// Where more is to be seen of the curve itself, or the column ends, there is no exaggerated one.
+void DrawBehind(Pen& pen, const ColumnPlace& place, const Values& percentages, Group group, double exaggeration) {
+    constexpr double kMost = 20;  // percent as drawn
+    const double right = place.left + std::min(place.width, kMost * place.points_per_percent);
+    DrawExaggerated(pen, place, {percentages, place.points_per_percent * exaggeration, PaleColourOf(group)}, right);
 }
 
-Column RareColumn(Column column, const Curve& curve) {
+// `exaggeration`: of the curve behind; 0: none.
+void DrawTaxon(Pen& pen, const ColumnPlace& place, const Values& percentages, Group group, double exaggeration, CurveStyle style) {
+    if (exaggeration > 0) DrawBehind(pen, place, percentages, group, exaggeration);
+    DrawCurve(pen, place, {percentages, place.points_per_percent, ColourOf(group)}, style);
+}
+
+Column RareColumn(Column column, const Values& percentages, Group group) {
     column.width = kRareWidth;
-    column.draw = [curve](Pen& pen, const ColumnPlace& place) { DrawPresence(pen, place, curve); };
+    column.draw = [percentages, group](Pen& pen, const ColumnPlace& place) { DrawPresence(pen, place, {percentages, 1, ColourOf(group)}); };
     return column;
 }
 
 Column ColumnOf(const Core& core, const FigureOptions& options, std::size_t taxon) {
     const Group group = GroupOf(core.taxa[taxon]);
-    Curve curve;
-    curve.values = PercentagesOf(core, options, taxon);
+    const Values percentages = PercentagesOf(core, options, taxon);
     Column column;
     column.name = core.taxa[taxon].name;
     column.italic = core.taxa[taxon].italic;
     column.group = group;
-    const double largest = Largest(curve.values);
-    if (largest < options.least_percent) {
-        curve.colour = ColourOf(group);
-        return RareColumn(column, curve);
-    }
-    column.percent = curve.longest = LengthOf(largest, options.exaggeration);
-    column.draw = [curve, group, &options](Pen& pen, const ColumnPlace& place) { DrawTaxon(pen, place, curve, group, options); };
+    const double largest = Largest(percentages);
+    if (largest < options.least_percent) return RareColumn(column, percentages, group);
+    column.percent = LengthOf(largest, options.exaggeration);
+    column.draw = [percentages, group, exaggeration = options.exaggeration, style = options.style](Pen& pen, const ColumnPlace& place) {
+        DrawTaxon(pen, place, percentages, group, exaggeration, style);
+    };
     column.scale = [length = column.percent](const ColumnPlace& place) { return PercentScale(length, place); };
     return column;
 }

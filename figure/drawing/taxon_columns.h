@@ -7,8 +7,7 @@
 #include "figure/drawing/options.h"
 #include "figure/sheet/core.h"
 
-// Raises FigureFault for a taxon that the sheet does not have, a basis without a grain, and if no taxon is left. `core` and `options` must
-// outlive the columns.
+// Raises FigureFault for a taxon that the sheet does not have, a basis without a grain, and if no taxon is left.
 std::vector<Column> TaxonColumns(const Core& core, const FigureOptions& options);
 
 // None where all taxa are of one group.
