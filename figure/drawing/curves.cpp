@@ -4,7 +4,6 @@
 #include <utility>
 
 namespace {
-constexpr double kDotRadius = 1.2;
 constexpr double kLeastDot = 0.5;  // percent: as in the counter, smaller values have no dot
 
 using Points = std::vector<PagePoint>;
@@ -70,11 +69,19 @@ Colour Darker(Colour colour) {
     return {dark(colour.red), dark(colour.green), dark(colour.blue)};
 }
 
+// Dots of neighbours hardly overlap.
+double DotRadius(const SampleAxis& axis) {
+    constexpr double kSmallest = 0.8, kLargest = 2;
+    return std::clamp(axis.LeastDistance() / 2, kSmallest, kLargest);
+}
+
 void DrawDots(Pen& pen, const ColumnPlace& place, const Curve& curve) {
-    const double radius = std::clamp(place.axis.LeastDistance() / 2, 0.5, kDotRadius);
     for (const Points& stretch : Stretches(place, curve))
-        for (const PagePoint point : stretch)
-            if (point.x > place.left + kLeastDot * curve.unit) pen.Dot(point, radius, curve.colour);
+        for (const PagePoint point : stretch) {
+            if (point.x <= place.left + kLeastDot * curve.unit) continue;
+            pen.Line({place.left, point.y}, point, kHairline, Darker(curve.colour));
+            pen.Dot(point, DotRadius(place.axis), Darker(curve.colour));
+        }
 }
 }  // namespace
 
@@ -103,7 +110,7 @@ void DrawBars(Pen& pen, const ColumnPlace& place, const Curve& curve) {
 }
 
 void DrawPresence(Pen& pen, const ColumnPlace& place, const Curve& curve) {
-    const double radius = std::clamp(place.axis.LeastDistance() / 2, 0.5, kDotRadius);
+    const double radius = DotRadius(place.axis);
     for (std::size_t sample = 0; sample < curve.values.size(); ++sample)
         if (curve.values[sample].value_or(0) > 0) pen.Dot({place.left + place.width / 2, place.axis.Y(sample)}, radius, curve.colour);
 }

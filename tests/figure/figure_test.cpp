@@ -216,7 +216,13 @@ TEST(FigureTest, DotsMarkWhatIsAboveHalfAPercent) {
     core.samples[0].shares[kBasisAll] = {0.3, 0.005, 0.0051, 0.6};
     FigureOptions options;
     options.style = CurveStyle::Dot;
-    EXPECT_EQ(Drawn<PageDot>(Draw(options)).size(), 9u);
+    const Page page = Draw(options);
+    const std::vector<PageLine> lines = Drawn<PageLine>(page);
+    EXPECT_EQ(Drawn<PageDot>(page).size(), 9u);
+    for (const PageDot& dot : Drawn<PageDot>(page)) {
+        EXPECT_GE(dot.radius, 2);
+        EXPECT_TRUE(std::ranges::any_of(lines, [&](const PageLine& line) { return line.points.back() == dot.centre; })) << "from its axis";
+    }
     EXPECT_EQ(Drawn<PageDot>(Pages(core, options)[0]).size(), 8u) << "as in the counter";
 }
 
