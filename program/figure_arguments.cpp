@@ -108,7 +108,7 @@ void AddColumns(CLI::App& app, FigureArguments& arguments, Raw& raw) {
     app.add_flag("--sums", figure.sums, "a column of the grains in the sum");
     app.add_flag("--taxa", figure.taxa, "a column of the taxa found");
     app.add_flag("--richness", figure.richness, "a column of the taxa in as many grains as the smallest sum has");
-    app.add_flag("--concentration", raw.concentration, "a column of the concentration; takes --marker");
+    app.add_flag("--concentration", raw.concentration, "a column of the concentration of all taxa; takes --marker");
     AddText(app, "--marker", raw.marker.taxon, "NAME", "the taxon that was added to the samples: no column of its own");
     AddText(app, "--added", raw.marker.added, "TABLETS*MARKERS", "a row or a number each; 2*18583±370 with their deviation");
     AddText(app, "--volume", raw.marker.volume, "ROW", "of Additional info, or a number: cm3 of a sample");

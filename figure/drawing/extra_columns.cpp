@@ -1,6 +1,7 @@
 #include "figure/drawing/extra_columns.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -45,12 +46,12 @@ Column ValueColumn(const std::string& name, const std::string& unit, Values valu
     return column;
 }
 
-Column ConcentrationColumn(const Core& core, const FigureOptions& options) {
-    const Concentrations concentrations = ConcentrationsOf(core, *options.concentration);
+// Of all taxa but the marker, whatever is 100 %.
+Column ConcentrationColumn(const Core& core, const MarkerOptions& marker) {
+    const Concentrations concentrations = ConcentrationsOf(core, marker);
     Values values;
-    for (const auto& sums : concentrations.sums)
-        values.push_back(sums[options.basis] ? std::optional(sums[options.basis]->value) : std::nullopt);
-    return ValueColumn("Concentration", concentrations.by_weight ? "grains/g" : "grains/cm³", std::move(values));
+    for (const auto& sums : concentrations.sums) values.push_back(sums[kBasisAll] ? std::optional(sums[kBasisAll]->value) : std::nullopt);
+    return ValueColumn("Total concentration", concentrations.by_weight ? "grains/g" : "grains/cm³", std::move(values));
 }
 
 Values SumsOf(const Core& core, Basis basis) {
@@ -58,9 +59,13 @@ Values SumsOf(const Core& core, Basis basis) {
     for (const Sample& sample : core.samples) sums.push_back(static_cast<double>(sample.sums[basis]));
     return sums;
 }
-}  // namespace
+// " of Trees"; nothing where all grains are the basis.
+std::string OfBasis(const Core& core, Basis basis, const std::string& of = " of ") {
+    return basis == kBasisAll ? "" : of + core.subtotals[basis - kBasisSubtotal1];
+}
 
-std::vector<Column> ExtraColumns(const Core& core, const FigureOptions& options) {
+std::vector<Column> DiversityColumns(const Core& core, const FigureOptions& options) {
+    if (!options.taxa && !options.richness) return {};
     const Diversity diversity = DiversityOf(core, options.basis, options.left_out);
     Values taxa, richness;
     for (const SampleDiversity& sample : diversity.samples) {
@@ -68,9 +73,18 @@ std::vector<Column> ExtraColumns(const Core& core, const FigureOptions& options)
         richness.push_back(sample.rarefied);
     }
     std::vector<Column> columns;
-    if (options.concentration) columns.push_back(ConcentrationColumn(core, options));
-    if (options.sums) columns.push_back(ValueColumn("Sum", "grains", SumsOf(core, options.basis)));
-    if (options.taxa) columns.push_back(ValueColumn("Taxa found", "", std::move(taxa)));
-    if (options.richness) columns.push_back(ValueColumn("Taxa in " + std::to_string(diversity.size) + " grains", "", std::move(richness)));
+    if (options.taxa) columns.push_back(ValueColumn("Taxa found" + OfBasis(core, options.basis, " in "), "", std::move(taxa)));
+    if (options.richness)
+        columns.push_back(
+            ValueColumn("Taxa in " + std::to_string(diversity.size) + " grains" + OfBasis(core, options.basis), "", std::move(richness)));
+    return columns;
+}
+}  // namespace
+
+std::vector<Column> ExtraColumns(const Core& core, const FigureOptions& options) {
+    std::vector<Column> columns;
+    if (options.concentration) columns.push_back(ConcentrationColumn(core, *options.concentration));
+    if (options.sums) columns.push_back(ValueColumn("Sum" + OfBasis(core, options.basis), "grains", SumsOf(core, options.basis)));
+    std::ranges::move(DiversityColumns(core, options), std::back_inserter(columns));
     return columns;
 }

@@ -378,11 +378,31 @@ TEST(FigureTest, FurtherColumnsComeWhenAskedFor) {
         options.concentration = MarkerOptions{"Lycopodium", "Tablets*1000", "1", ""};
         options.tree = TreeKind::None;
     });
-    EXPECT_EQ(NamesFromTheLeft(page), (Names{"Pinus", "Betula", "Poaceae", "Summary", "Concentration (grains/cm³)", "Sum (grains)",
+    EXPECT_EQ(NamesFromTheLeft(page), (Names{"Pinus", "Betula", "Poaceae", "Summary", "Total concentration (grains/cm³)", "Sum (grains)",
                                              "Taxa found", "Taxa in 40 grains"}));
     const auto bars = AreasOf(page, kGrey);
     ASSERT_EQ(bars.size(), 12u);
     EXPECT_NEAR((Right(bars[3]) - Left(bars[3])) / (Right(bars[4]) - Left(bars[4])), 100.0 / 60, 1e-6) << "of the sums";
+}
+
+TEST(FigureTest, FurtherColumnsNameTheSubtotalTheyAreOf) {
+    const auto draw = [](Basis basis) {
+        return DrawWith([basis](FigureOptions& options) {
+            options.basis = basis;
+            options.left_out = "Lycopodium";
+            options.sums = options.taxa = options.richness = true;
+            options.concentration = MarkerOptions{"Lycopodium", "Tablets*1000", "1", ""};
+            options.tree = TreeKind::None;
+        });
+    };
+    const Page page = draw(kBasisSubtotal1);
+    EXPECT_EQ(NamesFromTheLeft(page), (Names{"Pinus", "Betula", "Poaceae", "Summary", "Total concentration (grains/cm³)",
+                                             "Sum of Trees (grains)", "Taxa found in Trees", "Taxa in 40 grains of Trees"}));
+    const auto bars = AreasOf(page, kGrey), of_all = AreasOf(draw(kBasisAll), kGrey);
+    ASSERT_EQ(bars.size(), 12u);
+    EXPECT_NEAR((Right(bars[0]) - Left(bars[0])) / (Right(bars[1]) - Left(bars[1])), 0.5, 1e-6) << "50 / 50 and 40 / 20, herbs among them";
+    for (int sample = 0; sample < 3; ++sample)
+        EXPECT_NEAR(Right(bars[sample]) - Left(bars[sample]), Right(of_all[sample]) - Left(of_all[sample]), 1e-6);
 }
 
 TEST(FigureTest, LargeNumbersAreThousands) {
@@ -390,7 +410,7 @@ TEST(FigureTest, LargeNumbersAreThousands) {
         options.left_out = "Lycopodium";
         options.concentration = MarkerOptions{"Lycopodium", "Tablets*20000", "1", ""};
     });
-    EXPECT_TRUE(Says(page, "Concentration (10³ grains/cm³)"));
+    EXPECT_TRUE(Says(page, "Total concentration (10³ grains/cm³)"));
 }
 
 TEST(FigureTest, NoNumberOrNameTouchesAnotherOrThePagesEdge) {
