@@ -32,6 +32,7 @@ struct Column {
     std::optional<Group> group;  // that heads it
     double percent = 0;          // its length, on the scale that all percentages share; 0: `width` holds
     double width = 0;            // in points
+    std::string measure;         // of the numbers below it, as the name does not say it; may be empty
     std::function<void(Pen&, const ColumnPlace&)> draw;
     std::function<ColumnScale(const ColumnPlace&)> scale;
 };

@@ -23,6 +23,7 @@ constexpr double kMargin = 24;  // points, as all of these
 constexpr double kTitleSize = 10;
 constexpr double kTitleHeight = 18;
 constexpr double kLegendBelow = 14;
+constexpr double kHeightOfMeasures = 8;
 constexpr double kLeastHeight = 60;  // of the columns
 constexpr double kGap = 6;
 constexpr Lettering kNames{kNameSize};
@@ -61,7 +62,7 @@ public:
     Figure(const Core& core, const FigureOptions& options, const FontMetrics& metrics)
         : core_(core), options_(options), metrics_(metrics), content_(ContentOf(core, options)), names_(MeasureNames()) {
         plot_top_ = kMargin + (options.title.empty() ? 0 : kTitleHeight) + HeightOfNames() + kGap;
-        plot_bottom_ = options.page_height - kMargin - kHeightOfScales - kLegendBelow;
+        plot_bottom_ = options.page_height - kMargin - kHeightOfScales - HeightOfMeasures() - kLegendBelow;
         if (plot_bottom_ - plot_top_ < kLeastHeight) throw FigureFault("the page is not high enough for the names and the samples");
         axis_.emplace(core, options, plot_top_, plot_bottom_);
         columns_left_ = kMargin + AxisWidth();
@@ -103,6 +104,10 @@ private:
         return of_taxa.Height();
     }
 
+    double HeightOfMeasures() const {
+        return AnyColumn([](const Column& column) { return !column.measure.empty(); }) ? kHeightOfMeasures : 0;
+    }
+
     double NumbersWidth() const {
         double widest = 0;
         for (const SampleAxis::Tick& tick : axis_->Ticks()) widest = std::max(widest, metrics_.WidthOf(tick.number, kNumbers));
@@ -128,7 +133,7 @@ private:
         if (HasHeadings()) DrawHeadings(pen, Headings(columns, width - kMargin), plot_top_ - HeightOfTaxa() - kGap);
         if (content_.zones) DrawZones(pen, columns_left_ + columns.back().left + columns.back().width);
         const double room = options_.one_page ? std::numeric_limits<double>::infinity() : width - kMargin - columns_left_;
-        return DrawLegend(pen, Legend(), {columns_left_, plot_bottom_ + kHeightOfScales + kLegendBelow - 3}, room);
+        return DrawLegend(pen, Legend(), {columns_left_, plot_bottom_ + kHeightOfScales + HeightOfMeasures() + kLegendBelow - 3}, room);
     }
 
     // Smaller where the page is not wide enough for it.
@@ -162,6 +167,8 @@ private:
         pen.Line({place.left, plot_top_}, {place.left, plot_bottom_});
         WriteName(pen, column, place.left);
         if (column.scale) scales.Draw(column.scale(place), place.left);
+        const PagePoint below = {place.left + place.width / 2, plot_bottom_ + kHeightOfScales + kHeightOfMeasures - 1};
+        pen.Write({below, column.measure, kNumbers, PageText::Anchor::Middle});
     }
 
     void WriteName(Pen& pen, const Column& column, double left) const {

@@ -63,9 +63,10 @@ void DrawJunctions(Pen& pen, const ColumnPlace& place, const Junctions& junction
     pen.Line({x(clusters.front().height), clusters.front().y}, {place.left + place.width, clusters.front().y});
 }
 
-Column TreeColumn(const char* name, const Junctions& junctions) {
+Column TreeColumn(const char* measure, const Junctions& junctions) {
     Column column;
-    column.name = name;
+    column.name = "Cluster tree";
+    column.measure = measure;
     column.width = kWidth;
     column.draw = [junctions](Pen& pen, const ColumnPlace& place) { DrawJunctions(pen, place, junctions); };
     column.scale = [span = Span(junctions)](const ColumnPlace& place) {
@@ -77,7 +78,7 @@ Column TreeColumn(const char* name, const Junctions& junctions) {
 }  // namespace
 
 std::vector<Column> TreeColumns(const Core& core, const FigureOptions& options, const Stratigraphy* zones) {
-    if (options.tree == TreeKind::Counter) return {TreeColumn("Cluster tree", JunctionsOf(core.trees[options.basis]))};
+    if (options.tree == TreeKind::Counter) return {TreeColumn("Sum of squared differences", JunctionsOf(core.trees[options.basis]))};
     if (options.tree == TreeKind::SumOfSquares && zones) return {TreeColumn("Total sum of squares", JunctionsOf(zones->merges))};
     return {};
 }

@@ -333,6 +333,17 @@ TEST(FigureTest, TheTreeJoinsTheSamplesWhereTheyStand) {
     EXPECT_NEAR((brackets[0].points[1].x - left) / (brackets[1].points[1].x - left), 0.1 / 0.5, 1e-6);
 }
 
+TEST(FigureTest, TheTreesAxisTellsItsMeasure) {
+    for (const auto& [kind, measure] :
+         {std::pair(TreeKind::Counter, "Sum of squared differences"), std::pair(TreeKind::SumOfSquares, "Total sum of squares")}) {
+        const Page page = DrawWith([kind](FigureOptions& options) { options.tree = kind; });
+        const std::vector<PageText> said = TextsThatSay(page, measure);
+        ASSERT_EQ(said.size(), 1u) << measure;
+        EXPECT_GT(PlaceOf(said[0]).top, PlaceOf(TextsThatSay(page, "0").front()).bottom) << "below the numbers";
+        EXPECT_GT(said[0].at.x, TextsThatSay(page, "Cluster tree").at(0).at.x);
+    }
+}
+
 TEST(FigureTest, ZonesGoAcrossWithTheirNames) {
     const Page page = DrawWith([](FigureOptions& options) {
         options.has_zones = true;
@@ -367,7 +378,7 @@ TEST(FigureTest, NamesOfThinZonesDoNotTouch) {
 
 TEST(FigureTest, TheTreeOfTheSumOfSquaresTakesNoZones) {
     const Page page = DrawWith([](FigureOptions& options) { options.tree = TreeKind::SumOfSquares; });
-    EXPECT_TRUE(Says(page, "Total sum of squares"));
+    EXPECT_TRUE(Says(page, "Cluster tree"));
     EXPECT_FALSE(Says(page, "LPAZ-1"));
 }
 
