@@ -1,6 +1,7 @@
 // marlbrook-figure: from the sheet of a counted core to its figure and its tables.
 #include <cstdlib>
 #include <filesystem>
+#include <future>
 #include <map>
 #include <optional>
 #include <string>
@@ -34,18 +35,19 @@ std::string TablePath(const std::string& stem, const std::string& name) {
     return stem + "_tables/" + name;
 }
 
-void AddFigure(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
-    const PageFiles toolkit(arguments.font);
+FileTexts FigureFiles(const std::string& stem, const Core& core, const FigureArguments& arguments, const PageFiles& toolkit) {
+    FileTexts files;
     FigureOptions wide = arguments.figure;
     wide.one_page = true;
     const Page page = DrawFigure(core, wide, toolkit).front();
     const std::string& title = arguments.figure.title.empty() ? core.title : arguments.figure.title;
     files[stem + ".svg"] = toolkit.Svg(page, title);
     files[stem + ".pdf"] = toolkit.Pdf(DrawFigure(core, arguments.figure, toolkit), title);
-    if (!arguments.png) return;
+    if (!arguments.png) return files;
     std::string png = toolkit.Png(page, *arguments.png);
     if (png.empty()) throw FigureFault("a picture of " + std::to_string(*arguments.png) + " dots per inch is too large; take less");
     files[stem + ".png"] = std::move(png);
+    return files;
 }
 
 void TakeUpColumns(const std::vector<Column>& columns, ScriptOptions& scripts) {
@@ -57,13 +59,10 @@ void TakeUpColumns(const std::vector<Column>& columns, ScriptOptions& scripts) {
     }
 }
 
-// Returns what is left out of them.
-std::vector<std::string> AddTables(FileTexts& files, const std::string& stem, const Core& core, const FigureArguments& arguments) {
+Tables TablesFor(const Core& core, const FigureArguments& arguments) {
     TableOptions options = arguments.tables;
     TakeUpColumns(TaxonColumns(core, arguments.figure), options.scripts);
-    Tables tables = TablesOf(core, options);
-    for (NamedText& table : tables.files) files[TablePath(stem, table.name)] = std::move(table.text);
-    return std::move(tables.remarks);
+    return TablesOf(core, options);
 }
 
 // Tables of an earlier call that this one does not make, beside new ones that may be of another marker. Scripts stay: their users change
@@ -84,12 +83,15 @@ int DrawSheet(const std::string& sheet, const FigureArguments& arguments) {
     try {
         const Core core = ReadCore(sheet);
         const std::string stem = Stem(sheet, arguments.folder);
-        FileTexts files;
-        AddFigure(files, stem, core, arguments);
-        std::vector<std::string> remarks;
-        if (arguments.has_tables) remarks = AddTables(files, stem, core, arguments);
+        const PageFiles toolkit(arguments.font);  // sets up the process, so it comes before the thread
+        std::future<Tables> reckoned;
+        if (arguments.has_tables) reckoned = std::async([&] { return TablesFor(core, arguments); });
+        FileTexts files = FigureFiles(stem, core, arguments, toolkit);
+        Tables tables;
+        if (reckoned.valid()) tables = reckoned.get();
+        for (NamedText& table : tables.files) files[TablePath(stem, table.name)] = std::move(table.text);
         WriteTogether(files, arguments.has_tables ? OutdatedTables(files, stem) : std::vector<std::string>());
-        for (const std::string& remark : remarks) TellFault(sheet + ": " + remark);
+        for (const std::string& remark : tables.remarks) TellFault(sheet + ": " + remark);
         return EXIT_SUCCESS;
     } catch (const FigureFault& fault) {
         return Complain(sheet, fault.what(), kBadInput);
