@@ -76,8 +76,7 @@ void AddText(CLI::App& app, const std::string& name, std::string& value, const s
 void AddDrawing(CLI::App& app, FigureArguments& arguments, Raw& raw) {
     FigureOptions& figure = arguments.figure;
     AddWord(app, "--style", raw.style, kStyles, "how percentages are drawn");
-    AddNumber(app, "--exaggerate", figure.exaggeration, Between(1, 1000), "TIMES",
-              "a pale curve behind, so many times as wide, of what is rare");
+    AddNumber(app, "--exaggerate", figure.exaggeration, Between(1, 1000), "TIMES", "a pale curve behind, so many times as wide");
     AddNames(app, "--order", raw.order, "the taxa that come first; a comma in a name is \\,");
     AddNumber(app, "--min", figure.least_percent, Between(0, 100), "PERCENT", "leave out the taxa that never reach it");
     app.add_option("--rare", raw.rare, "draw those as dots")->check(CLI::IsMember({"dots", "none"}))->option_text("dots");

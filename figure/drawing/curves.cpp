@@ -25,18 +25,14 @@ PagePoint Crossing(PagePoint a, PagePoint b, double x) {
     return {x, a.y + (x - a.x) / (b.x - a.x) * (b.y - a.y)};
 }
 
-// The parts of a stretch that lie left of `right`.
-std::vector<Points> PartsThatFit(const Points& stretch, double right) {
-    std::vector<Points> parts;
-    const auto fits = [right](PagePoint point) { return point.x <= right; };
-    for (std::size_t i = 0; i < stretch.size(); ++i) {
-        const bool enters = fits(stretch[i]) && (i == 0 || !fits(stretch[i - 1]));
-        const bool leaves = i > 0 && fits(stretch[i - 1]) && !fits(stretch[i]);
-        if (enters) parts.emplace_back();
-        if (i > 0 && (enters || leaves)) parts.back().push_back(Crossing(stretch[i - 1], stretch[i], right));
-        if (fits(stretch[i])) parts.back().push_back(stretch[i]);
+// The points as far as they lie left of `right`; what lies beyond runs along it.
+Points CutOff(const Points& points, double right) {
+    Points cut;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (i > 0 && (points[i - 1].x > right) != (points[i].x > right)) cut.push_back(Crossing(points[i - 1], points[i], right));
+        cut.push_back({std::min(points[i].x, right), points[i].y});
     }
-    return parts;
+    return cut;
 }
 
 // From the axis: what a sample without neighbours has in place of a curve.
@@ -94,9 +90,8 @@ void DrawSilhouette(Pen& pen, const ColumnPlace& place, const Curve& curve) {
     for (const Points& stretch : Stretches(place, curve)) FillFromAxis(pen, place, stretch, curve.colour);
 }
 
-void DrawExaggerated(Pen& pen, const ColumnPlace& place, const Curve& curve, double right) {
-    for (const Points& stretch : Stretches(place, curve))
-        for (const Points& part : PartsThatFit(stretch, right)) FillFromAxis(pen, place, part, curve.colour);
+void DrawExaggerated(Pen& pen, const ColumnPlace& place, const Curve& curve) {
+    for (const Points& stretch : Stretches(place, curve)) FillFromAxis(pen, place, CutOff(stretch, place.left + place.width), curve.colour);
 }
 
 // All of a column as one area: a drawing program has them together, and a long core makes a far smaller file.

@@ -77,16 +77,9 @@ ColumnScale PercentScale(double length, const ColumnPlace& place) {
     return {place.points_per_percent, length, std::min(kShortTick * std::ceil(number_step / 50), number_step), number_step};
 }
 
-// Where more is to be seen of the curve itself, or the column ends, there is no exaggerated one.
-void DrawBehind(Pen& pen, const ColumnPlace& place, const Values& percentages, Group group, double exaggeration) {
-    constexpr double kMost = 20;  // percent as drawn
-    const double right = place.left + std::min(place.width, kMost * place.points_per_percent);
-    DrawExaggerated(pen, place, {percentages, place.points_per_percent * exaggeration, PaleColourOf(group)}, right);
-}
-
 // `exaggeration`: of the curve behind; 0: none.
 void DrawTaxon(Pen& pen, const ColumnPlace& place, const Values& percentages, Group group, double exaggeration, CurveStyle style) {
-    if (exaggeration > 0) DrawBehind(pen, place, percentages, group, exaggeration);
+    if (exaggeration > 0) DrawExaggerated(pen, place, {percentages, place.points_per_percent * exaggeration, PaleColourOf(group)});
     DrawCurve(pen, place, {percentages, place.points_per_percent, ColourOf(group)}, style);
 }
 

@@ -138,8 +138,8 @@ def draw(axes, taxon, width):
     values = percentages[taxon]
     colour = next((colour for colour, taxa in COLOURS.items() if taxon in taxa), "black")
     dark = [0.6 * part for part in to_rgb(colour)]
-    if EXAGGERATE:  # where it has room
-        wide = [EXAGGERATE * value if EXAGGERATE * value <= min(width, 20) else math.nan for value in values]
+    if EXAGGERATE:
+        wide = [min(EXAGGERATE * value, width) for value in values]
         axes.fill_betweenx(y, 0, wide, color=colour, alpha=0.3, linewidth=0.6)
     if STYLE in ("bar", "bar-and-curve"):
         axes.barh(y, values, thickness, color=colour)
@@ -236,8 +236,7 @@ silhouette <- function(values, colour) {  # one for each stretch without a gap
 }
 draw <- function(values, width, colour) {
     dark <- rgb(t(0.6 * col2rgb(colour)), maxColorValue = 255)
-    wide <- EXAGGERATE * values
-    if (EXAGGERATE > 0) silhouette(replace(wide, wide > min(width, 20), NA), adjustcolor(colour, 0.3))  # where it has room
+    if (EXAGGERATE > 0) silhouette(pmin(EXAGGERATE * values, width), adjustcolor(colour, 0.3))
     if (STYLE %in% c("bar", "bar-and-curve")) segments(0, y, values, y, lwd = 4, lend = "butt", col = colour)
     if (STYLE == "silhouette") silhouette(values, colour)
     if (STYLE %in% c("curve", "silhouette", "bar-and-curve")) lines(values, y, col = dark)

@@ -258,8 +258,10 @@ TEST(FigureTest, AValueWithoutNeighboursHasALine) {
     options.exaggeration = 2;
     const Page page = Pages(CoreWithAnEmptySample(), options)[0];
     const std::vector<double> pale = LoneLines(page, PaleColourOf(Group::First));
-    ASSERT_EQ(pale.size(), 1u);
-    EXPECT_NEAR(pale[0], 20 * PointsPerPercent(page), 1e-6) << "Betula, where it has room";
+    ASSERT_EQ(pale.size(), 3u);
+    EXPECT_NEAR(pale[0], 30 * PointsPerPercent(page), 1e-6) << "Pinus, as far as its column goes";
+    EXPECT_NEAR(pale[1], 20 * PointsPerPercent(page), 1e-6);
+    EXPECT_NEAR(pale[2], 70 * PointsPerPercent(page), 1e-6);
 }
 
 TEST(FigureTest, ASampleWithoutNeighboursIsInTheSummary) {
@@ -275,26 +277,17 @@ TEST(FigureTest, ASampleWithoutNeighboursIsInTheSummary) {
     EXPECT_NEAR(herbs[0], 10 * scale, 1e-6);
 }
 
-TEST(FigureTest, AnExaggeratedCurveLiesBehindWhereItHasRoomInItsColumn) {
+TEST(FigureTest, AnExaggeratedCurveLiesBehindAndEndsWithItsColumn) {
     const Page page = DrawWith([](FigureOptions& options) {
-        options.exaggeration = 1.5;
+        options.exaggeration = 2;
         options.summary = false;
     });
-    const double scale = PointsPerPercent(page);
-    const auto bars = AreasOf(page, ColourOf(Group::First));
     const auto pale = AreasOf(page, PaleColourOf(Group::First));
+    const auto bars = AreasOf(page, ColourOf(Group::First));
     ASSERT_EQ(pale.size(), 2u);
-    const double top = MiddleY(bars[2]), middle = MiddleY(bars[3]), bottom = MiddleY(bars[4]);
-    const double left = Left(bars[0]), enters = middle + (25 - 20) / 25.0 * (bottom - middle);
-    EXPECT_NEAR(pale[0][0].y, enters, 1e-6) << "Pinus: 45, 25 and 0; there is room for 20";
-    EXPECT_NEAR(pale[0][1].y, enters, 1e-6);
-    EXPECT_NEAR(pale[0][1].x - left, 20 * scale, 1e-6);
-    EXPECT_NEAR(pale[0][2].x, left, 1e-6);
-    EXPECT_NEAR(pale[0][2].y, bottom, 1e-6);
-    EXPECT_NEAR(pale[1][1].x - Left(pale[1]), 15 * scale, 1e-6) << "Betula: 15, 75 and 100";
-    EXPECT_NEAR(pale[1][2].x - Left(pale[1]), 20 * scale, 1e-6);
-    EXPECT_NEAR(pale[1][2].y, top + (20 - 15) / 60.0 * (middle - top), 1e-6);
-    EXPECT_TRUE(Says(page, "pale: × 1.5"));
+    EXPECT_NEAR(pale[0][1].x - Left(pale[0]), 30 * PointsPerPercent(page), 1e-6) << "of twice 30, as far as the column goes";
+    EXPECT_NEAR(Right(pale[0]), Right(bars[0]), 1e-6);
+    EXPECT_TRUE(Says(page, "pale: × 2"));
     const auto first = [&](Colour colour) {
         return std::find_if(page.items.begin(), page.items.end(), [colour](const PageItem& item) {
             const PageArea* const area = std::get_if<PageArea>(&item);
