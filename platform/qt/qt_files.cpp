@@ -7,9 +7,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "platform/failure.h"
@@ -44,14 +46,10 @@ bool IsNameOfFile([[maybe_unused]] const QString& path) {
 #endif
 }
 
-std::filesystem::path SystemFile(const std::string& path) {
-    return QFileInfo(SystemPath(path)).filesystemFilePath();
-}
-
-// A new name is on the disk when its folder is.
-void FlushFolderOf([[maybe_unused]] const std::filesystem::path& file) {
+// A new name is on the disk when its folder is. Windows has no call for that: there the name goes with the file.
+void FlushFolderOf([[maybe_unused]] const QString& file) {
 #ifndef Q_OS_WIN
-    const int folder = open(file.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int folder = open(QFile::encodeName(QFileInfo(file).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0) return;
     fsync(folder);
     close(folder);
@@ -63,7 +61,7 @@ public:
     explicit QtOutputFile(const QString& path) : file_(path) {
         const bool is_new = !file_.exists();
         if (!IsNameOfFile(path) || !file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) throw Failure(kFileError);
-        if (is_new) FlushFolderOf(QFileInfo(file_).filesystemFilePath());
+        if (is_new) FlushFolderOf(path);
     }
 
     void Replace(std::string_view bytes) override {
@@ -113,41 +111,68 @@ std::unique_ptr<OutputFile> QtFiles::OpenForWriting(const std::string& path) {
 // ---- Files of the program itself ----
 
 namespace {
-bool WriteAndFlush(const std::filesystem::path& path, const std::string& bytes) {
+bool WriteAndFlush(const QString& path, const std::string& bytes) {
     QFile file(path);
     const auto size = static_cast<qint64>(bytes.size());
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) && file.write(bytes.data(), size) == size &&
            FlushToDisk(file);
 }
 
+#ifdef Q_OS_WIN
+// The form that Windows' own calls take however long it is.
+std::wstring SystemName(const QString& path) {
+    const QString name = QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    const bool is_on_network = name.startsWith(R"(\\)");
+    return (is_on_network ? R"(\\?\UNC\)" + name.mid(2) : R"(\\?\)" + name).toStdWString();
+}
+
+std::error_code Rename(const QString& from, const QString& to, DWORD how) {
+    const bool is_done = MoveFileExW(SystemName(from).c_str(), SystemName(to).c_str(), how | MOVEFILE_WRITE_THROUGH) != 0;
+    return is_done ? std::error_code() : std::error_code(static_cast<int>(GetLastError()), std::system_category());
+}
+
+std::error_code RenameOver(const QString& from, const QString& to) {
+    return Rename(from, to, MOVEFILE_REPLACE_EXISTING);
+}
+#else
+std::filesystem::path SystemName(const QString& path) {
+    return QFileInfo(path).filesystemFilePath();
+}
+
+std::error_code RenameOver(const QString& from, const QString& to) {
+    std::error_code error;
+    std::filesystem::rename(SystemName(from), SystemName(to), error);
+    return error;
+}
+#endif
+
 // Where the file system cannot rename to a free name alone: an empty file takes the name, and at once the new one is renamed over it.
-[[maybe_unused]] std::error_code RenameOverEmpty(const std::filesystem::path& from, const std::filesystem::path& to) {
+[[maybe_unused]] std::error_code RenameOverEmpty(const QString& from, const QString& to) {
     QFile empty(to);
     if (!empty.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return std::make_error_code(std::errc::file_exists);
     empty.close();
-    std::error_code error;
-    std::filesystem::rename(from, to, error);
+    const std::error_code error = RenameOver(from, to);
     if (error) empty.remove();
     return error;
 }
 
 // std::errc::file_exists if the name is taken.
-std::error_code RenameToFree(const std::filesystem::path& from, const std::filesystem::path& to) {
+std::error_code RenameToFree(const QString& from, const QString& to) {
 #if defined(Q_OS_WIN)
-    const bool is_done = _wrename(from.c_str(), to.c_str()) == 0;
+    return Rename(from, to, 0);
 #elif defined(RENAME_NOREPLACE)
-    const bool is_done = renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0;
-    if (!is_done && (errno == EINVAL || errno == ENOSYS)) return RenameOverEmpty(from, to);
+    if (renameat2(AT_FDCWD, SystemName(from).c_str(), AT_FDCWD, SystemName(to).c_str(), RENAME_NOREPLACE) == 0) return {};
+    if (errno == EINVAL || errno == ENOSYS) return RenameOverEmpty(from, to);
+    return {errno, std::generic_category()};
 #else
     return RenameOverEmpty(from, to);
 #endif
-    return is_done ? std::error_code() : std::error_code(errno, std::generic_category());
 }
 
-std::error_code TakeName(const std::filesystem::path& from, OwnName& name) {
+std::error_code TakeName(const QString& from, OwnName& name) {
     std::error_code error;
     for (const std::string& path : name.paths) {
-        error = RenameToFree(from, SystemFile(path));
+        error = RenameToFree(from, SystemPath(path));
         if (error == std::errc::file_exists) continue;
         if (!error) name.path = path;
         break;
@@ -156,25 +181,48 @@ std::error_code TakeName(const std::filesystem::path& from, OwnName& name) {
 }
 
 // Somebody may have tidied it away. False: it is there, or cannot be made.
-bool MakeFolderOf(const std::filesystem::path& path) {
-    std::error_code error;
-    return std::filesystem::create_directory(path.parent_path(), error);
+bool MakeFolderOf(const QString& path) {
+    return QDir().mkdir(QFileInfo(path).path());
 }
 
 // Its old content stays under the name until the new one is on the disk.
 bool WriteWhole(OwnName& name, const std::string& bytes) {
-    const std::filesystem::path beside = SystemFile(name.paths.front() + ".new");
+    const QString beside = SystemPath(name.paths.front() + ".new");
     std::error_code error;
     if (!WriteAndFlush(beside, bytes) && !(MakeFolderOf(beside) && WriteAndFlush(beside, bytes)))
         error = std::make_error_code(std::errc::io_error);
     else if (name.path.empty())
         error = TakeName(beside, name);
     else
-        std::filesystem::rename(beside, SystemFile(name.path), error);
-    if (error) QFile(beside).remove();
+        error = RenameOver(beside, SystemPath(name.path));
+    if (error) QFile::remove(beside);
     FlushFolderOf(beside);
     return !error;
 }
+
+#ifdef Q_OS_WIN
+// A file by its disk and its number there; nothing if it is not there. The library's own comparison takes no name in SystemName's form.
+std::optional<std::array<DWORD, 3>> IdentityOf(const QString& path) {
+    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE file = CreateFileW(SystemName(path).c_str(), 0, kAll, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return std::nullopt;
+    BY_HANDLE_FILE_INFORMATION about;
+    const bool is_known = GetFileInformationByHandle(file, &about) != 0;
+    CloseHandle(file);
+    if (!is_known) return std::nullopt;
+    return std::array{about.dwVolumeSerialNumber, about.nFileIndexHigh, about.nFileIndexLow};
+}
+
+bool AreOneFile(const QString& path, const QString& other) {
+    const auto identity = IdentityOf(path);
+    return identity && identity == IdentityOf(other);
+}
+#else
+bool AreOneFile(const QString& path, const QString& other) {
+    std::error_code ignored;
+    return std::filesystem::equivalent(SystemName(path), SystemName(other), ignored);
+}
+#endif
 }  // namespace
 
 QtWholeFiles::QtWholeFiles() : worker_([this] { Work(); }) {}
@@ -212,8 +260,7 @@ void QtWholeFiles::Finish() {
 }
 
 bool QtWholeFiles::AreSame(const std::string& path, const std::string& other) {
-    std::error_code ignored;
-    return std::filesystem::equivalent(SystemFile(path), SystemFile(other), ignored);
+    return AreOneFile(SystemPath(path), SystemPath(other));
 }
 
 // All that goes from thread to thread goes by the one lock, the event too: the toolkit's own locks the thread sanitizer does not see.

@@ -280,6 +280,29 @@ TEST_F(QtWholeFilesTest, TwoNamesOfOneFileAreFound) {
     EXPECT_FALSE(whole_.AreSame(Path("a.csv"), Path("c.csv")));
 }
 
+// The longest path that calls of Windows take in its plain form has 259 characters.
+TEST_F(QtWholeFilesTest, AFolderBelowManyOthersServesAsAnyOther) {
+    QString deep = folder_.path();
+    while (deep.size() < 300) deep += "/" + QString(60, 'd');
+    ASSERT_TRUE(QDir().mkpath(deep));
+    const std::string first = deep.toStdString() + "/copies/a.csv", second = deep.toStdString() + "/copies/b.csv";
+    files_.OpenForWriting(deep.toStdString() + "/sheet.csv")->Replace("counts");
+    EXPECT_EQ(files_.ReadAll(deep.toStdString() + "/sheet.csv"), "counts");
+    const auto name = std::make_shared<OwnName>(OwnName{{first, second}, ""});
+    for (const char* bytes : {"1", "2"}) {
+        Write(name, bytes);
+        Finish();
+        EXPECT_EQ(files_.ReadAll(first), bytes);
+    }
+    Write(std::make_shared<OwnName>(OwnName{{first, second}, ""}), "3");
+    Finish();
+    EXPECT_EQ(files_.ReadAll(second), "3");
+    EXPECT_EQ(refused_, 0);
+    EXPECT_TRUE(whole_.AreSame(first, deep.toStdString() + "/copies/../copies/a.csv"));
+    EXPECT_FALSE(whole_.AreSame(first, second));
+    EXPECT_EQ(QDir(deep + "/copies").entryList(QDir::Files), (QStringList{"a.csv", "b.csv"}));
+}
+
 #ifdef Q_OS_LINUX
 TEST_F(QtWholeFilesTest, OnAFullDiskTheOldContentStays) {
     const auto name = Name("a.csv", "b.csv");
