@@ -8,6 +8,7 @@
 
 #include "platform/text.h"
 #include "program/figure_jobs.h"
+#include "program/figure_shell.h"
 
 namespace {
 constexpr int kBadInput = 2;
@@ -87,7 +88,7 @@ void AddDrawing(CLI::App& app, FigureArguments& arguments, Raw& raw) {
     AddText(app, "--title", figure.title, "TEXT", "above the figure");
     AddText(app, "--page", raw.page, "SIZE", "of the PDF: A4, A4-upright or millimetres, 297x210 (A4)");
     app.add_flag("--wide", figure.one_page, "PDF: one page, as wide as it takes, in place of several");
-    AddText(app, "--font", arguments.font, "NAME", "of the letters (DejaVu Sans)");
+    AddText(app, "--font", arguments.font, "NAME", std::string("of the letters (") + kUsualFont + ")");
     app.add_option("--png", arguments.png, "a picture too, of so many dots per inch")->check(CLI::Range(20, 2400))->option_text("DPI");
 }
 
@@ -236,18 +237,21 @@ void TakeUp(const Raw& raw, FigureArguments& arguments) {
 }
 }  // namespace
 
-std::optional<FigureArguments> ReadFigureArguments(int argc, char** argv, int& status) {
+std::optional<FigureArguments> ReadFigureArguments(std::vector<std::string> words, int& status) {
     CLI::App app("The figure and the tables of a counted core, from the sheet of the counter.", "marlbrook-figure");
     FigureArguments arguments;
     Raw raw;
     app.footer(kExamples);
+    app.allow_windows_style_options(false);  // options are written alike on every system
     app.set_version_flag("--version", "marlbrook-figure " MARLBROOK_VERSION);
     AddFiles(app, arguments, raw);
     AddDrawing(app, arguments, raw);
     AddSamples(app, arguments, raw);
     AddColumns(app, arguments, raw);
     try {
-        app.parse(argc, argv);
+        std::ranges::reverse(words);  // as the library wants them
+        app.parse(words);
+        arguments.sheets = FilesOf(arguments.sheets);
         TakeUp(raw, arguments);
         return arguments;
     } catch (const CLI::Success& done) {

@@ -19,6 +19,7 @@
 #include "program/figure_arguments.h"
 #include "program/figure_files.h"
 #include "program/figure_jobs.h"
+#include "program/figure_shell.h"
 
 namespace {
 namespace fs = std::filesystem;
@@ -28,7 +29,7 @@ constexpr int kBadInput = 2;
 std::string Stem(const std::string& sheet, const std::string& folder) {
     std::string path = sheet.substr(0, sheet.size() - (sheet.ends_with(".csv") || sheet.ends_with(".CSV") ? 4 : 0));
     if (folder.empty()) return path;
-    return folder + "/" + path.substr(path.find_last_of("/\\") + 1);
+    return folder + "/" + PathText(DiskPath(path).filename());
 }
 
 std::string TablePath(const std::string& stem, const std::string& name) {
@@ -119,8 +120,9 @@ std::string Rivals(const FigureArguments& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    const TerminalInUtf8 terminal;
     int status = EXIT_SUCCESS;
-    const std::optional<FigureArguments> arguments = ReadFigureArguments(argc, argv, status);
+    const std::optional<FigureArguments> arguments = ReadFigureArguments(CommandLineWords(argc, argv), status);
     if (!arguments) return status;
     if (const std::string rivals = Rivals(*arguments); !rivals.empty()) {
         TellFault(rivals);

@@ -22,6 +22,12 @@ QColor ColourOf(Colour colour) {
     return {colour.red, colour.green, colour.blue};
 }
 
+#ifdef Q_OS_WIN
+constexpr const char* kPlatform = "windows";  // without a screen the toolkit has no letters there
+#else
+constexpr const char* kPlatform = "offscreen";
+#endif
+
 enum class Letters { Real, Outlines };
 
 // One page onto one device.
@@ -110,14 +116,23 @@ QByteArray WithKindOfFont(QByteArray svg, const QString& family) {
     return svg.replace(named + '"', named + ", sans-serif\"");
 }
 
+// Where there is no such font on Windows, the toolkit would take one of any kind.
+QStringList FamiliesFor(const std::string& wanted) {
+#ifdef Q_OS_WIN
+    return {QString::fromStdString(wanted), QStringLiteral("Arial"), QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")};
+#else
+    return {QString::fromStdString(wanted)};
+#endif
+}
+
 QSizeF SizeOf(const Page& page) {
     return {page.width, page.height};
 }
 }  // namespace
 
 // No window is shown: the program runs where there is no screen.
-PageFiles::PageFiles(const std::string& font_family) : family_(QString::fromStdString(font_family)) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+PageFiles::PageFiles(const std::string& font_family) : families_(FamiliesFor(font_family)) {
+    qputenv("QT_QPA_PLATFORM", kPlatform);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // the toolkit's remarks are not for users
     application_ = std::make_unique<QGuiApplication>(argument_count_, arguments_);
 }
@@ -125,7 +140,7 @@ PageFiles::PageFiles(const std::string& font_family) : family_(QString::fromStdS
 PageFiles::~PageFiles() = default;
 
 QFont PageFiles::FontOf(const Lettering& letters) const {
-    QFont font(family_);
+    QFont font(families_);
     font.setStyleHint(QFont::SansSerif);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setPointSizeF(letters.size);

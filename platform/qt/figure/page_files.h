@@ -2,7 +2,7 @@
 // toolkit anyway, its letters are measured and set by one library, and Cairo would be a second one to build for each system.
 #pragma once
 #include <QFont>
-#include <QString>
+#include <QStringList>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,5 +30,5 @@ private:
     char* arguments_[2] = {name_, nullptr};
     int argument_count_ = 1;
     std::unique_ptr<QGuiApplication> application_;  // keeps what stands before it
-    QString family_;
+    QStringList families_;
 };
