@@ -44,6 +44,7 @@ for_format=(clang-format)
 for_windows=(
     g++-mingw-w64-x86-64-posix cmake ninja-build ccache dpkg-dev
     qt6-base-dev qt6-svg-dev libsdl2-mixer-dev  # the toolkit's tools, and the licences
+    libcli11-dev
     nsis zip googletest python3-markdown
     wine64 fonts-liberation                                            # letters about as wide as those of Windows
     xvfb openbox python3-xlib x11-xkb-utils x11-xserver-utils python3  # its tests: a screen, and real keys on several layouts

@@ -15,6 +15,16 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
+# CLI11 is headers alone, the same for every system. They get a folder of their own: what else lies in /usr/include is for this one.
+get_property(IS_TRIAL GLOBAL PROPERTY IN_TRY_COMPILE)
+if(EXISTS /usr/include/CLI AND NOT IS_TRIAL)
+  set(HEADERS "${CMAKE_BINARY_DIR}/headers")
+  file(COPY /usr/include/CLI DESTINATION "${HEADERS}/include")
+  file(COPY /usr/share/cmake/CLI11 DESTINATION "${HEADERS}/share/cmake")
+  list(APPEND CMAKE_PREFIX_PATH "${HEADERS}")
+  list(APPEND CMAKE_FIND_ROOT_PATH "${HEADERS}")
+endif()
+
 set(QT_HOST_PATH /usr)  # the toolkit's own tools, of the same version
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake)
 
