@@ -26,6 +26,7 @@ packaging/build.sh windows
 installed=$(mktemp -d)
 trap 'rm -rf "$installed"' EXIT
 cd build/windows
+rm -f Marlbrook-*-setup.exe Marlbrook-*-windows.zip  # of another version
 cmake --install . --prefix "$installed" --strip >/dev/null
 (  # what the setup takes away again, and nothing else
     cd "$installed"

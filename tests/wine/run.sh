@@ -1,14 +1,13 @@
 #!/usr/bin/env bash
 # Runs the tests of the program for Windows under Wine, on a screen of their own: unit tests, scripts without windows and on them, and the
-# installed program with real keys. Installs what is missing; builds with packaging/windows/build.sh unless build/windows is there. Scripts in
+# installed program with real keys. Installs what is missing; builds with packaging/windows/build.sh what is not up to date. Scripts in
 # ../shared/acceptance are run too.
 # What fails is run a second time, alone: under load Wine itself fails now and then. The last lines tell of what passed only then, and
 # "N passed, N failed"; the status is 0 if nothing failed.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 
-packaging/debian-packages.sh windows
-compgen -G "build/windows/Marlbrook-*-setup.exe" >/dev/null || packaging/windows/build.sh
+packaging/windows/build.sh
 more=$(readlink -f ../shared/acceptance || true)
 [ -d "$more" ] || more=
 cmake --preset windows -DMARLBROOK_SCRIPT_FOLDERS="$more" >/dev/null
