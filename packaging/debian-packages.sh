@@ -48,7 +48,7 @@ for_windows=(
     nsis zip googletest python3-markdown
     wine64 fonts-liberation                                            # letters about as wide as those of Windows
     xvfb openbox python3-xlib x11-xkb-utils x11-xserver-utils python3  # its tests: a screen, and real keys on several layouts
-    imagemagick xclip unzip
+    imagemagick xclip unzip poppler-utils
 )
 for_lint=(clang clang-tidy cppcheck)
 

@@ -78,6 +78,12 @@ class Disk:
         """As the computer calls a file of its disk."""
         return "C:\\" + str(file.relative_to(self.c)).replace("/", "\\")
 
+    def share(self):
+        """The folder that its programs call \\\\server\\share."""
+        folder = self.prefix / "dosdevices/unc/server/share"
+        folder.mkdir(parents=True)
+        return folder
+
     def set_value(self, key, name, value):
         self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", value, "/f")
 
@@ -121,9 +127,10 @@ class Computer(Disk):
 
 
 class Installed(StartedProgram):
-    """The program, as after its first run. `program` is the file; `environment` comes on top of the computer's."""
+    """The program, as after its first run. `program` is the file; `environment` comes on top of the computer's; `through` is a command that
+    ends by running the words behind its own."""
 
-    def __init__(self, computer, first_run=False, program=None, environment=()):
+    def __init__(self, computer, first_run=False, program=None, environment=(), through=()):
         self.computer = computer
         self.program = program or computer.programs / "bin/marlbrook.exe"
         self.folder = computer.own
@@ -132,7 +139,7 @@ class Installed(StartedProgram):
             self._know_keyboard()
         self.sound = computer.work / "sound.raw"
         sounds = {"SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": "Z:" + str(self.sound)}
-        super().__init__(computer.desk, [WINE, str(self.program)], env={**computer.env, **sounds, **dict(environment)}, cwd=computer.c)
+        super().__init__(computer.desk, [*through, WINE, str(self.program)], env={**computer.env, **sounds, **dict(environment)}, cwd=computer.c)
 
     def _know_keyboard(self):
         if self.settings.exists():

@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
 # Runs the tests of the program for Windows under Wine, on a screen of their own: unit tests, scripts without windows and on them, and the
-# installed program with real keys. Installs what is missing; builds with packaging/windows/build.sh what is not up to date. Scripts in
-# ../shared/acceptance are run too.
+# installed program with real keys. Installs what is missing; builds with packaging/windows/build.sh what is not up to date, and for
+# Linux the program whose files are compared. Scripts in ../shared/acceptance are run too.
 # What fails is run a second time, alone: under load Wine itself fails now and then. The last lines tell of what passed only then, and
 # "N passed, N failed"; the status is 0 if nothing failed.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 
+packaging/debian-packages.sh build
 packaging/windows/build.sh
+cmake --preset release >/dev/null
+cmake --build --preset release --target marlbrook-figure
 more=$(readlink -f ../shared/acceptance || true)
 [ -d "$more" ] || more=
 cmake --preset windows -DMARLBROOK_SCRIPT_FOLDERS="$more" >/dev/null
