@@ -64,6 +64,17 @@ class NamesTest(unittest.TestCase):
         self.program.press(PAD[3])
         self.expect_saved(path, 4)
 
+    def test_a_user_whose_own_folder_is_on_a_network(self):
+        share = self.computer.share()
+        (share / "Local").mkdir()
+        self.computer.set_value(SHELL_FOLDERS, "Local AppData", r"\\server\share\Local")
+        self.computer.own = share / "Local/Marlbrook"
+        self.count()
+        self.program.wait_rescue(3)
+        self.program.press(PAD[3])
+        self.program.wait_rescue(4)
+        self.assertEqual([path.name for path in self.program.rescue.parent.iterdir()], ["Rescue.csv"])
+
     def question(self):
         """Above the dialog, of the same title."""
         found = self.computer.desk.windows("Save as")

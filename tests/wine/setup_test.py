@@ -5,8 +5,10 @@ import subprocess
 import unittest
 
 from computer import SETUP, Computer, Disk, Installed, installed
-from desk import BIN, START
-from keyboard import PAD
+from desk import BIN, MAIN, START
+from full_disk_test import OWN_NAMESPACE
+from keyboard import ENTER, NAMED_KEYS, PAD, SAVE
+from rescue_test import counts_of
 from spoken import wait_for
 
 UNINSTALL_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Marlbrook"
@@ -100,16 +102,42 @@ class SetupTest(unittest.TestCase):
 
 
 class FolderTest(unittest.TestCase):
+    def setUp(self):
+        self.computer = Computer(installed())
+        self.addCleanup(self.computer.end)
+
+    def unpack(self, place):
+        zipped = next(BIN.parent.glob("Marlbrook-*-windows.zip"))
+        subprocess.run(["unzip", "-q", zipped, "-d", place], check=True)
+        return next(place.iterdir())
+
     def test_unpacked_anywhere_it_keeps_everything_beside_itself(self):
-        computer = Computer(installed())
-        self.addCleanup(computer.end)
-        folder = computer.c / "My stick (E)"
-        subprocess.run(["unzip", "-q", next(BIN.parent.glob("Marlbrook-*-windows.zip")), "-d", folder], check=True)
-        folder = next(folder.iterdir())
-        program = Installed(computer, program=folder / "marlbrook.exe", first_run=True)
+        folder = self.unpack(self.computer.c / "My stick (E)")
+        program = Installed(self.computer, program=folder / "marlbrook.exe", first_run=True)
         program.window("Initialize")
         self.assertTrue((folder / ".marlbrook.lock").exists())
-        self.assertFalse(computer.own.exists())
+        self.assertFalse(self.computer.own.exists())
+
+    def test_where_nobody_may_write_it_keeps_its_own_with_its_user_and_a_save_there_loses_nothing(self):
+        folder = self.unpack(self.computer.c / "For all")
+        before = content(folder)
+        for_reading = [*OWN_NAMESPACE, "sh", "-c", 'mount --bind -o ro "$0" "$0" && exec "$@"', str(folder)]
+        program = Installed(self.computer, program=folder / "marlbrook.exe", first_run=True, through=for_reading)
+        program.window("Initialize")
+        program.press(*NAMED_KEYS, ENTER)
+        self.computer.desk.gone("Initialize")
+        program.begin("10")
+        program.press(*PAD[:3])
+        program.wait_rescue(3)
+        program.press(SAVE)
+        program.type_file_name("Save as", self.computer.path(folder / "core.csv"))
+        program.press(ENTER)
+        self.computer.desk.gone("Save as")
+        program.answer("Error", ENTER)
+        program.activate(MAIN)
+        self.assertEqual(counts_of(program.save_as(self.computer.c / "core.csv")), {1: 1, 2: 1, 3: 1})
+        self.assertTrue(program.settings.is_relative_to(self.computer.own))
+        self.assertEqual(content(folder), before)
 
 
 if __name__ == "__main__":
