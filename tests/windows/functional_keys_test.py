@@ -31,9 +31,7 @@ class FunctionalKeysTest(unittest.TestCase):
         self.program.begin("1")
 
     def key_that_types(self, character):
-        """Its X key code, as the server has it: the first symbol of a key is what it types without Shift."""
-        symbol = SYMBOLS.get(character, character)
-        return int(re.search(rf"^keycode +(\d+) = {symbol} ", self.desk.output("xmodmap", "-pke").decode(), re.M).group(1))
+        return self.desk.key_that_types(SYMBOLS.get(character, character))
 
     def saved_by(self, key):
         saved = self.program.save_as(self.program.work / "functional.csv", key)

@@ -1,6 +1,7 @@
 """A desk of X11: Xvfb with a window manager and a keyboard layout."""
 import os
 import pathlib
+import re
 
 from Xlib import X, display, error, protocol
 from Xlib.ext import xtest
@@ -40,6 +41,10 @@ class X11Desk(Screen):
 
     def use_layout(self, layout, variant=""):
         self.output("setxkbmap", "-layout", layout, "-variant", variant)
+
+    def key_that_types(self, symbol):
+        """Its X key code, as the server has it: the first symbol of a key is what it types without Shift."""
+        return int(re.search(rf"^keycode +(\d+) = {symbol} ", self.output("xmodmap", "-pke").decode(), re.M).group(1))
 
     def repeat(self, on):
         if on:
