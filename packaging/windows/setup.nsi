@@ -58,26 +58,35 @@ VIAddVersionKey LegalCopyright "The Marlbrook maintainers"
 !insertmacro RemoveFiles ""
 !insertmacro RemoveFiles "un."
 
-; A program that runs holds its file: Windows then lets nobody open it for writing.
-!macro RefuseWhileItRuns un
-  Function ${un}RefuseWhileItRuns
-    IfFileExists "$INSTDIR\bin\marlbrook.exe" 0 free
+; A program that runs holds its file: Windows then lets nobody open it for writing. Nor does it where the user may not change it.
+!define IN_USE "cannot be replaced: it is running, or you may not write there. If Marlbrook runs, save your sheet, end it, and try again."
+!macro RefuseUnlessFree un
+  Function ${un}RefuseUnlessFree
+    Exch $1
+    IfFileExists "$1" 0 free
     ClearErrors
-    FileOpen $0 "$INSTDIR\bin\marlbrook.exe" a
+    FileOpen $0 "$1" a
     IfErrors 0 close
-    MessageBox MB_OK|MB_ICONEXCLAMATION "Marlbrook is running. Save your sheet, end Marlbrook, and try again." /SD IDOK
+    MessageBox MB_OK|MB_ICONEXCLAMATION "$1 ${IN_USE}" /SD IDOK
     SetErrorLevel 2
     Abort
   close:
     FileClose $0
   free:
+    Pop $1
   FunctionEnd
 !macroend
-!insertmacro RefuseWhileItRuns ""
-!insertmacro RefuseWhileItRuns "un."
+!insertmacro RefuseUnlessFree ""
+!insertmacro RefuseUnlessFree "un."
+!macro RefuseUnlessProgramsAreFree un
+  Push "$INSTDIR\bin\marlbrook.exe"
+  Call ${un}RefuseUnlessFree
+  Push "$INSTDIR\bin\marlbrook-figure.exe"
+  Call ${un}RefuseUnlessFree
+!macroend
 
 Section "Marlbrook"
-  Call RefuseWhileItRuns
+  !insertmacro RefuseUnlessProgramsAreFree ""
   InitPluginsDir
   Call RemoveFiles
   SetOutPath "$INSTDIR"
@@ -99,7 +108,7 @@ Section "Marlbrook"
 SectionEnd
 
 Section "Uninstall"
-  Call un.RefuseWhileItRuns
+  !insertmacro RefuseUnlessProgramsAreFree "un."
   InitPluginsDir
   Call un.RemoveFiles
   Delete "$SMPROGRAMS\Marlbrook.lnk"
