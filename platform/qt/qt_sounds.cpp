@@ -47,9 +47,11 @@ void QtSounds::Open() {
     const std::lock_guard lock(mutex_);
     is_open_ = opens;
     is_silent_ = !opens;
+    if (is_open_) has_come_ = false;  // it was told of meanwhile, and is this one or was not chosen
     if (is_silent_) TellOfSilence();
     if (is_open_ && waits_) PlayNow(waits_, waiting_bytes_);
     waits_ = nullptr;
+    begins_ = false;
 }
 
 void QtSounds::Close() {
@@ -68,9 +70,9 @@ void QtSounds::Close() {
 // The system needs a moment to offer another device, and one that goes again and again does not keep the processor busy.
 bool QtSounds::WaitForChange() {
     std::unique_lock lock(mutex_);
-    changes_.wait(lock, [this] { return ends_ || has_changed_; });
+    changes_.wait(lock, [this] { return ends_ || is_gone_ || (has_come_ && !is_open_); });
     changes_.wait_for(lock, kSettling, [this] { return ends_; });
-    has_changed_ = false;
+    is_gone_ = has_come_ = false;
     return !ends_;
 }
 
@@ -78,12 +80,10 @@ bool QtSounds::WaitForChange() {
 int QtSounds::NoteDevice(void* sounds, SDL_Event* event) {
     auto& self = *static_cast<QtSounds*>(sounds);
     const std::lock_guard lock(self.mutex_);
-    const bool is_gone = event->type == SDL_AUDIODEVICEREMOVED && self.is_open_;
-    const bool has_come = event->type == SDL_AUDIODEVICEADDED && self.is_silent_;
-    if (event->adevice.iscapture == 0 && (is_gone || has_come)) {
-        self.has_changed_ = true;
-        self.changes_.notify_one();
-    }
+    if (event->adevice.iscapture != 0) return 0;
+    if (event->type == SDL_AUDIODEVICEREMOVED && event->adevice.which != 0) self.is_gone_ = true;  // 0: one that was not open
+    if (event->type == SDL_AUDIODEVICEADDED) self.has_come_ = true;
+    self.changes_.notify_one();
     return 0;
 }
 
@@ -112,7 +112,7 @@ QtSounds::~QtSounds() {
 void QtSounds::Play(const Wave& wave) {
     const std::lock_guard lock(mutex_);
     if (is_open_) return PlayNow(&wave, wave.bytes);
-    if (is_silent_) return;
+    if (!begins_) return;
     waits_ = &wave;
     waiting_bytes_ = wave.bytes;
 }

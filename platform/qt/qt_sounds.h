@@ -2,7 +2,8 @@
 //
 // The device opens on a thread of its own, for that can take longer than the first window; what is played meanwhile sounds once it is
 // open. When it goes away, headphones that are pulled for instance, the one that the system offers next takes its place; while there is
-// none, what is played is lost, for a late sound would pass for a count. A process has one device, and so one of these at a time.
+// none, what is played is lost, for a late sound would pass for a count that was just made. A process has one device, and so one of these
+// at a time.
 #pragma once
 #include <condition_variable>
 #include <functional>
@@ -35,7 +36,7 @@ private:
     void KeepOpen();
     void Open();
     void Close();
-    bool WaitForChange();  // of the devices, while this one plays nothing; false when the program ends
+    bool WaitForChange();  // of the devices; false when the program ends
     static int NoteDevice(void* sounds, SDL_Event* event);
     void PlayNow(const Wave* wave, const std::string& bytes);
     void TellOfSilence();
@@ -43,8 +44,10 @@ private:
     std::mutex mutex_;
     std::condition_variable changes_;
     bool is_open_ = false;
-    bool is_silent_ = false;    // there is no device that would open
-    bool has_changed_ = false;  // the device is gone, or where there was none one has come
+    bool is_silent_ = false;  // there is no device that would open
+    bool begins_ = true;      // the first opening is under way
+    bool is_gone_ = false;    // the device
+    bool has_come_ = false;   // another one
     bool ends_ = false;
     std::function<void()> if_silent_;
     const Wave* waits_ = nullptr;  // asked for before the device was open

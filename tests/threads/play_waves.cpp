@@ -32,6 +32,7 @@ bool DeviceOpens() {
 void TakeDeviceAway() {
     SDL_Event is_gone{};
     is_gone.type = SDL_AUDIODEVICEREMOVED;
+    is_gone.adevice.which = 1;
     SDL_PushEvent(&is_gone);
 }
 
@@ -59,6 +60,7 @@ int main(int argc, char** argv) {
             return 1;
         }
         Rest(100);
+        PlayMany(sounds, waves, dice, 250);
         if (start % 4 == 1) TakeDeviceAway();
         PlayMany(sounds, waves, dice, 500);
     }
