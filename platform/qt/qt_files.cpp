@@ -161,7 +161,8 @@ std::error_code RenameToFree(const QString& from, const QString& to) {
 #if defined(Q_OS_WIN)
     return Rename(from, to, 0);
 #elif defined(RENAME_NOREPLACE)
-    if (renameat2(AT_FDCWD, SystemName(from).c_str(), AT_FDCWD, SystemName(to).c_str(), RENAME_NOREPLACE) == 0) return {};
+    const std::filesystem::path old_name = SystemName(from), new_name = SystemName(to);
+    if (renameat2(AT_FDCWD, old_name.c_str(), AT_FDCWD, new_name.c_str(), RENAME_NOREPLACE) == 0) return {};
     if (errno == EINVAL || errno == ENOSYS) return RenameOverEmpty(from, to);
     return {errno, std::generic_category()};
 #else
