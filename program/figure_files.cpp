@@ -80,11 +80,11 @@ private:
     // What is there; it may also be gone by now, moved by another call.
     void MoveAside(const fs::path& place) {
         const fs::path aside = NewName(place);
-        std::error_code error, unknown;
+        std::error_code error;
         fs::rename(place, aside, error);
         if (!error)
             renamed_.push_back({place, aside});
-        else if (fs::exists(fs::symlink_status(place, unknown)))
+        else if (error != std::errc::no_such_file_or_directory)
             throw CannotReplace(place, error);
     }
 

@@ -1,4 +1,4 @@
-// Files that appear whole and together: each is written in a folder of its own beside its place, and only when all are on the disk they
+// Files that appear whole and together: each is written in a folder of its own beside its place, and only when all are written they
 // take their places.
 #pragma once
 #include <map>

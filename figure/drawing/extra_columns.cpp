@@ -59,6 +59,7 @@ Values SumsOf(const Core& core, Basis basis) {
     for (const Sample& sample : core.samples) sums.push_back(static_cast<double>(sample.sums[basis]));
     return sums;
 }
+
 // " of Trees"; nothing where all grains are the basis.
 std::string OfBasis(const Core& core, Basis basis, const std::string& of = " of ") {
     return basis == kBasisAll ? "" : of + core.subtotals[basis - kBasisSubtotal1];
