@@ -1,4 +1,4 @@
-# The programs with the libraries that they take, which lie beside it:
+# The programs with the libraries that they take, which lie beside them:
 #     cmake --install      bin and share/marlbrook, which windows/setup.nsi makes a setup of: what users change is then in folders of
 #                          their own, which no update touches
 #     cpack -G ZIP         a folder for any place of the user's: the program beside References and Sound files, which it then uses

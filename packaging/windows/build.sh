@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds Marlbrook for Windows (x86_64) on Debian 12: the program, the driver and their tests in build/windows, and two packages beside them,
+# Builds Marlbrook for Windows (x86_64) on Debian 12: the programs, the driver and their tests in build/windows, and two packages beside them,
 # Marlbrook-VERSION-setup.exe and Marlbrook-VERSION-windows.zip.
 # The libraries are those in the folder that MARLBROOK_WINDOWS_SDK names, or in build/windows-sdk, where ../shared/windows/sdk.tar.xz is
 # unpacked if it is there; else libraries.sh makes them from Debian's source packages, which takes most of an hour and, for apt to find
