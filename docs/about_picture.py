@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Makes docs/pictures/about.png anew: of the program itself, as the box names its folder and that should be one as users have it.
+"""Makes docs/pictures/about.png anew: of the program itself, because the box names its folder, which should be one that
+a user might have.
 
     docs/about_picture.py      after packaging/build.sh release; docs/pictures.sh runs it with the letters of the other pictures
 """
@@ -21,7 +22,11 @@ ABOUT = "Marlbrook 2.7"
 
 class PlainlyNamed(Program):
     def start(self):
-        self.folder = self.folder.rename(FOLDER)  # an error if there is such a folder
+        FOLDER.mkdir()  # an error if there is such a folder
+        for part in list(self.folder.iterdir()):
+            shutil.move(part, FOLDER)
+        self.folder.rmdir()
+        self.folder = FOLDER
         self.command = [str(FOLDER / "marlbrook")]
         super().start()
 
