@@ -5,8 +5,8 @@
 //     window_bench fresh [KEYS]      as diagram, in a sample just begun: each key is a large percentage and moves the columns
 //     window_bench tree [KEYS]       as diagram, with the cluster tree
 //     window_bench session [KEYS]    as diagram, 100 a second; 100,000, some weeks' work, if no number is given. A new sheet is
-//                                    begun at each 25,000, for one history has lines for 32,767. Tells of the first and the last thousand
-//                                    keys, and what the program holds before and after them
+//                                    begun after every 25,000 keys, for one history has lines for 32,767. Tells of the first and the last
+//                                    thousand keys, and what the program holds before and after them
 //     window_bench drag [MOVES]      the line of the selected sample dragged over that diagram
 //     window_bench memory [SAMPLES]  what the program holds with such a sheet open, then with its diagram, then with the tree
 //
@@ -199,7 +199,7 @@ int ActOnSheet(Renderer& renderer, const Task& task, int acts) {
     });
     QApplication::exec();
     stages.under_way = false;
-    user.join();
+    if (user.joinable()) user.join();  // else the program has failed before
     return Counted() - counted_before;
 }
 

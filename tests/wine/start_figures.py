@@ -9,6 +9,7 @@ import re
 import statistics
 import subprocess
 import sys
+import threading
 import time
 
 from computer import WINE, Computer, Installed, installed
@@ -35,7 +36,10 @@ def frames(computer):
     (computer.home / ".asoundrc").write_text(SILENT_DEVICE, encoding="ascii")
     environment = {**computer.env, "SDL_AUDIODRIVER": "wasapi", "WINEDEBUG": "+alsa"}
     with subprocess.Popen([WINE, computer.programs / "bin/marlbrook.exe"], env=environment, stderr=subprocess.PIPE, text=True) as program:
+        limit = threading.Timer(60, program.kill)
+        limit.start()
         found = next((re.search(r"MMDevice period: (\d+) frames", line) for line in program.stderr if "MMDevice period" in line), None)
+        limit.cancel()
         program.kill()
     return found.group(1) if found else "no device"
 
