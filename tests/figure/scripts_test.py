@@ -77,18 +77,18 @@ class ScriptsTest(unittest.TestCase):
                 self.assertEqual(ast.literal_eval(self.ask_python(way, asked)), columns)
 
     def test_r_draws_in_the_style_and_the_colours_of_the_figure(self):
-        """The calls that draw a column, by their colours; a pale area where it has room."""
+        """The calls that draw a column, by their colours."""
         spies = ('polygon <- function(..., col) cat("area", col, ""); '
                  'segments <- function(..., col = "") if (col != "") cat("bars", col, ""); '
                  'points <- function(..., col) cat("dots", col, ""); '
                  'lines <- function(..., col = "") if (col != "") cat("line", col, ""); '
                  'source("figure.R")')
         drawn = {
-            "silhouettes": "area #009E734D area #009e73 line #005E45 area #009e73 line #005E45 "
-                           "area #E69F004D area #e69f00 line #8A5F00 area black line #000000",
-            "bars": "area #009E734D bars #009e73 line #005E45 bars #009e73 line #005E45 "
-                    "area #E69F004D bars #e69f00 line #8A5F00 bars black line #000000",
-            "calendar": "area #009E734D line #005E45 line #005E45 area #E69F004D line #8A5F00 line #000000",
+            "silhouettes": "area #009E734D area #009e73 line #005E45 " * 2 +
+                           "area #E69F004D area #e69f00 line #8A5F00 area #0000004D area black line #000000",
+            "bars": "area #009E734D bars #009e73 line #005E45 " * 2 +
+                    "area #E69F004D bars #e69f00 line #8A5F00 area #0000004D bars black line #000000",
+            "calendar": "area #009E734D line #005E45 " * 2 + "area #E69F004D line #8A5F00 area #0000004D line #000000",
             "named": "area #0000004D bars #000000 dots #000000 " * 2 +
                      "area #E69F004D bars #8A5F00 dots #8A5F00 area #0000004D bars #000000 dots #000000",
         }
