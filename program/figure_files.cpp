@@ -80,11 +80,12 @@ private:
     // What is there; it may also be gone by now, moved by another call.
     void MoveAside(const fs::path& place) {
         const fs::path aside = NewName(place);
-        std::error_code error;
+        std::error_code error, unknown;
         fs::rename(place, aside, error);
+        const bool was_none = error == std::errc::no_such_file_or_directory;  // Windows tells of no reason
         if (!error)
             renamed_.push_back({place, aside});
-        else if (error != std::errc::no_such_file_or_directory)
+        else if (!was_none && fs::exists(fs::symlink_status(place, unknown)))
             throw CannotReplace(place, error);
     }
 
