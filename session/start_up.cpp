@@ -8,6 +8,7 @@
 #include "platform/wave_format.h"
 #include "session/history.h"
 #include "session/saved_state.h"
+#include "session/state/sample_names.h"
 #include "session/state/sheet_state.h"
 #include "session/told.h"
 #include "session/totals.h"
@@ -18,8 +19,6 @@
 #include "windows/picture_window.h"
 
 namespace {
-constexpr const char* kUnnamed = "-9999";
-
 void LayOutCells() {
     for (int place = 1; place <= kKeys; ++place) {
         const Box name = PadPlace(place);

@@ -13,7 +13,7 @@ constexpr int kShortTicks = 5;           // in a step
 
 double DepthOf(const Sample& sample) {
     if (sample.depth) return *sample.depth;
-    if (sample.name == kUnnamed) throw FigureFault("the first sample has no name yet: name it by its depth, such as 10 or 10.5");
+    if (!sample.is_named) throw FigureFault("the first sample has no name yet: name it by its depth, such as 10 or 10.5");
     throw FigureFault("sample \"" + sample.name + "\": a depth is a plain number such as 10 or 10.5");
 }
 }  // namespace

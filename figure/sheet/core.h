@@ -20,13 +20,12 @@ struct Taxon {
     bool InsideSum(Basis basis) const { return basis == kBasisAll || in_subtotal[basis - kBasisSubtotal1]; }
 };
 
-constexpr const char* kUnnamed = "-9999";  // the name of a sheet's first sample until its user gives it one
-
 struct Sample {
     std::string name;                         // as the sheet has it
     std::optional<double> depth;              // nothing if the name is not just a number, or none was given
     std::array<std::string, kParams> values;  // of Additional info, as typed; "---" for none
     std::string note;
+    bool is_named = true;                            // false: the sheet's first sample, until its user gives it a name
     std::vector<std::int32_t> counts;                // [taxon], 0 or more
     std::array<std::int64_t, kBases> sums{};         // [basis]
     std::array<std::vector<double>, kBases> shares;  // [basis][taxon]: of the sum, 1 being 100 %; empty if that is 0

@@ -149,7 +149,8 @@ Taxon TaxonOf(int row, bool italic) {
 Sample SampleOf(int column, const std::vector<int>& rows) {
     Sample sample;
     sample.name = SampleTable[kSampleName][column].Text();
-    if (IsPlainNumber(sample.name) && sample.name != kUnnamed) sample.depth = Val(sample.name);
+    sample.is_named = sample.name != kUnnamed;
+    if (IsPlainNumber(sample.name) && sample.is_named) sample.depth = Val(sample.name);
     for (int p = 1; p <= kParams; ++p) {
         const std::string value = ParamValues[p][column].Text();
         sample.values[p - 1] = value.empty() ? kEmpty : value;

@@ -65,7 +65,7 @@ TEST(SampleAxisTest, ASampleWithoutADepthIsTold) {
     core.samples[1].depth.reset();
     const auto fault = [&] { return FaultOf([&] { SampleAxis(core, {}, 0, 300); }); };
     EXPECT_EQ(fault(), "sample \"10.0\": a depth is a plain number such as 10 or 10.5");
-    core.samples[1].name = kUnnamed;
+    core.samples[1].is_named = false;
     EXPECT_EQ(fault(), "the first sample has no name yet: name it by its depth, such as 10 or 10.5");
     FigureOptions options;
     options.age = "Age (BP)";
